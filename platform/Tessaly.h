@@ -1,0 +1,93 @@
+// The link to the network client framework, in three roles: the link itself, the user's session with its radio set,
+// and the interface records in which the panels of several computers meet. Events come on the panel's thread, never
+// from inside a call, except that CreateInterface may itself raise InterfaceAppeared.
+#pragma once
+
+#include <string>
+
+#include "platform/Event.h"
+#include "platform/Types.h"
+
+namespace orvelle {
+
+class FrameworkLink {
+public:
+    virtual ~FrameworkLink() = default;
+
+    // A host, an address, "AUTOMATIC" or "<LOCAL>"; the control keeps it between runs, as it keeps Embedded.
+    virtual void SetServer(const std::string& name) = 0;
+    virtual std::string GetServer() = 0;
+    virtual bool Embedded() = 0;
+    virtual void Embedded(Long value) = 0;  // 0 or 1
+    virtual bool LinkUp() = 0;
+    virtual void LinkPrepare() = 0;
+    virtual void LinkStart() = 0;
+    virtual void LinkStarted() = 0;
+    virtual void LinkStop() = 0;
+    // The address text, host and port, of a voice server.
+    virtual std::string ResolveServerAddress(const std::string& server) = 0;
+
+    Event<> Connected;
+    Event<> Disconnected;
+    Event<const std::string&> ServerFound;
+};
+
+class NetworkSession {
+public:
+    virtual ~NetworkSession() = default;
+
+    // The handle of the session; may be asked before OpenSession.
+    virtual Long SessionHandle() = 0;
+    // Selects a session for reading, 0 the current one. Each True is followed by one CloseSession.
+    virtual bool OpenSession(Long handle) = 0;
+    virtual void CloseSession() = 0;
+    virtual Long SessionStatus() = 0;  // 1: connected to the multiplayer network
+    virtual std::string SessionCallsign() = 0;
+    virtual std::string ReceiveRadio() = 0;   // "1", "2", "B" for both; else none
+    virtual std::string TransmitRadio() = 0;  // the same
+    virtual std::string FreqCOM1() = 0;       // ready to show
+    virtual std::string FreqCOM2() = 0;
+    // The voice record of radio 0 (COM1) or 1 (COM2).
+    virtual Long VoiceSoftware(Long radio) = 0;
+    virtual std::string VoiceServer(Long radio) = 0;
+    virtual std::string VoiceChannel(Long radio) = 0;
+    virtual std::string VoiceLogin(Long radio) = 0;
+    virtual std::string VoicePassword(Long radio) = 0;
+
+    Event<> SessionOpened;
+    Event<> SessionClosed;
+    Event<> SessionStatusChanged;
+    Event<> RadioChanged;
+    Event<Long> RadioVoiceChanged;  // radio
+    Event<> CallsignChanged;
+};
+
+class InterfaceRecords {
+public:
+    virtual ~InterfaceRecords() = default;
+
+    // Creates a record of this panel and leaves it open; its id, or 0 if none was made.
+    virtual Long CreateInterface(const std::string& type, const std::string& role) = 0;
+    virtual void DeleteInterface(Long id) = 0;
+    // Opens a record for reading and writing; one is open at a time. False if there is no such record.
+    virtual bool OpenInterface(Long id) = 0;
+    // Harmless where nothing is open.
+    virtual void CloseInterface() = 0;
+    virtual std::string InterfaceType() = 0;
+    virtual std::string InterfaceRole() = 0;
+    virtual bool InterfaceIsLocal() = 0;
+    // Numbered parameters of the open record; the texts are a table of their own beside the integers.
+    virtual Long GetParam(Long index) = 0;
+    virtual void SetParam(Long index, Long value) = 0;
+    virtual std::string GetParamText(Long index) = 0;
+    virtual void SetParamText(Long index, const std::string& text) = 0;
+
+    Event<Long> InterfaceAppeared;  // id
+    Event<Long> InterfaceChanged;
+    Event<Long> InterfaceRemoved;
+    Event<Long, Long> InterfaceParamChanged;  // id, index
+};
+
+class TessalyControl : public FrameworkLink, public NetworkSession, public InterfaceRecords {};
+
+}  // namespace orvelle

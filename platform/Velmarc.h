@@ -1,0 +1,42 @@
+// The link to the simulator's computer: which server, the state of the link, sounds there, and the keys and joystick
+// buttons pressed there. Finding, connecting and reconnecting lie inside the control. Its events come on the panel's
+// thread. The control also lends the settings store and the registry, which have headers of their own.
+#pragma once
+
+#include <string>
+
+#include "platform/Event.h"
+#include "platform/Types.h"
+
+namespace orvelle {
+
+class VelmarcControl {
+public:
+    virtual ~VelmarcControl() = default;
+
+    // A host name, an address or "AUTOMATIC"; the control keeps it between runs.
+    virtual void SetServer(const std::string& name) = 0;
+    virtual std::string GetServer() = 0;
+    virtual bool LinkUp() = 0;
+    virtual void ClientReady() = 0;
+    virtual std::string IPAddress() = 0;
+    virtual std::string ComputerName() = 0;
+    virtual std::string DesktopName() = 0;
+    // True if `name` is this computer.
+    virtual bool IsLocalAddress(const std::string& name) = 0;
+    // Plays a wave file of the simulator's computer, by relative path. An unplayable one passes in silence.
+    virtual void PlaySound(const std::string& path) = 0;
+
+    Event<> Connected;
+    Event<> Disconnected;
+    Event<const std::string&> ServerFound;
+    // Repeat, simulator active, the key, the whole sequence held down so far
+    Event<bool, bool, const std::string&, const std::string&> FSKeyDown;
+    // two ignored values, the key, one ignored text
+    Event<Long, Long, const std::string&, const std::string&> FSKeyUp;
+    // two ignored values, the button, one ignored text
+    Event<Long, Long, const std::string&, const std::string&> FSJoyDown;
+    Event<Long, Long, const std::string&, const std::string&> FSJoyUp;
+};
+
+}  // namespace orvelle
