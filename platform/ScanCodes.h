@@ -104,21 +104,21 @@ constexpr void ForEachKey(Enter enter) {
 
 constexpr Table CodeByLinux = [] {
     Table table{};
-    ForEachKey([&](Long linux, Long code) { table[static_cast<std::size_t>(linux)] = code; });
+    ForEachKey([&](Long linuxKey, Long code) { table[static_cast<std::size_t>(linuxKey)] = code; });
     return table;
 }();
 
 constexpr Table LinuxByCode = [] {
     Table table{};
-    ForEachKey([&](Long linux, Long code) { table[static_cast<std::size_t>(code)] = linux; });
+    ForEachKey([&](Long linuxKey, Long code) { table[static_cast<std::size_t>(code)] = linuxKey; });
     return table;
 }();
 
 }  // namespace scancodes
 
 // 0 for a key that has no scan code of its own, or for a number out of range.
-constexpr Long ScanCodeOfLinuxKey(Long linux) {
-    return linux < 0 || linux >= KeyCodes ? 0 : scancodes::CodeByLinux[static_cast<std::size_t>(linux)];
+constexpr Long ScanCodeOfLinuxKey(Long linuxKey) {
+    return linuxKey < 0 || linuxKey >= KeyCodes ? 0 : scancodes::CodeByLinux[static_cast<std::size_t>(linuxKey)];
 }
 
 // 0 for a code without a key, or out of range.
