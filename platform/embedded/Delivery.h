@@ -1,0 +1,41 @@
+// How a stand-in brings its events: by tasks of the event loop, never from inside a call, after a delay that can be
+// set, and in the order in which they were raised. What waits dies with the owner, is dropped on demand, and nothing
+// is brought after Stop.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <memory>
+
+#include "platform/EventLoop.h"
+
+namespace orvelle {
+
+class Delivery {
+public:
+    explicit Delivery(EventLoop& eventLoop);
+
+    // Milliseconds from raising to bringing, 0 for the loop's next turn.
+    void SetDelay(Long milliseconds) { delay = milliseconds; }
+    Long Delay() const { return delay; }
+
+    // Brings the event after the delay. It never overtakes one that was raised earlier, even if the delay shrank.
+    void Raise(std::function<void()> event);
+    // Brings the event after its own delay, apart from the order of the others.
+    void RaiseAfter(Long milliseconds, std::function<void()> event);
+
+    void Drop();  // forgets what waits
+    void Stop();  // forgets what waits, and takes nothing any more
+
+private:
+    using Waiting = std::deque<std::function<void()>>;
+
+    void Schedule(Long milliseconds, std::function<void()> task);
+
+    EventLoop& loop;
+    std::shared_ptr<Waiting> waiting = std::make_shared<Waiting>();
+    Long delay = 0;
+    bool stopped = false;
+};
+
+}  // namespace orvelle

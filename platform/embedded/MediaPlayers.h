@@ -1,0 +1,42 @@
+// Players of recordings without sound. A player plays from Open until it is stopped, destroyed, or the deck lets the
+// recording end. New throws the run-time error 429 where the deck took the players away.
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+
+#include "platform/MediaPlayer.h"
+#include "platform/embedded/Changes.h"
+
+namespace orvelle {
+
+struct PlayerState {
+    bool Exists = false;
+    bool Playing = false;
+    bool AutoRewind = false;
+    bool Muted = false;
+    Long Volume = 0;  // -5000 to 0
+    std::string Source;
+};
+
+class EmbeddedMediaPlayers : public MediaPlayerFactory {
+public:
+    explicit EmbeddedMediaPlayers(EventLoop& loop);
+
+    std::unique_ptr<MediaPlayer> New(Long radio) override;
+
+    // The deck's side. Radios are 0 and 1.
+    const PlayerState& Player(Long radio) const { return *players.at(static_cast<std::size_t>(radio)); }
+    void EndRecording(Long radio);
+    void SetAvailable(bool available) { playersAvailable = available; }
+
+    // Shared with the players, which may outlive this object.
+    const std::shared_ptr<Changes> Changed;
+
+private:
+    std::array<std::shared_ptr<PlayerState>, 2> players;
+    bool playersAvailable = true;
+};
+
+}  // namespace orvelle

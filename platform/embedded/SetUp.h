@@ -1,0 +1,46 @@
+// A whole set-up inside the panel's process: the store, both links, the voice engine, the mixers and the stand-ins of
+// the voice programs. The program makes one, passes its members into the panel as parts of its Platform, and hands the
+// same object to the flight deck. It must outlive both.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "platform/Event.h"
+#include "platform/embedded/MediaPlayers.h"
+#include "platform/embedded/Mixer.h"
+#include "platform/embedded/Store.h"
+#include "platform/embedded/TeamSpeak.h"
+#include "platform/embedded/Tessaly.h"
+#include "platform/embedded/Velmarc.h"
+#include "platform/embedded/VoiceEngine.h"
+
+namespace orvelle {
+
+class EmbeddedSetUp {
+    Delivery notices;
+
+public:
+    // `storeFile` is the store's file, made with its folder where missing. `thisComputer` lists names and addresses of
+    // this computer beside the loopback ones.
+    EmbeddedSetUp(EventLoop& loop, const std::filesystem::path& storeFile, std::vector<std::string> thisComputer = {});
+
+    // A sentence for the user about the settings, for the shell to show. From the loop, one call each; what arose
+    // while this object was made comes in the loop's first turn.
+    Event<const std::string&> Notice;
+
+    SqliteStore Store;  // the settings store and the registry
+    EmbeddedVelmarc Velmarc;
+    EmbeddedTessaly Tessaly;
+    EmbeddedVoiceEngine VVL;
+    EmbeddedMixer VolumeControl;
+    EmbeddedMixer VolumeControlHP;
+    EmbeddedTeamSpeak TSRemote;
+    EmbeddedMediaPlayers MediaPlayers;
+
+    // The panel has ended: no event is raised any more.
+    void Stop();
+};
+
+}  // namespace orvelle
