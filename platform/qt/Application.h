@@ -1,0 +1,44 @@
+// The program's one Qt application. An error that leaves a handler, in the loop or in a loop nested in it, goes to the
+// callback, which ends the program; it is called on the thread of the loop with the failed handler's stack already
+// unwound, and whatever it leaves undone is lost. The application reads no command line.
+#pragma once
+
+#include <QApplication>
+#include <exception>
+#include <functional>
+#include <string>
+
+namespace orvelle {
+
+// What QApplication keeps references to for as long as it lives.
+struct ApplicationArguments {
+    explicit ApplicationArguments(std::string programName) : name(std::move(programName)) {}
+
+    std::string name;
+    char platformOption[10] = "-platform";
+    char platform[4] = "xcb";
+    char* values[4] = {name.data(), platformOption, platform, nullptr};
+    int count = 3;
+};
+
+class Application : private ApplicationArguments, public QApplication {
+public:
+    using FailureHandler = std::function<void(const std::exception&)>;
+
+    // Exit status of a program that a run-time error ended.
+    static constexpr int FailureStatus = 70;
+
+    Application(std::string programName, FailureHandler failureHandler);
+
+    // Runs `start`, whose errors are handled like those of the loop, then the loop.
+    int Run(const std::function<void()>& start);
+    bool notify(QObject* receiver, QEvent* event) override;
+
+    // The line that tells of an error: "OrvelleCP: run-time error 13 (type mismatch)".
+    static std::string FailureLine(const std::exception& error);
+
+private:
+    const FailureHandler failed;
+};
+
+}  // namespace orvelle
