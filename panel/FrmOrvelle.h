@@ -4,9 +4,12 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <string>
 
+#include "input/CaptureSlots.h"
+#include "input/MappingTable.h"
 #include "panel/Controls.h"
 #include "panel/HandlerScope.h"
 #include "panel/MultiFSWarningDlg.h"
@@ -15,12 +18,9 @@
 #include "platform/MediaPlayer.h"
 #include "platform/Platform.h"
 #include "voice/VoiceRecord.h"
+#include "voice/VoiceRole.h"
 
 namespace orvelle {
-
-struct RemoteSlot;
-struct LocalSlot;
-struct MappingTable;
 
 class FrmOrvelle : public PanelControls {
 public:
@@ -115,18 +115,29 @@ public:
     void InterfaceCountChanged() {}
 
 private:
-    struct VoiceRole;
-    enum class TeamSpeakForm { Server, Url };
+    struct DriverStatus;
+    struct OutputSliders;
     enum class RadioTest { Leading, Other };
 
+    // Keys and buttons of the simulator's computer, in the order in which a press looks for the slot that waits
+    enum SlotOwner { TeamSpeakSlot, VatsimSlot, PrivateSlot, RogerWilcoSlot, TableSlot };
+    const std::array<RemoteSlot, 5> keySlots;
+    const std::array<RemoteSlot, 5> joySlots;
+    const std::array<LocalSlot, 4> localSlots;
+    const MappingTable joyToKey;
+    const MappingTable keyToKey;
+
     // panel/Wiring.cpp
-    void WirePanel();
+    void WireWindow();
     void WirePages();
-    void WireInput();
-    void WireLinks();
+    void WireInputPages();
+    void WireAudioPages();
+    void WireSimulator();
+    void WireFramework();
     void WireEngine();
-    template <typename Receiver, typename... Arguments>
+    template <typename Receiver>
     auto Handler(Receiver receiver);
+    auto Handler(void (FrmOrvelle::*method)());
 
     // panel/Load.cpp
     void Form_Load();
@@ -136,7 +147,7 @@ private:
     void FitToOverview();
     void LoadTeamSpeak();
     void LoadRogerWilco();
-    void LoadVatsimKeys();
+    void LoadSlot(const RemoteSlot& slot);
 
     // panel/Settings.cpp
     Long GetSettingLong(const std::string& key, Long defaultValue);
@@ -145,11 +156,13 @@ private:
     void SaveSettingString(const std::string& key, const std::string& value);
 
     // panel/Status.cpp
-    std::string LinkLetters();
+    char SimulatorLetter();
+    std::string FrameworkLetters();
     char RogerWilcoLetter();
     char TeamSpeakLetter();
-    char VatsimLetter();
+    static char DriverLetter(const DriverStatus& driver);
     void RefreshVatsimBar();
+    char VatsimLetter();
     void ShowStatusPicture(const std::string& key);
 
     // panel/CategoryTree.cpp
@@ -162,6 +175,7 @@ private:
     void SavePosition();
     void Autostart_Click();
     void Topmost_Click();
+    void FS2004DPCompatible_Click();
     void Form_QueryUnload(Long& cancel, Long mode);
     void mnuTrayShow_Click();
     void mnuTrayVisible_Click();
@@ -199,7 +213,7 @@ private:
     void Tessaly_RadioVoiceChanged(Long radio);
     void RadioChanged();
     void ReadVoiceRecord(Long radio);
-    bool ReadRadioSelections();
+    void ReadRadioSelections();
     void ShowRadios();
 
     // voice/Routing.cpp
@@ -212,25 +226,21 @@ private:
 
     // voice/RogerWilco.cpp
     void RWLeave();
-    void RWJoin(const std::string& server, const std::string& channel);
+    void RWJoin(const VoiceRecord& candidate);
     void RWEnable_Click();
     void optRWDriver_Click(Long index);
-    void RWPath_Change();
     void RWRescan_Click();
-    void RWSearch_Click();
 
     // voice/TeamSpeak.cpp
     void TSDisconnect();
-    void TSConnectFresh(TeamSpeakForm form, const VoiceRecord& candidate);
-    void TSRetune(TeamSpeakForm form, const VoiceRecord& candidate);
+    void TSConnectFresh(const VoiceRecord& candidate);
+    void TSRetune(const VoiceRecord& candidate);
     bool TSSwitchChannel(const VoiceRecord& candidate);
-    void TSConnect(TeamSpeakForm form, const VoiceRecord& candidate);
-    std::string TSConnectionUrl(TeamSpeakForm form, const VoiceRecord& candidate) const;
+    void TSConnect(const VoiceRecord& candidate);
+    std::string TSConnectionUrl(const VoiceRecord& candidate) const;
     void TSEnable_Click();
     void optTSDriver_Click(Long index);
-    void TSPath_Change();
     void TSRescan_Click();
-    void TSSearch_Click();
 
     // voice/ProgramSearch.cpp
     void SearchProgram(const std::string& title, TextBox& path);
@@ -252,10 +262,13 @@ private:
     // voice/Rooms.cpp
     bool RadioIsVatsimReady(Long room) const;
     std::string RoomAddress(Long room) const;
+    bool EnterRadioRoom(Long room);
+    void ForgetRadioRoom(Long room);
+    bool EnterPrivateRoom(const std::string& address);
+    void SetJoinState(Long room, bool accepted);
     void JoinRoomAtStart(Long room);
-    void JoinRadioRoom(Long room);
-    void LeaveRadioRoom(Long room);
     void SyncVoiceRooms();
+    void ReportRoomState(Long room, const char* sound, Long state);
     void VVL_RoomJoinSucceed(Long room);
     void VVL_RoomJoinFailed(Long room);
     void VVL_RoomKicked(Long room);
@@ -264,12 +277,16 @@ private:
 
     // voice/RoomParameters.cpp
     void Tessaly_InterfaceParamChanged(Long id, Long index);
-    void RoomStateChanged(Long index);
-    void SetRoomOutputs(Long room);
+    void WithInterface(const std::function<void()>& work);
+    void RoomStateChanged(Long room);
     bool Heard(Long room) const;
+    void SetRoomOutputs(Long room);
+    void PrivateReceptionChanged();
+    void PrivateTransmissionChanged();
+    void RoomPriorityChanged(Long room);
 
     // voice/PriorityTraffic.cpp
-    void EvaluatePriority(Long room, Long roomIndex);
+    void EvaluatePriority(Long room);
     bool AnyPriorityRoomOnAir();
     void MarkPriorityTraffic();
     void VVLPriorityTraffic_Timer();
@@ -278,8 +295,9 @@ private:
 
     // voice/VoiceAtis.cpp
     void PlayVoiceAtis();
-    void PlayRecording(MediaPlayer& player, Long radio, const std::string& receive);
-    void StopRecording(MediaPlayer& player, Long radio);
+    void PlayRecording(MediaPlayer& player, std::size_t radio, const std::string& receive);
+    void StopRecording(MediaPlayer& player, std::size_t radio);
+    void SetPlayerVolumes();
     void Timer1_Timer();
     void VoiceATISEnable_Click();
     void VoiceATISVolume_Change();
@@ -289,12 +307,10 @@ private:
     void Velmarc_FSJoyUp(const std::string& button);
     void Velmarc_FSKeyDown(bool repeat, bool fsActive, const std::string& key, const std::string& keySequence);
     void Velmarc_FSKeyUp(const std::string& key);
-    bool EngineTakesPushToTalk() const;
-    bool RadioKeyAllowed(Long com1, Long com2) const;
+    void StartPushToTalk(bool radioMatches, bool privateMatches);
+    void StopPushToTalk(bool radioMatches, bool privateMatches);
     void PressVoiceKeys(bool teamSpeakMatches, bool rogerWilcoMatches);
     void ReleaseVoiceKeys(bool teamSpeakMatches, bool rogerWilcoMatches);
-    void StopPushToTalk(bool radioMatches, bool privateMatches);
-    void StartPushToTalk(bool radioMatches, bool privateMatches);
 
     // input/PushToTalk.cpp
     void VVLStart(bool& result);
@@ -315,13 +331,16 @@ private:
     // input/RemoteCapture.cpp
     void RemoteSet_Click(const RemoteSlot& slot);
     void RemoteClear_Click(const RemoteSlot& slot);
-    bool CompleteKeyCapture(const std::string& key, const std::string& keySequence);
-    bool CompleteJoyCapture(const std::string& button);
-    bool EndKeyCapture();
+    // Whether a slot that waits took the event
+    bool CaptureKeyDown(const std::string& key, const std::string& keySequence);
+    bool CaptureJoyDown(const std::string& button);
+    bool CaptureKeyUp();
+    void FillSlot(const RemoteSlot& slot, const std::string& text);
 
     // input/LocalCapture.cpp
     void LocalSet_Click(const LocalSlot& slot);
     void LocalClear_Click(const LocalSlot& slot);
+    void CollectKey(const LocalSlot& slot, const WindowMessage& message);
 
     // input/MappingTables.cpp
     void LoadMappingTable(const MappingTable& table);
@@ -348,6 +367,10 @@ private:
     void VolumeControl_OutputClosed();
     void VolumeControlHP_OutputOpened();
     void VolumeControlHP_OutputClosed();
+    OutputSliders HeadsetSliders();
+    OutputSliders SpeakerSliders();
+    static void OutputOpened(MixerControl& mixer, const OutputSliders& sliders);
+    static void OutputClosed(const OutputSliders& sliders);
     void VVLOut_Scroll();
     void VVLOutHP_Scroll();
     void VVLSignal_Change();

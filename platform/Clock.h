@@ -5,6 +5,11 @@
 
 namespace orvelle {
 
+// `later` minus `earlier`, wrapping as the tick count does.
+constexpr Long TickDifference(Long later, Long earlier) {
+    return static_cast<Long>(static_cast<std::uint32_t>(later) - static_cast<std::uint32_t>(earlier));
+}
+
 class Clock {
 public:
     virtual ~Clock() = default;

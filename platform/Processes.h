@@ -7,6 +7,8 @@
 
 namespace orvelle {
 
+constexpr Long ShowMinimisedInactive = 7;
+
 class Processes {
 public:
     virtual ~Processes() = default;

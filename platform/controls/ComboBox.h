@@ -11,6 +11,8 @@
 
 namespace orvelle {
 
+constexpr Long EnterKey = 13;  // as a character code
+
 class ComboBox : public Control {
 public:
     enum class Kind { Editable, List };
@@ -31,6 +33,8 @@ public:
     Long IndexOf(const std::string& text) const;
     // -1 where nothing is selected.
     Long ListIndex() const { return listIndex; }
+    // Only where one is selected.
+    const std::string& SelectedEntry() const { return list.at(static_cast<std::size_t>(listIndex)); }
     // An index that is no entry's is run-time error 9; -1 selects nothing and raises no click.
     void Select(Long index);
 

@@ -1,0 +1,90 @@
+// The two tables, Joy-to-Key and Key-to-Key: edited, kept and fired. The rows of the list are the working copy; each
+// change rewrites the whole section, which numbers the rows without a gap.
+#include <algorithm>
+
+#include "input/Matching.h"
+#include "panel/FrmOrvelle.h"
+
+namespace orvelle {
+
+void FrmOrvelle::LoadMappingTable(const MappingTable& table) {
+    Settings.OpenSettingList(table.Section);
+    const Long count = Settings.SettingListCount();
+    for (Long number = 1; number <= count; ++number) {
+        std::string name;
+        if (!Settings.SettingListItem(number - 1, name)) continue;
+        // Rows are addressed by the counter; the name that came back is not used.
+        const std::string section = table.RowSection(number);
+        const Long row = table.List.AddRow(Settings.GetSettingString(section, table.TextKey, ""));
+        table.List.SetSubItem(row, ToggleColumn, Settings.GetSettingString(section, "Toggle", "Push"));
+        table.List.SetSubItem(row, KeyScanColumn, Settings.GetSettingString(section, table.KeysKey, ""));
+        table.List.SetSubItem(row, KeyNameColumn, KeyDisplayName(table.List.SubItem(row, KeyScanColumn)));
+    }
+    Settings.CloseSettingList();
+}
+
+void FrmOrvelle::TableApply_Click(const MappingTable& table) {
+    if (table.Text.empty() || table.Keys.empty()) return;
+    const std::vector<Long>& same = table.List.RowsWithText(table.Text);
+    const Long row = same.empty() ? table.List.AddRow(table.Text) : same.front();
+    table.List.SetSubItem(row, KeyNameColumn, KeyDisplayName(table.Keys));
+    table.List.SetSubItem(row, ToggleColumn, table.Toggle.Value == 1 ? "Toggle" : "Push");
+    table.List.SetSubItem(row, KeyScanColumn, table.Keys);
+    table.List.SelectRow(row);
+    RewriteTable(table, table.TextKey);
+}
+
+void FrmOrvelle::TableDelete_Click(const MappingTable& table) {
+    if (table.List.SelectedRow() == 0) return;
+    table.List.RemoveRow(table.List.SelectedRow());
+    RewriteTable(table, table.TextKeyOnDelete);
+}
+
+void FrmOrvelle::TableItem_Click(const MappingTable& table, Long row) {
+    const ListView& list = table.List;
+    table.TextDisplay.Text = list.Row(row).Text;
+    table.Text = list.Row(row).Text;
+    table.KeysDisplay.Text = list.SubItem(row, KeyNameColumn);
+    table.Keys = list.SubItem(row, KeyScanColumn);
+    table.Toggle.Value = list.SubItem(row, ToggleColumn) == "Toggle" ? 1 : 0;
+}
+
+void FrmOrvelle::RewriteTable(const MappingTable& table, const std::string& textKey) {
+    Settings.DeleteSettingSection(table.Section);
+    for (Long row = 1; row <= table.List.Count(); ++row) {
+        const std::string section = table.RowSection(row);
+        Settings.SaveSettingString(section, textKey, table.List.Row(row).Text);
+        Settings.SaveSettingString(section, table.KeysKey, table.List.SubItem(row, KeyScanColumn));
+        Settings.SaveSettingString(section, "Toggle", table.List.SubItem(row, ToggleColumn));
+    }
+}
+
+void FrmOrvelle::FireJoyRows(bool released, const std::string& button) {
+    if (button.empty()) return;
+    for (const Long row : ListJoyToKey.RowsWithText(button)) ApplyKeyMapping(released, ListJoyToKey, row);
+}
+
+// The rows of that sequence, and those held down, as pressing any single key of a toggled-on row turns it off. No other
+// row is concerned, so no other is looked at.
+void FrmOrvelle::FireKeyRows(bool repeat, bool fsActive, const std::string& key, const std::string& keySequence) {
+    std::set<Long> concerned = ListKeyToKey.MarkedRows();
+    if (!keySequence.empty()) {
+        const std::vector<Long>& equal = ListKeyToKey.RowsWithText(keySequence);
+        concerned.insert(equal.begin(), equal.end());
+    }
+    for (const Long row : concerned) {
+        const std::string& text = ListKeyToKey.Row(row).Text;
+        const bool isOn =
+            ListKeyToKey.SubItem(row, KeyStateColumn) == Down && ListKeyToKey.SubItem(row, ToggleColumn) == "Toggle";
+        const bool fires = Equals(keySequence, text) ? isOn || (!repeat && fsActive) : isOn && Contains(text, key);
+        if (fires) ApplyKeyMapping(false, ListKeyToKey, row);
+    }
+}
+
+void FrmOrvelle::ReleaseKeyRows(const std::string& key) {
+    const std::set<Long> held = ListKeyToKey.MarkedRows();
+    for (const Long row : held)
+        if (Contains(ListKeyToKey.Row(row).Text, key)) ApplyKeyMapping(true, ListKeyToKey, row);
+}
+
+}  // namespace orvelle

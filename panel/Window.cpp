@@ -1,0 +1,65 @@
+// Where the window opens, what its close box does, how it comes back from the notification area, and the small
+// handlers of the pages "Options" and "Extra".
+#include <cmath>
+
+#include "panel/FrmOrvelle.h"
+#include "panel/RegistryPaths.h"
+
+namespace orvelle {
+
+std::string FrmOrvelle::AutostartCommand() { return '"' + platform.Processes.GetModuleFileNameA() + "\" -MIN"; }
+
+void FrmOrvelle::Autostart_Click() {
+    if (Autostart.Value == 0)
+        Registry.DeleteRegistryValue(LocalMachine, RunPath, "OrvelleCP");
+    else
+        Registry.WriteRegistryString(LocalMachine, RunPath, "OrvelleCP", AutostartCommand());
+}
+
+void FrmOrvelle::Topmost_Click() {
+    SaveSettingLong("Topmost", Topmost.Value);
+    platform.Windows.SetWindowPos(*this, Topmost.Value == 1 ? InsertTopmost : InsertNotTopmost, 0, 0, 0, 0,
+                                  NoMoveNoSize);
+}
+
+void FrmOrvelle::FS2004DPCompatible_Click() {
+    Registry.WriteRegistryLong(LocalMachine, FrameworkPath, "FS2004Compatible", FS2004DPCompatible.Value);
+}
+
+// A minimised or maximised window saves nothing.
+void FrmOrvelle::SavePosition() {
+    if (WindowState != Normal) return;
+    SaveSettingLong("Top", static_cast<Long>(std::nearbyint(Top())));
+    SaveSettingLong("Left", static_cast<Long>(std::nearbyint(Left())));
+}
+
+// The close box only hides the window; any other unload goes on.
+void FrmOrvelle::Form_QueryUnload(Long& cancel, Long mode) {
+    cancel = mode == ControlMenu ? 1 : 0;
+    if (mode == ControlMenu) Hide();
+}
+
+void FrmOrvelle::mnuTrayShow_Click() {
+    Show();
+    WindowState = Normal;
+}
+
+void FrmOrvelle::mnuTrayVisible_Click() {
+    Show();
+    WindowState = Normal;
+    Left = 10;
+    Top = 10;
+}
+
+void FrmOrvelle::ST_MouseDown(Integer& button, Long&) {
+    if (button == 2) {
+        PopupMenu(mnuTray);
+    } else if (Visible) {
+        Hide();
+    } else {
+        Show();
+        WindowState = Normal;
+    }
+}
+
+}  // namespace orvelle

@@ -1,0 +1,64 @@
+// The voice duties that the panels of several computers share: each is one record, and whoever holds it answers.
+#include "panel/FrmOrvelle.h"
+
+namespace orvelle {
+
+std::array<VoiceRole, 5> FrmOrvelle::VoiceRoles() {
+    return {{
+        {"RWCom1", RWCom1, ForeignRWCom1, RWEnable, &optRWDriver, 1},
+        {"RWCom2", RWCom2, ForeignRWCom2, RWEnable, &optRWDriver, 2},
+        {"TSCom1", TSCom1, ForeignTSCom1, TSEnable, &optTSDriver, 1},
+        {"TSCom2", TSCom2, ForeignTSCom2, TSEnable, &optTSDriver, 2},
+        {"VVL", OwnVVL, ForeignVVL, VVLEnable, nullptr, 0},
+    }};
+}
+
+// Offers the roles that are wanted and free, and gives back those that are no longer wanted. A role that is held here
+// is not given up because another computer claims it, too.
+void FrmOrvelle::UpdateVoiceInterfaces() {
+    for (const VoiceRole& role : VoiceRoles()) {
+        if (role.Wanted()) {
+            if (role.Foreign != 0 || role.Own != 0) continue;
+            role.Own = Tessaly.CreateInterface("VOICE", role.Name);
+            if (role.Own == 0) continue;
+            if (&role.Own == &OwnVVL) {
+                Tessaly.SetParam(0, 3);
+                Tessaly.SetParam(1, 7);
+                Tessaly.SetParam(2, 0);
+            }
+            Tessaly.CloseInterface();
+        } else if (role.Own != 0) {
+            Tessaly.DeleteInterface(role.Own);
+            role.Own = 0;
+        }
+    }
+    RefreshStatus();
+    ApplyVoiceRouting();
+}
+
+void FrmOrvelle::Tessaly_InterfaceAppeared(Long id) {
+    if (!Tessaly.OpenInterface(id)) return;
+    const std::string type = Tessaly.InterfaceType();
+    const std::string name = Tessaly.InterfaceRole();
+    const bool isLocal = Tessaly.InterfaceIsLocal();
+    Tessaly.CloseInterface();
+    if (type != "VOICE") return;
+    for (const VoiceRole& role : VoiceRoles())
+        if (name == role.Name) (isLocal ? role.Own : role.Foreign) = id;
+    UpdateVoiceInterfaces();
+}
+
+// No value is read: changes of parameters come as events of their own.
+void FrmOrvelle::Tessaly_InterfaceChanged(Long id) {
+    if (id == OwnVVL && VVLRunning && Tessaly.OpenInterface(OwnVVL)) Tessaly.CloseInterface();
+}
+
+void FrmOrvelle::Tessaly_InterfaceRemoved(Long id) {
+    for (const VoiceRole& role : VoiceRoles()) {
+        if (role.Own == id) role.Own = 0;
+        if (role.Foreign == id) role.Foreign = 0;
+    }
+    UpdateVoiceInterfaces();
+}
+
+}  // namespace orvelle
