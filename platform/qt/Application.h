@@ -10,18 +10,25 @@
 
 namespace orvelle {
 
-// What QApplication keeps references to for as long as it lives.
-struct ApplicationArguments {
-    explicit ApplicationArguments(std::string programName) : name(std::move(programName)) {}
+// What QApplication keeps references to for as long as it lives, and the setting that it is built under: nothing here
+// draws by OpenGL, and the library for it would cost more memory than the panel.
+class ApplicationSetUp {
+protected:
+    explicit ApplicationSetUp(std::string programName);
+    // Programs that the panel starts must not inherit the setting.
+    void Done();
 
     std::string name;
-    char platformOption[10] = "-platform";
-    char platform[4] = "xcb";
-    char* values[4] = {name.data(), platformOption, platform, nullptr};
+    std::string platformOption = "-platform";
+    std::string platform = "xcb";
+    char* values[4] = {name.data(), platformOption.data(), platform.data(), nullptr};
     int count = 3;
+
+private:
+    bool isOurSetting;
 };
 
-class Application : private ApplicationArguments, public QApplication {
+class Application : private ApplicationSetUp, public QApplication {
 public:
     using FailureHandler = std::function<void(const std::exception&)>;
 

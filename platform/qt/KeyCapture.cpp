@@ -10,11 +10,21 @@ namespace orvelle {
 
 namespace {
 
-// Alt alone and Alt with another key, unless Ctrl is down too. The key that chooses the third level of a keyboard is
-// no Alt.
+constexpr Long LeftAlt = 56;
+constexpr Long RightAlt = LeftAlt + ExtendedKey;
+
+// 0 for a key that the panel has no code for.
+Long CodeOf(const QKeyEvent& key) {
+    return ScanCodeOfLinuxKey(static_cast<Long>(key.nativeScanCode()) - XKeyCodeOffset);
+}
+
+// Alt, and Alt with another key, unless Ctrl is down too. A right Alt that chooses the third level is a key like
+// others.
 bool IsSystemKey(const QKeyEvent& key) {
-    if (key.key() == Qt::Key_Alt || key.key() == Qt::Key_Meta) return key.key() == Qt::Key_Alt;
-    return key.modifiers().testFlag(Qt::AltModifier) && !key.modifiers().testFlag(Qt::ControlModifier);
+    if (key.modifiers().testFlag(Qt::ControlModifier)) return false;
+    const Long code = CodeOf(key);
+    if (code == LeftAlt || (code == RightAlt && key.key() != Qt::Key_AltGr)) return true;
+    return key.modifiers().testFlag(Qt::AltModifier);
 }
 
 bool IsMouse(QEvent::Type type) {
@@ -45,9 +55,15 @@ bool KeyCapture::Take(WindowMessage& message, bool remove) {
 bool KeyCapture::TakesKey(const QKeyEvent& key) const { return mode != Mode::Off && !IsSystemKey(key); }
 
 void KeyCapture::Keep(const QKeyEvent& key) {
-    const Long code = ScanCodeOfLinuxKey(static_cast<Long>(key.nativeScanCode()) - XKeyCodeOffset);
+    const Long code = CodeOf(key);
     if (mode != Mode::Capturing || code == 0) return;
     waiting.push_back({target, KeyDownMessage, static_cast<Long>(key.nativeVirtualKey()), (code << 16) | key.count()});
+}
+
+// Menus and the icon in the notification area are other windows, which go on working.
+bool KeyCapture::MouseIsCaught(QObject* receiver) const {
+    if (mode != Mode::Capturing || targetWidget == nullptr || !receiver->isWidgetType()) return false;
+    return receiver != targetWidget.data() && static_cast<QWidget*>(receiver)->window() == targetWidget->window();
 }
 
 bool KeyCapture::eventFilter(QObject* receiver, QEvent* event) {
@@ -61,9 +77,7 @@ bool KeyCapture::eventFilter(QObject* receiver, QEvent* event) {
         event->accept();
         return true;
     }
-    if (mode == Mode::Capturing && IsMouse(event->type()) && receiver->isWidgetType())
-        return receiver != targetWidget.data();
-    return false;
+    return IsMouse(event->type()) && MouseIsCaught(receiver);
 }
 
 }  // namespace orvelle

@@ -1,5 +1,6 @@
 // Takes the keys that the user presses in this program's windows away from the widgets and keeps them as key-down
-// messages, or drops them. While it captures, the mouse acts on the captured widget alone. Combinations with Alt are
+// messages, or drops them. While it captures, the mouse acts on no
+// other widget of the captured one's window. Combinations with Alt are
 // system keys, which are left to the widgets. Costs nothing while it is off.
 #pragma once
 
@@ -31,6 +32,7 @@ public:
 private:
     bool TakesKey(const QKeyEvent& key) const;
     void Keep(const QKeyEvent& key);
+    bool MouseIsCaught(QObject* receiver) const;
 
     Mode mode = Mode::Off;
     Control* target = nullptr;

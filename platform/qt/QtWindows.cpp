@@ -32,10 +32,9 @@ void QtWindows::SetWindowPos(Control& window, Long insertAfter, Long, Long, Long
     QWidget* top = widget->window();
     // Setting the flag on the widget would take its window away and make it anew; the window itself tells the window
     // manager and stays as it is.
-    Qt::WindowFlags flags = top->windowFlags();
-    flags.setFlag(Qt::WindowStaysOnTopHint, insertAfter == InsertTopmost);
-    top->overrideWindowFlags(flags);
-    if (top->windowHandle() != nullptr) top->windowHandle()->setFlags(flags);
+    const bool isTopmost = insertAfter == InsertTopmost;
+    top->overrideWindowFlags(top->windowFlags().setFlag(Qt::WindowStaysOnTopHint, isTopmost));
+    if (top->windowHandle() != nullptr) top->windowHandle()->setFlag(Qt::WindowStaysOnTopHint, isTopmost);
 }
 
 Rectangle QtWindows::GetWindowRect(Control& window) {

@@ -1,0 +1,28 @@
+// The few requests that the shell makes of the X server past Qt, over Qt's own connection, which outlives their users.
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include <cstdlib>
+#include <memory>
+#include <string>
+
+namespace orvelle {
+
+struct XFree {
+    void operator()(void* reply) const { std::free(reply); }
+};
+
+// What the server answered; null where the request failed.
+template <typename Reply>
+using XReply = std::unique_ptr<Reply, XFree>;
+
+// Null where Qt shows its windows on something else.
+xcb_connection_t* XConnection();
+int XScreenNumber();
+// XCB_ATOM_NONE if the server can't be asked.
+xcb_atom_t XAtom(xcb_connection_t* connection, const std::string& name);
+// A window that never shows, to be sent messages to.
+xcb_window_t XHiddenWindow(xcb_connection_t* connection);
+
+}  // namespace orvelle
