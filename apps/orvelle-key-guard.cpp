@@ -1,0 +1,33 @@
+// Lets go of the keys that the panel holds down, when the panel is gone without having done so. Started by the panel,
+// with the read end of a pipe, the set of held keys and the name of the X server; of no use by itself.
+#include <unistd.h>
+
+#include <cerrno>
+#include <utility>
+
+#include "platform/linux/HeldKeys.h"
+#include "platform/linux/KeyGuard.h"
+#include "platform/linux/XTestConnection.h"
+
+using namespace orvelle;
+
+int main(int count, char** arguments) {
+    const FileDescriptor pipe(KeyGuard::PipeDescriptor);
+    const HeldKeys held{FileDescriptor(KeyGuard::HeldKeysDescriptor)};
+    if (count != 2 || held.Descriptor() < 0) return 2;
+
+    // The panel waits for this process, and nobody for the one that goes on.
+    const pid_t child = fork();
+    if (child != 0) _exit(child < 0 ? 1 : 0);
+
+    // The panel never writes; its end of the pipe closes when it is gone.
+    char byte;
+    while (read(pipe.Number(), &byte, 1) > 0 || errno == EINTR) errno = 0;
+
+    const auto keys = held.Keys();
+    if (keys.empty()) return 0;
+    XTestConnection server(arguments[1]);
+    for (const int keyCode : keys) server.Send(keyCode, KeyStroke::Up);
+    server.Finish();
+    return server.Problem().empty() ? 0 : 1;
+}

@@ -1,0 +1,82 @@
+#include "platform/linux/KeyGuard.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <signal.h>
+#include <spawn.h>
+#include <sys/wait.h>
+
+#include <array>
+#include <cerrno>
+
+#include "platform/linux/HeldKeys.h"
+
+namespace orvelle {
+
+namespace {
+
+// A copy whose number is none of those that the guard is to find its own things under.
+FileDescriptor OutOfTheWay(int number) { return FileDescriptor(fcntl(number, F_DUPFD_CLOEXEC, 10)); }
+
+// What the guard process is before its program runs: a session of its own, so that nothing sent to our group reaches
+// it; every signal blocked; no file open but its two.
+class Preparation {
+public:
+    Preparation(int pipe, int held) {
+        posix_spawn_file_actions_init(&Files);
+        for (int standard = 0; standard < 3; ++standard)
+            posix_spawn_file_actions_addopen(&Files, standard, "/dev/null", O_RDWR, 0);
+        posix_spawn_file_actions_adddup2(&Files, pipe, KeyGuard::PipeDescriptor);
+        posix_spawn_file_actions_adddup2(&Files, held, KeyGuard::HeldKeysDescriptor);
+        posix_spawn_file_actions_addclosefrom_np(&Files, KeyGuard::HeldKeysDescriptor + 1);
+        posix_spawn_file_actions_addchdir_np(&Files, "/");
+
+        posix_spawnattr_init(&Attributes);
+        posix_spawnattr_setflags(&Attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK);
+        sigset_t all;
+        sigfillset(&all);
+        posix_spawnattr_setsigmask(&Attributes, &all);
+    }
+    Preparation(const Preparation&) = delete;
+    Preparation& operator=(const Preparation&) = delete;
+    ~Preparation() {
+        posix_spawnattr_destroy(&Attributes);
+        posix_spawn_file_actions_destroy(&Files);
+    }
+
+    posix_spawn_file_actions_t Files;
+    posix_spawnattr_t Attributes;
+};
+
+}  // namespace
+
+bool KeyGuard::Runs() const {
+    pollfd end{pipe.Number(), 0, 0};
+    return pipe && poll(&end, 1, 0) == 0;
+}
+
+bool KeyGuard::Watch(const HeldKeys& held) {
+    if (Runs()) return true;
+    pipe.Close();
+    std::array<int, 2> ends;
+    if (held.Descriptor() < 0 || pipe2(ends.data(), O_CLOEXEC) != 0) return false;
+    const FileDescriptor first(ends[0]);
+    FileDescriptor ours(ends[1]);
+    const FileDescriptor theirs = OutOfTheWay(first.Number());
+    const FileDescriptor keys = OutOfTheWay(held.Descriptor());
+    if (!theirs || !keys) return false;
+
+    const Preparation preparation(theirs.Number(), keys.Number());
+    std::array<char*, 3> arguments{file.data(), display.data(), nullptr};
+    pid_t process;
+    if (posix_spawn(&process, file.c_str(), &preparation.Files, &preparation.Attributes, arguments.data(), environ) !=
+        0)
+        return false;
+    // The guard goes on in a process of its own at once and ends the one that we started, so none is left to be buried.
+    while (waitpid(process, nullptr, 0) < 0 && errno == EINTR) {
+    }
+    pipe = std::move(ours);
+    return Runs();
+}
+
+}  // namespace orvelle
