@@ -1,0 +1,30 @@
+// Mirror of a list view: a table of the columns that have headings, one row of which can be selected.
+#pragma once
+
+#include <QTreeView>
+
+#include "platform/controls/ListView.h"
+#include "platform/qt/ItemClicks.h"
+#include "platform/qt/ListModel.h"
+#include "platform/qt/Mirror.h"
+
+namespace orvelle {
+
+class ListMirror : public Mirror {
+public:
+    ListMirror(ListView& listView, QTreeView& view);
+
+protected:
+    void ShowOwn(ControlProperty property) override;
+    void ShowAllOwn() override { ShowSelected(); }
+
+private:
+    void ShowSelected();
+
+    ListView& control;
+    QTreeView& widget;
+    ListModel model;
+    ItemClicks clicks;
+};
+
+}  // namespace orvelle

@@ -1,0 +1,23 @@
+#include "platform/qt/StatusPicture.h"
+
+#include <QPainter>
+#include <algorithm>
+
+#include "platform/qt/StatusImage.h"
+
+namespace orvelle {
+
+void StatusPicture::SetKey(const QString& pictureKey) {
+    key = pictureKey;
+    emit KeyChanged(key);
+    update();
+}
+
+void StatusPicture::paintEvent(QPaintEvent*) {
+    if (key.isEmpty()) return;
+    QPainter painter(this);
+    const int side = std::min(width(), height());
+    DrawStatusImage(painter, QRectF((width() - side) / 2, 0, side, side), key.toStdString(), 1 / devicePixelRatioF());
+}
+
+}  // namespace orvelle

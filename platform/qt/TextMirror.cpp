@@ -1,0 +1,32 @@
+#include "platform/qt/TextMirror.h"
+
+#include <limits>
+
+#include "platform/qt/Text.h"
+
+namespace orvelle {
+
+TextMirror::TextMirror(TextBox& textBox, QLineEdit& lineEdit)
+    : Mirror(textBox, lineEdit), control(textBox), widget(lineEdit) {
+    widget.setMaxLength(std::numeric_limits<int>::max());
+    if (control.Locked()) {
+        widget.setReadOnly(true);
+        QPalette display = widget.palette();
+        display.setColor(QPalette::Base, display.color(QPalette::AlternateBase));
+        widget.setPalette(display);
+    }
+    connect(&widget, &QLineEdit::textEdited, this, [this](const QString& typed) {
+        control.UserType(FromQt(typed));
+        ShowOwn(ControlProperty::Text);
+    });
+}
+
+void TextMirror::ShowOwn(ControlProperty property) {
+    if (property != ControlProperty::Text) return;
+    const QString text = ToQt(control.Text);
+    if (widget.text() == text) return;
+    widget.setText(text);
+    if (control.Locked()) widget.setCursorPosition(0);
+}
+
+}  // namespace orvelle
