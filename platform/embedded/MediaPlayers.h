@@ -1,8 +1,10 @@
 // Players of recordings without sound. A player plays from Open until it is stopped, destroyed, or the deck lets the
-// recording end. New throws the run-time error 429 where the deck took the players away.
+// recording end. New throws the run-time error 429 where the deck took the players away. The players must not
+// outlive their factory.
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <memory>
 #include <string>
 
@@ -22,20 +24,19 @@ struct PlayerState {
 
 class EmbeddedMediaPlayers : public MediaPlayerFactory {
 public:
-    explicit EmbeddedMediaPlayers(EventLoop& loop);
+    explicit EmbeddedMediaPlayers(EventLoop& loop) : Changed(loop) {}
 
     std::unique_ptr<MediaPlayer> New(Long radio) override;
 
     // The deck's side. Radios are 0 and 1.
-    const PlayerState& Player(Long radio) const { return *players.at(static_cast<std::size_t>(radio)); }
+    const PlayerState& Player(Long radio) const { return players.at(static_cast<std::size_t>(radio)); }
     void EndRecording(Long radio);
     void SetAvailable(bool available) { playersAvailable = available; }
 
-    // Shared with the players, which may outlive this object.
-    const std::shared_ptr<Changes> Changed;
+    Changes Changed;
 
 private:
-    std::array<std::shared_ptr<PlayerState>, 2> players;
+    std::array<PlayerState, 2> players;
     bool playersAvailable = true;
 };
 

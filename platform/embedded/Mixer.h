@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
 
 #include "platform/VolumeControl.h"
@@ -74,8 +75,9 @@ private:
     MixerLevel& At(MixerLine line) { return levels[static_cast<std::size_t>(line)]; }
     Side& At(MixerSide side) { return sides[static_cast<std::size_t>(side)]; }
     void SetDevice(MixerSide side, const std::string& name);
-    void Follow(MixerSide side);  // raises what brings the panel from Opened to Plugged
+    void Follow(MixerSide side);  // brings the panel to what is plugged
     void Reopen(MixerSide side);
+    void Tell(MixerSide side, bool opened);
 
     Delivery delivery;
     bool open = false;

@@ -6,7 +6,6 @@
 
 #include <filesystem>
 #include <functional>
-#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -60,19 +59,21 @@ public:
     void SetControlValue(const std::string& name, const std::string& value) override;
 
 private:
-    const StoredValue* Find(StoredTable table, const std::string& place, const std::string& name) const;
-    Long ReadLong(StoredTable table, const std::string& place, const std::string& name, Long defaultValue);
-    std::string ReadString(StoredTable table, const std::string& place, const std::string& name,
-                           const std::string& defaultValue);
+    StoredPlaces& Table(StoredTable table) { return values[static_cast<std::size_t>(table)]; }
+    template <typename Value>
+    Value Read(StoredTable table, const std::string& place, const std::string& name, const Value& defaultValue);
     void Write(StoredTable table, const std::string& place, const std::string& name, StoredValue value);
-    void TellOfWrongType(StoredTable table, const std::string& place, const std::string& name, const char* expected);
+    void AddWrite(StoredWrite write);
+    void TellOfWrongType(const std::string& place, const std::string& name, const char* expected);
 
     Notice tell;
+    std::string fileName;
+    std::unique_ptr<StoreFile> file;  // null: this run is kept in memory alone
     StoredTables values;
-    std::vector<StoredWrite> waiting;  // since the last HandlerEnded
-    std::unique_ptr<StoreFile> file;   // null: this run is kept in memory alone
-    std::vector<std::string> listed;
+    std::vector<StoredWrite> waiting;                      // since the last HandlerEnded; empty without a file
+    std::vector<std::string> listed;                       // the open listing
     std::set<std::pair<std::string, std::string>> toldOf;  // values of a wrong type
+    bool toldOfFailure = false;
 };
 
 }  // namespace orvelle

@@ -5,7 +5,6 @@
 
 #include <map>
 #include <string>
-#include <vector>
 
 #include "platform/TSRemote.h"
 #include "platform/embedded/Changes.h"
@@ -49,6 +48,7 @@ public:
 
 private:
     Integer Answer(Integer failure) const;
+    void Leave();
 
     ProgramState program = ProgramState::NotRunning;
     AddressPadding padding = AddressPadding::Blanks;

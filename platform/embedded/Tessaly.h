@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -49,12 +50,12 @@ struct ParameterSetting {
 };
 
 struct InterfaceRecord {
-    std::string Owner;  // the computer that made it
+    std::string Owner;  // the computer that made it, "" this one
     std::string Type;
     std::string Role;
     bool IsLocal = false;
-    std::map<Long, ParameterSetting<Long>> Parameters;
-    std::map<Long, ParameterSetting<std::string>> Texts;
+    std::map<Long, ParameterSetting<Long>> Parameters{};
+    std::map<Long, ParameterSetting<std::string>> Texts{};
     bool Announced = false;  // the panel was told of it
     bool Dropped = false;    // gone; its id is free again when the panel was told
 };
@@ -151,14 +152,22 @@ private:
     bool LinkCanStand() const { return started && link == LinkState::Up; }
     void ComeUp();
     void GoDown();
+    void RaiseLinked(std::function<void()> event);  // brought only if the link stands then
+
     bool InSession() const { return linkUp && session.Handle != 0; }
-    const RadioVoiceSetting& OpenVoice(Long radio) const;
-    Long AddRecord(const std::string& owner, const std::string& type, const std::string& role, bool isLocal);
+    const SessionSetting& OpenedSession() const;
+    const RadioVoiceSetting& OpenedVoice(Long radio) const;
+    void SetRadioText(std::string& text, const std::string& value);
+    void TellSession(std::function<void()> event);
+
+    Long AddRecord(InterfaceRecord record);
+    void Remove(Long id);
     InterfaceRecord* Find(Long id);
     InterfaceRecord* OpenRecord() { return Find(openRecord); }
-    void TellAppeared(Long id);
-    void TellRemoved(Long id);
+    bool Reachable(Long id);  // by the deck
+    void TellRecord(Long id);
     void TellOfRecords();  // what other computers did while the link was down
+    void TellParameter(Long id, Long index);
 
     Delivery delivery;
     ControlValues& values;

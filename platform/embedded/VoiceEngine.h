@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <functional>
 #include <optional>
 #include <string>
@@ -103,14 +104,15 @@ public:
     Changes Changed;
 
 private:
-    VoiceRoom* Find(Long room);
-    VoiceOutput* FindOutput(Long output);
+    template <typename Value>
+    void SetOutput(Long output, Value VoiceOutput::*member, Value value);
     void StartDone();
-    void JoinDone(Long room, unsigned attempt);
-    void Leave(Long room, VoiceRoom& state);
+    void JoinDone(Long room);
+    void Leave(Long room, const Event<Long>& wayOut);
     void SetState(Long room, RoomState state, const std::string& status);
     void ShutDown();
     void FollowAudio();
+    void RaiseForRoom(const Event<Long>& event, Long room);
 
     Delivery delivery;
     bool starting = false;
@@ -120,7 +122,7 @@ private:
     Long startDelay = 0;
     Long joinDelay = 0;
     std::array<VoiceRoom, 3> rooms;
-    std::array<unsigned, 3> attempts{};  // counts joins, so that one that was given up does not end
+    std::array<unsigned, 3> attempts{};  // counts the ways out, so that a join that was given up does not end
     std::array<VoiceOutput, 2> outputs;
     std::vector<std::string> inputDevices;
     std::vector<std::string> outputDevices;
