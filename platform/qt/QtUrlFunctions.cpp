@@ -25,11 +25,11 @@ std::string Trimmed(const std::string& text) {
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-std::string Clean(const std::string& text, Long flags) {
+std::string Clean(const std::string& text, Long flags, UrlEncoding encoding = UrlEncoding::All) {
     std::string cleaned = Has(flags, UrlDecode) ? DecodeUrl(text) : text;
     if (Has(flags, UrlEncodePercent)) cleaned = EncodeUrlPercent(cleaned);
     if (Has(flags, UrlEncodeSpacesOnly)) return EncodeUrl(cleaned, UrlEncoding::Spaces);
-    return Has(flags, UrlNoEncode) ? cleaned : EncodeUrl(cleaned, UrlEncoding::All);
+    return Has(flags, UrlNoEncode) ? cleaned : EncodeUrl(cleaned, encoding);
 }
 
 std::string Canonical(UrlText url, Long flags) {
@@ -40,8 +40,7 @@ std::string Canonical(UrlText url, Long flags) {
     }
     if (url.Authority) {
         if (!Has(flags, UrlKeepMeta)) url.Path = RemoveDotSegments(url.Path);
-        // "[" and "]" belong to the address of a host.
-        if (url.Authority->find('[') == std::string::npos) url.Authority = Clean(*url.Authority, flags);
+        url.Authority = Clean(*url.Authority, flags, UrlEncoding::Host);
         if (scheme != nullptr && url.Path.empty()) url.Path = "/";
     }
     url.Path = Clean(url.Path, flags);

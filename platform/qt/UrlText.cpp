@@ -25,7 +25,9 @@ bool IsScheme(std::string_view text) {
     return !text.empty() && IsLetter(text.front()) && std::all_of(text.begin(), text.end(), IsSchemeCharacter);
 }
 
-bool IsUnsafe(char character) {
+bool IsUnsafe(char character, UrlEncoding encoding) {
+    if (encoding == UrlEncoding::Spaces) return character == ' ';
+    if (encoding == UrlEncoding::Host && (character == '[' || character == ']')) return false;
     const auto byte = static_cast<unsigned char>(character);
     return (byte != 0 && byte <= ' ') || byte >= 0x7F ||
            std::string_view("<>\"{}|\\^[]`").find(character) != std::string_view::npos;
@@ -103,7 +105,7 @@ const UrlScheme* FindUrlScheme(int number) {
 std::string EncodeUrl(std::string_view text, UrlEncoding encoding) {
     std::string encoded;
     for (const char character : text) {
-        if (encoding == UrlEncoding::Spaces ? character == ' ' : IsUnsafe(character))
+        if (IsUnsafe(character, encoding))
             AppendEncoded(encoded, character);
         else
             encoded += character;

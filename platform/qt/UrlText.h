@@ -30,7 +30,8 @@ struct UrlScheme {
 const UrlScheme* FindUrlScheme(std::string_view name);
 const UrlScheme* FindUrlScheme(int number);
 
-enum class UrlEncoding { All, Spaces };
+// Host leaves "[" and "]", which belong to the address of a host.
+enum class UrlEncoding { All, Host, Spaces };
 // Unsafe bytes as "%" and two digits. Zero bytes are no part of a text and stay.
 std::string EncodeUrl(std::string_view text, UrlEncoding encoding);
 std::string EncodeUrlPercent(std::string_view text);

@@ -1,0 +1,90 @@
+// An error that leaves a handler reaches the program, wherever in the loop the handler ran.
+#include <gtest/gtest.h>
+
+#include <QDialog>
+#include <QPushButton>
+#include <QTimer>
+#include <stdexcept>
+
+#include "platform/RuntimeError.h"
+#include "platform/controls/Form.h"
+#include "platform/controls/Timer.h"
+#include "platform/qt/Application.h"
+#include "platform/qt/QtEventLoop.h"
+#include "platform/qt/QtTimers.h"
+#include "tests/qtshell/Main.h"
+#include "tests/qtshell/Waiting.h"
+
+namespace orvelle {
+namespace {
+
+const std::string TypeMismatchLine = "OrvelleCP: run-time error 13 (type mismatch)";
+
+class FailureTest : public testing::Test {
+protected:
+    FailureTest() { Failures().clear(); }
+
+    bool FailureComes() {
+        return ComesTrue([] { return !Failures().empty(); });
+    }
+};
+
+TEST_F(FailureTest, OfAPostedTaskIsToldInOneLine) {
+    QtEventLoop loop;
+    loop.Post([] { throw RuntimeError(RuntimeError::TypeMismatch); });
+    EXPECT_TRUE(FailureComes());
+    EXPECT_EQ(Failures(), std::vector<std::string>{TypeMismatchLine});
+}
+
+TEST_F(FailureTest, OfAButtonsClickIsTold) {
+    QPushButton button;
+    QObject::connect(&button, &QPushButton::clicked, [] { throw RuntimeError(RuntimeError::TypeMismatch); });
+    button.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&button));
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(Failures(), std::vector<std::string>{TypeMismatchLine});
+}
+
+TEST_F(FailureTest, OfATimersTickIsTold) {
+    Form form("form", "");
+    Timer timer(form, "timer", 1);
+    QtTimers timers;
+    form.Attach(timers);
+    timer.Tick = [&] {
+        timer.Enabled = false;
+        throw RuntimeError(RuntimeError::Overflow);
+    };
+    timer.Enabled = true;
+    EXPECT_TRUE(FailureComes());
+    EXPECT_EQ(Failures(), std::vector<std::string>{"OrvelleCP: run-time error 6 (overflow)"});
+}
+
+TEST_F(FailureTest, InTheLoopOfADialogIsToldWhileTheDialogIsOpen) {
+    QDialog dialog;
+    bool wasOpen = false;
+    QTimer::singleShot(0, &dialog, [] { throw RuntimeError(RuntimeError::SubscriptOutOfRange); });
+    QTimer::singleShot(1, &dialog, [&] {
+        wasOpen = dialog.isVisible() && !Failures().empty();
+        dialog.reject();
+    });
+    dialog.exec();
+    EXPECT_TRUE(wasOpen);
+    EXPECT_EQ(Failures(), std::vector<std::string>{"OrvelleCP: run-time error 9 (subscript out of range)"});
+}
+
+TEST_F(FailureTest, BeforeTheLoopEndsTheRun) {
+    auto& application = static_cast<Application&>(*qApp);
+    EXPECT_EQ(application.Run([] { throw RuntimeError(RuntimeError::TypeMismatch); }), Application::FailureStatus);
+    EXPECT_EQ(Failures(), std::vector<std::string>{TypeMismatchLine});
+}
+
+TEST_F(FailureTest, OfTheLibraryBearsItsOwnText) {
+    EXPECT_EQ(Application::FailureLine(std::runtime_error("no room")), "OrvelleCP: internal error (no room)");
+}
+
+TEST_F(FailureTest, LeavesNoSettingForProgramsThatAreStarted) {
+    EXPECT_FALSE(qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"));
+}
+
+}  // namespace
+}  // namespace orvelle
