@@ -5,7 +5,6 @@
 
 #include <cstdio>
 #include <exception>
-#include <string>
 
 #include "platform/RuntimeError.h"
 
@@ -47,8 +46,12 @@ void ProcessProgram::End() {
 }
 
 void ProcessProgram::Fail(int errorNumber) {
+    Fail("run-time error " + std::to_string(errorNumber) + Meaning(errorNumber));
+}
+
+void ProcessProgram::Fail(const std::string& reason) {
     CleanUp();
-    const std::string line = "OrvelleCP: run-time error " + std::to_string(errorNumber) + Meaning(errorNumber) + "\n";
+    const std::string line = "OrvelleCP: " + reason + "\n";
     [[maybe_unused]] const ssize_t written = write(STDERR_FILENO, line.data(), line.size());
     _exit(ExitOfRunTimeError);
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <vector>
 
 #include "platform/Processes.h"
@@ -20,8 +21,10 @@ public:
     bool PrevInstance() override { return !lock.Take(); }
     // Exit status 0.
     [[noreturn]] void End() override;
-    // For a run-time error that nobody caught, by its number: one line on standard error and exit status 70.
+    // For a run-time error that nobody caught, by its number, or another error by its reason: one line on standard
+    // error and exit status 70.
     [[noreturn]] void Fail(int errorNumber);
+    [[noreturn]] void Fail(const std::string& reason);
     // For a signal that asks for the end; the process ends by this signal, so that whoever waits for it can tell.
     [[noreturn]] void EndBySignal(int signal);
 

@@ -1,27 +1,13 @@
 #include "platform/qt/Application.h"
 
+#include <cstdlib>
 #include <utility>
-
-#include "platform/RuntimeError.h"
 
 namespace orvelle {
 
 namespace {
 
 constexpr const char* OpenGlSetting = "QT_XCB_GL_INTEGRATION";
-
-std::string ErrorName(int number) {
-    switch (number) {
-        case RuntimeError::Overflow:
-            return "overflow";
-        case RuntimeError::SubscriptOutOfRange:
-            return "subscript out of range";
-        case RuntimeError::TypeMismatch:
-            return "type mismatch";
-        default:
-            return "unknown";
-    }
-}
 
 }  // namespace
 
@@ -45,7 +31,7 @@ int Application::Run(const std::function<void()>& start) {
         start();
     } catch (const std::exception& error) {
         failed(error);
-        return FailureStatus;
+        return EXIT_FAILURE;
     }
     return exec();
 }
@@ -57,14 +43,6 @@ bool Application::notify(QObject* receiver, QEvent* event) {
         failed(error);
         return true;
     }
-}
-
-std::string Application::FailureLine(const std::exception& error) {
-    const std::string program = "OrvelleCP: ";
-    const auto* runtimeError = dynamic_cast<const RuntimeError*>(&error);
-    if (runtimeError == nullptr) return program + "internal error (" + error.what() + ")";
-    return program + "run-time error " + std::to_string(runtimeError->Number) + " (" + ErrorName(runtimeError->Number) +
-           ")";
 }
 
 }  // namespace orvelle

@@ -32,17 +32,11 @@ class Application : private ApplicationSetUp, public QApplication {
 public:
     using FailureHandler = std::function<void(const std::exception&)>;
 
-    // Exit status of a program that a run-time error ended.
-    static constexpr int FailureStatus = 70;
-
     Application(std::string programName, FailureHandler failureHandler);
 
     // Runs `start`, whose errors are handled like those of the loop, then the loop.
     int Run(const std::function<void()>& start);
     bool notify(QObject* receiver, QEvent* event) override;
-
-    // The line that tells of an error: "OrvelleCP: run-time error 13 (type mismatch)".
-    static std::string FailureLine(const std::exception& error);
 
 private:
     const FailureHandler failed;

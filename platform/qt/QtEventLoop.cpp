@@ -1,6 +1,7 @@
 #include "platform/qt/QtEventLoop.h"
 
 #include <QMetaObject>
+#include <QSocketNotifier>
 #include <QTimer>
 #include <chrono>
 #include <utility>
@@ -18,6 +19,11 @@ void QtEventLoop::PostAfter(Long milliseconds, std::function<void()> task) {
     }
     // A coarse timer may overtake one that was posted before it.
     QTimer::singleShot(std::chrono::milliseconds(milliseconds), Qt::PreciseTimer, &context, std::move(task));
+}
+
+void QtEventLoop::WhenReadable(int fileDescriptor, std::function<void()> task) {
+    auto* notifier = new QSocketNotifier(fileDescriptor, QSocketNotifier::Read, &context);
+    QObject::connect(notifier, &QSocketNotifier::activated, &context, std::move(task));
 }
 
 }  // namespace orvelle

@@ -12,6 +12,8 @@ class QtEventLoop : public EventLoop {
 public:
     void Post(std::function<void()> task) override;
     void PostAfter(Long milliseconds, std::function<void()> task) override;
+    // Runs the task, from now on, whenever there is something to read from the file, which stays open.
+    void WhenReadable(int fileDescriptor, std::function<void()> task);
 
 private:
     QObject context;

@@ -1,8 +1,6 @@
-// The two ways in which the outside asks the panel to end: a message to the hidden window, and a signal.
+// The door by which the outside asks the panel to end: a message to the hidden window.
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <csignal>
 #include <vector>
 
 #include "platform/RuntimeError.h"
@@ -59,20 +57,6 @@ TEST_F(DoorTest, AnErrorOfTheHandlerIsTold) {
     Door door(table, stub);
     ASSERT_TRUE(input.SendDoorMessage("OrvelleCP Stub1", TerminationMessage, 0, 0));
     EXPECT_TRUE(ComesTrue([] { return !Failures().empty(); }));
-}
-
-TEST(EndSignalsTest, ASignalAsksFromTheLoopAndEndsNothingByItself) {
-    int asked = 0;
-    // One that comes before anybody watches is kept.
-    kill(getpid(), SIGTERM);
-    TakenSignals().Watch([&] { ++asked; });
-    EXPECT_EQ(asked, 0);
-    EXPECT_TRUE(ComesTrue([&] { return asked == 1; }));
-    kill(getpid(), SIGHUP);
-    EXPECT_TRUE(ComesTrue([&] { return asked == 2; }));
-    kill(getpid(), SIGINT);
-    EXPECT_TRUE(ComesTrue([&] { return asked == 3; }));
-    TakenSignals().Watch([] {});
 }
 
 }  // namespace

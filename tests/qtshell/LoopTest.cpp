@@ -1,6 +1,9 @@
 // The event loop, the clock and the timers of controls.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include <array>
+#include <string>
 #include <vector>
 
 #include "platform/controls/Form.h"
@@ -56,6 +59,23 @@ TEST(LoopTest, TasksThatWaitAreDroppedWithTheLoop) {
     }
     Settle();
     EXPECT_FALSE(ran);
+}
+
+TEST(LoopTest, AFileThatBecomesReadableRunsItsTask) {
+    std::array<int, 2> ends{};
+    ASSERT_EQ(pipe(ends.data()), 0);
+    std::string taken;
+    {
+        QtEventLoop loop;
+        loop.WhenReadable(ends[0], [&] {
+            char character = 0;
+            EXPECT_EQ(read(ends[0], &character, 1), 1);
+            taken += character;
+        });
+        EXPECT_EQ(write(ends[1], "ab", 2), 2);
+        EXPECT_TRUE(ComesTrue([&] { return taken == "ab"; }));
+    }
+    for (const int end : ends) close(end);
 }
 
 TEST(ClockTest, SleepTakesItsTimeAndTheCountShowsIt) {

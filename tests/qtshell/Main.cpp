@@ -2,28 +2,22 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/RuntimeError.h"
 #include "platform/qt/Application.h"
 
 namespace orvelle {
 
-EndSignals& TakenSignals() {
-    static EndSignals taken;
-    return taken;
-}
-
-std::vector<std::string>& Failures() {
-    static std::vector<std::string> lines;
-    return lines;
+std::vector<int>& Failures() {
+    static std::vector<int> numbers;
+    return numbers;
 }
 
 }  // namespace orvelle
 
 int main(int argumentCount, char** arguments) {
     testing::InitGoogleTest(&argumentCount, arguments);
-    // Before any thread is there.
-    orvelle::TakenSignals();
     orvelle::Application application("qtshell_tests", [](const std::exception& error) {
-        orvelle::Failures().push_back(orvelle::Application::FailureLine(error));
+        orvelle::Failures().push_back(dynamic_cast<const orvelle::RuntimeError&>(error).Number);
     });
     return RUN_ALL_TESTS();
 }

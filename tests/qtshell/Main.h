@@ -1,15 +1,10 @@
-// What the program of the tests holds as a panel's would: the signals that it takes, and what its application reported
-// as errors of handlers.
+// The numbers of the run-time errors that the application under test handed on.
 #pragma once
 
-#include <string>
 #include <vector>
-
-#include "platform/qt/EndSignals.h"
 
 namespace orvelle {
 
-EndSignals& TakenSignals();
-std::vector<std::string>& Failures();
+std::vector<int>& Failures();
 
 }  // namespace orvelle
