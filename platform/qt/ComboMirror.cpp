@@ -7,12 +7,6 @@
 
 namespace orvelle {
 
-namespace {
-
-constexpr Long EnterKey = 13;
-
-}  // namespace
-
 ComboMirror::ComboMirror(ComboBox& comboBox, QComboBox& box) : Mirror(comboBox, box), control(comboBox), widget(box) {
     widget.setInsertPolicy(QComboBox::NoInsert);
     widget.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

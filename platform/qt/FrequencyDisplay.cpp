@@ -8,7 +8,7 @@ namespace orvelle {
 namespace {
 
 constexpr double Magnification = 2.2;
-constexpr char NoFrequency[] = "---.---";
+const QString NoFrequency = QStringLiteral("\u2013\u2013\u2013.\u2013\u2013\u2013");
 
 }  // namespace
 
@@ -22,14 +22,14 @@ QFont FrequencyDisplay::LargeFont() const {
 }
 
 int FrequencyDisplay::WidthOf(QChar character, const QFontMetrics& metrics) const {
-    if (!character.isDigit() && character != QLatin1Char('-')) return metrics.horizontalAdvance(character);
+    if (!character.isDigit() && character != NoFrequency.front()) return metrics.horizontalAdvance(character);
     int widest = 0;
     for (const char digit : {'0', '1', '2', '3', '4', '5', '6', '7', '8', '9'})
         widest = std::max(widest, metrics.horizontalAdvance(QLatin1Char(digit)));
     return widest;
 }
 
-QString FrequencyDisplay::ShownText() const { return text().isEmpty() ? QLatin1String(NoFrequency) : text(); }
+QString FrequencyDisplay::ShownText() const { return text().isEmpty() ? NoFrequency : text(); }
 
 QSize FrequencyDisplay::sizeHint() const {
     const QFontMetrics metrics(LargeFont());
@@ -38,7 +38,7 @@ QSize FrequencyDisplay::sizeHint() const {
         for (const QChar character : shown) width += WidthOf(character, metrics);
         return width;
     };
-    return {std::max(widthOf(QLatin1String(NoFrequency)), widthOf(text())), metrics.height()};
+    return {std::max(widthOf(NoFrequency), widthOf(text())), metrics.height()};
 }
 
 void FrequencyDisplay::paintEvent(QPaintEvent*) {

@@ -13,8 +13,23 @@ namespace orvelle {
 namespace {
 
 constexpr int Overview = 0;
-// Room for the names in the tree, counted in characters.
-constexpr int TreeCharacters = 24;
+// The room that the tree needs: its widest name at its deepest level.
+constexpr char WidestNode[] = "Key Management";
+constexpr int TreeLevels = 3;
+
+// The side is a shade apart from the page, and the chosen node stands out no more than it must.
+QPalette SidePalette(QPalette palette) {
+    const QColor shade = palette.color(QPalette::Button);
+    const QColor highlight = palette.color(QPalette::Highlight);
+    const auto mix = [](int ground, int tint) { return (3 * ground + tint) / 4; };
+    const QColor chosen(mix(shade.red(), highlight.red()), mix(shade.green(), highlight.green()),
+                        mix(shade.blue(), highlight.blue()));
+    palette.setColor(QPalette::Base, shade);
+    palette.setColor(QPalette::Window, shade);
+    palette.setColor(QPalette::Highlight, chosen);
+    palette.setColor(QPalette::HighlightedText, palette.color(QPalette::WindowText));
+    return palette;
+}
 
 }  // namespace
 
@@ -23,7 +38,10 @@ MainWindow::MainWindow(Form& panelForm) : FormWindow(panelForm) {
     window.setupUi(this);
     pages = window.pages;
     pages->setMinimumSize(PageSize(*this));
-    window.twCategory->setFixedWidth(fontMetrics().averageCharWidth() * TreeCharacters);
+    window.twCategory->setFixedWidth(fontMetrics().horizontalAdvance(QLatin1String(WidestNode)) +
+                                     TreeLevels * window.twCategory->indentation() + 2 * Unit);
+    window.twCategory->setPalette(SidePalette(palette()));
+    window.side->setPalette(window.twCategory->palette());
     binder.Bind(*this);
     for (int panel = 0; panel < PageCount; ++panel)
         frames[static_cast<std::size_t>(panel)] = form.Find("Panels(" + std::to_string(panel) + ")");

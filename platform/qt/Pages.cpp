@@ -28,7 +28,7 @@ namespace orvelle {
 namespace {
 
 // The widest text of each column of the grid.
-constexpr char WidestLabel[] = "FS Priv PTT Joystick Button :";
+constexpr char WidestLabel[] = "Inband voice signal tone Volume";
 constexpr char WidestField[] = "<Press a key sequence on FS PC keyboard>";
 constexpr char WidestButton[] = "Delete Selected";
 

@@ -40,6 +40,16 @@ void StatusLine::SetKey(const QString& pictureKey) {
     update();
 }
 
+QSize WarningSign::sizeHint() const {
+    const int side = 3 * fontMetrics().height();
+    return {side, side};
+}
+
+void WarningSign::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    DrawSign(painter, QRectF(rect()), Sign::Waiting, SignColour(Sign::Waiting, SchemeOf(palette())));
+}
+
 Sign StatusLine::ShownSign() const {
     if (text().isEmpty()) return Sign::Off;
     if (isBad) return Sign::Bad;

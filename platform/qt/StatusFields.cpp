@@ -25,7 +25,7 @@ StatusFields::StatusFields(QWidget* parent) : QFrame(parent) {
     }
     labels[0]->setMinimumWidth(fontMetrics().averageCharWidth() * FirstFieldCharacters);
     labels[1]->setWordWrap(true);
-    auto* divider = new QFrame(this);
+    divider = new QFrame(this);
     divider->setFrameShape(QFrame::VLine);
     divider->setFrameShadow(QFrame::Sunken);
     row->addWidget(labels[0]);
@@ -38,6 +38,7 @@ QString StatusFields::Text(int field) const { return labels[field]->text(); }
 void StatusFields::SetField(int field, const QString& text, const QString& toolTip) {
     labels[field]->setText(text);
     labels[field]->setToolTip(toolTip);
+    divider->setVisible(!labels[1]->text().isEmpty());
 }
 
 }  // namespace orvelle

@@ -21,6 +21,7 @@ public:
 
 private:
     QLabel* labels[Fields];
+    QFrame* divider;
 };
 
 }  // namespace orvelle

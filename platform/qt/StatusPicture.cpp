@@ -7,10 +7,22 @@
 
 namespace orvelle {
 
+namespace {
+
+// As high as the status lines beside it with their longest texts.
+constexpr int Lines = 14;
+
+}  // namespace
+
 void StatusPicture::SetKey(const QString& pictureKey) {
     key = pictureKey;
     emit KeyChanged(key);
     update();
+}
+
+QSize StatusPicture::sizeHint() const {
+    const int side = Lines * fontMetrics().height();
+    return {side, side};
 }
 
 void StatusPicture::paintEvent(QPaintEvent*) {

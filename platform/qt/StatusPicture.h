@@ -15,7 +15,7 @@ public:
     // An empty key shows nothing.
     void SetKey(const QString& pictureKey);
 
-    QSize sizeHint() const override { return {Side, Side}; }
+    QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 signals:
@@ -25,8 +25,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    static constexpr int Side = 144;
-
     QString key;
 };
 

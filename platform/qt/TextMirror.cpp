@@ -3,16 +3,18 @@
 #include <limits>
 
 #include "platform/qt/Text.h"
+#include "platform/qt/Theme.h"
 
 namespace orvelle {
 
 TextMirror::TextMirror(TextBox& textBox, QLineEdit& lineEdit)
     : Mirror(textBox, lineEdit), control(textBox), widget(lineEdit) {
+    widget.setTextMargins(Unit / 2, 0, Unit / 2, 0);
     widget.setMaxLength(std::numeric_limits<int>::max());
     if (control.Locked()) {
         widget.setReadOnly(true);
         QPalette display = widget.palette();
-        display.setColor(QPalette::Base, display.color(QPalette::AlternateBase));
+        display.setColor(QPalette::Base, display.color(QPalette::Window));
         widget.setPalette(display);
     }
     connect(&widget, &QLineEdit::textEdited, this, [this](const QString& typed) {

@@ -3,9 +3,9 @@
 #include <QApplication>
 #include <QPainter>
 #include <QPainterPath>
-#include <QStyleFactory>
 
 #include "platform/controls/Label.h"
+#include "platform/qt/CalmStyle.h"
 
 namespace orvelle {
 
@@ -14,13 +14,14 @@ namespace {
 constexpr Long RedText = 255;
 
 struct Tones {
-    QRgb window, base, alternate, button, text, disabled, placeholder, highlight, highlightedText, tip, tipText, link;
+    QRgb window, base, alternate, button, text, disabled, placeholder, highlight, highlightedText, tip, tipText, link,
+        line, outline;
 };
 
-constexpr Tones LightTones{0xfff1f3f5, 0xffffffff, 0xfff7f9fa, 0xffe9edf0, 0xff1b2630, 0xff8a959f,
-                           0xff66727d, 0xff2b6a94, 0xffffffff, 0xff26323c, 0xfff1f3f5, 0xff1f5f8b};
-constexpr Tones DarkTones{0xff20262c, 0xff181d22, 0xff1d2329, 0xff2e363e, 0xffdfe5ea, 0xff76828d,
-                          0xff93a0ab, 0xff2f6f99, 0xffffffff, 0xff0f1316, 0xffdfe5ea, 0xff7fb6db};
+constexpr Tones LightTones{0xfff1f3f5, 0xffffffff, 0xfff7f9fa, 0xffe9edf0, 0xff1b2630, 0xff8a959f, 0xff66727d,
+                           0xff2b6a94, 0xffffffff, 0xff26323c, 0xfff1f3f5, 0xff1f5f8b, 0xffbcc5cc, 0xff8d98a1};
+constexpr Tones DarkTones{0xff20262c, 0xff181d22, 0xff1d2329, 0xff2e363e, 0xffdfe5ea, 0xff76828d, 0xff93a0ab,
+                          0xff2f6f99, 0xffffffff, 0xff0f1316, 0xffdfe5ea, 0xff7fb6db, 0xff3d4750, 0xff66737f};
 
 QPainterPath Disc(const QRectF& area) {
     QPainterPath path;
@@ -118,6 +119,9 @@ QPalette CalmPalette(Scheme scheme) {
     all(QPalette::ToolTipText, tones.tipText);
     all(QPalette::Link, tones.link);
     all(QPalette::LinkVisited, tones.link);
+    all(QPalette::Mid, tones.line);
+    all(QPalette::Dark, tones.line);
+    all(QPalette::Shadow, tones.outline);
     for (const QPalette::ColorRole role :
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText})
         palette.setColor(QPalette::Disabled, role, QColor::fromRgb(tones.disabled));
@@ -128,7 +132,7 @@ QPalette CalmPalette(Scheme scheme) {
 }
 
 void ApplyTheme(Scheme scheme) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new CalmStyle);
     QApplication::setPalette(CalmPalette(scheme));
 }
 

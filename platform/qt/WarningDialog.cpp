@@ -4,11 +4,19 @@
 
 namespace orvelle {
 
+namespace {
+
+constexpr int LineLength = 64;  // characters
+
+}  // namespace
+
 WarningDialog::WarningDialog(Form& warningForm) : FormWindow(warningForm) { setWindowFlag(Qt::Dialog); }
 
 void WarningDialog::Prepare() {
     if (layout() != nullptr) return;
-    Ui::WarningDialog().setupUi(this);
+    Ui::WarningDialog dialog;
+    dialog.setupUi(this);
+    dialog.Label1->setMinimumWidth(fontMetrics().averageCharWidth() * LineLength);
     binder.Bind(*this);
 }
 

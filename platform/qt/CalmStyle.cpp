@@ -1,0 +1,92 @@
+#include "platform/qt/CalmStyle.h"
+
+#include <QStyleFactory>
+#include <QStyleOption>
+#include <algorithm>
+
+#include "platform/qt/Theme.h"
+
+namespace orvelle {
+
+namespace {
+
+// Fusion darkens the window's colour by this for its outlines.
+constexpr int OutlineFactor = 140;
+constexpr int MostPalettes = 64;
+
+template <typename Option>
+Option WithPalette(const QStyleOption& option, const QPalette& palette) {
+    Option changed(static_cast<const Option&>(option));
+    changed.palette = palette;
+    return changed;
+}
+
+}  // namespace
+
+CalmStyle::CalmStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+QSize CalmStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                  const QWidget* widget) const {
+    QSize needed = QProxyStyle::sizeFromContents(type, option, size, widget);
+    switch (type) {
+        case CT_PushButton:
+        case CT_LineEdit:
+        case CT_ComboBox:
+            needed.setHeight(std::max(needed.height(), option->fontMetrics.height() + Unit + Unit / 2));
+            break;
+        case CT_ItemViewItem:
+        case CT_HeaderSection:
+            needed.rheight() += Unit;
+            break;
+        default:
+            break;
+    }
+    return needed;
+}
+
+const QPalette& CalmStyle::Outlined(const QPalette& palette) const {
+    if (outlined.size() > MostPalettes) outlined.clear();
+    auto found = outlined.find(palette.cacheKey());
+    if (found == outlined.end()) {
+        found = outlined.insert(palette.cacheKey(), palette);
+        found->setColor(QPalette::Window, palette.color(QPalette::Shadow).lighter(OutlineFactor));
+    }
+    return *found;
+}
+
+void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                              const QWidget* widget) const {
+    switch (element) {
+        case PE_IndicatorCheckBox:
+        case PE_IndicatorRadioButton: {
+            const auto changed = WithPalette<QStyleOptionButton>(*option, Outlined(option->palette));
+            QProxyStyle::drawPrimitive(element, &changed, painter, widget);
+            break;
+        }
+        case PE_Frame:
+        case PE_FrameLineEdit:
+        case PE_PanelLineEdit: {
+            const auto changed = WithPalette<QStyleOptionFrame>(*option, Outlined(option->palette));
+            QProxyStyle::drawPrimitive(element, &changed, painter, widget);
+            break;
+        }
+        default:
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+            break;
+    }
+}
+
+void CalmStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                   const QWidget* widget) const {
+    if (control == CC_Slider) {
+        const auto changed = WithPalette<QStyleOptionSlider>(*option, Outlined(option->palette));
+        QProxyStyle::drawComplexControl(control, &changed, painter, widget);
+    } else if (control == CC_ComboBox) {
+        const auto changed = WithPalette<QStyleOptionComboBox>(*option, Outlined(option->palette));
+        QProxyStyle::drawComplexControl(control, &changed, painter, widget);
+    } else {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+}
+
+}  // namespace orvelle

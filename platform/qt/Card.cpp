@@ -1,0 +1,17 @@
+#include "platform/qt/Card.h"
+
+#include <QPainter>
+
+#include "platform/qt/Theme.h"
+
+namespace orvelle {
+
+void Card::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.setBrush(palette().base());
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Unit / 2.0, Unit / 2.0);
+}
+
+}  // namespace orvelle
