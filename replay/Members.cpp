@@ -99,6 +99,8 @@ constexpr Member Members[] = {
     {"TSRemote.tsrGetChannelInfoByName", "tn", "in"},  // and the id of the channel found
     {"TSRemote.tsrSwitchChannelID", "nt", "i"},
 
+    {"WMPCOM1.New", "", "b"},  // whether there is a player to create
+    {"WMPCOM2.New", "", "b"},
     {"WMPCOM1.PlayState", "", "n"},
     {"WMPCOM2.PlayState", "", "n"},
 

@@ -15,6 +15,11 @@ void PanelHolder::RemoveIcon(const std::string& key) {
     if (panel != nullptr) panel->IconList.Remove(key);
 }
 
+void PanelHolder::PutPlayers() {
+    panel->WMPCOM1 = world.Players.Present(0);
+    panel->WMPCOM2 = world.Players.Present(1);
+}
+
 FrmOrvelle& PanelHolder::Panel() const {
     if (panel == nullptr) throw LineError("the panel is not loaded yet");
     return *panel;

@@ -113,12 +113,18 @@ Act ReadClock(Stage& stage, Scanner& line) {
     return [=, &stage] { stage.Outside.Kernel.SetTickCount(tickCount); };
 }
 
+Act ReadPlayers(Stage& stage, Scanner& line) {
+    line.ExpectEnd();
+    stage.Panel.Panel();
+    return [&stage] { stage.Panel.PutPlayers(); };
+}
+
 constexpr LineForm Forms[] = {
     {"give", LineKind::Preparation, ReadGive},         {"store", LineKind::Preparation, ReadStore},
     {"registry", LineKind::Preparation, ReadRegistry}, {"record", LineKind::Preparation, ReadRecord},
     {"param", LineKind::Preparation, ReadParam},       {"paramtext", LineKind::Preparation, ReadParamText},
     {"drop", LineKind::Preparation, ReadDrop},         {"address", LineKind::Preparation, ReadAddress},
-    {"clock", LineKind::Preparation, ReadClock},
+    {"clock", LineKind::Preparation, ReadClock},       {"players", LineKind::Preparation, ReadPlayers},
 };
 
 }  // namespace

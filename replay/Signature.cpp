@@ -45,8 +45,8 @@ bool Suits(const Value& value, char kind) {
 
 Values Fitted(const Values& values, std::string_view kinds, const std::string& what) {
     if (values.size() != kinds.size())
-        throw LineError(what + " has " + std::to_string(kinds.size()) + " and not " + std::to_string(values.size()) +
-                        (kinds.size() == 1 ? " value" : " values"));
+        throw LineError(what + " takes " + std::to_string(kinds.size()) + (kinds.size() == 1 ? " value" : " values") +
+                        " and not " + std::to_string(values.size()));
     Values fitted;
     for (std::size_t index = 0; index < values.size(); ++index) fitted.push_back(Fitted(values[index], kinds[index]));
     return fitted;

@@ -12,8 +12,10 @@ constexpr Long Longest = std::numeric_limits<Long>::max();
 
 Act ReadLoad(Stage& stage, Scanner& line) {
     line.ExpectEnd();
-    if (stage.Panel.IsLoaded()) throw LineError("the panel is loaded already");
-    return [&stage] { stage.Panel.Load(); };
+    return [&stage] {
+        if (stage.Panel.IsLoaded()) throw LineError("the panel is loaded already");
+        stage.Panel.Load();
+    };
 }
 
 // A key message of the thread, as a keyboard sends it: the code above the repeat count.

@@ -1,6 +1,8 @@
 // The scripted media players of the two radios, and what creates them. They play nothing.
 #pragma once
 
+#include <memory>
+
 #include "platform/MediaPlayer.h"
 #include "replay/Peer.h"
 
@@ -10,7 +12,8 @@ class MediaPlayerPeer final : public MediaPlayer, private Peer {
 public:
     using Peer::Peer;
 
-    void Created() { Call("New"); }
+    // RuntimeError where the scenario says that the system has no player.
+    void Create();
 
     void AutoRewind(bool on) override { WriteProperty("AutoRewind", on); }
     void Open(const std::string& source) override { Call("Open", {source}); }
@@ -25,13 +28,13 @@ public:
     MediaPlayerFactoryPeer(Transcript& runTranscript, Answers& givenAnswers)
         : transcript(runTranscript), answers(givenAnswers) {}
 
-    std::unique_ptr<MediaPlayer> New(Long radio) override {
-        auto player = std::make_unique<MediaPlayerPeer>(radio == 0 ? "WMPCOM1" : "WMPCOM2", transcript, answers);
-        player->Created();
-        return player;
-    }
+    std::unique_ptr<MediaPlayer> New(Long radio) override;
+    // A player that nobody created: nothing is printed.
+    std::unique_ptr<MediaPlayer> Present(Long radio);
 
 private:
+    std::unique_ptr<MediaPlayerPeer> Make(Long radio);
+
     Transcript& transcript;
     Answers& answers;
 };
