@@ -16,10 +16,6 @@ int main(int count, char** arguments) {
     const HeldKeys held{FileDescriptor(KeyGuard::HeldKeysDescriptor)};
     if (count != 2 || held.Descriptor() < 0) return 2;
 
-    // The panel waits for this process, and nobody for the one that goes on.
-    const pid_t child = fork();
-    if (child != 0) _exit(child < 0 ? 1 : 0);
-
     // The panel never writes; its end of the pipe closes when it is gone.
     char byte;
     while (read(pipe.Number(), &byte, 1) > 0 || errno == EINTR) errno = 0;

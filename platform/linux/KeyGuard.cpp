@@ -7,7 +7,6 @@
 #include <sys/wait.h>
 
 #include <array>
-#include <cerrno>
 
 #include "platform/linux/HeldKeys.h"
 
@@ -58,25 +57,28 @@ bool KeyGuard::Runs() const {
 bool KeyGuard::Watch(const HeldKeys& held) {
     if (Runs()) return true;
     pipe.Close();
+    if (process > 0) waitpid(process, nullptr, 0);  // somebody killed the one before
+    process = -1;
+
     std::array<int, 2> ends;
     if (held.Descriptor() < 0 || pipe2(ends.data(), O_CLOEXEC) != 0) return false;
-    const FileDescriptor first(ends[0]);
-    FileDescriptor ours(ends[1]);
-    const FileDescriptor theirs = OutOfTheWay(first.Number());
+    const FileDescriptor reading(ends[0]);
+    FileDescriptor writing(ends[1]);
+    const FileDescriptor theirs = OutOfTheWay(reading.Number());
     const FileDescriptor keys = OutOfTheWay(held.Descriptor());
     if (!theirs || !keys) return false;
 
     const Preparation preparation(theirs.Number(), keys.Number());
     std::array<char*, 3> arguments{file.data(), display.data(), nullptr};
-    pid_t process;
-    if (posix_spawn(&process, file.c_str(), &preparation.Files, &preparation.Attributes, arguments.data(), environ) !=
-        0)
+    // From its success on the process is the guard's own, whatever becomes of this one.
+    const int error =
+        posix_spawn(&process, file.c_str(), &preparation.Files, &preparation.Attributes, arguments.data(), environ);
+    if (error != 0) {
+        process = -1;
         return false;
-    // The guard goes on in a process of its own at once and ends the one that we started, so none is left to be buried.
-    while (waitpid(process, nullptr, 0) < 0 && errno == EINTR) {
     }
-    pipe = std::move(ours);
-    return Runs();
+    pipe = std::move(writing);
+    return true;
 }
 
 }  // namespace orvelle

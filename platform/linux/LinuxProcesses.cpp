@@ -1,5 +1,6 @@
 #include "platform/linux/LinuxProcesses.h"
 
+#include <sys/epoll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -11,8 +12,6 @@
 #include <system_error>
 
 #include "platform/linux/CommandLine.h"
-#include "platform/linux/Launch.h"
-#include "platform/linux/MinimisedStart.h"
 #include "platform/linux/OwnFile.h"
 
 namespace orvelle {
@@ -86,6 +85,30 @@ std::string Sentence(const std::string& program, int error) {
 
 }  // namespace
 
+LinuxProcesses::LinuxProcesses(std::string display)
+    : readiness(epoll_create1(EPOLL_CLOEXEC)), minimised(std::move(display)) {
+    for (const int descriptor : {programs.Descriptor(), minimised.Descriptor()}) {
+        epoll_event interest{};
+        interest.events = EPOLLIN;
+        epoll_ctl(readiness.Number(), EPOLL_CTL_ADD, descriptor, &interest);
+    }
+}
+
+void LinuxProcesses::Serve() {
+    programs.Bury();
+    minimised.Serve();
+}
+
+int LinuxProcesses::Start(const std::string& file, const std::vector<std::string>& arguments, Long show) {
+    if (show != ShowMinimisedInactive) return programs.Start(file, arguments, "").Error;
+    const StartedPrograms::Result result = programs.Start(file, arguments, minimised.Prepare());
+    if (result.Error == 0)
+        minimised.Watch(result.Session);
+    else
+        minimised.Cancel();
+    return result.Error;
+}
+
 Long LinuxProcesses::WinExec(const std::string& commandLine, Long show) {
     // The system's texts end at a zero, and so does the line.
     const std::string line = commandLine.c_str();
@@ -95,13 +118,7 @@ Long LinuxProcesses::WinExec(const std::string& commandLine, Long show) {
     if (!command.File.empty()) {
         std::vector<std::string> arguments;
         for (std::size_t word = command.Words; word < words.size(); ++word) arguments.push_back(words[word].Text);
-        const bool isMinimised = show == ShowMinimisedInactive;
-        const LaunchResult result = Launch(command.File, arguments, isMinimised ? minimised.Prepare() : "");
-        error = result.Error;
-        if (isMinimised && error == 0)
-            minimised.Watch(result.Session);
-        else
-            minimised.Cancel();
+        error = Start(command.File, arguments, show);
     }
     if (error != 0 && StartFailed) StartFailed(Sentence(words.empty() ? "" : words.front().Text, error));
     return ResultOf(error);

@@ -1,16 +1,16 @@
-// Starts programs and knows this one's file and working directory. A started program is nobody's child: it has a
-// session of its own, standard input and outputs at /dev/null, no file and no signal state of ours, and leaves no
-// zombie. WinExec returns when the system has taken the program over, or refused; it doesn't wait for what it does.
+// Starts programs and knows this one's file and working directory. WinExec returns when the system has taken the
+// program over or refused it, and doesn't wait for what it does. Its windows are kept minimised for as long as the
+// watch over them lasts, and a program that has ended is buried, whenever the loop calls Serve.
 #pragma once
 
 #include <functional>
 #include <string>
 
 #include "platform/Processes.h"
+#include "platform/linux/MinimisedStart.h"
+#include "platform/linux/StartedPrograms.h"
 
 namespace orvelle {
-
-class MinimisedStart;
 
 class LinuxProcesses : public Processes {
 public:
@@ -20,7 +20,12 @@ public:
     static constexpr Long TooLong = 8;
     static constexpr Long NoProgram = 11;
 
-    explicit LinuxProcesses(MinimisedStart& minimised) : minimised(minimised) {}
+    // `display` "" is the environment's.
+    explicit LinuxProcesses(std::string display);
+
+    // For the loop: readable when Serve has something to do, the same one for the object's whole life.
+    int Descriptor() const { return readiness.Number(); }
+    void Serve();
 
     // The panel shows nothing of a failed start; whoever wants to tell it listens here. One sentence.
     std::function<void(const std::string&)> StartFailed;
@@ -35,7 +40,11 @@ public:
     void SetCurrentDirectoryA(const std::string& path) override;
 
 private:
-    MinimisedStart& minimised;
+    int Start(const std::string& file, const std::vector<std::string>& arguments, Long show);
+
+    FileDescriptor readiness;
+    StartedPrograms programs;
+    MinimisedStart minimised;
 };
 
 }  // namespace orvelle

@@ -16,7 +16,7 @@ void Join(const FileDescriptor& readiness, int descriptor) {
 
 }  // namespace
 
-MinimisedStart::MinimisedStart(std::string display, std::chrono::seconds patience)
+MinimisedStart::MinimisedStart(std::string display, std::chrono::milliseconds patience)
     : display(std::move(display)),
       patience(patience),
       readiness(epoll_create1(EPOLL_CLOEXEC)),
@@ -24,9 +24,10 @@ MinimisedStart::MinimisedStart(std::string display, std::chrono::seconds patienc
     Join(readiness, timer.Number());
 }
 
-void MinimisedStart::SetTimer(std::chrono::seconds time) {
+void MinimisedStart::SetTimer(std::chrono::milliseconds time) {
     itimerspec end{};
-    end.it_value.tv_sec = time.count();
+    end.it_value.tv_sec = time.count() / 1000;
+    end.it_value.tv_nsec = time.count() % 1000 * 1000000;
     timerfd_settime(timer.Number(), 0, &end, nullptr);
 }
 
@@ -39,7 +40,7 @@ void MinimisedStart::Begin() {
 }
 
 void MinimisedStart::End() {
-    SetTimer(std::chrono::seconds(0));
+    SetTimer(std::chrono::milliseconds(0));
     windows.reset();  // its descriptor leaves the readiness as it closes
     stages.clear();
     sessions.clear();

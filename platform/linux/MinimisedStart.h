@@ -20,7 +20,7 @@ namespace orvelle {
 class MinimisedStart {
 public:
     // `display` "" is the environment's; `patience` is how long after the last start windows are looked after.
-    explicit MinimisedStart(std::string display, std::chrono::seconds patience = std::chrono::seconds(10));
+    explicit MinimisedStart(std::string display, std::chrono::milliseconds patience = std::chrono::seconds(10));
 
     // For the loop: readable when Serve has something to do, the same one for the object's whole life.
     int Descriptor() const { return readiness.Number(); }
@@ -38,13 +38,13 @@ private:
 
     void Begin();
     void End();
-    void SetTimer(std::chrono::seconds time);
+    void SetTimer(std::chrono::milliseconds time);
     void Meet(xcb_window_t window);
     void LookAt(xcb_window_t window);
     void LookAtFocus();
 
     std::string display;
-    std::chrono::seconds patience;
+    std::chrono::milliseconds patience;
     FileDescriptor readiness;  // of the timer and the connection
     FileDescriptor timer;
     std::optional<TopLevelWindows> windows;

@@ -40,9 +40,11 @@ void X11Keyboard::keybd_event(Long virtualKey, Long scanByte, Long flags, Long) 
     const int keyCode = XKeyCode(known >= 0 ? known : scanByte & 0xFF);
     if (keyCode == 0 || !Server().Problem().empty()) return;
 
-    // The set is never behind the server: a key is in it before it goes down, and until it has gone up.
+    // The set is never behind the server: a key is in it before it goes down and until the server has let it go, since
+    // a server may drop what it has not read yet when this program dies.
     if (flags & KeyEventUp) {
         server->Send(keyCode, KeyStroke::Up);
+        server->Finish();
         held.Erase(keyCode);
     } else {
         guardFailed = !guard.Watch(held);
@@ -75,7 +77,6 @@ void X11Keyboard::ReleaseAll() {
     const auto keys = held.Keys();
     if (keys.empty()) return;
     for (const int keyCode : keys) server->Send(keyCode, KeyStroke::Up);
-    // Erased only when the server has them, or the guard could find the set empty and the strokes lost.
     server->Finish();
     for (const int keyCode : keys) held.Erase(keyCode);
 }

@@ -1,0 +1,91 @@
+#include "platform/linux/StartedPrograms.h"
+
+#include <fcntl.h>
+#include <signal.h>
+#include <spawn.h>
+#include <sys/epoll.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <string_view>
+
+namespace orvelle {
+
+namespace {
+
+std::vector<char*> Pointers(std::vector<std::string>& texts) {
+    std::vector<char*> pointers;
+    for (std::string& text : texts) pointers.push_back(text.data());
+    pointers.push_back(nullptr);
+    return pointers;
+}
+
+// Ours, but for what named the start of this program to its own toolkit.
+std::vector<std::string> Environment(const std::string& startupId) {
+    std::vector<std::string> variables;
+    for (char** variable = environ; variable && *variable; ++variable) {
+        const std::string_view text = *variable;
+        if (!text.starts_with("DESKTOP_STARTUP_ID=") && !text.starts_with("XDG_ACTIVATION_TOKEN="))
+            variables.emplace_back(text);
+    }
+    if (!startupId.empty()) variables.push_back("DESKTOP_STARTUP_ID=" + startupId);
+    return variables;
+}
+
+class Preparation {
+public:
+    Preparation() {
+        posix_spawn_file_actions_init(&Files);
+        for (int standard = 0; standard < 3; ++standard)
+            posix_spawn_file_actions_addopen(&Files, standard, "/dev/null", O_RDWR, 0);
+        posix_spawn_file_actions_addclosefrom_np(&Files, 3);
+
+        posix_spawnattr_init(&Attributes);
+        posix_spawnattr_setflags(&Attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
+        sigset_t signals;
+        sigemptyset(&signals);
+        posix_spawnattr_setsigmask(&Attributes, &signals);
+        sigfillset(&signals);
+        posix_spawnattr_setsigdefault(&Attributes, &signals);
+    }
+    Preparation(const Preparation&) = delete;
+    Preparation& operator=(const Preparation&) = delete;
+    ~Preparation() {
+        posix_spawnattr_destroy(&Attributes);
+        posix_spawn_file_actions_destroy(&Files);
+    }
+
+    posix_spawn_file_actions_t Files;
+    posix_spawnattr_t Attributes;
+};
+
+}  // namespace
+
+StartedPrograms::StartedPrograms() : ends(epoll_create1(EPOLL_CLOEXEC)) {}
+
+StartedPrograms::Result StartedPrograms::Start(const std::string& file, const std::vector<std::string>& arguments,
+                                               const std::string& startupId) {
+    Bury();
+    std::vector<std::string> words{file};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    std::vector<std::string> variables = Environment(startupId);
+    const Preparation preparation;
+    pid_t process = -1;
+    const int error = posix_spawn(&process, file.c_str(), &preparation.Files, &preparation.Attributes,
+                                  Pointers(words).data(), Pointers(variables).data());
+    if (error != 0) return {error, -1};
+
+    FileDescriptor end(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
+    epoll_event interest{};
+    interest.events = EPOLLIN;
+    epoll_ctl(ends.Number(), EPOLL_CTL_ADD, end.Number(), &interest);
+    running.emplace(process, std::move(end));
+    return {0, process};
+}
+
+void StartedPrograms::Bury() {
+    std::erase_if(running, [](const auto& program) { return waitpid(program.first, nullptr, WNOHANG) != 0; });
+}
+
+}  // namespace orvelle

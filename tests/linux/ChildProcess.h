@@ -1,0 +1,42 @@
+// A program that a test starts, with a pipe to its input and one from its output. It is killed and waited for when the
+// object goes, and dies with the test.
+#pragma once
+
+#include <sys/types.h>
+
+#include <string>
+#include <vector>
+
+#include "platform/linux/FileDescriptor.h"
+
+namespace orvelle {
+
+class ChildProcess {
+public:
+    // The program gets a process group of its own. `input` open keeps it waiting for lines.
+    explicit ChildProcess(std::vector<std::string> commandLine);
+    ChildProcess(const ChildProcess&) = delete;
+    ChildProcess& operator=(const ChildProcess&) = delete;
+    ~ChildProcess();
+
+    pid_t Id() const { return process; }
+    void WriteLine(const std::string& line);
+    // Without its line feed; "" at the end.
+    std::string ReadLine();
+    // Writes a line and waits for the answering one.
+    std::string Ask(const std::string& line);
+    void Kill(int signal);
+    // Waits for the end; the status as waitpid gives it.
+    int Wait();
+    // Everything written to standard error; to be asked after the end.
+    std::string Errors();
+
+private:
+    pid_t process = -1;
+    int status = 0;
+    FileDescriptor input;
+    FileDescriptor output;
+    FileDescriptor errors;
+};
+
+}  // namespace orvelle

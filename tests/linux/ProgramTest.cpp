@@ -1,0 +1,152 @@
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+
+#include "platform/RuntimeError.h"
+#include "platform/linux/ProcessProgram.h"
+#include "platform/linux/TerminationSignals.h"
+#include "tests/linux/ChildProcess.h"
+
+namespace orvelle {
+namespace {
+
+class SingleInstance : public testing::Test {
+protected:
+    SingleInstance() { mkdtemp(folder.data()); }
+    ~SingleInstance() override { std::filesystem::remove_all(folder); }
+
+    std::vector<std::string> Panel() const { return {PANEL_STAND_IN, ":65000", KEY_GUARD, folder}; }
+
+    std::string folder = testing::TempDir() + "instance-XXXXXX";
+};
+
+TEST_F(SingleInstance, IsTheFirstOne) {
+    ChildProcess first(Panel());
+    EXPECT_EQ(first.Ask("instance"), "first");
+    EXPECT_EQ(first.Ask("instance"), "first");
+    ChildProcess second(Panel());
+    EXPECT_EQ(second.Ask("instance"), "second");
+    ChildProcess third(Panel());
+    EXPECT_EQ(third.Ask("instance"), "second");
+}
+
+TEST_F(SingleInstance, MakesRoomWhenItEnds) {
+    ChildProcess first(Panel());
+    EXPECT_EQ(first.Ask("instance"), "first");
+    first.WriteLine("end");
+    first.Wait();
+    ChildProcess next(Panel());
+    EXPECT_EQ(next.Ask("instance"), "first");
+}
+
+TEST_F(SingleInstance, MakesRoomWhenItIsKilled) {
+    ChildProcess first(Panel());
+    EXPECT_EQ(first.Ask("instance"), "first");
+    ChildProcess waiting(Panel());
+    EXPECT_EQ(waiting.Ask("instance"), "second");
+    first.Kill(SIGKILL);
+    first.Wait();
+    EXPECT_EQ(waiting.Ask("instance"), "first");
+}
+
+TEST_F(SingleInstance, OfOneDisplayDoesNotHinderAnother) {
+    InstanceLock one(folder, "OrvelleCP-:0");
+    InstanceLock sameAgain(folder, "OrvelleCP-:0");
+    InstanceLock other(folder, "OrvelleCP-:1");
+    EXPECT_TRUE(one.Take());
+    EXPECT_FALSE(sameAgain.Take());
+    EXPECT_TRUE(other.Take());
+}
+
+TEST_F(SingleInstance, CountsTheScreensOfADisplayAsOne) {
+    setenv("XDG_RUNTIME_DIR", folder.c_str(), 1);
+    setenv("DISPLAY", ":7", 1);
+    InstanceLock one = InstanceLock::OfThisSession();
+    setenv("DISPLAY", ":7.1", 1);
+    InstanceLock otherScreen = InstanceLock::OfThisSession();
+    setenv("DISPLAY", "remote/host:7.1", 1);
+    InstanceLock otherHost = InstanceLock::OfThisSession();
+    EXPECT_TRUE(one.Take());
+    EXPECT_FALSE(otherScreen.Take());
+    EXPECT_TRUE(otherHost.Take());
+}
+
+TEST_F(SingleInstance, IsNotKeptFromStartingByAFolderThatIsNotTheUsersAlone) {
+    chmod(folder.c_str(), S_IRWXU | S_IRWXG | S_IRWXO);
+    InstanceLock one(folder, "panel");
+    InstanceLock two(folder, "panel");
+    EXPECT_TRUE(one.Take());
+    EXPECT_TRUE(two.Take());
+}
+
+TEST_F(SingleInstance, MakesItsFolder) {
+    InstanceLock one(folder + "/new", "panel");
+    InstanceLock two(folder + "/new", "panel");
+    EXPECT_TRUE(one.Take());
+    EXPECT_FALSE(two.Take());
+}
+
+ProcessProgram Program() { return ProcessProgram(InstanceLock("/nowhere", "panel")); }
+
+void Say(const char* text) { [[maybe_unused]] const ssize_t written = write(STDERR_FILENO, text, strlen(text)); }
+
+TEST(ProgramEndDeathTest, RunsTheCleanUpsTheLastFirst) {
+    const auto end = [] {
+        ProcessProgram program = Program();
+        program.AtEnd([] { Say("first "); });
+        program.AtEnd([] { throw RuntimeError(RuntimeError::Overflow); });
+        program.AtEnd([] { Say("last "); });
+        program.End();
+    };
+    EXPECT_EXIT(end(), testing::ExitedWithCode(0), "last first ");
+}
+
+TEST(ProgramEndDeathTest, InsideACleanUpGoesOnWithTheOthers) {
+    const auto end = [] {
+        ProcessProgram program = Program();
+        program.AtEnd([] { Say("first"); });
+        program.AtEnd([&program] { program.Fail(RuntimeError::Overflow); });
+        program.End();
+    };
+    EXPECT_EXIT(end(), testing::ExitedWithCode(70), "firstOrvelleCP: run-time error 6: overflow");
+}
+
+TEST(ProgramEndDeathTest, TellsTheRunTimeErrorInOneLine) {
+    EXPECT_EXIT(Program().Fail(6), testing::ExitedWithCode(70), "^OrvelleCP: run-time error 6: overflow\n$");
+    EXPECT_EXIT(Program().Fail(9), testing::ExitedWithCode(70),
+                "^OrvelleCP: run-time error 9: subscript out of range\n$");
+    EXPECT_EXIT(Program().Fail(13), testing::ExitedWithCode(70), "^OrvelleCP: run-time error 13: type mismatch\n$");
+    EXPECT_EXIT(Program().Fail(91), testing::ExitedWithCode(70), "^OrvelleCP: run-time error 91\n$");
+}
+
+TEST(ProgramEndDeathTest, BySignalIsTheSignalsEnd) {
+    const auto end = [] {
+        TerminationSignals signals;
+        kill(getpid(), SIGHUP);
+        ProcessProgram program = Program();
+        program.AtEnd([] { Say("cleaned up"); });
+        program.EndBySignal(signals.Take());
+    };
+    EXPECT_EXIT(end(), testing::KilledBySignal(SIGHUP), "cleaned up");
+}
+
+TEST(TerminationSignalsDeathTest, AreTakenOnceAndAnIgnoredOneStaysIgnored) {
+    const auto end = [] {
+        signal(SIGHUP, SIG_IGN);
+        TerminationSignals signals;
+        kill(getpid(), SIGHUP);
+        if (signals.Take() != 0) _exit(1);
+        kill(getpid(), SIGTERM);
+        if (signals.Take() != SIGTERM) _exit(2);
+        _exit(signals.Take() == 0 ? 0 : 3);
+    };
+    EXPECT_EXIT(end(), testing::ExitedWithCode(0), "");
+}
+
+}  // namespace
+}  // namespace orvelle

@@ -1,0 +1,19 @@
+// Waits for a condition. The bound is for a machine in trouble; a test never needs it.
+#pragma once
+
+#include <chrono>
+#include <thread>
+
+namespace orvelle {
+
+template <typename Condition>
+bool WaitUntil(Condition condition) {
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > end) return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+    return true;
+}
+
+}  // namespace orvelle
