@@ -110,11 +110,17 @@ bool HasLog(const fs::path& path) {
     return fs::exists(log) && fs::file_size(log) > 0;
 }
 
-FoundStore ReadOrJudge(const std::string& name, int flags) try {
-    return ReadThrough(Connection(name, flags));
-} catch (const SqliteError& error) {
-    if (!MeansDamage(error)) throw;
-    return {};
+// Without a log that would complete it, a file of broken pages has lost its end. Pages are multiples of 512 bytes.
+bool IsCutOff(const fs::path& path) { return fs::is_regular_file(path) && fs::file_size(path) % 512 != 0; }
+
+FoundStore ReadAnyWay(const fs::path& path) {
+    try {
+        Connection file(FileName(path), SQLITE_OPEN_READWRITE);
+        if (!file.ReadOnly() || HasLog(path)) return ReadThrough(std::move(file));
+    } catch (const SqliteError& error) {
+        if (!MeansUnwritable(error) || HasLog(path)) throw;
+    }
+    return ReadThrough(Connection(ImmutableName(path), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI));
 }
 
 }  // namespace
@@ -129,24 +135,27 @@ void MakeStoreFile(const fs::path& path) {
     for (const char* suffix : StoreFileSuffixes) fs::remove(fs::path(unfinished) += suffix);
     {
         const Connection file(FileName(unfinished), SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+        file.Run("BEGIN");
         file.Run(("PRAGMA application_id = " + std::to_string(ApplicationId)).c_str());
         file.Run(("PRAGMA user_version = " + std::to_string(FormatVersion)).c_str());
-        file.Run("PRAGMA journal_mode = WAL");
         for (const char* table : StoreTableNames) file.Run(CreateStatement(table).c_str());
+        file.Run("COMMIT");
+        file.Run("PRAGMA journal_mode = WAL");
     }
     fs::rename(unfinished, path);
 }
 
 FoundStore ReadStoreFile(const fs::path& path) {
-    // An empty file would pass for a new one, and its log would go unread.
-    if (!fs::exists(path) || fs::is_empty(path)) return {};
+    // SQLite would take an empty file for a new one, and forget the log.
+    if (!fs::exists(path) || (fs::is_regular_file(path) && fs::is_empty(path))) return {};
     if (IsNewerByHeader(path)) return {.Verdict = StoreVerdict::Newer};
+    if (!HasLog(path) && IsCutOff(path)) return {};
     try {
-        return ReadOrJudge(FileName(path), SQLITE_OPEN_READWRITE);
+        return ReadAnyWay(path);
     } catch (const SqliteError& error) {
-        if (!MeansUnwritable(error) || HasLog(path)) throw;
+        if (!MeansDamage(error)) throw;
+        return {};
     }
-    return ReadOrJudge(ImmutableName(path), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
 }
 
 }  // namespace orvelle
