@@ -11,7 +11,6 @@
 #include "platform/controls/WindowTable.h"
 #include "platform/embedded/SetUp.h"
 #include "platform/linux/LinuxProcesses.h"
-#include "platform/linux/MinimisedStart.h"
 #include "platform/linux/OwnFile.h"
 #include "platform/linux/ProcessProgram.h"
 #include "platform/linux/TerminationSignals.h"
@@ -68,9 +67,8 @@ int main() {
 
     X11Keyboard keyboard("", BesideOwnFile("orvelle-key-guard"));
     program.AtEnd([&] { keyboard.ReleaseAll(); });
-    MinimisedStart minimised("");
-    loop.WhenReadable(minimised.Descriptor(), [&] { minimised.Serve(); });
-    LinuxProcesses processes(minimised);
+    LinuxProcesses processes("");
+    loop.WhenReadable(processes.Descriptor(), [&] { processes.Serve(); });
 
     std::unique_ptr<MainWindow> window;
     const auto panelWindow = [&] { return window.get(); };

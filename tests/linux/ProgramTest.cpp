@@ -122,6 +122,7 @@ TEST(ProgramEndDeathTest, TellsTheRunTimeErrorInOneLine) {
                 "^OrvelleCP: run-time error 9: subscript out of range\n$");
     EXPECT_EXIT(Program().Fail(13), testing::ExitedWithCode(70), "^OrvelleCP: run-time error 13: type mismatch\n$");
     EXPECT_EXIT(Program().Fail(91), testing::ExitedWithCode(70), "^OrvelleCP: run-time error 91\n$");
+    EXPECT_EXIT(Program().Fail("out of memory"), testing::ExitedWithCode(70), "^OrvelleCP: out of memory\n$");
 }
 
 TEST(ProgramEndDeathTest, BySignalIsTheSignalsEnd) {

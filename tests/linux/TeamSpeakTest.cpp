@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -101,9 +102,13 @@ TEST_F(TeamSpeak, ALibraryThatComesLaterIsFound) {
 }
 
 TEST_F(TeamSpeak, TheLibraryIsFoundInTheLibraryPath) {
-    DynamicTeamSpeak teamSpeak;
-    EXPECT_EQ(teamSpeak.tsrDisconnect(), 0);
-    EXPECT_EQ(Calls(), Texts{"tsrDisconnect"});
+    // The path is read when a program starts, so the call is made in this program started anew.
+    testing::FLAGS_gtest_death_test_style = "threadsafe";
+    setenv("LD_LIBRARY_PATH", LIBRARIES, 1);
+    const auto disconnect = [] { _exit(DynamicTeamSpeak().tsrDisconnect()); };
+    EXPECT_EXIT(disconnect(), testing::ExitedWithCode(0), "");
+    unsetenv("LD_LIBRARY_PATH");
+    EXPECT_EXIT(disconnect(), testing::ExitedWithCode(static_cast<unsigned char>(DynamicTeamSpeak::NotThere)), "");
 }
 
 TEST_F(TeamSpeak, TheLibraryBesideTheProgramGoesBeforeTheLibraryPath) {
