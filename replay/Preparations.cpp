@@ -44,7 +44,7 @@ Act ReadGive(Stage& stage, Scanner& line) {
 }
 
 Value ReadStoredValue(Scanner& line) {
-    const Value value = line.AnyValue();
+    Value value = line.AnyValue();
     line.ExpectEnd();
     if (!value.Is<std::string>() && !value.Is<Long>()) throw LineError(value.Printed() + " is no text or whole number");
     return value;

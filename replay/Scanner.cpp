@@ -103,7 +103,7 @@ std::string Scanner::Word() {
     std::size_t end = 0;
     while (end < rest.size() && !IsBlank(rest[end])) ++end;
     if (end == 0) throw LineError("a word is missing at the end");
-    const std::string word(rest.substr(0, end));
+    std::string word(rest.substr(0, end));
     rest.remove_prefix(end);
     return word;
 }
@@ -114,7 +114,7 @@ std::string Scanner::Name() {
     while (end < rest.size() && IsNamePart(rest[end])) ++end;
     if (end == 0 || IsDigit(rest.front()))
         throw LineError("a name is missing " + (rest.empty() ? "at the end" : "before \"" + std::string(rest) + "\""));
-    const std::string name(rest.substr(0, end));
+    std::string name(rest.substr(0, end));
     rest.remove_prefix(end);
     return name;
 }
@@ -203,7 +203,7 @@ std::string Scanner::Symbol() {
     while (end < rest.size() && !IsBlank(rest[end]) && rest[end] != ',' && rest[end] != '(' && rest[end] != ')') ++end;
     if (end == 0)
         throw LineError("a value is missing " + (rest.empty() ? "at the end" : "before \"" + std::string(rest) + "\""));
-    const std::string symbol(rest.substr(0, end));
+    std::string symbol(rest.substr(0, end));
     rest.remove_prefix(end);
     return symbol;
 }

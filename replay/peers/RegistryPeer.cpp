@@ -32,7 +32,7 @@ std::string RegistryPeer::ReadRegistryDefault(const std::string& path, const std
     return Read("ReadRegistryDefault", {path, name, defaultValue}, {path, name}, defaultValue);
 }
 
-void RegistryPeer::Put(const std::string& path, const std::string& name, Value value) {
+void RegistryPeer::Put(const std::string& path, const std::string& name, const Value& value) {
     Keep(values.insert_or_assign({path, name}, Kept<Value>{value}).first->second, value);
 }
 

@@ -27,7 +27,7 @@ public:
                                     const std::string& defaultValue) override;
 
     // Texts and whole numbers, as the scenario puts and looks at them.
-    void Put(const std::string& path, const std::string& name, Value value);
+    void Put(const std::string& path, const std::string& name, const Value& value);
     std::optional<Value> Find(const std::string& path, const std::string& name) const;
 
 private:

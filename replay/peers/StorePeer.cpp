@@ -69,7 +69,7 @@ void StorePeer::CloseSettingList() {
     listing.clear();
 }
 
-void StorePeer::Put(const std::string& section, const std::string& key, Value value) {
+void StorePeer::Put(const std::string& section, const std::string& key, const Value& value) {
     Keep(sections[section].insert_or_assign(key, Kept<Value>{value}).first->second, value);
 }
 

@@ -29,7 +29,7 @@ public:
     void HandlerEnded() override {}
 
     // Texts and whole numbers, as the scenario puts and looks at them.
-    void Put(const std::string& section, const std::string& key, Value value);
+    void Put(const std::string& section, const std::string& key, const Value& value);
     std::optional<Value> Find(const std::string& section, const std::string& key) const;
 
 private:

@@ -19,7 +19,7 @@ protected:
     MessageQueueTest() {
         seen.clear();
         windows.SetWindowLongA(form, WindowProcedureIndex, reinterpret_cast<std::intptr_t>(Note));
-        timer.Tick = [this] { seen += "tick "; };
+        timer.Tick = [] { seen += "tick "; };
     }
 
     // Takes all messages that wait now as a capture does: key messages are kept from their windows.

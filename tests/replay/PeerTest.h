@@ -15,7 +15,7 @@ class PeerTest : public testing::Test {
 protected:
     // What was printed since the last look.
     std::string Printed() {
-        const std::string printed = out.str();
+        std::string printed = out.str();
         out.str("");
         return printed;
     }

@@ -7,7 +7,7 @@ namespace {
 
 std::string Read(const std::string& value) {
     Scanner scanner(value);
-    const std::string printed = scanner.AnyValue().Printed();
+    std::string printed = scanner.AnyValue().Printed();
     scanner.ExpectEnd();
     return printed;
 }
