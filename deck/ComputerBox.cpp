@@ -1,0 +1,43 @@
+#include "deck/ComputerBox.h"
+
+#include <QLineEdit>
+
+#include "deck/Fields.h"
+#include "platform/embedded/Velmarc.h"
+
+namespace orvelle::deck {
+
+namespace {
+
+QLineEdit* NewComputerEdit(EmbeddedVelmarc& velmarc, const QString& name, std::string SimulatorComputer::*text) {
+    return NewEdit(name, "The panel reads it when the link comes up; Enter applies it",
+                   [&velmarc, text](const std::string& value) {
+                       SimulatorComputer computer = velmarc.Computer();
+                       computer.*text = value;
+                       velmarc.SetComputer(computer);
+                   });
+}
+
+}  // namespace
+
+ComputerBox::ComputerBox(EmbeddedVelmarc& simulator)
+    : Section("Computer", "The simulator's computer"),
+      velmarc(simulator),
+      address(NewComputerEdit(velmarc, "ComputerAddress", &SimulatorComputer::IPAddress)),
+      name(NewComputerEdit(velmarc, "ComputerName", &SimulatorComputer::ComputerName)),
+      desktop(NewComputerEdit(velmarc, "DesktopName", &SimulatorComputer::DesktopName)),
+      watch(velmarc.Changed.Observe([this] { ShowState(); })) {
+    AddRow("IP address", {address});
+    AddRow("Name", {name});
+    AddRow("Desktop", {desktop});
+    ShowState();
+}
+
+void ComputerBox::ShowState() {
+    const SimulatorComputer& computer = velmarc.Computer();
+    ShowText(*address, computer.IPAddress);
+    ShowText(*name, computer.ComputerName);
+    ShowText(*desktop, computer.DesktopName);
+}
+
+}  // namespace orvelle::deck

@@ -1,0 +1,89 @@
+#include "deck/DeckWindow.h"
+
+#include <QHBoxLayout>
+#include <QScreen>
+#include <QScrollArea>
+#include <QTabWidget>
+#include <algorithm>
+
+#include "deck/FaultsPage.h"
+#include "deck/NetworkPage.h"
+#include "deck/Section.h"
+#include "deck/SimulatorPage.h"
+#include "deck/VoicePage.h"
+#include "platform/embedded/SetUp.h"
+
+namespace orvelle {
+
+using namespace deck;
+
+namespace {
+
+constexpr QSize WantedSize(1024, 700);
+
+// On a screen too small for the page, or with letters too large, the page is scrolled, never clipped.
+void AddPage(QTabWidget& tabs, QWidget* page, const QString& title) {
+    auto* frame = new QWidget;
+    auto* margins = new QVBoxLayout(frame);
+    margins->setContentsMargins(2 * DeckUnit, 2 * DeckUnit, 2 * DeckUnit, 2 * DeckUnit);
+    margins->addWidget(page);
+    auto* area = new QScrollArea;
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(frame);
+    tabs.addTab(area, title);
+}
+
+QWidget* SideBySide(QWidget* left, QWidget* right) {
+    auto* page = new QWidget;
+    page->setObjectName("FlightPage");
+    auto* row = new QHBoxLayout(page);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(3 * DeckUnit);
+    row->addWidget(left, 1);
+    row->addWidget(right, 1);
+    return page;
+}
+
+}  // namespace
+
+DeckWindow::DeckWindow(EmbeddedSetUp& embedded) : setUp(embedded), simulator(new SimulatorPage(embedded.Velmarc)) {
+    setObjectName("DeckWindow");
+    setWindowTitle("OrvelleCP Flight Deck");
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_QuitOnClose, false);
+
+    auto* tabs = new QTabWidget;
+    tabs->setObjectName("DeckPages");
+    tabs->setDocumentMode(true);
+    AddPage(*tabs, SideBySide(simulator, new NetworkPage(setUp.Tessaly)), "Fl&ight");
+    AddPage(*tabs, new VoicePage(setUp.VVL, setUp.Tessaly), "Voice &engine");
+    AddPage(*tabs, new FaultsPage(setUp), "Fa&ults");
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(tabs);
+    resize(WantedSize);
+}
+
+void DeckWindow::OpenAt(const QPoint& position) {
+    const QRect room = screen()->availableGeometry();
+    // Nothing before the window was shown for the first time.
+    const QSize frame = frameGeometry().size() - size();
+    resize(size().boundedTo(room.size() - frame));
+    const QSize outer = size() + frame;
+    move(std::clamp(position.x(), room.left(), std::max(room.left(), room.right() + 1 - outer.width())),
+         std::clamp(position.y(), room.top(), std::max(room.top(), room.bottom() + 1 - outer.height())));
+    show();
+}
+
+void DeckWindow::TellOfProgram(const std::string& sentence) {
+    simulator->TellOfProgram(QString::fromStdString(sentence));
+}
+
+void DeckWindow::hideEvent(QHideEvent* event) {
+    QWidget::hideEvent(event);
+    setUp.Velmarc.ReleaseAll();
+}
+
+}  // namespace orvelle

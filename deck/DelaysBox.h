@@ -1,0 +1,17 @@
+// How long each side of the set-up takes to bring its events to the panel, milliseconds.
+#pragma once
+
+#include "deck/Section.h"
+
+namespace orvelle {
+class EmbeddedSetUp;
+}  // namespace orvelle
+
+namespace orvelle::deck {
+
+class DelaysBox : public Section {
+public:
+    explicit DelaysBox(EmbeddedSetUp& setUp);
+};
+
+}  // namespace orvelle::deck

@@ -1,0 +1,50 @@
+#include "deck/DevicesBox.h"
+
+#include <QCheckBox>
+
+#include "deck/Fields.h"
+#include "deck/Readout.h"
+#include "platform/embedded/VoiceEngine.h"
+
+namespace orvelle::deck {
+
+namespace {
+
+QString DeviceText(Long device) { return device < 0 ? "Default" : QString("Device %1").arg(device); }
+
+QCheckBox* NewFailure(const QString& name, std::function<void(bool)> apply) {
+    return NewCheck(name + "Fails", "Fails", "This device does not work", std::move(apply));
+}
+
+}  // namespace
+
+DevicesBox::DevicesBox(EmbeddedVoiceEngine& voiceEngine)
+    : Section("Devices", "Devices", 3),
+      engine(voiceEngine),
+      microphoneFails(NewFailure("Microphone", [this](bool failed) { engine.FailInput(failed); })),
+      microphone(new Readout("MicrophoneDevice")),
+      outputFails{NewFailure("Headset", [this](bool failed) { engine.FailOutput(0, failed); }),
+                  NewFailure("Speakers", [this](bool failed) { engine.FailOutput(1, failed); })},
+      outputs{new Readout("HeadsetDevice"), new Readout("SpeakersDevice")},
+      watch(engine.Changed.Observe([this] { ShowState(); })) {
+    AddRow("Microphone", {microphoneFails, microphone});
+    AddRow("Headset", {outputFails[0], outputs[0]});
+    AddRow("Speakers", {outputFails[1], outputs[1]});
+    ShowState();
+}
+
+void DevicesBox::ShowState() {
+    microphoneFails->setChecked(engine.InputFailed());
+    microphone->Show(DeviceText(engine.Microphone()));
+    for (std::size_t index = 0; index < outputs.size(); ++index) {
+        const VoiceOutput& output = engine.Output(static_cast<Long>(index));
+        outputFails.at(index)->setChecked(output.Failed);
+        outputs.at(index)->Show(QString("%1, volume %2, signal %3, %4")
+                                    .arg(DeviceText(output.Device))
+                                    .arg(output.Volume)
+                                    .arg(output.SignalVolume)
+                                    .arg(output.Filter ? "filtered" : "clear"));
+    }
+}
+
+}  // namespace orvelle::deck

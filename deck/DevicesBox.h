@@ -1,0 +1,34 @@
+// The audio devices of the voice engine: what the panel set on each, and whether it fails.
+#pragma once
+
+#include <array>
+#include <memory>
+
+#include "deck/Section.h"
+
+class QCheckBox;
+
+namespace orvelle {
+class EmbeddedVoiceEngine;
+}  // namespace orvelle
+
+namespace orvelle::deck {
+
+class Readout;
+
+class DevicesBox : public Section {
+public:
+    explicit DevicesBox(EmbeddedVoiceEngine& voiceEngine);
+
+private:
+    void ShowState();
+
+    EmbeddedVoiceEngine& engine;
+    QCheckBox* microphoneFails;
+    Readout* microphone;
+    std::array<QCheckBox*, 2> outputFails;
+    std::array<Readout*, 2> outputs;
+    std::shared_ptr<void> watch;
+};
+
+}  // namespace orvelle::deck

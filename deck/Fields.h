@@ -1,0 +1,31 @@
+// The deck's fields, made with their names and tool tips and joined to what the user does with them: `apply` runs on
+// the user's doing only, never when the program shows a value. Showing leaves alone what the user is typing.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <string>
+
+class QCheckBox;
+class QComboBox;
+class QLineEdit;
+class QPushButton;
+class QSpinBox;
+
+namespace orvelle::deck {
+
+// Applies when the edited text is finished, by Enter or by leaving the field.
+QLineEdit* NewEdit(const QString& name, const QString& toolTip, std::function<void(const std::string&)> apply);
+QCheckBox* NewCheck(const QString& name, const QString& text, const QString& toolTip, std::function<void(bool)> apply);
+// Applies the index of the user's pick, at once.
+QComboBox* NewChoice(const QString& name, const QString& toolTip, const QStringList& entries,
+                     std::function<void(int)> apply);
+// Applies by the arrows, by Enter or by leaving the field.
+QSpinBox* NewNumber(const QString& name, const QString& toolTip, int least, int most, std::function<void(int)> apply);
+QPushButton* NewButton(const QString& name, const QString& text, const QString& toolTip, std::function<void()> apply);
+
+void ShowText(QLineEdit& edit, const std::string& text);
+void ShowNumber(QSpinBox& box, int number);
+
+}  // namespace orvelle::deck

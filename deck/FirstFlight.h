@@ -1,0 +1,11 @@
+// A set-up as the first-time user meets it: both links up, a session open and connected under a callsign, COM1 and COM2
+// tuned and COM1 selected, no voice software yet. The program calls it once, before the deck opens, if it wants that.
+#pragma once
+
+namespace orvelle {
+
+class EmbeddedSetUp;
+
+void PrepareFirstFlight(EmbeddedSetUp& setUp);
+
+}  // namespace orvelle

@@ -1,0 +1,48 @@
+// The simulator's keyboard: what is typed into this field goes down and up on the simulator's computer, key by key,
+// with the repeats that the system makes. Every key but Tab is taken, also those of shortcuts. What is held when the
+// focus goes, or the window, is let go. While the link is down keys go nowhere.
+#pragma once
+
+#include <QFrame>
+#include <memory>
+#include <string>
+#include <vector>
+
+class QLabel;
+
+namespace orvelle {
+class EmbeddedVelmarc;
+}  // namespace orvelle
+
+namespace orvelle::deck {
+
+class KeyboardField : public QFrame {
+public:
+    explicit KeyboardField(EmbeddedVelmarc& simulator);
+
+protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    struct Held {
+        int Place;  // of the key, or its number below 0 where it has none
+        std::string Name;
+    };
+
+    void ReleaseAll();
+    void ShowState();
+
+    EmbeddedVelmarc& velmarc;
+    std::vector<Held> held;  // in the order in which they went down
+    QLabel* sequence;
+    QLabel* hint;
+    std::shared_ptr<void> watch;
+};
+
+}  // namespace orvelle::deck

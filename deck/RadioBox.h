@@ -1,0 +1,46 @@
+// The radio set of the session: both radios with their voice records side by side, and which of them are received and
+// transmitted on. Each change raises its event at the panel.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "deck/Section.h"
+
+class QComboBox;
+class QLineEdit;
+
+namespace orvelle {
+class EmbeddedTessaly;
+struct RadioVoiceSetting;
+}  // namespace orvelle
+
+namespace orvelle::deck {
+
+class RadioBox : public Section {
+public:
+    explicit RadioBox(EmbeddedTessaly& framework);
+
+private:
+    using VoiceText = std::string RadioVoiceSetting::*;
+    struct Radio {
+        QLineEdit* Frequency;
+        QComboBox* Software;
+        std::array<QLineEdit*, 4> Texts;  // in the order of the rows
+    };
+
+    Radio NewRadio(int radio);
+    QLineEdit* NewVoiceEdit(int radio, const QString& name, const QString& toolTip, VoiceText text);
+    QComboBox* NewSelection(const QString& name, const QString& toolTip, std::function<void(const std::string&)> apply);
+    void ShowState();
+
+    EmbeddedTessaly& tessaly;
+    std::array<Radio, 2> radios;
+    QComboBox* receive;
+    QComboBox* transmit;
+    std::shared_ptr<void> watch;
+};
+
+}  // namespace orvelle::deck

@@ -1,0 +1,126 @@
+#include "deck/RecordsBox.h"
+
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolButton>
+#include <algorithm>
+
+#include "deck/Fields.h"
+#include "deck/Tables.h"
+#include "platform/embedded/Tessaly.h"
+
+namespace orvelle::deck {
+
+namespace {
+
+constexpr const char* Roles[] = {"RWCom1", "RWCom2", "TSCom1", "TSCom2", "VVL"};
+enum Column { Id, Type, Role, Owner, Parameters };
+
+QString ParametersOf(const InterfaceRecord& record) {
+    QStringList list;
+    for (const auto& [index, parameter] : record.Parameters) list << QString("%1=%2").arg(index).arg(parameter.Content);
+    for (const auto& [index, text] : record.Texts)
+        list << QString("%1=\"%2\"").arg(index).arg(QString::fromStdString(text.Content));
+    return list.join("  ");
+}
+
+QWidget* RowOf(const QList<QWidget*>& widgets) {
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(DeckUnit / 2);
+    for (QWidget* widget : widgets) layout->addWidget(widget);
+    return row;
+}
+
+}  // namespace
+
+RecordsBox::RecordsBox(EmbeddedTessaly& framework)
+    : Section("RecordSection", "Interface records", 2),
+      tessaly(framework),
+      table(NewTable("Records", "The interface records of all computers", {"Id", "Type", "Role", "Owner", "Parameters"},
+                     Parameters)),
+      computer(new QLineEdit("COCKPIT2")),
+      drop(NewButton("DropRecord", "Drop", "The owner, another computer, removes the selected record",
+                     [this] { tessaly.DropClaim(SelectedId()); })),
+      announce(NewButton("AnnounceRecord", "Announce change", "Report to the panel that the selected record changed",
+                         [this] { tessaly.AnnounceChange(SelectedId()); })),
+      watch(tessaly.Changed.Observe([this] { ShowState(); })) {
+    table->setEditTriggers(QTableWidget::NoEditTriggers);
+    connect(table, &QTableWidget::itemSelectionChanged, this, [this] { ShowButtons(); });
+    AddWide(table, 1);
+
+    computer->setObjectName("OtherComputer");
+    computer->setToolTip("The name of the computer that claims and drops roles");
+    connect(computer, &QLineEdit::textChanged, this, [this] { ShowButtons(); });
+    AddRow("Selected", {drop, announce});
+    AddRow("Other computer", {computer});
+
+    QList<QWidget*> buttons;
+    for (const std::string role : Roles) {
+        const QString name = QString::fromStdString(role);
+        auto* button = new QToolButton;
+        button->setText(name);
+        button->setObjectName("Claim" + name);
+        button->setToolTip("Down: the other computer holds the role " + name);
+        button->setCheckable(true);
+        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        button->setFocusPolicy(Qt::TabFocus);
+        connect(button, &QToolButton::clicked, this, [this, role](bool on) { Claim(role, on); });
+        claims[role] = button;
+        buttons << button;
+    }
+    AddRow("holds", {RowOf(buttons)});
+    ShowState();
+}
+
+Long RecordsBox::ClaimOf(const std::string& role) const {
+    for (const auto& [id, record] : tessaly.Records())
+        if (!record.IsLocal && record.Role == role && record.Owner == computer->text().toStdString()) return id;
+    return 0;
+}
+
+Long RecordsBox::SelectedId() const {
+    const QList<QTableWidgetItem*> selected = table->selectedItems();
+    return selected.isEmpty() ? 0 : table->item(selected.first()->row(), Id)->data(Qt::DisplayRole).toInt();
+}
+
+void RecordsBox::Claim(const std::string& role, bool on) {
+    if (on)
+        tessaly.Claim(computer->text().toStdString(), role);
+    else
+        tessaly.DropClaim(ClaimOf(role));
+}
+
+void RecordsBox::ShowState() {
+    const auto records = tessaly.Records();
+    const Long selected = SelectedId();
+    table->setRowCount(static_cast<int>(records.size()));
+    int row = 0;
+    for (const auto& [id, record] : records) {
+        ShowCell(*table, row, Id, id);
+        ShowCell(*table, row, Type, QString::fromStdString(record.Type));
+        ShowCell(*table, row, Role, QString::fromStdString(record.Role));
+        ShowCell(*table, row, Owner, record.IsLocal ? "this panel" : QString::fromStdString(record.Owner));
+        const QString parameters = ParametersOf(record);
+        ShowCell(*table, row, Parameters, parameters).setToolTip(parameters.toHtmlEscaped());
+        ++row;
+    }
+    // A record keeps its selection when others come and go.
+    if (!records.contains(selected))
+        table->clearSelection();
+    else if (SelectedId() != selected)
+        table->selectRow(static_cast<int>(std::distance(records.begin(), records.find(selected))));
+    ShowButtons();
+}
+
+void RecordsBox::ShowButtons() {
+    for (const auto& [role, button] : claims) button->setChecked(ClaimOf(role) != 0);
+    const auto records = tessaly.Records();
+    const auto selected = records.find(SelectedId());
+    drop->setEnabled(selected != records.end() && !selected->second.IsLocal);
+    announce->setEnabled(selected != records.end());
+}
+
+}  // namespace orvelle::deck

@@ -1,0 +1,50 @@
+// The three rooms of the voice engine side by side: what the panel made of each, and what happens in it.
+#pragma once
+
+#include <array>
+#include <memory>
+
+#include "deck/Section.h"
+
+class QCheckBox;
+class QComboBox;
+class QLineEdit;
+class QPushButton;
+
+namespace orvelle {
+class EmbeddedVoiceEngine;
+}  // namespace orvelle
+
+namespace orvelle::deck {
+
+class Readout;
+class SignalLight;
+
+class RoomsBox : public Section {
+public:
+    explicit RoomsBox(EmbeddedVoiceEngine& voiceEngine);
+
+private:
+    struct Room {
+        SignalLight* State;
+        Readout* Client;
+        Readout* Address;
+        SignalLight* Microphone;
+        SignalLight* Headset;
+        SignalLight* Speakers;
+        SignalLight* Audio;
+        QCheckBox* CarriesAudio;
+        QPushButton* Kick;
+        QComboBox* NextJoin;
+        QLineEdit* Status;
+    };
+
+    Room NewRoom(int number);
+    void ShowState();
+
+    EmbeddedVoiceEngine& engine;
+    std::array<Room, 3> rooms;
+    std::shared_ptr<void> watch;
+};
+
+}  // namespace orvelle::deck

@@ -1,0 +1,35 @@
+// A titled part of a page: rows of a label and its fields on one grid, the label columns of all sections of one width.
+#pragma once
+
+#include <QWidget>
+#include <initializer_list>
+
+class QGridLayout;
+
+namespace orvelle::deck {
+
+// The one unit of all margins and gaps, logical pixels.
+constexpr int DeckUnit = 8;
+constexpr int SectionGap = 12;  // between two sections of a column
+
+class Section : public QWidget {
+public:
+    // `columns` counts the fields' columns beside that of the labels; they share the width evenly.
+    Section(const QString& name, const QString& title, int columns = 1);
+
+    // The label's mnemonic leads to the first field. A null field leaves its column to the field before it; the last
+    // field takes what columns are left.
+    void AddRow(const QString& label, std::initializer_list<QWidget*> fields);
+    // Over the whole width, labels' column included. `stretch` other than 0 takes the height that is left.
+    void AddWide(QWidget* widget, int stretch = 0);
+    // Captions over the fields' columns.
+    void AddCaptions(const QStringList& captions);
+    QGridLayout& Grid() { return *grid; }
+
+private:
+    QGridLayout* grid;
+    int columns;
+    int nextRow = 1;
+};
+
+}  // namespace orvelle::deck

@@ -1,0 +1,31 @@
+// The user's session on the network: whether there is one, its status and the callsign.
+#pragma once
+
+#include <memory>
+
+#include "deck/Section.h"
+
+class QCheckBox;
+class QLineEdit;
+
+namespace orvelle {
+class EmbeddedTessaly;
+}  // namespace orvelle
+
+namespace orvelle::deck {
+
+class SessionBox : public Section {
+public:
+    explicit SessionBox(EmbeddedTessaly& framework);
+
+private:
+    void ShowState();
+
+    EmbeddedTessaly& tessaly;
+    QCheckBox* open;
+    QCheckBox* connected;
+    QLineEdit* callsign;
+    std::shared_ptr<void> watch;
+};
+
+}  // namespace orvelle::deck

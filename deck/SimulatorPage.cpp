@@ -1,0 +1,61 @@
+#include "deck/SimulatorPage.h"
+
+#include <QCheckBox>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "deck/Fields.h"
+#include "deck/JoystickRow.h"
+#include "deck/KeyboardField.h"
+#include "deck/LinkBox.h"
+#include "deck/TimedLog.h"
+#include "platform/embedded/Velmarc.h"
+
+namespace orvelle::deck {
+
+SimulatorPage::SimulatorPage(EmbeddedVelmarc& simulator)
+    : velmarc(simulator),
+      active(NewCheck("SimulatorActive", "The simulator is the &active application",
+                      "Keys pressed while it is not start no voice program's push-to-talk",
+                      [this](bool on) { velmarc.SetSimulatorActive(on); })),
+      sounds(new TimedLog("Sounds", "Sounds that the simulator was asked to play")),
+      programs(new TimedLog("Programs", "Voice programs that could not be started")),
+      watch(velmarc.Changed.Observe([this] { ShowState(); })) {
+    setObjectName("SimulatorPage");
+    active->setFocusPolicy(Qt::TabFocus);
+
+    auto* link = new LinkBox("Simulator", "Simulator", "&Simulator link", FarSideOf(velmarc));
+    link->AddRow("Application", {active});
+
+    auto* inputs = new Section("Inputs", "Keyboard and joysticks");
+    inputs->AddRow("&Keyboard", {new KeyboardField(velmarc)});
+    inputs->AddRow("Stick", {new JoystickRow(velmarc, "Stick")});
+    inputs->AddRow("Throttle", {new JoystickRow(velmarc, "Throttle")});
+
+    auto* soundSection = new Section("SoundSection", "Sounds asked for");
+    soundSection->AddWide(sounds, 1);
+    auto* programSection = new Section("ProgramSection", "Voice programs on this computer");
+    programSection->AddWide(programs, 1);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(SectionGap);
+    column->addWidget(link);
+    column->addWidget(inputs);
+    column->addWidget(soundSection, 1);
+    column->addWidget(programSection, 1);
+    ShowState();
+}
+
+void SimulatorPage::TellOfProgram(const QString& sentence) { programs->Add(sentence); }
+
+void SimulatorPage::ShowState() {
+    active->setChecked(velmarc.SimulatorActive());
+    const auto& played = velmarc.Sounds();
+    const std::size_t fresh = std::min(velmarc.SoundsPlayed() - soundsShown, played.size());
+    for (std::size_t index = played.size() - fresh; index < played.size(); ++index)
+        sounds->Add(QString::fromStdString(played[index]));
+    soundsShown = velmarc.SoundsPlayed();
+}
+
+}  // namespace orvelle::deck

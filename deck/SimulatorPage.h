@@ -1,0 +1,36 @@
+// The simulator's side: its link, keyboard and joysticks, the sounds that it was asked to play, and what became of the
+// voice programs that the panel started on this computer.
+#pragma once
+
+#include <QWidget>
+#include <cstddef>
+#include <memory>
+
+class QCheckBox;
+
+namespace orvelle {
+class EmbeddedVelmarc;
+}  // namespace orvelle
+
+namespace orvelle::deck {
+
+class TimedLog;
+
+class SimulatorPage : public QWidget {
+public:
+    explicit SimulatorPage(EmbeddedVelmarc& simulator);
+
+    void TellOfProgram(const QString& sentence);
+
+private:
+    void ShowState();
+
+    EmbeddedVelmarc& velmarc;
+    QCheckBox* active;
+    TimedLog* sounds;
+    TimedLog* programs;
+    std::size_t soundsShown = 0;
+    std::shared_ptr<void> watch;
+};
+
+}  // namespace orvelle::deck

@@ -1,0 +1,36 @@
+#include "deck/VoicePage.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "deck/CalibrationDialog.h"
+#include "deck/DevicesBox.h"
+#include "deck/EngineBox.h"
+#include "deck/ParametersBox.h"
+#include "deck/RoomsBox.h"
+#include "platform/embedded/VoiceEngine.h"
+
+namespace orvelle::deck {
+
+VoicePage::VoicePage(EmbeddedVoiceEngine& voiceEngine, EmbeddedTessaly& tessaly) : engine(voiceEngine) {
+    setObjectName("VoicePage");
+    engine.CalibrationDialogue = [this](Long inputDevice, Long outputDevice) {
+        return AskCalibration(window()->isVisible() ? window() : nullptr, engine, inputDevice, outputDevice);
+    };
+
+    auto* column = new QVBoxLayout;
+    column->setSpacing(SectionGap);
+    column->addWidget(new EngineBox(engine));
+    column->addWidget(new RoomsBox(engine));
+    column->addWidget(new DevicesBox(engine));
+    column->addStretch();
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(3 * DeckUnit);
+    row->addLayout(column, 1);
+    row->addWidget(new ParametersBox(tessaly), 1);
+}
+
+VoicePage::~VoicePage() { engine.CalibrationDialogue = nullptr; }
+
+}  // namespace orvelle::deck

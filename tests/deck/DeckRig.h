@@ -1,0 +1,51 @@
+// An embedded set-up with a deck on it, and what would be the panel's end: whatever reaches it is written down.
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+#include <QTest>
+#include <string>
+#include <vector>
+
+#include "deck/DeckWindow.h"
+#include "platform/embedded/SetUp.h"
+#include "platform/qt/QtEventLoop.h"
+
+namespace orvelle {
+
+class DeckRig : public testing::Test {
+protected:
+    DeckRig();
+
+    // Lets the loop bring all that waits, events at the panel and changes at the deck.
+    static void Settle();
+    // Both links up and the framework link started, a session there.
+    void ConnectAll();
+
+    template <typename Widget>
+    Widget& At(const char* name) {
+        auto* widget = Deck.findChild<Widget*>(name);
+        if (!widget) ADD_FAILURE() << "no widget " << name;
+        return *widget;
+    }
+    // As a user's doing. A click on a widget of another page turns to that page first.
+    void Click(const char* name);
+    void Type(const char* name, const QString& text);
+    void Pick(const char* name, int index);
+    void TurnTo(QWidget& widget);
+    QString TextOf(const char* name);
+
+    QTemporaryDir Folder;
+    QtEventLoop Loop;
+    EmbeddedSetUp SetUp;
+    DeckWindow Deck;
+    std::vector<std::string> Events;  // raised since they were read last
+    std::vector<std::string> TakeEvents();
+
+private:
+    void WriteDownEvents();
+};
+
+}  // namespace orvelle

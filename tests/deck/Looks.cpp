@@ -1,0 +1,101 @@
+// How the deck looks: in each palette nothing is clipped, and a picture of each page is left for a look.
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTabWidget>
+
+#include "deck/Readout.h"
+#include "platform/qt/Theme.h"
+#include "tests/deck/DeckRig.h"
+
+namespace orvelle {
+namespace {
+
+class DeckLooks : public DeckRig, public testing::WithParamInterface<Scheme> {
+protected:
+    DeckLooks() {
+        ApplyTheme(GetParam());
+        // The smallest screen that it is made for; the offscreen one is smaller still at scale 2.
+        Deck.resize(1024, 700);
+        PlayFlight();
+    }
+
+    // A moment with something in every field.
+    void PlayFlight();
+
+    static QString SchemeName() { return GetParam() == Scheme::Dark ? "dark" : "light"; }
+};
+
+void DeckLooks::PlayFlight() {
+    ConnectAll();
+    auto& tessaly = SetUp.Tessaly;
+    SetUp.Velmarc.SeeServer("127.0.0.1");
+    SetUp.Velmarc.SeeServer("TOWERPC");
+    tessaly.SetStatus(1);
+    tessaly.SetCallsign("ORV123");
+    tessaly.SetFrequency(0, "122.800");
+    tessaly.SetFrequency(1, "121.500");
+    tessaly.SetVoice(0, {1, "rw.example.net", "Innsbruck Tower", "pilot", "secret"});
+    tessaly.SetVoice(1, {3, "voice.example.net", "lowi_app", "1234567", "secret"});
+    tessaly.SetReceive("B");
+    tessaly.SetTransmit("1");
+    for (const char* role : {"RWCom1", "VVL"}) {
+        tessaly.CreateInterface("VOICE", role);
+        tessaly.CloseInterface();
+    }
+    tessaly.Claim("COCKPIT2", "TSCom1");
+    tessaly.OpenInterface(2);
+    for (Long index = 0; index < 28; ++index) tessaly.SetParam(index, index < 2 ? 3 + 4 * index : 0);
+    tessaly.SetParam(8, 2);
+    tessaly.SetParamText(8, "voice.example.net/lowi_app");
+    tessaly.CloseInterface();
+    Settle();
+
+    SetUp.VVL.Start(3);
+    Settle();
+    SetUp.VVL.RoomJoin(1, "ORV123 (1234567)", "voice.example.net/lowi_app");
+    SetUp.VVL.ChannelOutput(1, 0, true);
+    SetUp.VVL.RoomMute(1, false);
+    Settle();
+    SetUp.VVL.SetRoomAudio(1, true);
+    SetUp.VVL.SetJoinDelay(60'000);
+    SetUp.VVL.RoomJoin(0, "ORV123 (pilot)", "voice.example.net/tower");
+    SetUp.Velmarc.PlaySound("Tessaly\\RADIO_ONCHANNEL.wav");
+    SetUp.Velmarc.PlaySound("Tessaly\\RADIO_NOCHANNEL.wav");
+    Deck.TellOfProgram("No program was started, because there is no file \"/home/pilot/RogerWilco/roger.exe\".");
+    tessaly.WriteParameter(2, 13, 1);
+    SetUp.Velmarc.PressKey("Ctrl");
+    SetUp.Velmarc.PressKey("F8");
+    Settle();
+}
+
+TEST_P(DeckLooks, NothingIsClipped) {
+    auto& pages = At<QTabWidget>("DeckPages");
+    for (int index = 0; index < pages.count(); ++index) {
+        pages.setCurrentIndex(index);
+        Settle();
+        const auto& area = *qobject_cast<QScrollArea*>(pages.widget(index));
+        EXPECT_EQ(area.verticalScrollBar()->maximum(), 0) << "page " << index << " is too high";
+        EXPECT_EQ(area.horizontalScrollBar()->maximum(), 0) << "page " << index << " is too wide";
+        for (const QWidget* widget : area.findChildren<QWidget*>()) {
+            if (!widget->isVisible()) continue;
+            const bool showsText = qobject_cast<const QAbstractButton*>(widget) ||
+                                   qobject_cast<const QComboBox*>(widget) || qobject_cast<const QLabel*>(widget);
+            if (!showsText || dynamic_cast<const deck::Readout*>(widget)) continue;
+            const QSize needed = widget->minimumSizeHint();
+            EXPECT_GE(widget->width(), needed.width()) << widget->objectName().toStdString() << " on page " << index;
+            EXPECT_GE(widget->height(), needed.height()) << widget->objectName().toStdString() << " on page " << index;
+        }
+        QDir().mkpath(PICTURES);
+        const QString name = QString("%1/deck-%2-%3-%4x.png").arg(PICTURES).arg(index + 1).arg(SchemeName());
+        EXPECT_TRUE(Deck.grab().save(name.arg(Deck.devicePixelRatio())));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Palettes, DeckLooks, testing::Values(Scheme::Light, Scheme::Dark));
+
+}  // namespace
+}  // namespace orvelle

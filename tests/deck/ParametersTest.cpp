@@ -1,0 +1,166 @@
+// The parameters of a record: names, late marks and the writes of other parties.
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTableWidget>
+
+#include "deck/LateWrites.h"
+#include "tests/deck/DeckRig.h"
+
+namespace orvelle {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+enum Column { Late, Number, Meaning, Value, Writer };
+constexpr int FirstText = 28;  // the row of text 7
+
+class DeckParameters : public DeckRig {
+protected:
+    DeckParameters() {
+        ConnectAll();
+        TurnTo(table);
+    }
+
+    Long CreateOwn(const char* role) {
+        const Long id = SetUp.Tessaly.CreateInterface("VOICE", role);
+        SetUp.Tessaly.CloseInterface();
+        Settle();
+        Events.clear();
+        return id;
+    }
+    void PanelWrites(Long id, Long index, Long value) {
+        SetUp.Tessaly.OpenInterface(id);
+        SetUp.Tessaly.SetParam(index, value);
+        SetUp.Tessaly.CloseInterface();
+        Settle();
+    }
+    QString Cell(int row, Column column) { return table.item(row, column)->text(); }
+    void Edit(int row, const QString& text) {
+        table.scrollToItem(table.item(row, Value));
+        table.editItem(table.item(row, Value));
+        auto* editor = table.findChild<QLineEdit*>();
+        ASSERT_TRUE(editor);
+        editor->selectAll();
+        QTest::keyClicks(editor, text);
+        if (text.isEmpty()) QTest::keyClick(editor, Qt::Key_Delete);
+        QTest::keyClick(editor, Qt::Key_Return);
+        Settle();
+    }
+
+    QTableWidget& table = At<QTableWidget>("Parameters");
+};
+
+TEST_F(DeckParameters, TheyBearTheirNames) {
+    EXPECT_EQ(Cell(13, Number), "13");
+    EXPECT_EQ(Cell(13, Meaning), "COM1 not received");
+    EXPECT_EQ(Cell(FirstText, Number), "T7");
+    EXPECT_EQ(Cell(FirstText, Meaning), "COM1 address");
+}
+
+TEST_F(DeckParameters, ThePanelsOwnVoiceRecordIsShownFirst) {
+    CreateOwn("RWCom1");
+    const Long id = CreateOwn("VVL");
+    EXPECT_EQ(At<QComboBox>("ParameterRecord").currentText(), "2  VVL of this panel");
+    PanelWrites(id, 7, 2);
+    EXPECT_EQ(Cell(7, Value), "2");
+    EXPECT_EQ(Cell(7, Meaning), "COM1 state: in the room");
+    EXPECT_EQ(Cell(7, Writer), "panel");
+    EXPECT_EQ(Cell(8, Value), "");
+}
+
+TEST_F(DeckParameters, TheUsersPickStaysUntilItsRecordGoes) {
+    CreateOwn("VVL");
+    const Long other = SetUp.Tessaly.Claim("COCKPIT2", "VVL");
+    Settle();
+    Pick("ParameterRecord", 1);
+    PanelWrites(1, 2, 1);
+    EXPECT_EQ(At<QComboBox>("ParameterRecord").currentText(), "2  VVL of COCKPIT2");
+    EXPECT_EQ(Cell(2, Value), "");
+    SetUp.Tessaly.DropClaim(other);
+    Settle();
+    EXPECT_EQ(At<QComboBox>("ParameterRecord").currentText(), "1  VVL of this panel");
+    EXPECT_EQ(Cell(2, Value), "1");
+}
+
+TEST_F(DeckParameters, EditingANumberIsAnotherPartysWrite) {
+    const Long id = CreateOwn("VVL");
+    Edit(13, "1");
+    EXPECT_THAT(TakeEvents(), ElementsAre("parameter changed 1/13"));
+    EXPECT_EQ(SetUp.Tessaly.Records().at(id).Parameters.at(13).Content, 1);
+    EXPECT_EQ(Cell(13, Value), "1");
+    EXPECT_EQ(Cell(13, Writer), "other");
+}
+
+TEST_F(DeckParameters, EditingATextIsAnotherPartysWrite) {
+    const Long id = CreateOwn("VVL");
+    Edit(FirstText + 2, "voice.example.net/private");
+    EXPECT_THAT(TakeEvents(), ElementsAre("parameter changed 1/9"));
+    EXPECT_EQ(SetUp.Tessaly.Records().at(id).Texts.at(9).Content, "voice.example.net/private");
+    Edit(FirstText + 2, "");
+    EXPECT_EQ(SetUp.Tessaly.Records().at(id).Texts.at(9).Content, "");
+}
+
+TEST_F(DeckParameters, WhatIsNoNumberIsToldAndNotWritten) {
+    CreateOwn("VVL");
+    Edit(13, "1.5");
+    EXPECT_EQ(TextOf("ParameterNote"), "\"1.5\" is no whole number of 32 bits");
+    Edit(13, "2147483648");
+    EXPECT_EQ(TextOf("ParameterNote"), "\"2147483648\" is no whole number of 32 bits");
+    EXPECT_THAT(TakeEvents(), IsEmpty());
+    EXPECT_EQ(Cell(13, Value), "");
+    Edit(13, "-2147483648");
+    EXPECT_EQ(Cell(13, Value), "-2147483648");
+}
+
+TEST_F(DeckParameters, AWriteWithoutTheLinkIsTold) {
+    CreateOwn("VVL");
+    SetUp.Tessaly.SetLink(LinkState::Down);
+    Settle();
+    TakeEvents();
+    Edit(13, "1");
+    EXPECT_EQ(TextOf("ParameterNote"), "Not written, as the network link is down");
+    EXPECT_THAT(TakeEvents(), IsEmpty());
+    EXPECT_EQ(Cell(13, Value), "");
+}
+
+TEST_F(DeckParameters, AnEditThatChangesNothingIsNoWrite) {
+    const Long id = CreateOwn("VVL");
+    PanelWrites(id, 13, 1);
+    Edit(13, "1");
+    EXPECT_THAT(TakeEvents(), IsEmpty());
+}
+
+TEST_F(DeckParameters, WithoutARecordNothingCanBeEdited) {
+    EXPECT_EQ(At<QComboBox>("ParameterRecord").count(), 0);
+    EXPECT_FALSE(table.item(13, Value)->flags() & Qt::ItemIsEditable);
+}
+
+TEST_F(DeckParameters, WhatChangedLatelyIsMarked) {
+    const Long id = CreateOwn("VVL");
+    PanelWrites(id, 2, 1);
+    EXPECT_EQ(Cell(2, Late), "●");
+    EXPECT_TRUE(table.item(2, Value)->font().bold());
+    EXPECT_EQ(Cell(3, Late), "");
+    EXPECT_FALSE(table.item(3, Value)->font().bold());
+}
+
+TEST(LateWrites, AFlurryLastsUntilAPauseAndStaysUntilTheNext) {
+    constexpr std::int64_t start = 50'000;
+    deck::LateWrites late;
+    late.Forget(10);
+    EXPECT_FALSE(late.IsLate(10));
+    late.Count(11, start);
+    late.Count(13, start + deck::LateWrites::Pause - 1);
+    EXPECT_FALSE(late.IsLate(10));
+    EXPECT_TRUE(late.IsLate(11));
+    EXPECT_TRUE(late.IsLate(13));
+    late.Count(13, start + 10 * deck::LateWrites::Pause);
+    EXPECT_TRUE(late.IsLate(11));
+    late.Count(14, start + 11 * deck::LateWrites::Pause);
+    EXPECT_FALSE(late.IsLate(13));
+    EXPECT_TRUE(late.IsLate(14));
+}
+
+}  // namespace
+}  // namespace orvelle

@@ -1,0 +1,104 @@
+// The interface records: what the table shows, and another computer's claims.
+#include <QLineEdit>
+#include <QTableWidget>
+#include <QToolButton>
+
+#include "tests/deck/DeckRig.h"
+
+namespace orvelle {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class DeckRecords : public DeckRig {
+protected:
+    DeckRecords() { ConnectAll(); }
+
+    void CreateOwn(const char* role) {
+        SetUp.Tessaly.CreateInterface("VOICE", role);
+        SetUp.Tessaly.CloseInterface();
+        Settle();
+    }
+    QStringList Row(int row) {
+        QStringList cells;
+        for (int column = 0; column < table.columnCount(); ++column) cells << table.item(row, column)->text();
+        return cells;
+    }
+
+    QTableWidget& table = At<QTableWidget>("Records");
+};
+
+TEST_F(DeckRecords, EachRoleIsClaimedAndDropped) {
+    Long id = 1;
+    for (const char* button : {"ClaimRWCom1", "ClaimRWCom2", "ClaimTSCom1", "ClaimTSCom2", "ClaimVVL"}) {
+        Click(button);
+        EXPECT_THAT(TakeEvents(), ElementsAre("record appeared " + std::to_string(id)));
+        EXPECT_EQ(SetUp.Tessaly.Records().at(id).Role, std::string(button).substr(std::string("Claim").size()));
+        EXPECT_TRUE(At<QToolButton>(button).isChecked());
+        ++id;
+    }
+    Click("ClaimTSCom1");
+    EXPECT_THAT(TakeEvents(), ElementsAre("record removed 3"));
+    EXPECT_FALSE(At<QToolButton>("ClaimTSCom1").isChecked());
+    EXPECT_EQ(table.rowCount(), 4);
+}
+
+TEST_F(DeckRecords, TheTableTellsOwnersAndParameters) {
+    CreateOwn("VVL");
+    SetUp.Tessaly.OpenInterface(1);
+    SetUp.Tessaly.SetParam(0, 3);
+    SetUp.Tessaly.SetParamText(7, "server/room");
+    SetUp.Tessaly.CloseInterface();
+    Click("ClaimRWCom1");
+    EXPECT_EQ(Row(0), QStringList({"1", "VOICE", "VVL", "this panel", "0=3  7=\"server/room\""}));
+    EXPECT_EQ(Row(1), QStringList({"2", "VOICE", "RWCom1", "COCKPIT2", ""}));
+}
+
+TEST_F(DeckRecords, EachComputerHasItsOwnClaims) {
+    Click("ClaimVVL");
+    Type("OtherComputer", "COCKPIT3");
+    EXPECT_FALSE(At<QToolButton>("ClaimVVL").isChecked());
+    Click("ClaimVVL");
+    EXPECT_EQ(Row(1).at(3), "COCKPIT3");
+    Type("OtherComputer", "COCKPIT2");
+    Click("ClaimVVL");
+    EXPECT_EQ(table.rowCount(), 1);
+    EXPECT_EQ(Row(0).at(3), "COCKPIT3");
+}
+
+TEST_F(DeckRecords, ASelectedRecordIsDroppedByItsOwner) {
+    CreateOwn("RWCom1");
+    Click("ClaimVVL");
+    TakeEvents();
+    EXPECT_FALSE(At<QWidget>("DropRecord").isEnabled());
+    table.selectRow(1);
+    Click("DropRecord");
+    EXPECT_THAT(TakeEvents(), ElementsAre("record removed 2"));
+    table.selectRow(0);
+    EXPECT_FALSE(At<QWidget>("DropRecord").isEnabled()) << "the panel's own record";
+}
+
+TEST_F(DeckRecords, AChangeOfTheSelectedRecordIsAnnounced) {
+    CreateOwn("VVL");
+    TakeEvents();
+    table.selectRow(0);
+    Click("AnnounceRecord");
+    EXPECT_THAT(TakeEvents(), ElementsAre("record changed 1"));
+}
+
+TEST_F(DeckRecords, TheSelectionStaysWithItsRecord) {
+    Click("ClaimRWCom1");
+    Click("ClaimRWCom2");
+    Click("ClaimVVL");
+    table.selectRow(2);
+    Click("ClaimRWCom1");
+    ASSERT_FALSE(table.selectedItems().isEmpty());
+    EXPECT_EQ(table.selectedItems().first()->text(), "3");
+    Click("ClaimVVL");
+    EXPECT_THAT(table.selectedItems(), IsEmpty());
+    EXPECT_FALSE(At<QWidget>("AnnounceRecord").isEnabled());
+}
+
+}  // namespace
+}  // namespace orvelle

@@ -1,0 +1,135 @@
+// The simulator's side but its keyboard: link, servers, joysticks, sounds and starts of programs.
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QListWidget>
+
+#include "tests/deck/DeckRig.h"
+
+namespace orvelle {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class DeckSimulator : public DeckRig {};
+
+TEST_F(DeckSimulator, TheSwitchTakesTheLinkUpAndDown) {
+    EXPECT_EQ(TextOf("SimulatorStateText"), "Not connected, server AUTOMATIC");
+    Click("SimulatorLink");
+    EXPECT_THAT(TakeEvents(), ElementsAre("simulator connected"));
+    EXPECT_EQ(TextOf("SimulatorStateText"), "Connected, server AUTOMATIC");
+    Click("SimulatorLink");
+    EXPECT_THAT(TakeEvents(), ElementsAre("simulator disconnected"));
+    EXPECT_EQ(TextOf("SimulatorStateText"), "Not connected, server AUTOMATIC");
+}
+
+TEST_F(DeckSimulator, ALinkOnItsWaySaysSo) {
+    SetUp.Velmarc.SetDelay(60'000);
+    Click("SimulatorLink");
+    EXPECT_EQ(TextOf("SimulatorStateText"), "Not connected yet, server AUTOMATIC");
+    EXPECT_TRUE(At<QCheckBox>("SimulatorLink").isChecked());
+}
+
+TEST_F(DeckSimulator, TheServerInUseFollowsThePanel) {
+    SetUp.Velmarc.SetServer("TOWERPC");
+    Settle();
+    EXPECT_EQ(TextOf("SimulatorStateText"), "Not connected, server TOWERPC");
+    SetUp.Velmarc.SetServer("");
+    Settle();
+    EXPECT_EQ(TextOf("SimulatorStateText"), "Not connected, server (empty)");
+}
+
+TEST_F(DeckSimulator, AServerIsSeenByTheButtonOrEnterAsItIsTyped) {
+    EXPECT_EQ(TextOf("SimulatorServersSeen"), "None yet");
+    Type("SimulatorServerSeen", " 127.0.0.1 ");
+    At<QLineEdit>("SimulatorServerSeen").setText("TOWERPC");
+    Click("SimulatorSeeServer");
+    EXPECT_THAT(TakeEvents(), ElementsAre("simulator found  127.0.0.1 ", "simulator found TOWERPC"));
+    EXPECT_EQ(TextOf("SimulatorServersSeen"), " 127.0.0.1 , TOWERPC");
+}
+
+TEST_F(DeckSimulator, NoServerIsSeenWithoutAName) {
+    At<QLineEdit>("SimulatorServerSeen").clear();
+    Click("SimulatorSeeServer");
+    EXPECT_THAT(TakeEvents(), IsEmpty());
+}
+
+TEST_F(DeckSimulator, AJoystickButtonIsDownAsLongAsTheMouseHoldsIt) {
+    ConnectAll();
+    auto& button = At<QWidget>("Stick3");
+    QTest::mousePress(&button, Qt::LeftButton);
+    Settle();
+    EXPECT_THAT(TakeEvents(), ElementsAre("button down Stick.Button 3"));
+    EXPECT_THAT(SetUp.Velmarc.HeldButtons(), ElementsAre("Stick.Button 3"));
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    Settle();
+    EXPECT_THAT(TakeEvents(), ElementsAre("button up Stick.Button 3"));
+}
+
+TEST_F(DeckSimulator, TheSpaceBarHoldsAJoystickButtonToo) {
+    ConnectAll();
+    auto& button = At<QWidget>("Throttle8");
+    button.setFocus();
+    QTest::keyPress(&button, Qt::Key_Space);
+    Settle();
+    EXPECT_THAT(TakeEvents(), ElementsAre("button down Throttle.Button 8"));
+    QTest::keyRelease(&button, Qt::Key_Space);
+    Settle();
+    EXPECT_THAT(TakeEvents(), ElementsAre("button up Throttle.Button 8"));
+}
+
+TEST_F(DeckSimulator, AHeldButtonIsReportedUpBeforeItsLinkIsLost) {
+    ConnectAll();
+    QTest::mousePress(&At<QWidget>("Stick1"), Qt::LeftButton);
+    SetUp.Velmarc.SetLink(LinkState::Down);
+    Settle();
+    QTest::mouseRelease(&At<QWidget>("Stick1"), Qt::LeftButton);
+    Settle();
+    EXPECT_THAT(TakeEvents(),
+                ElementsAre("button down Stick.Button 1", "button up Stick.Button 1", "simulator disconnected"));
+}
+
+TEST_F(DeckSimulator, ClosingTheWindowLetsGoWhatIsHeld) {
+    ConnectAll();
+    QTest::mousePress(&At<QWidget>("Stick1"), Qt::LeftButton);
+    Settle();
+    Deck.close();
+    Settle();
+    EXPECT_THAT(TakeEvents(), ElementsAre("button down Stick.Button 1", "button up Stick.Button 1"));
+}
+
+TEST_F(DeckSimulator, SoundsAreListedInTheirOrderWithTheirTime) {
+    ConnectAll();
+    SetUp.Velmarc.PlaySound("Tessaly\\RADIO_ONCHANNEL.wav");
+    SetUp.Velmarc.PlaySound("Tessaly\\RADIO_NOCHANNEL.wav");
+    Settle();
+    SetUp.Velmarc.PlaySound("Tessaly\\RADIO_ONCHANNEL.wav");
+    Settle();
+    const auto& list = At<QListWidget>("Sounds");
+    ASSERT_EQ(list.count(), 3);
+    EXPECT_TRUE(list.item(0)->text().endsWith("  Tessaly\\RADIO_ONCHANNEL.wav"));
+    EXPECT_TRUE(list.item(1)->text().endsWith("  Tessaly\\RADIO_NOCHANNEL.wav"));
+    EXPECT_TRUE(list.item(2)->text().contains(QRegularExpression("^\\d\\d:\\d\\d:\\d\\d  ")));
+}
+
+TEST_F(DeckSimulator, TheListOfSoundsKeepsTheLast200) {
+    ConnectAll();
+    for (int sound = 1; sound <= 250; ++sound) SetUp.Velmarc.PlaySound(std::to_string(sound));
+    Settle();
+    SetUp.Velmarc.PlaySound("last");
+    Settle();
+    const auto& list = At<QListWidget>("Sounds");
+    EXPECT_EQ(list.count(), 200);
+    EXPECT_TRUE(list.item(0)->text().endsWith("  52"));
+    EXPECT_TRUE(list.item(199)->text().endsWith("  last"));
+}
+
+TEST_F(DeckSimulator, AFailedStartIsToldInItsSentence) {
+    Deck.TellOfProgram("No program was started, because there is no file \"/opt/rw\".");
+    const auto& list = At<QListWidget>("Programs");
+    ASSERT_EQ(list.count(), 1);
+    EXPECT_TRUE(list.item(0)->text().endsWith("  No program was started, because there is no file \"/opt/rw\"."));
+}
+
+}  // namespace
+}  // namespace orvelle

@@ -1,0 +1,119 @@
+// The window as a whole: names, keyboard, place, and that it rests while nothing happens.
+#include <QAbstractButton>
+#include <QAbstractEventDispatcher>
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScreen>
+#include <set>
+
+#include "tests/deck/DeckRig.h"
+
+namespace orvelle {
+namespace {
+
+class DeckWindowTest : public DeckRig {
+protected:
+    // What the user operates; parts of such widgets are none.
+    std::vector<QWidget*> Fields() {
+        std::vector<QWidget*> fields;
+        for (QWidget* widget : Deck.findChildren<QWidget*>()) {
+            const bool isPart = qobject_cast<QAbstractSpinBox*>(widget->parentWidget()) ||
+                                widget->objectName().startsWith("qt_") || widget->objectName() == "ScrollLeftButton" ||
+                                widget->objectName() == "ScrollRightButton" || widget->inherits("QTableCornerButton") ||
+                                widget->inherits("QComboBoxListView");
+            const bool isField = qobject_cast<QAbstractButton*>(widget) || qobject_cast<QLineEdit*>(widget) ||
+                                 qobject_cast<QComboBox*>(widget) || qobject_cast<QAbstractSpinBox*>(widget) ||
+                                 qobject_cast<QAbstractItemView*>(widget) || widget->objectName() == "KeyboardField";
+            if (isField && !isPart && !widget->inherits("QHeaderView")) fields.push_back(widget);
+        }
+        return fields;
+    }
+};
+
+TEST_F(DeckWindowTest, EveryFieldHasANameOfItsOwnAndATip) {
+    std::set<QString> names;
+    for (const QWidget* field : Fields()) {
+        const std::string name = field->objectName().toStdString();
+        EXPECT_FALSE(name.empty()) << "a " << field->metaObject()->className() << " without a name";
+        EXPECT_TRUE(names.insert(field->objectName()).second) << name << " is there twice";
+        EXPECT_FALSE(field->toolTip().isEmpty()) << name << " has no tool tip";
+    }
+    EXPECT_GT(names.size(), 100U);
+}
+
+TEST_F(DeckWindowTest, EveryFieldTakesTheFocusByKeyboard) {
+    for (const QWidget* field : Fields())
+        EXPECT_TRUE(field->focusPolicy() & Qt::TabFocus) << field->objectName().toStdString();
+}
+
+TEST_F(DeckWindowTest, NoTwoMnemonicsOfAPageAreAlike) {
+    auto& pages = At<QTabWidget>("DeckPages");
+    for (int index = 0; index < pages.count(); ++index) {
+        std::set<QKeySequence> seen;
+        const auto meet = [&](const QString& text) {
+            const QKeySequence mnemonic = QKeySequence::mnemonic(text);
+            if (!mnemonic.isEmpty()) {
+                EXPECT_TRUE(seen.insert(mnemonic).second) << text.toStdString();
+            }
+        };
+        for (int tab = 0; tab < pages.count(); ++tab) meet(pages.tabText(tab));
+        for (const auto* button : pages.widget(index)->findChildren<QAbstractButton*>()) meet(button->text());
+        for (const auto* label : pages.widget(index)->findChildren<QLabel*>())
+            if (label->buddy()) meet(label->text());
+    }
+}
+
+TEST_F(DeckWindowTest, AMnemonicLeadsToItsField) {
+    QTest::keyClick(&Deck, Qt::Key_V, Qt::AltModifier);
+    EXPECT_TRUE(At<QWidget>("ServerCOM1").hasFocus());
+    QTest::keyClick(&Deck, Qt::Key_K, Qt::AltModifier);
+    EXPECT_TRUE(At<QWidget>("KeyboardField").hasFocus());
+}
+
+TEST_F(DeckWindowTest, ItSaysWhatItIs) { EXPECT_EQ(Deck.windowTitle(), "OrvelleCP Flight Deck"); }
+
+TEST_F(DeckWindowTest, ClosingItEndsNothing) {
+    EXPECT_TRUE(Deck.close());
+    EXPECT_FALSE(Deck.testAttribute(Qt::WA_QuitOnClose));
+    EXPECT_FALSE(Deck.testAttribute(Qt::WA_DeleteOnClose));
+    Deck.OpenAt({0, 0});
+    EXPECT_TRUE(Deck.isVisible());
+}
+
+TEST_F(DeckWindowTest, ItOpensWithoutTakingTheFocus) { EXPECT_TRUE(Deck.testAttribute(Qt::WA_ShowWithoutActivating)); }
+
+TEST_F(DeckWindowTest, ItStaysOnTheScreen) {
+    const QRect room = Deck.screen()->availableGeometry();
+    Deck.close();
+    Deck.OpenAt(room.bottomRight());
+    EXPECT_TRUE(room.contains(Deck.frameGeometry()));
+}
+
+TEST_F(DeckWindowTest, NothingRunsWhileNothingHappens) {
+    ConnectAll();
+    Deck.setFocus();
+    const auto timers = [this] {
+        qsizetype count = 0;
+        auto* dispatcher = QAbstractEventDispatcher::instance();
+        for (QObject* object : Deck.findChildren<QObject*>()) count += dispatcher->registeredTimers(object).size();
+        return count;
+    };
+    // The toolkit's own one-shot timers of layouts and views run out.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return timers() == 0; }));
+}
+
+TEST_F(DeckWindowTest, ADeckThatGoesLeavesTheSetUpAlone) {
+    {
+        DeckWindow other(SetUp);
+        SetUp.Velmarc.SetLink(LinkState::Up);
+    }
+    Settle();
+    float value = 0;
+    EXPECT_FALSE(SetUp.VVL.Calibrate(-1, -1, value, value));
+}
+
+}  // namespace
+}  // namespace orvelle
