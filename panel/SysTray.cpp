@@ -44,8 +44,8 @@ void cSysTray::InitProperties() {
 
 void cSysTray::ReadProperties(const PropertyBag& bag) {
     InTray(bag.InTray);
-    TrayIcon(bag.TrayIcon);
-    TrayTip(bag.TrayTip);
+    TrayIcon(bag.TrayIcon.value_or(Picture()));
+    TrayTip(bag.TrayTip.value_or(std::string(DefaultTip) + '\0'));
 }
 
 cSysTray::PropertyBag cSysTray::WriteProperties() const { return {inTray, trayIcon, trayTip}; }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "platform/Event.h"
@@ -20,11 +21,12 @@ struct mSysTray {
 
 class cSysTray : public Control {
 public:
-    // What a designer keeps of an instance.
+    // What a designer keeps of an instance. What it does not keep is not in the tray, shows the control's own picture
+    // and bears the component's description.
     struct PropertyBag {
         bool InTray = false;
-        orvelle::Picture TrayIcon;
-        std::string TrayTip;
+        std::optional<orvelle::Picture> TrayIcon;
+        std::optional<std::string> TrayTip;
     };
     enum class Mode { Designer, Run };
 
