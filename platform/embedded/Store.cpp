@@ -70,7 +70,7 @@ void SqliteStore::OpenSettingList(const std::string& section) {
         if (listed.empty() || listed.back() != name) listed.push_back(name);
     }
     std::ranges::sort(listed, {}, ListOrder);
-    listed.erase(std::ranges::unique(listed).begin(), listed.end());
+    listed.erase(std::unique(listed.begin(), listed.end()), listed.end());
 }
 
 Long SqliteStore::SettingListCount() { return static_cast<Long>(listed.size()); }

@@ -31,7 +31,7 @@ fs::path FreeName(const fs::path& path) {
 
 // The logs go first: whatever interrupts this, a new file is never taken together with an old log.
 fs::path SetAside(const fs::path& path) {
-    const fs::path name = FreeName(path);
+    fs::path name = FreeName(path);
     for (const char* suffix : StoreFileSuffixes) {
         const fs::path part = fs::path(path) += suffix;
         if (fs::exists(part)) fs::rename(part, fs::path(name) += suffix);

@@ -31,7 +31,7 @@ std::string FileName(const fs::path& path) {
 
 // The file as it stands, without its log and without a lock: all that can be had where nothing can be written.
 std::string ImmutableName(const fs::path& path) {
-    static constexpr char digits[] = "0123456789ABCDEF";
+    static constexpr char Digits[] = "0123456789ABCDEF";
     std::string name = "file:";
     for (const char character : FileName(fs::absolute(path))) {
         const auto byte = static_cast<unsigned char>(character);
@@ -39,8 +39,8 @@ std::string ImmutableName(const fs::path& path) {
             name += character;
         } else {
             name += '%';
-            name += digits[byte >> 4];
-            name += digits[byte & 15];
+            name += Digits[byte >> 4];
+            name += Digits[byte & 15];
         }
     }
     return name + "?immutable=1";

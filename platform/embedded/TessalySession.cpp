@@ -89,13 +89,13 @@ void EmbeddedTessaly::TellSession(std::function<void()> event) {
 }
 
 const SessionSetting& EmbeddedTessaly::OpenedSession() const {
-    static const SessionSetting none;
-    return openSessions > 0 ? session : none;
+    static const SessionSetting None;
+    return openSessions > 0 ? session : None;
 }
 
 const RadioVoiceSetting& EmbeddedTessaly::OpenedVoice(Long radio) const {
-    static const RadioVoiceSetting none;
-    return IsRadio(radio) ? OpenedSession().Voice[static_cast<std::size_t>(radio)] : none;
+    static const RadioVoiceSetting None;
+    return IsRadio(radio) ? OpenedSession().Voice[static_cast<std::size_t>(radio)] : None;
 }
 
 }  // namespace orvelle

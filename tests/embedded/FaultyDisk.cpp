@@ -1,7 +1,6 @@
 #include "tests/embedded/FaultyDisk.h"
 
-#include <signal.h>
-
+#include <csignal>
 #include <new>
 
 namespace orvelle {

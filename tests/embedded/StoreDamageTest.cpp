@@ -83,7 +83,7 @@ INSTANTIATE_TEST_SUITE_P(
                }},
         Damage{"GarbageInTheHeader", [](const StoreFolder& folder) { Overwrite(folder, 0, 100); }},
         Damage{"GarbageInTheSchema", [](const StoreFolder& folder) { Overwrite(folder, 100, 3996); }},
-        Damage{"AGarbagePage", [](const StoreFolder& folder) { Overwrite(folder, 4096 * 2, 4096); }},
+        Damage{"AGarbagePage", [](const StoreFolder& folder) { Overwrite(folder, 8192, 4096); }},
         Damage{"OlderThanTheFirst", [](const StoreFolder& folder) { folder.Run("PRAGMA user_version = 0"); }},
         Damage{"ANegativeVersion", [](const StoreFolder& folder) { folder.Run("PRAGMA user_version = -1"); }},
         Damage{"SomebodyElses", [](const StoreFolder& folder) { folder.Run("PRAGMA application_id = 1"); }},

@@ -43,7 +43,7 @@ void WriteHandlers(StoreFolder& folder, int reports) {
         auto store = folder.Open();
         for (Long count = 0; count < HandlersInARun; ++count, ++handler) {
             WriteHandler(store, handler);
-            const auto done = static_cast<char>(handler);
+            const auto done = static_cast<unsigned char>(handler);
             if (write(reports, &done, 1) != 1) _exit(1);
         }
     }
@@ -70,7 +70,7 @@ Long StoreKillTest::WriteAndBeKilled(StoreFolder& folder, long atWrite, FaultyDi
     }
     close(channel[1]);
     Long last = 0;
-    char done = 0;
+    unsigned char done = 0;
     while (read(channel[0], &done, 1) == 1) last = done;
     close(channel[0]);
     int status = 0;

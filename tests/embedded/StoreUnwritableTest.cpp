@@ -18,8 +18,8 @@ namespace fs = std::filesystem;
 void InAFolderOfNobody(const std::function<void(StoreFolder& folder)>& checks) {
     const pid_t child = fork();
     if (child == 0) {
-        constexpr uid_t nobody = 65534;
-        if (geteuid() == 0 && (setgid(nobody) != 0 || setuid(nobody) != 0)) _exit(2);
+        constexpr uid_t Nobody = 65534;
+        if (geteuid() == 0 && (setgid(Nobody) != 0 || setuid(Nobody) != 0)) _exit(2);
         {
             const FaultyDisk disk;
             StoreFolder folder;
@@ -151,6 +151,19 @@ TEST_F(StoreFullDiskTest, AFullDiskAtTheFirstStartIsToldAndTheRunGoesOn) {
     EXPECT_EQ(store.GetSettingLong("OrvelleCP", "Left", 1), 2);
     EXPECT_EQ(folder.Sentences.size(), 1U);
     EXPECT_FALSE(fs::exists(folder.Path()));
+}
+
+TEST_F(StoreFullDiskTest, ADamagedFileIsKeptWhereNoNewOneCanBeMade) {
+    WriteBytes(folder.Path(), "damaged");
+    disk.FailFromNowOn();
+    auto store = folder.Open();
+    store.SaveSettingLong("OrvelleCP", "Left", 2);
+    store.HandlerEnded();
+    EXPECT_EQ(store.GetSettingLong("OrvelleCP", "Left", 1), 2);
+    ASSERT_EQ(folder.Sentences.size(), 1U);
+    EXPECT_NE(folder.Sentences[0].find("was kept as"), std::string::npos);
+    EXPECT_NE(folder.Sentences[0].find("no new one can be made (database or disk is full)"), std::string::npos);
+    EXPECT_EQ(BytesOf(folder.Path("OrvelleCP.sqlite.damaged-1")), "damaged");
 }
 
 TEST_F(StoreFullDiskTest, AFullDiskInTheMiddleOfAHandlerLosesNothingOfTheFile) {

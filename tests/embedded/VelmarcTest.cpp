@@ -72,6 +72,14 @@ TEST_F(VelmarcTest, TheLinkComesUpAndGoesDownFromTheLoop) {
     EXPECT_EQ(velmarc.DesktopName(), "");
 }
 
+TEST_F(VelmarcTest, TellsOfTheComputerThatTheDeckPlays) {
+    velmarc.SetComputer({"10.0.0.2", "COCKPIT", "Main"});
+    Connect();
+    EXPECT_EQ(velmarc.IPAddress() + " " + velmarc.ComputerName() + " " + velmarc.DesktopName(),
+              "10.0.0.2 COCKPIT Main");
+    EXPECT_EQ(velmarc.Computer().ComputerName, "COCKPIT");
+}
+
 TEST_F(VelmarcTest, ALinkThatStandsAsWantedRaisesNothing) {
     Connect();
     velmarc.SetLink(LinkState::Up);
