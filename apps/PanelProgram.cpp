@@ -1,0 +1,68 @@
+#include "apps/PanelProgram.h"
+
+#include <QIcon>
+#include <QStandardPaths>
+#include <QSysInfo>
+
+#include "platform/RuntimeError.h"
+#include "platform/linux/OwnFile.h"
+#include "platform/qt/StatusImage.h"
+
+namespace orvelle {
+
+namespace {
+
+constexpr int GapBesidePanel = 16;  // logical pixels
+
+}  // namespace
+
+std::string SettingsFile() {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return (folder + "/OrvelleCP/settings.sqlite").toStdString();
+}
+
+void EndByError(ProcessProgram& program, const std::exception& error) {
+    if (const auto* runtimeError = dynamic_cast<const RuntimeError*>(&error)) program.Fail(runtimeError->Number);
+    program.Fail(std::string("internal error: ") + error.what());
+}
+
+PanelProgram::PanelProgram(ProcessProgram& endingProgram, TerminationSignals& terminationSignals,
+                           const std::string& settingsFile)
+    : program(endingProgram),
+      endings(terminationSignals),
+      SetUp(loop, settingsFile, {QSysInfo::machineHostName().toStdString()}),
+      Keyboard("", BesideOwnFile("orvelle-key-guard")),
+      Processes(""),
+      tray(Table, [](const Picture& picture) { return StatusIcon(picture.Name); }),
+      Panel({SetUp.Velmarc, SetUp.Store, SetUp.Store, SetUp.Tessaly, SetUp.VVL, SetUp.VolumeControl,
+             SetUp.VolumeControlHP, SetUp.TSRemote, SetUp.MediaPlayers, dialog, messages, Keyboard, queue, windows,
+             clock, Processes, program, tray, urls}) {
+    program.AtEnd([this] { Keyboard.ReleaseAll(); });
+    Panel.Attach(timers);
+    Panel.Attach(menus);
+    Window = std::make_unique<MainWindow>(Panel);
+
+    SetUp.Notice = [this](const std::string& sentence) { messages.MsgBox(sentence); };
+    Processes.StartFailed = [this](const std::string& sentence) {
+        if (Deck) Deck->TellOfProgram(sentence);
+    };
+    loop.WhenReadable(Processes.Descriptor(), [this] { Processes.Serve(); });
+    loop.WhenReadable(endings.Descriptor(), [this] {
+        const int signal = endings.Take();
+        if (signal == 0) return;
+        // The same door that other programs use; it ends the process unless nobody is behind it.
+        Table.Deliver(Panel.Stub1, Stub::TerminationMessage, 0, 0);
+        program.EndBySignal(signal);
+    });
+}
+
+void PanelProgram::Open() {
+    Panel.Show();
+    // The deck waits for the panel to be seen.
+    loop.Post([this] {
+        Deck = std::make_unique<DeckWindow>(SetUp);
+        Deck->OpenAt(Window->frameGeometry().topRight() + QPoint(GapBesidePanel, 0));
+    });
+}
+
+}  // namespace orvelle

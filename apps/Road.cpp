@@ -1,0 +1,195 @@
+#include "apps/Road.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QFile>
+#include <QGuiApplication>
+#include <QPixmap>
+#include <QScreen>
+#include <array>
+#include <chrono>
+#include <cstdlib>
+#include <iostream>
+
+#include "platform/ScanCodes.h"
+
+namespace orvelle {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto StepTime = 20s;
+constexpr Long TalkKey = 88;  // F12
+constexpr const char* RoadKey = "F8";
+
+struct Page {
+    const char* Node;  // of the tree; null where none leads to the page
+    const char* Picture;
+};
+
+// By panel
+constexpr std::array<Page, 13> Pages{{{"Config", "overview"},
+                                      {"Velmarc", "simulator-link"},
+                                      {"RogerWilco", "rogerwilco"},
+                                      {"Teamspeak", "teamspeak"},
+                                      {"Joy to Key", "joy-to-key"},
+                                      {"VATSIM", "vatsim-voice"},
+                                      {"Volumes", "volumes"},
+                                      {"Key to Key", "key-to-key"},
+                                      {"Kestrine", "framework-link"},
+                                      {"Options", "options"},
+                                      {nullptr, "voice-atis"},
+                                      {"Extra", "extra"},
+                                      {"Key mappings", "vatsim-keys"}}};
+
+// Serves the loop until `isTrue`, or until the time is up.
+bool WaitUntil(const std::function<bool()>& isTrue) {
+    const QDeadlineTimer deadline(StepTime);
+    while (!isTrue()) {
+        if (deadline.hasExpired()) return false;
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 20);
+    }
+    return true;
+}
+
+// Serves the loop until nothing waits there.
+void Settle() {
+    for (int turn = 0; turn < 10; ++turn) QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+}
+
+}  // namespace
+
+Road::Road(PanelProgram& panelProgram, const QString& pictureFolder)
+    : house(panelProgram), pictures(pictureFolder), folder(QDir::temp()) {
+    pictures.mkpath(".");
+    const QString name = QStringLiteral("orvelle-road-%1").arg(QCoreApplication::applicationPid());
+    folder.mkpath(name);
+    folder.cd(name);
+}
+
+void Road::Prepare() {
+    // A voice program that writes down how it was called.
+    QFile program(folder.filePath("voice-program"));
+    if (program.open(QFile::WriteOnly)) program.write("#!/bin/sh\necho \"$0 $*\" >>\"${0%/*}/commands\"\n");
+    program.close();
+    program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+
+    house.SetUp.Store.SaveSettingString("OrvelleCP", "RWPath", program.fileName().toStdString());
+    house.SetUp.Store.SaveSettingString("OrvelleCP", "RWPTTKey", std::to_string(TalkKey));
+    house.SetUp.Store.SaveSettingLong("OrvelleCP", "VoiceTuningSound", 1);
+    house.SetUp.Store.HandlerEnded();
+}
+
+bool Road::Step(const std::string& told, const std::function<void()>& act, const std::function<bool()>& isDone) {
+    act();
+    const bool done = WaitUntil(isDone);
+    std::cout << (done ? "  " : "  NOT SO: ") << told << std::endl;
+    return done;
+}
+
+std::string Road::VoiceCommands() const {
+    QFile commands(folder.filePath("commands"));
+    return commands.open(QFile::ReadOnly) ? commands.readAll().trimmed().toStdString() : "";
+}
+
+bool Road::Play() {
+    FrmOrvelle& panel = house.Panel;
+    EmbeddedVelmarc& simulator = house.SetUp.Velmarc;
+    EmbeddedTessaly& network = house.SetUp.Tessaly;
+    const auto click = [this](const char* name) { house.Window->findChild<QAbstractButton*>(name)->click(); };
+    const auto keyIsDown = [this] { return keys.KeysDown() == std::vector<int>{LinuxKeyOfScanCode(TalkKey)}; };
+    const std::string place = folder.path().toStdString() + "/";
+    const std::string join =
+        place + "voice-program /join1 voice.example/tower /priority high /netspeed 2 /callsign ABC123";
+
+    const bool played =
+        Step(
+            "The panel's window and its tray icon are there, and the flight deck beside them.", [] {},
+            [this] { return house.Window->isVisible() && house.Deck && house.Deck->isVisible(); }) &&
+        Step(
+            "The simulator link is up: \"FS with Velmarc is up and running\"",
+            [&] { simulator.SetLink(LinkState::Up); },
+            [&] { return panel.StatusVelmarc.Caption == "FS with Velmarc is up and running"; }) &&
+        Step(
+            "The framework link is up and the session is open: \"You are connected multiplayer\"",
+            [&] {
+                network.SetLink(LinkState::Up);
+                network.SetCallsign("ABC123");
+                network.SetStatus(1);
+                network.SetReceive("1");
+                network.SetTransmit("1");
+                network.StartSession();
+            },
+            [&] { return panel.StatusMainUser.Caption == "You are connected multiplayer"; }) &&
+        Step(
+            "RogerWilco is ticked, and this computer holds its two roles.",
+            [&] {
+                panel.twCategory.UserClick(*panel.twCategory.Find("RogerWilco"));
+                click("RWEnable");
+            },
+            [&] { return panel.RWCom1 != 0 && panel.RWCom2 != 0; }) &&
+        Step(
+            "The key F8 of the simulator's computer is mapped to push-to-talk.",
+            [&] {
+                click("RWKeySet");
+                simulator.PressKey(RoadKey);
+                simulator.ReleaseKey(RoadKey);
+            },
+            [&] { return panel.RWFSKey == RoadKey; }) &&
+        Step(
+            "COM1 is tuned to a RogerWilco channel, and the voice program was started: " + join,
+            [&] {
+                network.SetFrequency(0, "118.300");
+                network.SetVoice(0, {RogerWilco, "voice.example", "tower", "", ""});
+            },
+            [&] { return VoiceCommands() == join; }) &&
+        Step(
+            std::string("F8 goes down over there, and the talk key goes down here, as another X client sees: ") +
+                panel.RWPTTKeyDisplay.Text(),
+            [&] { simulator.PressKey(RoadKey); }, keyIsDown) &&
+        Step(
+            "F8 comes up, and the talk key is up.", [&] { simulator.ReleaseKey(RoadKey); },
+            [this] { return keys.KeysDown().empty(); }) &&
+        Step(
+            "COM1 is tuned away, and the voice program was told to leave: " + place + "voice-program /leave",
+            [&] { network.SetVoice(0, {}); },
+            [&] { return VoiceCommands() == join + "\n" + place + "voice-program /leave"; }) &&
+        Step(
+            "COM1 is tuned back.",
+            [&] {
+                network.SetVoice(0, {RogerWilco, "voice.example", "tower", "", ""});
+            },
+            [&] { return panel.ActiveVoiceSoftware == RogerWilco; });
+    TakePictures();
+    folder.removeRecursively();
+    return played;
+}
+
+void Road::TakePictures() {
+    FrmOrvelle& panel = house.Panel;
+    Settle();
+    QScreen& screen = *QGuiApplication::primaryScreen();
+    const QPixmap desktop = screen.grabWindow(0);
+    desktop.save(pictures.filePath("desktop.png"));
+    constexpr QSize trayCorner(160, 36);
+    desktop.copy(QRect(QPoint(desktop.width() - trayCorner.width(), 0), trayCorner))
+        .scaled(trayCorner * 4)
+        .save(pictures.filePath("tray-icon.png"));
+    for (std::size_t index = 0; index < Pages.size(); ++index) {
+        QWidget* shown = house.Window.get();
+        if (Pages[index].Node != nullptr)
+            panel.twCategory.UserClick(*panel.twCategory.Find(Pages[index].Node));
+        else
+            shown = &house.Window->Page(static_cast<int>(index));
+        Settle();
+        shown->grab().save(pictures.filePath(
+            QStringLiteral("panel-%1-%2.png").arg(index, 2, 10, QChar('0')).arg(Pages[index].Picture)));
+    }
+    house.Deck->grab().save(pictures.filePath("flight-deck.png"));
+    std::cout << "  Pictures: " << pictures.absolutePath().toStdString() << std::endl;
+}
+
+}  // namespace orvelle

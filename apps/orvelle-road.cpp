@@ -1,0 +1,34 @@
+// What ./run does without a display of the user's: the whole panel on a display of its own, played by itself. Exit
+// status 0 if every step of the road came about.
+#include <QTemporaryDir>
+#include <cstdlib>
+#include <iostream>
+
+#include "apps/Road.h"
+#include "platform/qt/Application.h"
+#include "platform/qt/Display.h"
+#include "platform/qt/Theme.h"
+
+int main() {
+    using namespace orvelle;
+    TerminationSignals endings;
+    if (const std::string missing = MissingDisplay(); !missing.empty()) {
+        std::cerr << "OrvelleCP: " << missing << "\n";
+        return EXIT_FAILURE;
+    }
+    ProcessProgram program(InstanceLock::OfThisSession());
+    Application application("orvelle-road", [&](const std::exception& error) { EndByError(program, error); });
+    ApplyTheme(SystemScheme());
+    QTemporaryDir settings;
+    program.AtEnd([&] { settings.remove(); });
+    PanelProgram panel(program, endings, settings.filePath("settings.sqlite").toStdString());
+    Road road(panel, "build/pictures");
+    return application.Run([&] {
+        road.Prepare();
+        panel.Open();
+        const bool played = road.Play();
+        // Out by the door; it does not return.
+        if (played) panel.Table.Deliver(panel.Panel.Stub1, Stub::TerminationMessage, 0, 0);
+        program.Fail("the road is not passable");
+    });
+}
