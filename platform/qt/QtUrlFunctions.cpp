@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <optional>
+#include <tuple>
 #include <utility>
 
 #include "platform/qt/UrlText.h"
@@ -41,7 +42,7 @@ std::string Canonical(UrlText url, Long flags) {
     if (url.Authority) {
         if (!Has(flags, UrlKeepMeta)) url.Path = RemoveDotSegments(url.Path);
         url.Authority = Clean(*url.Authority, flags, UrlEncoding::Host);
-        if (scheme != nullptr && url.Path.empty()) url.Path = "/";
+        if (scheme != nullptr && url.Path.empty()) url.Path = '/';
     }
     url.Path = Clean(url.Path, flags);
     if (!Has(flags, UrlBrowserMode)) {
@@ -115,8 +116,8 @@ bool QtUrlFunctions::InternetCrackUrlA(const std::string& url, Long, URL_COMPONE
     if (!port) return Fail(UrlInvalid);
     std::string path = text.Path;
     std::string extra;
-    if (text.Query) extra += "?" + *text.Query;
-    if (text.Fragment) extra += "#" + *text.Fragment;
+    if (text.Query) extra.append("?").append(*text.Query);
+    if (text.Fragment) extra.append("#").append(*text.Fragment);
     // Without room of its own the query goes with the path.
     if (parts.ExtraInfo.empty()) path += std::exchange(extra, "");
 
@@ -140,14 +141,14 @@ bool QtUrlFunctions::InternetCreateUrlA(const URL_COMPONENTS& parts, Long flags,
     if (parts.UserName.empty() && !parts.Password.empty()) return Fail(UrlInvalidParameter);
 
     std::string url(scheme->Name);
-    url += "://" + parts.UserName;
-    if (!parts.Password.empty()) url += ":" + parts.Password;
-    if (!parts.UserName.empty()) url += "@";
+    url.append("://").append(parts.UserName);
+    if (!parts.Password.empty()) url.append(":").append(parts.Password);
+    if (!parts.UserName.empty()) url += '@';
     url += parts.HostName;
-    if (parts.Port != 0 && parts.Port != scheme->Port) url += ":" + std::to_string(parts.Port);
-    std::string rest = parts.UrlPath;
-    if (!rest.empty() && rest.front() != '/') rest.insert(0, "/");
-    rest += parts.ExtraInfo;
+    if (parts.Port != 0 && parts.Port != scheme->Port) url.append(":").append(std::to_string(parts.Port));
+    std::string rest;
+    if (!parts.UrlPath.empty() && parts.UrlPath.front() != '/') rest = '/';
+    rest.append(parts.UrlPath).append(parts.ExtraInfo);
     url += Has(flags, UrlEscape) ? EncodeUrl(rest, UrlEncoding::All) : rest;
     return Answer(std::move(url), result, size);
 }

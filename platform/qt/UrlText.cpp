@@ -79,11 +79,11 @@ UrlText::UrlText(std::string_view url) {
 
 std::string UrlText::Join() const {
     std::string url;
-    if (Scheme) url += *Scheme + ":";
-    if (Authority) url += "//" + *Authority;
+    if (Scheme) url.append(*Scheme).append(":");
+    if (Authority) url.append("//").append(*Authority);
     url += Path;
-    if (Query) url += "?" + *Query;
-    if (Fragment) url += "#" + *Fragment;
+    if (Query) url.append("?").append(*Query);
+    if (Fragment) url.append("#").append(*Fragment);
     return url;
 }
 

@@ -84,7 +84,7 @@ TEST_F(FileDialogTest, ACancelLeavesTheNameThatWasPutIn) {
 }
 
 TEST_F(FileDialogTest, AQuotedPathIsFound) {
-    dialog.FileName("\"" + PathOf("roger") + "\" ");
+    dialog.FileName(std::string("\"").append(PathOf("roger")).append("\" "));
     std::string start;
     Answerer<QFileDialog> answer([&](QFileDialog& shown) {
         start = shown.directory().path().toStdString();
