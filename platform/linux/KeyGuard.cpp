@@ -2,11 +2,11 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <signal.h>
 #include <spawn.h>
 #include <sys/wait.h>
 
 #include <array>
+#include <csignal>
 
 #include "platform/linux/HeldKeys.h"
 

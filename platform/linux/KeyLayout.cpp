@@ -6,10 +6,7 @@
 #include <array>
 #include <utility>
 
-// The header names a field `explicit`.
-#define explicit explicitFields
-#include <xcb/xkb.h>
-#undef explicit
+#include "platform/linux/XkbRequests.h"
 
 namespace orvelle {
 
@@ -17,14 +14,14 @@ namespace {
 
 // A dead key is named by its accent alone.
 std::string Accent(xkb_keysym_t symbol) {
-    static constexpr std::pair<xkb_keysym_t, const char*> accents[] = {
+    static constexpr std::pair<xkb_keysym_t, const char*> Accents[] = {
         {XKB_KEY_dead_grave, "`"},       {XKB_KEY_dead_acute, "´"},     {XKB_KEY_dead_circumflex, "^"},
         {XKB_KEY_dead_tilde, "~"},       {XKB_KEY_dead_macron, "¯"},    {XKB_KEY_dead_breve, "˘"},
         {XKB_KEY_dead_abovedot, "˙"},    {XKB_KEY_dead_diaeresis, "¨"}, {XKB_KEY_dead_abovering, "°"},
         {XKB_KEY_dead_doubleacute, "˝"}, {XKB_KEY_dead_caron, "ˇ"},     {XKB_KEY_dead_cedilla, "¸"},
         {XKB_KEY_dead_ogonek, "˛"},
     };
-    for (const auto& [dead, accent] : accents)
+    for (const auto& [dead, accent] : Accents)
         if (dead == symbol) return accent;
     return "";
 }
@@ -50,15 +47,7 @@ KeyLayout::KeyLayout(xcb_connection_t* connection) : connection(connection) {
     if (device < 0 || !context) return;
     xkb_context_set_log_level(context.get(), XKB_LOG_LEVEL_CRITICAL);
 
-    // Of the state the group alone, or every Shift key would send an event that nobody reads.
-    xcb_xkb_select_events_details_t details{};
-    details.affectState = details.stateDetails = XCB_XKB_STATE_PART_GROUP_STATE;
-    details.affectNewKeyboard = details.newKeyboardDetails = XCB_XKB_NKN_DETAIL_KEYCODES;
-    const std::uint16_t events =
-        XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY | XCB_XKB_EVENT_TYPE_STATE_NOTIFY;
-    const std::uint16_t mapParts = XCB_XKB_MAP_PART_KEY_TYPES | XCB_XKB_MAP_PART_KEY_SYMS;
-    xcb_xkb_select_events_aux(connection, static_cast<xcb_xkb_device_spec_t>(device), events, 0, 0, mapParts, mapParts,
-                              &details);
+    SelectLayoutEvents(connection, device);
 }
 
 void KeyLayout::Notice(const xcb_generic_event_t& event) {

@@ -31,7 +31,7 @@ std::string SearchPath(const std::string& name) {
     while (!rest.empty()) {
         const std::size_t end = std::min(rest.find(':'), rest.size());
         // An empty part would be the working directory, which a file dialog moves about.
-        const std::string path = std::string(rest.substr(0, end)) + "/" + name;
+        std::string path = std::string(rest.substr(0, end)) + "/" + name;
         if (end > 0 && IsFile(path) && access(path.c_str(), X_OK) == 0) return path;
         rest.remove_prefix(std::min(end + 1, rest.size()));
     }
@@ -111,7 +111,7 @@ int LinuxProcesses::Start(const std::string& file, const std::vector<std::string
 
 Long LinuxProcesses::WinExec(const std::string& commandLine, Long show) {
     // The system's texts end at a zero, and so does the line.
-    const std::string line = commandLine.c_str();
+    const std::string line = commandLine.substr(0, commandLine.find('\0'));
     const std::vector<CommandWord> words = SplitCommandLine(line);
     const Command command = words.empty() ? Command{"", 0} : FindProgram(line, words);
     int error = ENOENT;

@@ -1,8 +1,8 @@
 #include "platform/linux/ProcessProgram.h"
 
-#include <signal.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdio>
 #include <exception>
 

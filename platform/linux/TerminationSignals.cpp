@@ -1,7 +1,8 @@
 #include "platform/linux/TerminationSignals.h"
 
-#include <signal.h>
 #include <sys/signalfd.h>
+
+#include <csignal>
 
 namespace orvelle {
 

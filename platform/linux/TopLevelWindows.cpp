@@ -40,12 +40,12 @@ void TopLevelWindows::FindRoot(int screenNumber) {
 }
 
 void TopLevelWindows::FindAtoms() {
-    constexpr std::string_view names[Names] = {"_NET_ACTIVE_WINDOW", "_NET_CLIENT_LIST", "_NET_WM_PID",
-                                               "_NET_WM_USER_TIME",  "WM_STATE",         "WM_CHANGE_STATE"};
+    constexpr std::string_view NamesOfAtoms[Names] = {"_NET_ACTIVE_WINDOW", "_NET_CLIENT_LIST", "_NET_WM_PID",
+                                                      "_NET_WM_USER_TIME",  "WM_STATE",         "WM_CHANGE_STATE"};
     xcb_intern_atom_cookie_t questions[Names];
     for (int name = 0; name < Names; ++name)
-        questions[name] =
-            xcb_intern_atom(connection.get(), 0, static_cast<std::uint16_t>(names[name].size()), names[name].data());
+        questions[name] = xcb_intern_atom(connection.get(), 0, static_cast<std::uint16_t>(NamesOfAtoms[name].size()),
+                                          NamesOfAtoms[name].data());
     for (int name = 0; name < Names; ++name)
         if (const auto reply = Own(xcb_intern_atom_reply(connection.get(), questions[name], nullptr)))
             atoms[name] = reply->atom;

@@ -1,13 +1,13 @@
 #include "tests/linux/ChildProcess.h"
 
 #include <fcntl.h>
-#include <signal.h>
 #include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
+#include <csignal>
 
 namespace orvelle {
 
@@ -30,6 +30,7 @@ ChildProcess::ChildProcess(std::vector<std::string> commandLine) : errors(memfd_
     Pipe toProgram;
     Pipe fromProgram;
     std::vector<char*> arguments;
+    arguments.reserve(commandLine.size() + 1);
     for (std::string& word : commandLine) arguments.push_back(word.data());
     arguments.push_back(nullptr);
 

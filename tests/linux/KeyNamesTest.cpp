@@ -94,9 +94,9 @@ TEST(KeyNames, OfCharacterKeysFollowTheLayoutAsItIsNow) {
     XClient client(server.Display());
     server.SetLayout("us,ru");
     EXPECT_EQ(Name(keyboard, 16), "Q");
-    client.LockGroup(1);
+    client.ChooseLayout(1);
     EXPECT_EQ(Name(keyboard, 16), "Й");
-    client.LockGroup(0);
+    client.ChooseLayout(0);
     EXPECT_EQ(Name(keyboard, 16), "Q");
 }
 

@@ -7,10 +7,10 @@
 //   return end fail abort crash terminate nothing
 //                          the way to end; the last one leaves without any clean-up
 #include <poll.h>
-#include <signal.h>
 #include <unistd.h>
 
 #include <array>
+#include <csignal>
 #include <cstdlib>
 #include <iostream>
 #include <sstream>

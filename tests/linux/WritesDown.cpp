@@ -1,8 +1,8 @@
 // Writes down how it was started, one thing a line, into the file that WRITES_DOWN_INTO names. The file appears under
 // its name when it is complete.
-#include <signal.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>

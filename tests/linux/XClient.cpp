@@ -5,12 +5,8 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "platform/linux/XkbRequests.h"
 #include "tests/linux/WaitUntil.h"
-
-// The header names a field `explicit`.
-#define explicit explicitFields
-#include <xcb/xkb.h>
-#undef explicit
 
 namespace orvelle {
 
@@ -55,11 +51,10 @@ std::vector<int> XClient::KeysDown() {
     return keys;
 }
 
-void XClient::LockGroup(int group) {
+void XClient::ChooseLayout(int layout) {
     xkb_x11_setup_xkb_extension(connection.get(), XKB_X11_MIN_MAJOR_XKB_VERSION, XKB_X11_MIN_MINOR_XKB_VERSION,
                                 XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS, nullptr, nullptr, nullptr, nullptr);
-    xcb_xkb_latch_lock_state(connection.get(), XCB_XKB_ID_USE_CORE_KBD, 0, 0, 1, static_cast<std::uint8_t>(group), 0, 0,
-                             0);
+    LockLayout(connection.get(), layout);
     std::free(xcb_get_input_focus_reply(connection.get(), xcb_get_input_focus(connection.get()), nullptr));
 }
 

@@ -23,8 +23,8 @@ public:
     std::vector<SeenStroke> NextStrokes(std::size_t count);
     // The keys that are down on the server now.
     std::vector<int> KeysDown();
-    // Makes another of the layouts that are set the current one.
-    void LockGroup(int group);
+    // Makes another of the layouts that are set the current one; counted from 0.
+    void ChooseLayout(int layout);
     // One that is ready to manage windows.
     bool HasWindowManager();
 

@@ -1,6 +1,6 @@
 #include "tests/linux/XServer.h"
 
-#include <signal.h>
+#include <csignal>
 
 namespace orvelle {
 
