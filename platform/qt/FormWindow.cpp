@@ -34,7 +34,7 @@ FormWindow::FormWindow(Form& shownForm) : form(shownForm), binder(shownForm) {
     connect(&look, &QTimer::timeout, this, [this] { Look(); });
     patience.setSingleShot(true);
     connect(&patience, &QTimer::timeout, this, [this] {
-        isSettling = false;
+        EndSettling();
         Look();
     });
     setWindowTitle(ToQt(form.Caption));
@@ -75,6 +75,8 @@ void FormWindow::FormChanged(ControlProperty property) {
 void FormWindow::ShowOrHide() {
     if (!form.Visible) {
         isSettling = false;
+        isMovedInView = false;
+        patience.stop();
         hide();
         return;
     }
@@ -82,17 +84,24 @@ void FormWindow::ShowOrHide() {
     PlaceAndSize();
     ApplyState();
     show();
+    Settle();
     raise();
     activateWindow();
 }
 
 // A form without a size has that of its contents, in a place of the window manager's choice.
 void FormWindow::PlaceAndSize() {
-    if (form.Width <= 0 || form.Height <= 0) return;
+    const QSize wanted = FormSize();
+    if (wanted.isEmpty()) return;
     Settle();
-    const QSize frame = frameGeometry().size() - size();
-    resize(QSize(ToPixels(form.Width), ToPixels(form.Height)) - frame);
-    move(ToPixels(form.Left), ToPixels(form.Top));
+    // The frame of a window that is out of view is not known; a size that stands is left alone.
+    if (wanted != frameSize) {
+        resize(wanted - (frameGeometry().size() - size()));
+        frameSize = wanted;
+        knownSize = size();
+    }
+    move(FormPlace());
+    isMovedInView = isVisible();
 }
 
 void FormWindow::ApplyState() {
@@ -143,26 +152,22 @@ void FormWindow::Settle() {
 }
 
 bool FormWindow::IsSettled() const {
-    if (State() != form.WindowState) return false;
-    return form.WindowState == Form::Minimised || (windowHandle() != nullptr && windowHandle()->isExposed());
+    // Qt takes a new place for granted at once; what the window manager makes of it comes later, unannounced.
+    if (isMovedInView || State() != form.WindowState) return false;
+    if (isMinimized()) return true;
+    if (windowHandle() == nullptr || !windowHandle()->isExposed()) return false;
+    return isMaximized() || FormSize().isEmpty() || (size() == knownSize && frameGeometry().topLeft() == FormPlace());
 }
 
 void FormWindow::Look() {
     if (!form.Visible || !isVisible()) return;
     if (isSettling) {
-        if (!patience.isActive()) patience.start(Patience);
-        TakePlace();
-        TakeSize();
-        if (!IsSettled()) return;
-        isSettling = false;
-        patience.stop();
+        if (IsSettled()) EndSettling();
         return;
     }
-    const QSize before(ToPixels(form.Width), ToPixels(form.Height));
-    const bool isSized = !before.isEmpty() && before != frameGeometry().size();
     const bool isStateChanged = State() != form.WindowState;
-    TakePlace();
-    TakeSize();
+    const bool isSized = size() != knownSize && !isMinimized();
+    TakePlaceAndSize();
     if (isStateChanged) {
         const Taking taking(isTaking);
         form.UserState(State());
@@ -171,19 +176,28 @@ void FormWindow::Look() {
     }
 }
 
-void FormWindow::TakePlace() {
-    const QPoint place = frameGeometry().topLeft();
-    if (isMinimized() || place == QPoint(ToPixels(form.Left), ToPixels(form.Top))) return;
-    const Taking taking(isTaking);
-    form.UserMove(place.x() * TwipsPerPixel, place.y() * TwipsPerPixel);
+// What stands now is what the window manager made of it.
+void FormWindow::EndSettling() {
+    isSettling = false;
+    isMovedInView = false;
+    patience.stop();
+    TakePlaceAndSize();
 }
 
-void FormWindow::TakeSize() {
-    const QSize size = frameGeometry().size();
-    if (isMinimized() || size == QSize(ToPixels(form.Width), ToPixels(form.Height))) return;
+void FormWindow::TakePlaceAndSize() {
+    if (isMinimized()) return;
     const Taking taking(isTaking);
-    form.Width = size.width() * TwipsPerPixel;
-    form.Height = size.height() * TwipsPerPixel;
+    const QPoint place = frameGeometry().topLeft();
+    if (place != FormPlace()) form.UserMove(place.x() * TwipsPerPixel, place.y() * TwipsPerPixel);
+    knownSize = size();
+    frameSize = frameGeometry().size();
+    if (frameSize == FormSize()) return;
+    form.Width = frameSize.width() * TwipsPerPixel;
+    form.Height = frameSize.height() * TwipsPerPixel;
 }
+
+QPoint FormWindow::FormPlace() const { return {ToPixels(form.Left), ToPixels(form.Top)}; }
+
+QSize FormWindow::FormSize() const { return {ToPixels(form.Width), ToPixels(form.Height)}; }
 
 }  // namespace orvelle

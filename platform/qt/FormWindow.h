@@ -41,14 +41,20 @@ private:
     // The window's changes since the last look, looked at when the loop is free.
     void LookLater();
     void Look();
-    void TakePlace();
-    void TakeSize();
+    void TakePlaceAndSize();
     bool IsSettled() const;
     void Settle();
+    void EndSettling();
+    // What the form says, in pixels.
+    QPoint FormPlace() const;
+    QSize FormSize() const;
 
     QTimer look;
     QTimer patience;  // for window managers that make something else of what the form asked for
+    QSize knownSize;  // of the window, and with its frame as the form has it
+    QSize frameSize;
     bool isSettling = false;
+    bool isMovedInView = false;
     bool isTaking = false;
 };
 

@@ -53,7 +53,7 @@ void MainWindow::TellSize() {
     auto* overview = dynamic_cast<Frame*>(frames[Overview]);
     if (overview == nullptr) return;
     const QSize needed = layout()->totalSizeHint();
-    const int left = needed.width() - pages->sizeHint().width();
+    const int left = needed.width() - std::max(pages->sizeHint().width(), pages->minimumWidth());
     overview->Left = left * TwipsPerPixel;
     overview->Top = 0;
     overview->Width = (needed.width() - left) * TwipsPerPixel;

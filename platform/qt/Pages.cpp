@@ -45,7 +45,13 @@ struct Columns {
 Columns ColumnsFor(const QWidget& widget) {
     const QFontMetrics metrics(widget.font());
     const auto widthOf = [&metrics](const char* text) { return metrics.horizontalAdvance(QLatin1String(text)); };
-    return {widthOf(WidestLabel), widthOf(WidestField) + 2 * Unit, widthOf(WidestButton) + 3 * Unit};
+    return {widthOf(WidestLabel) + Unit / 2, widthOf(WidestField) + 2 * Unit, widthOf(WidestButton) + 3 * Unit};
+}
+
+bool IsUsed(const QGridLayout& grid, int column) {
+    for (int row = 0; row < grid.rowCount(); ++row)
+        if (grid.itemAtPosition(row, column) != nullptr) return true;
+    return false;
 }
 
 void AlignToGrid(QWidget& page) {
@@ -56,8 +62,9 @@ void AlignToGrid(QWidget& page) {
         grid->setColumnMinimumWidth(0, columns.Label);
         grid->setColumnMinimumWidth(Fields, columns.Field);
         grid->setColumnStretch(Fields, 1);
+        // A column with nothing in it has no gap before it.
         for (int column = FirstButton; column <= LastButton; ++column)
-            grid->setColumnMinimumWidth(column, columns.Button);
+            grid->setColumnMinimumWidth(column, columns.Button + (IsUsed(*grid, column) ? 0 : Unit));
     }
     for (Readout* readout : page.findChildren<Readout*>()) readout->Follow();
 }
