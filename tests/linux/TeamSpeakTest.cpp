@@ -105,7 +105,11 @@ TEST_F(TeamSpeak, TheLibraryIsFoundInTheLibraryPath) {
     // The path is read when a program starts, so the call is made in this program started anew.
     testing::FLAGS_gtest_death_test_style = "threadsafe";
     setenv("LD_LIBRARY_PATH", LIBRARIES, 1);
-    const auto disconnect = [] { _exit(DynamicTeamSpeak().tsrDisconnect()); };
+    const auto disconnect = [this] {
+        const Integer result = DynamicTeamSpeak().tsrDisconnect();
+        std::filesystem::remove(record);
+        _exit(result);
+    };
     EXPECT_EXIT(disconnect(), testing::ExitedWithCode(0), "");
     unsetenv("LD_LIBRARY_PATH");
     EXPECT_EXIT(disconnect(), testing::ExitedWithCode(static_cast<unsigned char>(DynamicTeamSpeak::NotThere)), "");
