@@ -9,11 +9,11 @@ namespace {
 
 constexpr int BusyMilliseconds = 1000;
 
-}  // namespace
-
 bool IsPlainText(const std::string& bytes) {
     return std::ranges::all_of(bytes, [](unsigned char byte) { return byte != 0 && byte < 0x80; });
 }
+
+}  // namespace
 
 Connection::Connection(const std::string& name, int flags) {
     sqlite3* opened = nullptr;
@@ -47,16 +47,10 @@ Statement::Statement(const Connection& owner, const std::string& sql) : connecti
 }
 
 Statement& Statement::Bind(int parameter, const std::string& bytes) {
-    return IsPlainText(bytes) ? BindText(parameter, bytes) : BindBlob(parameter, bytes);
-}
-
-Statement& Statement::BindBlob(int parameter, const std::string& bytes) {
-    Check(sqlite3_bind_blob64(handle.get(), parameter, bytes.data(), bytes.size(), SQLITE_TRANSIENT));
-    return *this;
-}
-
-Statement& Statement::BindText(int parameter, const std::string& bytes) {
-    Check(sqlite3_bind_text64(handle.get(), parameter, bytes.data(), bytes.size(), SQLITE_TRANSIENT, SQLITE_UTF8));
+    if (IsPlainText(bytes))
+        Check(sqlite3_bind_text64(handle.get(), parameter, bytes.data(), bytes.size(), SQLITE_STATIC, SQLITE_UTF8));
+    else
+        Check(sqlite3_bind_blob64(handle.get(), parameter, bytes.data(), bytes.size(), SQLITE_STATIC));
     return *this;
 }
 

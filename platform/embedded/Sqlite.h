@@ -43,10 +43,8 @@ public:
     Statement(const Connection& owner, const std::string& sql);
 
     // Parameters count from 1. Plain ASCII is bound as text, so that the file can be read by eye; other bytes as a
-    // blob.
+    // blob. The bytes must stay until the statement has finished.
     Statement& Bind(int parameter, const std::string& bytes);
-    Statement& BindBlob(int parameter, const std::string& bytes);
-    Statement& BindText(int parameter, const std::string& bytes);
     Statement& Bind(int parameter, const StoredValue& value);
 
     bool Step();    // True while there is a row
@@ -66,8 +64,5 @@ private:
     sqlite3* connection;
     std::unique_ptr<sqlite3_stmt, Finalize> handle;
 };
-
-// Whether bytes are bound as text.
-bool IsPlainText(const std::string& bytes);
 
 }  // namespace orvelle

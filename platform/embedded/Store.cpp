@@ -20,6 +20,12 @@ auto ListOrder(const std::string& name) {
     return std::tuple(!isNumber, digits, name.substr(zeros), name);
 }
 
+// The sections below `section`: behind its backslash, before the next character.
+std::pair<StoredPlaces::iterator, StoredPlaces::iterator> SubSections(StoredPlaces& sections,
+                                                                      const std::string& section) {
+    return {sections.lower_bound(section + "\\"), sections.lower_bound(section + "]")};
+}
+
 }  // namespace
 
 SqliteStore::SqliteStore(const std::filesystem::path& storeFile, Notice tellUser) : tell(std::move(tellUser)) {
@@ -51,21 +57,16 @@ void SqliteStore::SaveSettingString(const std::string& section, const std::strin
 
 void SqliteStore::DeleteSettingSection(const std::string& section) {
     StoredPlaces& sections = Table(StoredTable::Setting);
-    const std::size_t before = sections.size();
-    const auto [first, behind] = SubSections(section);
-    sections.erase(section);
-    sections.erase(sections.lower_bound(first), sections.lower_bound(behind));
-    if (sections.size() == before) return;
-    AddWrite({StoredWrite::Kind::DeleteSection, StoredTable::Setting, section, "", {}});
+    const auto [first, end] = SubSections(sections, section);
+    for (auto place = first; place != end;) Forget(StoredTable::Setting, place++);
+    if (const auto place = sections.find(section); place != sections.end()) Forget(StoredTable::Setting, place);
 }
 
 void SqliteStore::OpenSettingList(const std::string& section) {
     listed.clear();
-    const StoredPlaces& sections = Table(StoredTable::Setting);
-    const auto [first, behind] = SubSections(section);
-    const auto end = sections.lower_bound(behind);
-    for (auto place = sections.lower_bound(first); place != end; ++place) {
-        const std::string below = place->first.substr(first.size());
+    const auto [first, end] = SubSections(Table(StoredTable::Setting), section);
+    for (auto place = first; place != end; ++place) {
+        const std::string below = place->first.substr(section.size() + 1);
         const std::string name = below.substr(0, below.find('\\'));
         if (listed.empty() || listed.back() != name) listed.push_back(name);
     }
@@ -85,10 +86,10 @@ void SqliteStore::CloseSettingList() { listed.clear(); }
 
 // What can't be written now is tried again with the next handler's writes; until then it is kept in memory.
 void SqliteStore::HandlerEnded() {
-    if (waiting.empty()) return;
-    const std::string reason = file->Write(waiting);
+    const StoredChanges changes = Changes();
+    const std::string reason = changes.empty() ? "" : file->Write(changes);
     if (reason.empty()) {
-        waiting.clear();
+        for (StoredPlaces& places : before) places.clear();
     } else if (!toldOfFailure) {
         toldOfFailure = true;
         tell("The settings file \"" + fileName + "\" could not be written (" + reason +
@@ -108,10 +109,7 @@ std::string SqliteStore::ReadRegistryString(Long, const std::string& path, const
 }
 
 void SqliteStore::DeleteRegistryValue(Long, const std::string& path, const std::string& name) {
-    StoredPlaces& paths = Table(StoredTable::Registry);
-    const auto found = paths.find(path);
-    if (found == paths.end() || found->second.erase(name) == 0) return;
-    AddWrite({StoredWrite::Kind::Delete, StoredTable::Registry, path, name, {}});
+    Write(StoredTable::Registry, path, name, NoValue{});
 }
 
 void SqliteStore::WriteRegistryLong(Long, const std::string& path, const std::string& name, Long value) {
@@ -144,20 +142,46 @@ Value SqliteStore::Read(StoredTable table, const std::string& place, const std::
     const auto found = names->second.find(name);
     if (found == names->second.end()) return defaultValue;
     if (const auto* value = std::get_if<Value>(&found->second)) return *value;
+    if (std::holds_alternative<NoValue>(found->second)) return defaultValue;
     TellOfWrongType(place, name, std::is_same_v<Value, Long> ? "a number" : "a text");
     return defaultValue;
 }
 
-// A value that stands already is not written again, so that a start leaves the file alone.
 void SqliteStore::Write(StoredTable table, const std::string& place, const std::string& name, StoredValue value) {
     StoredValue& stored = Table(table)[place][name];
     if (stored == value) return;
-    stored = value;
-    AddWrite({StoredWrite::Kind::Put, table, place, name, std::move(value)});
+    if (file) before[static_cast<std::size_t>(table)][place].try_emplace(name, stored);
+    stored = std::move(value);
 }
 
-void SqliteStore::AddWrite(StoredWrite write) {
-    if (file) waiting.push_back(std::move(write));
+void SqliteStore::Forget(StoredTable table, StoredPlaces::iterator place) {
+    auto names = Table(table).extract(place);
+    if (!file) return;
+    StoredPlaces& places = before[static_cast<std::size_t>(table)];
+    const auto kept = places.find(names.key());
+    if (kept == places.end())
+        places.insert(std::move(names));
+    else
+        kept->second.merge(names.mapped());
+}
+
+// What is deleted and written again as it was is no change: most rows of a table of which one is edited.
+StoredChanges SqliteStore::Changes() const {
+    static const StoredValue None;
+    StoredChanges changes;
+    for (const StoredTable table : {StoredTable::Setting, StoredTable::Registry, StoredTable::Control}) {
+        const StoredPlaces& places = values[static_cast<std::size_t>(table)];
+        for (const auto& [place, names] : before[static_cast<std::size_t>(table)]) {
+            const auto now = places.find(place);
+            for (const auto& [name, old] : names) {
+                const StoredValue* value = &None;
+                if (now != places.end())
+                    if (const auto found = now->second.find(name); found != now->second.end()) value = &found->second;
+                if (*value != old) changes.push_back({table, &place, &name, value});
+            }
+        }
+    }
+    return changes;
 }
 
 void SqliteStore::TellOfWrongType(const std::string& place, const std::string& name, const char* expected) {

@@ -63,14 +63,15 @@ private:
     template <typename Value>
     Value Read(StoredTable table, const std::string& place, const std::string& name, const Value& defaultValue);
     void Write(StoredTable table, const std::string& place, const std::string& name, StoredValue value);
-    void AddWrite(StoredWrite write);
+    void Forget(StoredTable table, StoredPlaces::iterator place);  // a place with all its values
+    StoredChanges Changes() const;
     void TellOfWrongType(const std::string& place, const std::string& name, const char* expected);
 
     Notice tell;
     std::string fileName;
     std::unique_ptr<StoreFile> file;  // null: this run is kept in memory alone
     StoredTables values;
-    std::vector<StoredWrite> waiting;                      // since the last HandlerEnded; empty without a file
+    StoredTables before;  // what the file holds of each value written since the last HandlerEnded; empty without a file
     std::vector<std::string> listed;                       // the open listing
     std::set<std::pair<std::string, std::string>> toldOf;  // values of a wrong type
     bool toldOfFailure = false;

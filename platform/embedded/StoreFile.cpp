@@ -45,10 +45,10 @@ fs::path SetAside(const fs::path& path) {
 StoreFile::StoreFile(Connection opened)
     : connection(std::move(opened)), begin(connection, "BEGIN IMMEDIATE"), commit(connection, "COMMIT") {
     for (const std::string table : StoreTableNames)
-        tables.push_back({{connection, "INSERT OR REPLACE INTO " + table + " (place, name, value) VALUES (?1, ?2, ?3)"},
-                          {connection, "DELETE FROM " + table + " WHERE place = ?1 AND name = ?2"},
-                          {connection, "DELETE FROM " + table + " WHERE place = ?1"},
-                          {connection, "DELETE FROM " + table + " WHERE place >= ?1 AND place < ?2"}});
+        tables.push_back({{connection, "INSERT INTO " + table +
+                                           " (place, name, value) VALUES (?1, ?2, ?3)"
+                                           " ON CONFLICT DO UPDATE SET value = excluded.value"},
+                          {connection, "DELETE FROM " + table + " WHERE place = ?1 AND name = ?2"}});
 }
 
 StoreFile::Opened StoreFile::Open(const fs::path& path) try {
@@ -89,10 +89,10 @@ std::unique_ptr<StoreFile> StoreFile::Take(FoundStore& found) {
     return std::unique_ptr<StoreFile>(new StoreFile(std::move(*found.Open)));
 }
 
-std::string StoreFile::Write(const std::vector<StoredWrite>& writes) try {
+std::string StoreFile::Write(const StoredChanges& changes) try {
     begin.Finish();
     try {
-        for (const StoredWrite& write : writes) WriteOne(write);
+        for (const StoredChange& change : changes) WriteOne(change);
         commit.Finish();
     } catch (const SqliteError&) {
         // Some errors have rolled the transaction back already.
@@ -104,24 +104,12 @@ std::string StoreFile::Write(const std::vector<StoredWrite>& writes) try {
     return error.what();
 }
 
-void StoreFile::WriteOne(const StoredWrite& write) {
-    TableStatements& table = tables[static_cast<std::size_t>(write.Table)];
-    switch (write.What) {
-        case StoredWrite::Kind::Put:
-            table.Put.Bind(1, write.Place).Bind(2, write.Name).Bind(3, write.Value).Finish();
-            break;
-        case StoredWrite::Kind::Delete:
-            table.Delete.Bind(1, write.Place).Bind(2, write.Name).Finish();
-            break;
-        case StoredWrite::Kind::DeleteSection: {
-            table.DeletePlace.Bind(1, write.Place).Finish();
-            const auto [first, behind] = SubSections(write.Place);
-            // Below a plain name there may be others, which stand in the file as blobs.
-            table.DeleteRange.BindBlob(1, first).BindBlob(2, behind).Finish();
-            table.DeleteRange.BindText(1, first).BindText(2, behind).Finish();
-            break;
-        }
-    }
+void StoreFile::WriteOne(const StoredChange& change) {
+    TableStatements& table = tables[static_cast<std::size_t>(change.Table)];
+    if (std::holds_alternative<NoValue>(*change.Value))
+        table.Delete.Bind(1, *change.Place).Bind(2, *change.Name).Finish();
+    else
+        table.Put.Bind(1, *change.Place).Bind(2, *change.Name).Bind(3, *change.Value).Finish();
 }
 
 }  // namespace orvelle

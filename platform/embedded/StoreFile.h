@@ -26,20 +26,18 @@ public:
     static Opened Open(const std::filesystem::path& path);
 
     // Writes all or nothing, on disk when it returns. "" for success, else the reason.
-    std::string Write(const std::vector<StoredWrite>& writes);
+    std::string Write(const StoredChanges& changes);
 
 private:
     explicit StoreFile(Connection opened);
 
     static Opened Replace(const std::filesystem::path& path);  // a damaged file
     static std::unique_ptr<StoreFile> Take(FoundStore& found);
-    void WriteOne(const StoredWrite& write);
+    void WriteOne(const StoredChange& change);
 
     struct TableStatements {
         Statement Put;
         Statement Delete;
-        Statement DeletePlace;
-        Statement DeleteRange;
     };
 
     Connection connection;

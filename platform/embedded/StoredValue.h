@@ -1,12 +1,12 @@
-// What the store holds, in memory: three tables of named values, and the writes that wait for the file.
+// What the store holds, in memory: three tables of named values, and the changes that a handler makes to them.
 #pragma once
 
 #include <array>
 #include <cstddef>
 #include <map>
 #include <string>
-#include <utility>
 #include <variant>
+#include <vector>
 
 #include "platform/Types.h"
 
@@ -15,29 +15,29 @@ namespace orvelle {
 enum class StoredTable { Setting, Registry, Control };
 constexpr std::size_t StoredTableCount = 3;
 
-// A value of neither type came from a file that something else wrote to; it reads as the default.
+struct NoValue {
+    bool operator==(const NoValue&) const = default;
+};
+
+// Neither number nor text: it came from a file that something else wrote to, and reads as the default.
 struct UnknownValue {
     bool operator==(const UnknownValue&) const = default;
 };
-using StoredValue = std::variant<UnknownValue, Long, std::string>;
+
+using StoredValue = std::variant<NoValue, UnknownValue, Long, std::string>;
 
 // Place (a section or a path), then name
-using StoredPlaces = std::map<std::string, std::map<std::string, StoredValue>>;
+using StoredNames = std::map<std::string, StoredValue>;
+using StoredPlaces = std::map<std::string, StoredNames>;
 using StoredTables = std::array<StoredPlaces, StoredTableCount>;
 
-// Every section below `section` stands in [first, second): behind its backslash, before the next character.
-inline std::pair<std::string, std::string> SubSections(const std::string& section) {
-    return {section + "\\", section + "]"};
-}
-
-struct StoredWrite {
-    enum class Kind { Put, Delete, DeleteSection };
-
-    Kind What;
+// Points into the tables that it was taken from.
+struct StoredChange {
     StoredTable Table;
-    std::string Place;
-    std::string Name;
-    StoredValue Value;
+    const std::string* Place;
+    const std::string* Name;
+    const StoredValue* Value;  // NoValue: it is deleted
 };
+using StoredChanges = std::vector<StoredChange>;
 
 }  // namespace orvelle

@@ -105,7 +105,11 @@ TEST_F(StoreTest, AValueThatStandsIsNotWrittenAgain) {
     {
         auto store = folder.Open();
         store.SaveSettingString("OrvelleCP", "RWPath", "roger");
-        store.DeleteSettingSection("OrvelleCP\\None");
+        store.DeleteSettingSection("OrvelleCP");
+        store.SaveSettingString("OrvelleCP", "RWPath", "roger");
+        store.SaveSettingLong("OrvelleCP", "Left", 1);
+        store.DeleteSettingSection("OrvelleCP");
+        store.SaveSettingString("OrvelleCP", "RWPath", "roger");
         store.HandlerEnded();
         EXPECT_EQ(BytesOf(folder.Path("OrvelleCP.sqlite-wal")), "");
     }
