@@ -1,5 +1,6 @@
 #include "platform/qt/CalmStyle.h"
 
+#include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <algorithm>
@@ -68,6 +69,17 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         case PE_PanelLineEdit: {
             const auto changed = WithPalette<QStyleOptionFrame>(*option, Outlined(option->palette));
             QProxyStyle::drawPrimitive(element, &changed, painter, widget);
+            break;
+        }
+        // A plain line, where Fusion lays a sheen over what has the focus.
+        case PE_FrameFocusRect: {
+            const QColor highlight = option->palette.color(QPalette::Highlight);
+            const bool isDark = SchemeOf(option->palette) == Scheme::Dark;
+            painter->save();
+            painter->setPen(isDark ? highlight.lighter(OutlineFactor) : highlight.darker(OutlineFactor));
+            painter->setBrush(Qt::NoBrush);
+            painter->drawRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5));
+            painter->restore();
             break;
         }
         default:

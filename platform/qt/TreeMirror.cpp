@@ -16,7 +16,9 @@ TreeMirror::TreeMirror(TreeView& treeView, QTreeWidget& treeWidget)
     : Mirror(treeView, treeWidget),
       control(treeView),
       widget(treeWidget),
-      clicks(treeWidget, [this](const QModelIndex& index) { control.UserClick(*NodeOf(index.data(NodeRole))); }) {}
+      clicks(treeWidget, [this](const QModelIndex& index) { control.UserClick(*NodeOf(index.data(NodeRole))); }) {
+    widget.setAllColumnsShowFocus(true);
+}
 
 void TreeMirror::ShowOwn(ControlProperty property) {
     if (property != ControlProperty::Nodes) return;
