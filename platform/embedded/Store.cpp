@@ -149,7 +149,7 @@ Value SqliteStore::Read(StoredTable table, const std::string& place, const std::
 
 void SqliteStore::Write(StoredTable table, const std::string& place, const std::string& name, StoredValue value) {
     StoredValue& stored = Table(table)[place][name];
-    if (stored == value) return;
+    if (Same(stored, value)) return;
     if (file) before[static_cast<std::size_t>(table)][place].try_emplace(name, stored);
     stored = std::move(value);
 }
@@ -177,7 +177,7 @@ StoredChanges SqliteStore::Changes() const {
                 const StoredValue* value = &None;
                 if (now != places.end())
                     if (const auto found = now->second.find(name); found != now->second.end()) value = &found->second;
-                if (*value != old) changes.push_back({table, &place, &name, value});
+                if (!Same(*value, old)) changes.push_back({table, &place, &name, value});
             }
         }
     }

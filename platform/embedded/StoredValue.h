@@ -15,16 +15,20 @@ namespace orvelle {
 enum class StoredTable { Setting, Registry, Control };
 constexpr std::size_t StoredTableCount = 3;
 
-struct NoValue {
-    bool operator==(const NoValue&) const = default;
-};
+struct NoValue {};
 
 // Neither number nor text: it came from a file that something else wrote to, and reads as the default.
-struct UnknownValue {
-    bool operator==(const UnknownValue&) const = default;
-};
+struct UnknownValue {};
 
 using StoredValue = std::variant<NoValue, UnknownValue, Long, std::string>;
+
+// Unlike the variant's own comparison it never throws, so that a store can write as it goes away.
+inline bool Same(const StoredValue& one, const StoredValue& other) {
+    if (one.index() != other.index()) return false;
+    if (const auto* number = std::get_if<Long>(&one)) return *number == *std::get_if<Long>(&other);
+    if (const auto* text = std::get_if<std::string>(&one)) return *text == *std::get_if<std::string>(&other);
+    return true;
+}
 
 // Place (a section or a path), then name
 using StoredNames = std::map<std::string, StoredValue>;

@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <map>
+#include <optional>
+#include <random>
 
 #include "tests/embedded/FaultyDisk.h"
 #include "tests/embedded/StoreFolder.h"
@@ -175,6 +178,40 @@ TEST_F(StoreTest, DeletingAndWritingInOneHandlerKeepsTheirOrder) {
     auto store = folder.Open();
     EXPECT_EQ(store.GetSettingLong("Rows\\1", "k", 0), 1);
     EXPECT_EQ(store.GetSettingLong("Rows\\2", "k", 0), 0);
+}
+
+// Any order of writes and deletions, over handlers and runs, against a plain map.
+TEST_F(StoreTest, RemembersWhatAMapRemembers) {
+    std::mt19937 random(3);
+    const Texts sections{"A", "A\\1", "A\\1\\x", "A\\2", "A2", "B"};
+    const Texts keys{"k", "m"};
+    std::map<std::pair<std::string, std::string>, Long> expected;
+    std::optional<SqliteStore> store;
+    for (int step = 0; step < 5000; ++step) {
+        if (!store || random() % 50 == 0) {
+            store.reset();
+            store.emplace(folder.Path(), [](const std::string& sentence) { FAIL() << sentence; });
+            for (const std::string& section : sections)
+                for (const std::string& key : keys) {
+                    const auto found = expected.find({section, key});
+                    ASSERT_EQ(store->GetSettingLong(section, key, -1), found == expected.end() ? -1 : found->second)
+                        << section << " " << key << " before step " << step;
+                }
+        }
+        const std::string& section = sections[random() % sections.size()];
+        const std::string& key = keys[random() % keys.size()];
+        if (random() % 4 == 0) {
+            store->DeleteSettingSection(section);
+            std::erase_if(expected, [&](const auto& entry) {
+                return entry.first.first == section || entry.first.first.starts_with(section + "\\");
+            });
+        } else {
+            const auto value = static_cast<Long>(random() % 3);
+            store->SaveSettingLong(section, key, value);
+            expected[{section, key}] = value;
+        }
+        if (random() % 5 == 0) store->HandlerEnded();
+    }
 }
 
 TEST_F(StoreTest, ListsDirectSubSectionsInNumericOrder) {
