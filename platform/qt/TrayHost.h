@@ -1,6 +1,7 @@
-// Whether the desktop has a notification area now, and when that changes. It listens to the desktop's own signals: the
-// owner of the tray selection on X11, or the watcher of status items on D-Bus where one was there at the start, which
-// is what Qt's tray icon uses then. Never polls.
+// Whether the desktop has a notification area now, and when that changes: a tray window, which owns a selection of the
+// X server, or a host of status items on the session bus. Qt's tray icon is bound to the kind that is there when the
+// program's first one is made, so this is asked before, and then keeps to that kind too. It listens to the desktop's
+// own signals and never polls.
 #pragma once
 
 #include <xcb/xcb.h>
@@ -8,28 +9,34 @@
 #include <QAbstractNativeEventFilter>
 #include <QObject>
 #include <functional>
-#include <memory>
-
-class QDBusServiceWatcher;
 
 namespace orvelle {
 
-class TrayHost : private QAbstractNativeEventFilter {
+class TrayHost : public QObject, private QAbstractNativeEventFilter {
+    Q_OBJECT
+
 public:
     // `whenChanged` is called from the loop.
     explicit TrayHost(std::function<void()> whenChanged);
     ~TrayHost() override;
 
-    bool IsThere() const;
+    bool IsThere();
+
+private slots:
+    void StatusItemsChanged();
 
 private:
-    bool WatchStatusItems();
+    enum class Kind { Unknown, StatusItems, Selection };
+
+    void WatchStatusItems();
     void WatchSelection();
+    bool HasStatusItemHost() const;
+    bool HasSelectionOwner() const;
+    void Changed(Kind changedKind);
     bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
 
-    const std::function<void()> changed;
-    QObject context;
-    std::unique_ptr<QDBusServiceWatcher> statusItems;
+    const std::function<void()> tell;
+    Kind kind = Kind::Unknown;
     xcb_connection_t* connection = nullptr;
     xcb_window_t listener = XCB_NONE;
     xcb_atom_t selection = XCB_NONE;
