@@ -53,7 +53,7 @@ public:
     Image StatusIcon{*this, "StatusIcon", &Panels(0)};
     Label StatusVelmarc{*this, "StatusVelmarc", &Panels(0)};
     Label StatusTessaly{*this, "StatusTessaly", &Panels(0)};
-    Label StatusMainUser{*this, "StatusMainUser", &Panels(0)};
+    Label StatusMainUser{*this, "StatusMainUser", &Panels(0), "Main Pilot User"};
     Label StatusRogerWilco{*this, "StatusRogerWilco", &Panels(0)};
     Label StatusTeamSpeak{*this, "StatusTeamSpeak", &Panels(0)};
     Label StatusVVL{*this, "StatusVVL", &Panels(0)};

@@ -1,0 +1,13 @@
+#include <gtest/gtest.h>
+
+#include "platform/qt/Application.h"
+#include "platform/qt/Theme.h"
+
+int main(int argumentCount, char** arguments) {
+    testing::InitGoogleTest(&argumentCount, arguments);
+    orvelle::Application application("endtoend-tests", [](const std::exception& error) {
+        ADD_FAILURE() << "an error left a handler: " << error.what();
+    });
+    orvelle::ApplyTheme(orvelle::Scheme::Light);
+    return RUN_ALL_TESTS();
+}

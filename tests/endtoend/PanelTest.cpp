@@ -1,0 +1,60 @@
+#include "tests/endtoend/PanelTest.h"
+
+#include <QFile>
+#include <stdexcept>
+
+namespace orvelle {
+
+PanelTest::PanelTest() {
+    QFile script(QString::fromStdString(VoiceProgram()));
+    if (!script.open(QFile::WriteOnly)) throw std::runtime_error("the stand-in voice program cannot be written");
+    script.write(
+        "#!/bin/sh\n{ printf '|'; for word; do printf '%s|' \"$word\"; done; echo; } >>\"${0%/*}/commands\"\n");
+    script.close();
+    script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    SqliteStore& store = House.SetUp.Store;
+    store.SaveSettingString("OrvelleCP", "RWPath", '"' + VoiceProgram() + '"');
+    store.SaveSettingString("OrvelleCP", "RWPTTKey", std::to_string(TalkKeyCode));
+    store.HandlerEnded();
+}
+
+void PanelTest::Open() {
+    House.Open();
+    ASSERT_TRUE(ComesTrue([this] { return House.Deck && House.Deck->isVisible() && House.Window->isVisible(); }));
+    // Side by side, so that nothing hides what is clicked.
+    House.Deck->move(0, House.Window->frameGeometry().bottom() + 1);
+}
+
+void PanelTest::Connect() {
+    EmbeddedTessaly& network = House.SetUp.Tessaly;
+    House.SetUp.Velmarc.SetLink(LinkState::Up);
+    network.SetLink(LinkState::Up);
+    network.SetCallsign("ABC123");
+    network.SetStatus(1);
+    network.SetReceive("1");
+    network.SetTransmit("1");
+    network.StartSession();
+    ASSERT_TRUE(ComesTrue([this] { return Panel.SessionHandle != 0 && Panel.Panels(4).Enabled; }));
+}
+
+void PanelTest::ShowPage(const char* node) { Panel.twCategory.UserClick(*Panel.twCategory.Find(node)); }
+
+QWidget& PanelTest::OfPanel(const char* name) { return Find(*House.Window, name); }
+
+QWidget& PanelTest::OfDeck(const char* name) { return Find(*House.Deck, name); }
+
+QWidget& PanelTest::Find(QWidget& window, const char* name) {
+    auto* widget = window.findChild<QWidget*>(name);
+    if (widget == nullptr) throw std::runtime_error(std::string("no widget ") + name);
+    ToFront(window);
+    return *widget;
+}
+
+void PanelTest::ToFront(QWidget& window) { user.Do({"windowactivate", "--sync", QString::number(window.winId())}); }
+
+std::string PanelTest::VoiceCommands() const {
+    QFile commands(folder.filePath("commands"));
+    return commands.open(QFile::ReadOnly) ? commands.readAll().toStdString() : "";
+}
+
+}  // namespace orvelle

@@ -1,0 +1,123 @@
+// The panel as a program: how it begins and how it ends.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include "platform/embedded/Store.h"
+#include "tests/endtoend/User.h"
+
+namespace orvelle {
+
+namespace {
+
+class ProcessTest : public testing::Test {
+protected:
+    // A panel with settings of this test's own.
+    void Start(QProcess& process, const QString& display = qEnvironmentVariable("DISPLAY")) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_DATA_HOME", folder.path());
+        environment.remove("WAYLAND_DISPLAY");
+        environment.insert("DISPLAY", display);
+        process.setProcessEnvironment(environment);
+        process.start(PANEL_PROGRAM, QStringList());
+    }
+    static bool IsOver(const QProcess& process) {
+        return ComesTrue([&] { return process.state() == QProcess::NotRunning; });
+    }
+    // The panel's window is on the screen.
+    bool Shows(const QProcess& process) {
+        return ComesTrue([&] {
+            QProcess search;
+            search.start("xdotool", {"search", "--onlyvisible", "--all", "--pid", QString::number(process.processId()),
+                                     "--name", "^Orvelle Control Panel$"});
+            search.waitForFinished();
+            return !search.readAllStandardOutput().trimmed().isEmpty();
+        });
+    }
+    SqliteStore Settings() {
+        QDir(folder.path()).mkpath("OrvelleCP");
+        return {folder.filePath("OrvelleCP/settings.sqlite").toStdString(),
+                [](const std::string& sentence) { ADD_FAILURE() << sentence; }};
+    }
+
+    QTemporaryDir folder;
+    User user;
+};
+
+TEST_F(ProcessTest, ASecondInstanceEndsSilently) {
+    QProcess first;
+    Start(first);
+    ASSERT_TRUE(Shows(first));
+    QProcess second;
+    Start(second);
+    ASSERT_TRUE(IsOver(second));
+    EXPECT_EQ(second.exitCode(), 0);
+    EXPECT_EQ(second.readAllStandardOutput() + second.readAllStandardError(), "");
+    EXPECT_EQ(first.state(), QProcess::Running);
+    first.terminate();
+    EXPECT_TRUE(IsOver(first));
+}
+
+TEST_F(ProcessTest, TheDoorsMessageEndsTheProgramInOrder) {
+    QProcess panel;
+    Start(panel);
+    ASSERT_TRUE(Shows(panel));
+    ASSERT_TRUE(user.Input.SendDoorMessage("OrvelleCP Stub1", 1237, 0, 0));
+    ASSERT_TRUE(IsOver(panel));
+    EXPECT_EQ(panel.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(panel.exitCode(), 0);
+    // The unload kept the window's place.
+    EXPECT_NE(Settings().GetSettingLong("OrvelleCP", "Top", -1), -1);
+}
+
+TEST_F(ProcessTest, AnotherMessageThroughTheDoorDoesNothing) {
+    QProcess panel;
+    Start(panel);
+    ASSERT_TRUE(Shows(panel));
+    ASSERT_TRUE(user.Input.SendDoorMessage("OrvelleCP Stub1", 1236, 0, 0));
+    ASSERT_TRUE(user.Input.SendDoorMessage("OrvelleCP Stub1", 1237, 0, 0));
+    ASSERT_TRUE(IsOver(panel));
+    EXPECT_EQ(panel.exitCode(), 0);
+}
+
+TEST_F(ProcessTest, ADriverSettingOutOfRangeEndsTheProgramWithARunTimeError) {
+    SqliteStore settings = Settings();
+    settings.SaveSettingLong("OrvelleCP", "RWDriven", 7);
+    settings.HandlerEnded();
+    QProcess panel;
+    Start(panel);
+    ASSERT_TRUE(IsOver(panel));
+    EXPECT_EQ(panel.exitCode(), 70);
+    EXPECT_EQ(panel.readAllStandardError(), "OrvelleCP: run-time error 9: subscript out of range\n");
+}
+
+TEST_F(ProcessTest, WithoutADisplayOneSentenceTellsSo) {
+    QProcess panel;
+    Start(panel, ":4242");
+    ASSERT_TRUE(IsOver(panel));
+    EXPECT_EQ(panel.exitCode(), 1);
+    const QByteArray said = panel.readAllStandardError();
+    EXPECT_TRUE(said.startsWith("OrvelleCP: ") && said.count('\n') == 1 && said.contains("4242")) << said.toStdString();
+}
+
+TEST_F(ProcessTest, ADamagedStoreIsSetAsideAndToldAndThePanelLives) {
+    QDir(folder.path()).mkpath("OrvelleCP");
+    QFile damaged(folder.filePath("OrvelleCP/settings.sqlite"));
+    ASSERT_TRUE(damaged.open(QFile::WriteOnly));
+    damaged.write(QByteArray(8192, 'x'));
+    damaged.close();
+    QProcess panel;
+    Start(panel);
+    ASSERT_TRUE(Shows(panel));
+    EXPECT_TRUE(ComesTrue([this] { return QDir(folder.filePath("OrvelleCP")).entryList({"*damaged*"}).size() == 1; }));
+    user.Do({"search", "--sync", "--onlyvisible", "--pid", QString::number(panel.processId()), "--class", "."});
+    ASSERT_TRUE(user.Input.SendDoorMessage("OrvelleCP Stub1", 1237, 0, 0));
+    EXPECT_TRUE(IsOver(panel));
+    EXPECT_EQ(panel.exitCode(), 0);
+}
+
+}  // namespace
+
+}  // namespace orvelle

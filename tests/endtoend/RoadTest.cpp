@@ -1,0 +1,98 @@
+// The road of one radio change, by real clicks and keys from end to end.
+#include <QListWidget>
+
+#include "tests/endtoend/PanelTest.h"
+
+namespace orvelle {
+
+namespace {
+
+const std::string Join = "|/join1|srv1/ops|/priority|high|/netspeed|2|/callsign|ABC123|\n";
+
+class RoadTest : public PanelTest {
+protected:
+    void TickRogerWilco() {
+        ShowPage("RogerWilco");
+        user.Click(OfPanel("RWEnable"));
+        ASSERT_TRUE(ComesTrue([this] { return Panel.RWEnable.Value == 1; }));
+    }
+    void MapF8() {
+        user.Click(OfPanel("RWKeySet"));
+        ASSERT_TRUE(ComesTrue([this] { return Panel.RWKeySet.Caption == "Cancel"; }));
+        user.Click(OfDeck("KeyboardField"));
+        user.Do({"key", "F8"});
+        ASSERT_TRUE(ComesTrue([this] { return Panel.RWFSKey == "F8"; }));
+    }
+    void TuneCom1() {
+        House.SetUp.Tessaly.SetVoice(0, {RogerWilco, "srv1", "ops", "", ""});
+        ASSERT_TRUE(ComesTrue([this] { return Panel.ActiveVoiceSoftware == RogerWilco; }));
+    }
+};
+
+TEST_F(RoadTest, ATunedRadioStartsTheVoiceProgramAndAKeyOverThereHoldsItsTalkKeyHere) {
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_NO_FATAL_FAILURE(Connect());
+    ASSERT_NO_FATAL_FAILURE(TickRogerWilco());
+    ASSERT_NO_FATAL_FAILURE(MapF8());
+
+    user.Enter(OfDeck("ServerCOM1"), "srv1");
+    user.Enter(OfDeck("ChannelCOM1"), "ops");
+    user.Click(OfDeck("SoftwareCOM1"));
+    user.Do({"key", "Down"});
+    user.Do({"key", "Return"});
+    EXPECT_TRUE(ComesTrue([this] { return VoiceCommands() == Join; })) << VoiceCommands();
+    EXPECT_EQ(Panel.CommentCOM1.Caption(), "srv1/ops");
+
+    user.Click(OfDeck("KeyboardField"));
+    user.KeyDown("F8");
+    EXPECT_TRUE(ComesTrue([this] { return user.SeesDown(TalkKey); }));
+    user.KeyUp("F8");
+    EXPECT_TRUE(ComesTrue([this] { return !user.SeesDown(TalkKey); }));
+}
+
+TEST_F(RoadTest, ALostLinkReleasesTheTalkKeyThatIsHeld) {
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_NO_FATAL_FAILURE(Connect());
+    ASSERT_NO_FATAL_FAILURE(TickRogerWilco());
+    ASSERT_NO_FATAL_FAILURE(MapF8());
+    ASSERT_NO_FATAL_FAILURE(TuneCom1());
+    user.KeyDown("F8");
+    ASSERT_TRUE(ComesTrue([this] { return user.SeesDown(TalkKey); }));
+
+    user.Click(OfDeck("SimulatorLink"));
+    EXPECT_TRUE(ComesTrue([this] { return !user.SeesDown(TalkKey) && !Panel.Panels(4).Enabled; }));
+    EXPECT_EQ(Panel.RWPTTKeyState, "");
+    user.KeyUp("F8");
+}
+
+TEST_F(RoadTest, ARoleThatAnotherComputerHoldsIsNotServedHereUntilItIsDropped) {
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_NO_FATAL_FAILURE(Connect());
+    user.Click(OfDeck("ClaimRWCom1"));
+    ASSERT_TRUE(ComesTrue([this] { return Panel.ForeignRWCom1 != 0; }));
+    ASSERT_NO_FATAL_FAILURE(TickRogerWilco());
+    House.SetUp.Tessaly.SetVoice(0, {RogerWilco, "srv1", "ops", "", ""});
+    ASSERT_TRUE(ComesTrue([this] { return Panel.CommentCOM1.Caption == "srv1/ops"; }));
+    EXPECT_EQ(Panel.ActiveVoiceSoftware, NoVoice);
+    EXPECT_EQ(VoiceCommands(), "");
+
+    user.Click(OfDeck("ClaimRWCom1"));
+    EXPECT_TRUE(ComesTrue([this] { return VoiceCommands() == Join; })) << VoiceCommands();
+    EXPECT_NE(Panel.RWCom1, 0);
+}
+
+TEST_F(RoadTest, AVoiceProgramThatIsNotThereIsToldOnTheDeckAlone) {
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_NO_FATAL_FAILURE(Connect());
+    ASSERT_NO_FATAL_FAILURE(TickRogerWilco());
+    user.Enter(OfPanel("RWPath"), "/nowhere/roger.exe");
+    ASSERT_TRUE(ComesTrue([this] { return Panel.RWPath.Text == "/nowhere/roger.exe"; }));
+    ASSERT_NO_FATAL_FAILURE(TuneCom1());
+    const auto& programs = dynamic_cast<QListWidget&>(OfDeck("Programs"));
+    EXPECT_TRUE(ComesTrue([&] { return programs.count() == 1; }));
+    EXPECT_TRUE(programs.count() == 1 && programs.item(0)->text().contains("/nowhere/roger.exe"));
+}
+
+}  // namespace
+
+}  // namespace orvelle

@@ -1,0 +1,49 @@
+// The window on a real desktop: the close box hides it, the tray icon brings it back.
+#include <QApplication>
+#include <QMenu>
+
+#include "tests/endtoend/PanelTest.h"
+
+namespace orvelle {
+
+namespace {
+
+class WindowTest : public PanelTest {
+protected:
+    const QWidget* TrayIcon() const {
+        for (const QWidget* widget : QApplication::allWidgets())
+            if (widget->inherits("QSystemTrayIconSys") && widget->isVisible()) return widget;
+        return nullptr;
+    }
+};
+
+TEST_F(WindowTest, TheCloseBoxHidesAndALeftPressOnTheIconBringsBack) {
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_TRUE(ComesTrue([this] { return TrayIcon() != nullptr; }));
+    ToFront(*House.Window);
+    user.Do({"key", "alt+F4"});
+    ASSERT_TRUE(ComesTrue([this] { return !House.Window->isVisible(); }));
+    EXPECT_FALSE(Panel.Visible);
+    EXPECT_TRUE(Panel.IsLoaded());
+
+    user.Click(*TrayIcon());
+    EXPECT_TRUE(ComesTrue([this] { return House.Window->isVisible(); }));
+    EXPECT_TRUE(Panel.Visible);
+}
+
+TEST_F(WindowTest, ARightPressOnTheIconPopsUpTheMenu) {
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_TRUE(ComesTrue([this] { return TrayIcon() != nullptr; }));
+    user.RightClick(*TrayIcon());
+    const auto* menu = [] { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }();
+    ASSERT_TRUE(ComesTrue([&] { return (menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) != nullptr; }));
+    EXPECT_EQ(menu->actions().size(), 3);
+    Panel.Left = 3000;
+    user.Do({"key", "Down", "Return"});
+    // "Ensure Visible", the first entry.
+    EXPECT_TRUE(ComesTrue([this] { return Panel.Left == 10.0 && Panel.Top == 10.0; }));
+}
+
+}  // namespace
+
+}  // namespace orvelle
