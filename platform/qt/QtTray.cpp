@@ -49,7 +49,7 @@ void QtTray::Remove() {
 void QtTray::Place() {
     if (!isAdded) return;
     if (host->IsThere()) {
-        standIn.reset();
+        if (standIn != nullptr) standIn->hide();
         trayIcon = std::make_unique<QSystemTrayIcon>();
         QObject::connect(trayIcon.get(), &QSystemTrayIcon::activated, &context,
                          [this](QSystemTrayIcon::ActivationReason reason) { Activated(reason); });

@@ -2,10 +2,10 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
-#include <QToolTip>
 #include <QWindow>
 #include <utility>
 
@@ -16,7 +16,7 @@ namespace {
 constexpr int Size = 48;
 constexpr int IconMargin = 6;
 constexpr int ScreenMargin = 16;
-constexpr int ExplanationMilliseconds = 20000;
+constexpr int ExplanationCharacters = 56;  // of a line
 
 }  // namespace
 
@@ -25,7 +25,12 @@ StandInIcon::StandInIcon(std::function<void(Mouse)> onMouse)
     setObjectName("StandInIcon");
     setWindowTitle("Orvelle Control Panel icon");
     setAttribute(Qt::WA_ShowWithoutActivating);
-    setFixedSize(Size, Size);
+    explanation = new QLabel(this);
+    explanation->setWordWrap(true);
+    explanation->setAttribute(Qt::WA_TransparentForMouseEvents);
+    const int explanationWidth = fontMetrics().averageCharWidth() * ExplanationCharacters;
+    explanation->setGeometry(IconMargin, 0, explanationWidth, Size);
+    setFixedSize(IconMargin + explanationWidth + Size, Size);
 }
 
 void StandInIcon::SetIcon(const QIcon& newIcon) {
@@ -34,19 +39,29 @@ void StandInIcon::SetIcon(const QIcon& newIcon) {
     update();
 }
 
-void StandInIcon::Appear(const QString& tip, const QString& explanation) {
-    setToolTip(tip + "\n" + explanation);
+void StandInIcon::Appear(const QString& tip, const QString& words) {
+    setToolTip(tip + "\n" + words);
     setAccessibleName(tip);
-    if (!wasShown) PlaceInCorner();
+    explanation->setText(words);
+    if (!isPlaced) PlaceInCorner();
+    isPlaced = true;
     show();
     raise();
-    if (!wasShown) QToolTip::showText(geometry().topLeft(), toolTip(), this, rect(), ExplanationMilliseconds);
-    wasShown = true;
 }
 
 void StandInIcon::PlaceInCorner() {
     const QRect free = screen()->availableGeometry();
-    move(free.right() - ScreenMargin - Size, free.bottom() - ScreenMargin - Size);
+    move(free.right() - ScreenMargin - width(), free.bottom() - ScreenMargin - height());
+}
+
+void StandInIcon::Use(Mouse mouse) {
+    if (!std::exchange(isExplained, true)) {
+        explanation->hide();
+        const QPoint iconPlace = pos() + QPoint(width() - Size, 0);
+        setFixedSize(Size, Size);
+        move(iconPlace);
+    }
+    told(mouse);
 }
 
 void StandInIcon::paintEvent(QPaintEvent*) {
@@ -54,7 +69,7 @@ void StandInIcon::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), palette().window());
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    icon.paint(&painter, rect().adjusted(IconMargin, IconMargin, -IconMargin, -IconMargin));
+    icon.paint(&painter, QRect(width() - Size, 0, Size, Size).marginsRemoved(QMargins() + IconMargin));
 }
 
 void StandInIcon::keyPressEvent(QKeyEvent* event) {
@@ -62,10 +77,10 @@ void StandInIcon::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Space:
         case Qt::Key_Enter:
         case Qt::Key_Return:
-            told(Mouse::LeftPress);
+            Use(Mouse::LeftPress);
             break;
         case Qt::Key_Menu:
-            told(Mouse::RightPress);
+            Use(Mouse::RightPress);
             break;
         default:
             QWidget::keyPressEvent(event);
@@ -75,7 +90,7 @@ void StandInIcon::keyPressEvent(QKeyEvent* event) {
 void StandInIcon::mousePressEvent(QMouseEvent* event) {
     pressedAt = event->position().toPoint();
     isDragged = false;
-    if (event->button() == Qt::RightButton) told(Mouse::RightPress);
+    if (event->button() == Qt::RightButton) Use(Mouse::RightPress);
 }
 
 void StandInIcon::mouseMoveEvent(QMouseEvent* event) {
@@ -88,13 +103,13 @@ void StandInIcon::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void StandInIcon::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton && !isDragged) told(Mouse::LeftPress);
+    if (event->button() == Qt::LeftButton && !isDragged) Use(Mouse::LeftPress);
 }
 
 void StandInIcon::mouseDoubleClickEvent(QMouseEvent* event) {
     // The release that follows is no click.
     isDragged = true;
-    if (event->button() == Qt::LeftButton) told(Mouse::DoubleClick);
+    if (event->button() == Qt::LeftButton) Use(Mouse::DoubleClick);
 }
 
 void StandInIcon::closeEvent(QCloseEvent* event) { event->ignore(); }

@@ -1,12 +1,15 @@
 // The small window that stands in for the icon where the desktop has no notification area: always on top, in the task
-// list, in the lower right corner until the user drags it elsewhere. A click is told when the button is let go, so that
-// a drag is none; Enter and Space are a click too. It can't be closed, as it is the only way back to a hidden panel.
+// list, in the lower right corner until the user drags it elsewhere. At first it says beside the icon what it is, until
+// it is used. A click is told when the button is let go, so that a drag is none; Enter and Space are a click too. It
+// can't be closed, as it is the only way back to a hidden panel.
 #pragma once
 
 #include <QIcon>
 #include <QPoint>
 #include <QWidget>
 #include <functional>
+
+class QLabel;
 
 namespace orvelle {
 
@@ -17,8 +20,8 @@ public:
     explicit StandInIcon(std::function<void(Mouse)> onMouse);
 
     void SetIcon(const QIcon& newIcon);
-    // Shows the window with its tip; the explanation is shown beside it the first time.
-    void Appear(const QString& tip, const QString& explanation);
+    // `words` are one sentence on what this window is.
+    void Appear(const QString& tip, const QString& words);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -31,12 +34,15 @@ protected:
 
 private:
     void PlaceInCorner();
+    void Use(Mouse mouse);
 
     const std::function<void(Mouse)> told;
     QIcon icon;
+    QLabel* explanation;
+    bool isExplained = false;
+    bool isPlaced = false;
     QPoint pressedAt;
     bool isDragged = false;
-    bool wasShown = false;
 };
 
 }  // namespace orvelle

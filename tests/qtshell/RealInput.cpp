@@ -87,6 +87,20 @@ QPoint RealInput::MiddleOf(const QWidget& widget) {
     return QPoint(left, top) + widget.mapTo(widget.window(), widget.rect().center());
 }
 
+bool RealInput::PointsAt(const QWidget& widget) {
+    Window window = x->root;
+    Window root = 0;
+    Window child = 0;
+    int rootX = 0;
+    int rootY = 0;
+    int left = 0;
+    int top = 0;
+    unsigned int buttons = 0;
+    while (XQueryPointer(x->display, window, &root, &child, &rootX, &rootY, &left, &top, &buttons) != 0 && child != 0)
+        window = child;
+    return window == widget.winId();
+}
+
 std::vector<std::string> RealInput::WindowState(const QWidget& widget) {
     Atom type = 0;
     int format = 0;

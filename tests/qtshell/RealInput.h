@@ -24,6 +24,8 @@ public:
 
     // Middle of a window of this program, wherever it is embedded.
     QPoint MiddleOf(const QWidget& widget);
+    // Whether the pointer is over the window of this program, and over none on top of it.
+    bool PointsAt(const QWidget& widget);
     // Names of the atoms in _NET_WM_STATE.
     std::vector<std::string> WindowState(const QWidget& widget);
     bool HasFocus(const QWidget& widget);

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QLabel>
 #include <QMenu>
 #include <QPixmap>
 #include <QProcess>
@@ -84,6 +85,19 @@ protected:
         return QIcon(pixmap);
     }
 
+    // The tray gives the icon its size and place some time after it took it.
+    bool PointerComesTo(QWidget& icon) {
+        constexpr int smallestIcon = 16;
+        return ComesTrue([&] {
+            input.MoveTo(input.MiddleOf(icon));
+            return icon.height() >= smallestIcon && icon.underMouse() && input.PointsAt(icon);
+        });
+    }
+    void ClickHere(int button) {
+        input.Press(button);
+        input.Release(button);
+    }
+
     bool Comes(Long mouseMessage) {
         const bool came = ComesTrue([this] { return !window.Messages.empty(); });
         const bool isIt = came && window.Messages.front() == std::pair(IconId, mouseMessage);
@@ -124,18 +138,16 @@ TEST_F(TrayTest, PressesOnTheIconReachTheHookedWindow) {
     TrayProgram program;
     tray.Shell_NotifyIconA(NotifyIconAdd, record);
     ASSERT_TRUE(ComesTrue([] { return EmbeddedIcon() != nullptr; }));
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(EmbeddedIcon()));
-
-    input.MoveTo(input.MiddleOf(*EmbeddedIcon()));
+    ASSERT_TRUE(PointerComesTo(*EmbeddedIcon()));
     input.Press(1);
     EXPECT_TRUE(Comes(513));  // on the press
     input.Release(1);
-    input.Click(input.MiddleOf(*EmbeddedIcon()), 3);
+    ClickHere(3);
     EXPECT_TRUE(Comes(516));
-    input.Click(input.MiddleOf(*EmbeddedIcon()), 2);
-    input.Click(input.MiddleOf(*EmbeddedIcon()), 1);
+    ClickHere(2);
+    ClickHere(1);
     EXPECT_TRUE(Comes(513));
-    input.Click(input.MiddleOf(*EmbeddedIcon()), 1);
+    ClickHere(1);
     EXPECT_TRUE(Comes(515));
 }
 
@@ -151,8 +163,8 @@ TEST_F(TrayTest, ADyingTrayBringsTheStandInAndANewTrayTakesTheIconBack) {
         TrayProgram program;
         ASSERT_TRUE(ComesTrue([] { return EmbeddedIcon() != nullptr; }));
         EXPECT_EQ(StandIn(), nullptr);
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(EmbeddedIcon()));
-        input.Click(input.MiddleOf(*EmbeddedIcon()), 1);
+        ASSERT_TRUE(PointerComesTo(*EmbeddedIcon()));
+        ClickHere(1);
         EXPECT_TRUE(Comes(513));
     }
     EXPECT_TRUE(ComesTrue([] { return StandIn() != nullptr; }));
@@ -165,15 +177,29 @@ protected:
         EXPECT_TRUE(ComesTrue([] { return StandIn() != nullptr; }));
         EXPECT_TRUE(QTest::qWaitForWindowExposed(StandIn()));
     }
+
+    // Its right end, in all its sizes.
+    QPoint IconPlace() {
+        return input.MiddleOf(*StandIn()) + QPoint((StandIn()->width() - StandIn()->height()) / 2, 0);
+    }
 };
 
-TEST_F(StandInTest, TellsOfItselfAndTakesTheSameClicks) {
-    EXPECT_TRUE(StandIn()->toolTip().startsWith("Orvelle\nThis desktop has no notification area"));
-    input.Click(input.MiddleOf(*StandIn()), 1);
+TEST_F(StandInTest, TellsOfItselfUntilItIsUsedAndTakesTheSameClicks) {
+    const auto* words = StandIn()->findChild<QLabel*>();
+    EXPECT_TRUE(words->isVisible());
+    EXPECT_TRUE(words->text().startsWith("This desktop has no notification area"));
+    EXPECT_LE(words->heightForWidth(words->width()), words->height());
+    EXPECT_EQ(StandIn()->toolTip(), "Orvelle\n" + words->text());
+
+    const QPoint place = IconPlace();
+    input.Click(place, 1);
     EXPECT_TRUE(Comes(513));
-    input.Click(input.MiddleOf(*StandIn()), 1);
+    EXPECT_FALSE(words->isVisible());
+    EXPECT_EQ(StandIn()->size(), QSize(48, 48));
+    EXPECT_TRUE(ComesTrue([&] { return IconPlace() == place; }));
+    input.Click(place, 1);
     EXPECT_TRUE(Comes(515));
-    input.Click(input.MiddleOf(*StandIn()), 3);
+    input.Click(place, 3);
     EXPECT_TRUE(Comes(516));
     Settle();
     EXPECT_TRUE(window.Messages.empty());
