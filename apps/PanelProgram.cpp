@@ -14,6 +14,12 @@ namespace {
 
 constexpr int GapBesidePanel = 16;  // logical pixels
 
+// TeamSpeak's own library where this computer has it, else the stand-in.
+TeamSpeakRemote& RemoteControl(DynamicTeamSpeak& real, TeamSpeakRemote& standIn) {
+    if (real.IsThere()) return real;
+    return standIn;
+}
+
 }  // namespace
 
 std::string SettingsFile() {
@@ -35,8 +41,8 @@ PanelProgram::PanelProgram(ProcessProgram& endingProgram, TerminationSignals& te
       Processes(""),
       tray(Table, [](const Picture& picture) { return StatusIcon(picture.Name); }),
       Panel({SetUp.Velmarc, SetUp.Store, SetUp.Store, SetUp.Tessaly, SetUp.VVL, SetUp.VolumeControl,
-             SetUp.VolumeControlHP, SetUp.TSRemote, SetUp.MediaPlayers, dialog, messages, Keyboard, queue, windows,
-             clock, Processes, program, tray, urls}) {
+             SetUp.VolumeControlHP, RemoteControl(teamSpeak, SetUp.TSRemote), SetUp.MediaPlayers, dialog, messages,
+             Keyboard, queue, windows, clock, Processes, program, tray, urls}) {
     program.AtEnd([this] { Keyboard.ReleaseAll(); });
     Panel.Attach(timers);
     Panel.Attach(menus);

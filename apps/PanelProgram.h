@@ -10,6 +10,7 @@
 #include "panel/FrmOrvelle.h"
 #include "platform/controls/WindowTable.h"
 #include "platform/embedded/SetUp.h"
+#include "platform/linux/DynamicTeamSpeak.h"
 #include "platform/linux/LinuxProcesses.h"
 #include "platform/linux/ProcessProgram.h"
 #include "platform/linux/TerminationSignals.h"
@@ -56,6 +57,7 @@ public:
     WindowTable Table;
 
 private:
+    DynamicTeamSpeak teamSpeak;
     KeyCapture keys;
     QtClock clock;
     QtFileDialog dialog{[this] { return Window.get(); }};

@@ -16,13 +16,15 @@ DynamicTeamSpeak::DynamicTeamSpeak() : DynamicTeamSpeak({BesideOwnFile(LibraryNa
 
 void DynamicTeamSpeak::Unload::operator()(void* loaded) const { dlclose(loaded); }
 
-void* DynamicTeamSpeak::Find(const char* function) {
+bool DynamicTeamSpeak::IsThere() {
     for (const std::string& place : places) {
         if (library) break;
         library.reset(dlopen(place.c_str(), RTLD_NOW | RTLD_LOCAL));
     }
-    return library ? dlsym(library.get(), function) : nullptr;
+    return library != nullptr;
 }
+
+void* DynamicTeamSpeak::Find(const char* function) { return IsThere() ? dlsym(library.get(), function) : nullptr; }
 
 // Only the lower 16 bits of what the library returns are a result, and so the function's type says.
 template <typename... Parameters, typename... Arguments>

@@ -19,6 +19,9 @@ public:
     // Other places, in the order in which they are tried; one without a "/" is searched by the system.
     explicit DynamicTeamSpeak(std::vector<std::string> places) : places(std::move(places)) {}
 
+    // Whether the library can be loaded now.
+    bool IsThere();
+
     Integer tsrConnect(const std::string& url) override;
     Integer tsrDisconnect() override;
     Integer tsrGetServerInfo(TS_SERVER_INFO& info) override;
