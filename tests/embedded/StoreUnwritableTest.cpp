@@ -47,19 +47,50 @@ TEST(StoreReadOnlyTest, AReadOnlyFileIsReadAndKept) {
     });
 }
 
+// The program ends without closing its store, so the log stays beside the file.
+void WriteAndEnd(StoreFolder& folder) {
+    const pid_t child = fork();
+    if (child == 0) {
+        auto store = folder.Open();
+        store.SaveSettingLong("OrvelleCP", "Left", 8);
+        store.HandlerEnded();
+        _exit(0);
+    }
+    ASSERT_EQ(waitpid(child, nullptr, 0), child);
+    ASSERT_EQ(folder.Files().size(), 3U);
+}
+
 TEST(StoreReadOnlyTest, AReadOnlyFileIsReadWithItsLog) {
     InAFolderOfNobody([](StoreFolder& folder) {
         folder.Fill();
+        WriteAndEnd(folder);
+        ProtectFile(folder);
+        ExpectInMemory(folder, "cannot be written. Its settings are used, but", 8);
+    });
+}
+
+TEST(StoreReadOnlyTest, ReadOnlyFilesInAReadOnlyFolderAreReadWithTheirLog) {
+    InAFolderOfNobody([](StoreFolder& folder) {
+        folder.Fill();
+        WriteAndEnd(folder);
+        for (const std::string& name : folder.Files()) fs::permissions(folder.Path(name), Readable);
+        ProtectFolder(folder);
+        ExpectInMemory(folder, "cannot be written. Its settings are used, but", 8);
+    });
+}
+
+TEST(StoreReadOnlyTest, AFileWithALogIsWrittenInAReadOnlyFolder) {
+    InAFolderOfNobody([](StoreFolder& folder) {
+        folder.Fill();
+        WriteAndEnd(folder);
+        ProtectFolder(folder);
         {
             auto store = folder.Open();
-            store.SaveSettingLong("OrvelleCP", "Left", 8);
-            store.HandlerEnded();
-            fs::copy(folder.Path(), folder.Path("copy.sqlite"));
-            fs::copy(folder.Path("OrvelleCP.sqlite-wal"), folder.Path("copy.sqlite-wal"));
+            EXPECT_EQ(store.GetSettingLong("OrvelleCP", "Left", 1), 8);
+            store.SaveSettingLong("OrvelleCP", "Left", 9);
         }
-        fs::permissions(folder.Path("copy.sqlite"), Readable);
-        EXPECT_EQ(folder.Open("copy.sqlite").GetSettingLong("OrvelleCP", "Left", 1), 8);
-        EXPECT_EQ(folder.Sentences.size(), 1U);
+        EXPECT_EQ(folder.Open().GetSettingLong("OrvelleCP", "Left", 1), 9);
+        EXPECT_TRUE(folder.Sentences.empty());
     });
 }
 
