@@ -1,0 +1,106 @@
+// What the tables cost on the real store: Apply, which rewrites the whole section, and the load, by the number of rows.
+// The ratios of 1,000 rows to 10 are the figure.
+#include <benchmark/benchmark.h>
+#include <stdlib.h>
+
+#include <filesystem>
+#include <string>
+
+#include "bench/SilentPeers.h"
+#include "panel/FrmOrvelle.h"
+#include "platform/embedded/Store.h"
+
+namespace orvelle {
+
+namespace {
+
+// A store of its own on the disk, gone with the object.
+class StoreFolder {
+public:
+    StoreFolder() {
+        std::string name = (std::filesystem::temp_directory_path() / "orvelle-bench-XXXXXX").string();
+        path = mkdtemp(name.data());
+    }
+    StoreFolder(const StoreFolder&) = delete;
+    StoreFolder& operator=(const StoreFolder&) = delete;
+    ~StoreFolder() { std::filesystem::remove_all(path); }
+
+    SqliteStore Open() const {
+        return {path / "settings.sqlite", [](const std::string&) {}};
+    }
+    // Rows in both tables.
+    void Fill(Long rows) const {
+        SqliteStore store = Open();
+        for (Long row = 1; row <= rows; ++row) {
+            const std::string number = std::to_string(row);
+            store.SaveSettingString("OrvelleCP\\Joy2Key\\" + number, "J2KJoy", "Stick." + number);
+            store.SaveSettingString("OrvelleCP\\Joy2Key\\" + number, "J2KKey", "29+46");
+            store.SaveSettingString("OrvelleCP\\Joy2Key\\" + number, "Toggle", "Push");
+            store.SaveSettingString("OrvelleCP\\Key2Key\\" + number, "K2KFSKey", "Key " + number);
+            store.SaveSettingString("OrvelleCP\\Key2Key\\" + number, "K2KKey", "29+46");
+            store.SaveSettingString("OrvelleCP\\Key2Key\\" + number, "Toggle", "Push");
+        }
+        store.HandlerEnded();
+    }
+
+private:
+    std::filesystem::path path;
+};
+
+Platform With(SilentPeers& peers, SqliteStore& store) {
+    const Platform silent = peers.Outside();
+    return {silent.Velmarc,
+            store,
+            store,
+            silent.Tessaly,
+            silent.VVL,
+            silent.VolumeControl,
+            silent.VolumeControlHP,
+            silent.TSRemote,
+            silent.MediaPlayers,
+            silent.Dialog,
+            silent.Messages,
+            silent.Keyboard,
+            silent.Queue,
+            silent.Windows,
+            silent.Clock,
+            silent.Processes,
+            silent.Program,
+            silent.Tray,
+            silent.Urls};
+}
+
+// The row in the middle goes from push to toggle and back.
+void ApplyRow(benchmark::State& state) {
+    const StoreFolder folder;
+    folder.Fill(static_cast<Long>(state.range(0)));
+    SqliteStore store = folder.Open();
+    SilentPeers peers;
+    FrmOrvelle panel(With(peers, store));
+    panel.Show();
+    peers.Velmarc.Connected();
+    panel.ListKeyToKey.UserClickRow(static_cast<Long>(state.range(0)) / 2);
+    for (auto iteration : state) {
+        panel.K2KToggle.UserCheck(1 - panel.K2KToggle.Value());
+        panel.K2KApply.UserClick();
+    }
+    if (panel.ListKeyToKey.Count() != state.range(0)) state.SkipWithError("rows came or went");
+}
+BENCHMARK(ApplyRow)->Arg(10)->Arg(1000)->Unit(benchmark::kMicrosecond);
+
+void LoadWithRows(benchmark::State& state) {
+    const StoreFolder folder;
+    folder.Fill(static_cast<Long>(state.range(0)));
+    for (auto iteration : state) {
+        SqliteStore store = folder.Open();
+        SilentPeers peers;
+        FrmOrvelle panel(With(peers, store));
+        panel.Show();
+        if (panel.ListJoyToKey.Count() != state.range(0)) state.SkipWithError("the rows were not read");
+    }
+}
+BENCHMARK(LoadWithRows)->Arg(10)->Arg(1000)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+
+}  // namespace orvelle
