@@ -15,11 +15,11 @@ constexpr int Rounds = 20;
 
 }  // namespace
 
-DeckRig::DeckRig() : SetUp(Loop, Folder.filePath("store").toStdString()), Deck(SetUp) {
+DeckRig::DeckRig() : setUp(loop, folder.filePath("store").toStdString()), window(setUp) {
     WriteDownEvents();
-    Deck.OpenAt({0, 0});
-    Deck.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&Deck));
+    window.OpenAt({0, 0});
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
 }
 
 void DeckRig::Settle() {
@@ -30,12 +30,12 @@ void DeckRig::Settle() {
 }
 
 void DeckRig::ConnectAll() {
-    SetUp.Tessaly.LinkStart();
-    SetUp.Velmarc.SetLink(LinkState::Up);
-    SetUp.Tessaly.SetLink(LinkState::Up);
-    SetUp.Tessaly.StartSession();
+    setUp.Tessaly.LinkStart();
+    setUp.Velmarc.SetLink(LinkState::Up);
+    setUp.Tessaly.SetLink(LinkState::Up);
+    setUp.Tessaly.StartSession();
     Settle();
-    Events.clear();
+    events.clear();
 }
 
 void DeckRig::TurnTo(QWidget& widget) {
@@ -75,34 +75,34 @@ void DeckRig::Pick(const char* name, int index) {
 
 QString DeckRig::TextOf(const char* name) { return At<QLabel>(name).text(); }
 
-std::vector<std::string> DeckRig::TakeEvents() { return std::exchange(Events, {}); }
+std::vector<std::string> DeckRig::TakeEvents() { return std::exchange(events, {}); }
 
 void DeckRig::WriteDownEvents() {
-    const auto note = [this](std::string name) { return [this, name = std::move(name)] { Events.push_back(name); }; };
+    const auto note = [this](std::string name) { return [this, name = std::move(name)] { events.push_back(name); }; };
     const auto noteNumber = [this](std::string name) {
-        return [this, name = std::move(name)](Long number) { Events.push_back(name + " " + std::to_string(number)); };
+        return [this, name = std::move(name)](Long number) { events.push_back(name + " " + std::to_string(number)); };
     };
     const auto noteInput = [this](std::string name) {
         return [this, name = std::move(name)](Long, Long, const std::string& input, const std::string&) {
-            Events.push_back(name + " " + input);
+            events.push_back(name + " " + input);
         };
     };
-    auto& velmarc = SetUp.Velmarc;
+    auto& velmarc = setUp.Velmarc;
     velmarc.Connected = note("simulator connected");
     velmarc.Disconnected = note("simulator disconnected");
-    velmarc.ServerFound = [this](const std::string& name) { Events.push_back("simulator found " + name); };
+    velmarc.ServerFound = [this](const std::string& name) { events.push_back("simulator found " + name); };
     velmarc.FSKeyDown = [this](bool repeat, bool active, const std::string& key, const std::string& sequence) {
-        Events.push_back("key down " + key + " in " + sequence + (repeat ? " repeat" : "") +
+        events.push_back("key down " + key + " in " + sequence + (repeat ? " repeat" : "") +
                          (active ? "" : " inactive"));
     };
     velmarc.FSKeyUp = noteInput("key up");
     velmarc.FSJoyDown = noteInput("button down");
     velmarc.FSJoyUp = noteInput("button up");
 
-    auto& tessaly = SetUp.Tessaly;
+    auto& tessaly = setUp.Tessaly;
     tessaly.Connected = note("network connected");
     tessaly.Disconnected = note("network disconnected");
-    tessaly.ServerFound = [this](const std::string& name) { Events.push_back("network found " + name); };
+    tessaly.ServerFound = [this](const std::string& name) { events.push_back("network found " + name); };
     tessaly.SessionOpened = note("session opened");
     tessaly.SessionClosed = note("session closed");
     tessaly.SessionStatusChanged = note("session status changed");
@@ -113,10 +113,10 @@ void DeckRig::WriteDownEvents() {
     tessaly.InterfaceChanged = noteNumber("record changed");
     tessaly.InterfaceRemoved = noteNumber("record removed");
     tessaly.InterfaceParamChanged = [this](Long id, Long index) {
-        Events.push_back("parameter changed " + std::to_string(id) + "/" + std::to_string(index));
+        events.push_back("parameter changed " + std::to_string(id) + "/" + std::to_string(index));
     };
 
-    auto& engine = SetUp.VVL;
+    auto& engine = setUp.VVL;
     engine.VVL_Started = note("engine started");
     engine.VVL_Stopped = note("engine stopped");
     engine.VVL_RoomJoinSucceed = noteNumber("join succeeded");
@@ -127,12 +127,12 @@ void DeckRig::WriteDownEvents() {
     engine.VVL_RoomAudioStopped = noteNumber("room audio stopped");
     engine.VVL_RoomStatusChanged = noteNumber("room status changed");
 
-    SetUp.VolumeControl.InputOpened = note("input opened");
-    SetUp.VolumeControl.InputClosed = note("input closed");
-    SetUp.VolumeControl.OutputOpened = note("output opened");
-    SetUp.VolumeControl.OutputClosed = note("output closed");
-    SetUp.VolumeControl.MasterVolumeChanged = note("master moved");
-    SetUp.Notice = [this](const std::string& sentence) { Events.push_back("notice " + sentence); };
+    setUp.VolumeControl.InputOpened = note("input opened");
+    setUp.VolumeControl.InputClosed = note("input closed");
+    setUp.VolumeControl.OutputOpened = note("output opened");
+    setUp.VolumeControl.OutputClosed = note("output closed");
+    setUp.VolumeControl.MasterVolumeChanged = note("master moved");
+    setUp.Notice = [this](const std::string& sentence) { events.push_back("notice " + sentence); };
 }
 
 }  // namespace orvelle

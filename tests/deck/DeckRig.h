@@ -26,7 +26,7 @@ protected:
 
     template <typename Widget>
     Widget& At(const char* name) {
-        auto* widget = Deck.findChild<Widget*>(name);
+        auto* widget = window.findChild<Widget*>(name);
         if (!widget) ADD_FAILURE() << "no widget " << name;
         return *widget;
     }
@@ -37,11 +37,11 @@ protected:
     void TurnTo(QWidget& widget);
     QString TextOf(const char* name);
 
-    QTemporaryDir Folder;
-    QtEventLoop Loop;
-    EmbeddedSetUp SetUp;
-    DeckWindow Deck;
-    std::vector<std::string> Events;  // raised since they were read last
+    QTemporaryDir folder;
+    QtEventLoop loop;
+    EmbeddedSetUp setUp;
+    DeckWindow window;
+    std::vector<std::string> events;  // raised since they were read last
     std::vector<std::string> TakeEvents();
 
 private:

@@ -30,31 +30,31 @@ TEST_F(DeckFaults, EachSideIsDelayed) {
     TypeNumber("JoinDelay", 400);
     TypeNumber("HeadsetMixerDelay", 500);
     TypeNumber("SpeakersMixerDelay", 600);
-    EXPECT_EQ(SetUp.Velmarc.Delay(), 100);
-    EXPECT_EQ(SetUp.Tessaly.Delay(), 200);
-    EXPECT_EQ(SetUp.VVL.StartDelay(), 300);
-    EXPECT_EQ(SetUp.VVL.JoinDelay(), 400);
-    EXPECT_EQ(SetUp.VolumeControl.Delay(), 500);
-    EXPECT_EQ(SetUp.VolumeControlHP.Delay(), 600);
+    EXPECT_EQ(setUp.Velmarc.Delay(), 100);
+    EXPECT_EQ(setUp.Tessaly.Delay(), 200);
+    EXPECT_EQ(setUp.VVL.StartDelay(), 300);
+    EXPECT_EQ(setUp.VVL.JoinDelay(), 400);
+    EXPECT_EQ(setUp.VolumeControl.Delay(), 500);
+    EXPECT_EQ(setUp.VolumeControlHP.Delay(), 600);
 }
 
 TEST_F(DeckFaults, TheNetworkRefuses) {
     ConnectAll();
     Click("RefuseSession");
-    EXPECT_FALSE(SetUp.Tessaly.OpenSession(0));
+    EXPECT_FALSE(setUp.Tessaly.OpenSession(0));
     Click("RefuseSession");
-    EXPECT_TRUE(SetUp.Tessaly.OpenSession(0));
-    SetUp.Tessaly.CloseSession();
+    EXPECT_TRUE(setUp.Tessaly.OpenSession(0));
+    setUp.Tessaly.CloseSession();
 
     Click("RefuseCreate");
-    EXPECT_EQ(SetUp.Tessaly.CreateInterface("VOICE", "VVL"), 0);
+    EXPECT_EQ(setUp.Tessaly.CreateInterface("VOICE", "VVL"), 0);
     Click("RefuseCreate");
-    const Long id = SetUp.Tessaly.CreateInterface("VOICE", "VVL");
+    const Long id = setUp.Tessaly.CreateInterface("VOICE", "VVL");
     EXPECT_NE(id, 0);
-    SetUp.Tessaly.CloseInterface();
+    setUp.Tessaly.CloseInterface();
 
     Click("RefuseOpen");
-    EXPECT_FALSE(SetUp.Tessaly.OpenInterface(id));
+    EXPECT_FALSE(setUp.Tessaly.OpenInterface(id));
 }
 
 TEST_F(DeckFaults, AnotherComputerMakesAnOddRecord) {
@@ -63,8 +63,8 @@ TEST_F(DeckFaults, AnotherComputerMakesAnOddRecord) {
     Type("OddRole", "Station");
     Click("OddClaim");
     EXPECT_THAT(TakeEvents(), ElementsAre("record appeared 1"));
-    EXPECT_EQ(SetUp.Tessaly.Records().at(1).Type, "WEATHER");
-    EXPECT_EQ(SetUp.Tessaly.Records().at(1).Role, "Station");
+    EXPECT_EQ(setUp.Tessaly.Records().at(1).Type, "WEATHER");
+    EXPECT_EQ(setUp.Tessaly.Records().at(1).Role, "Station");
 }
 
 TEST_F(DeckFaults, TheUserIsToldANotice) {
@@ -78,13 +78,13 @@ TEST_F(DeckFaults, TheSimulatorsComputerHasOtherNames) {
     Type("ComputerName", "SIMPC");
     Type("DesktopName", "Left seat");
     ConnectAll();
-    EXPECT_EQ(SetUp.Velmarc.IPAddress(), "10.0.0.7");
-    EXPECT_EQ(SetUp.Velmarc.ComputerName(), "SIMPC");
-    EXPECT_EQ(SetUp.Velmarc.DesktopName(), "Left seat");
+    EXPECT_EQ(setUp.Velmarc.IPAddress(), "10.0.0.7");
+    EXPECT_EQ(setUp.Velmarc.ComputerName(), "SIMPC");
+    EXPECT_EQ(setUp.Velmarc.DesktopName(), "Left seat");
 }
 
 TEST_F(DeckFaults, TeamSpeakRunsAndFailsOnDemand) {
-    auto& program = SetUp.TSRemote;
+    auto& program = setUp.TSRemote;
     EXPECT_NE(program.tsrConnect("teamspeak://ts.example.net?channel=Lobby"), 0);
     Click("TeamSpeakRuns");
     EXPECT_EQ(program.tsrConnect("teamspeak://ts.example.net?channel=Lobby"), 0);
@@ -119,17 +119,17 @@ TEST_F(DeckFaults, TeamSpeakRunsAndFailsOnDemand) {
 
 TEST_F(DeckFaults, TheAddressFieldIsPaddedAsPicked) {
     Click("TeamSpeakRuns");
-    SetUp.TSRemote.tsrConnect("teamspeak://ts");
+    setUp.TSRemote.tsrConnect("teamspeak://ts");
     TS_SERVER_INFO server{};
-    SetUp.TSRemote.tsrGetServerInfo(server);
+    setUp.TSRemote.tsrGetServerInfo(server);
     EXPECT_EQ(server.Address.back(), ' ');
     Pick("TeamSpeakPadding", 1);
-    SetUp.TSRemote.tsrGetServerInfo(server);
+    setUp.TSRemote.tsrGetServerInfo(server);
     EXPECT_EQ(server.Address.back(), '\0');
 }
 
 TEST_F(DeckFaults, MixerLinesGoAndMove) {
-    auto& mixer = SetUp.VolumeControl;
+    auto& mixer = setUp.VolumeControl;
     mixer.Open();
     Settle();
     TakeEvents();
@@ -146,12 +146,12 @@ TEST_F(DeckFaults, MixerLinesGoAndMove) {
     EXPECT_EQ(mixer.MasterVolume(), 80);
 
     Click("SpeakersWaveLine");
-    EXPECT_TRUE(SetUp.VolumeControlHP.WaveUnavailable());
+    EXPECT_TRUE(setUp.VolumeControlHP.WaveUnavailable());
     EXPECT_FALSE(mixer.WaveUnavailable());
 }
 
 TEST_F(DeckFaults, DevicesArePluggedAndUnplugged) {
-    SetUp.VolumeControl.Open();
+    setUp.VolumeControl.Open();
     Settle();
     TakeEvents();
     Click("HeadsetInputPlugged");
@@ -164,7 +164,7 @@ TEST_F(DeckFaults, DevicesArePluggedAndUnplugged) {
 }
 
 TEST_F(DeckFaults, LevelsFollowThePanel) {
-    SetUp.VolumeControl.MasterVolume(25);
+    setUp.VolumeControl.MasterVolume(25);
     Settle();
     EXPECT_EQ(At<QSpinBox>("HeadsetMasterLevel").value(), 25);
 }

@@ -34,10 +34,10 @@ protected:
     void Release(const Key& key, bool repeat = false) { Send(QEvent::KeyRelease, key, repeat); }
     // The name by which a press reaches the panel.
     std::string NameOf(const Key& key, Qt::KeyboardModifiers modifiers = {}) {
-        Events.clear();
+        events.clear();
         Send(QEvent::KeyPress, key, false, modifiers);
         Send(QEvent::KeyRelease, key, false, modifiers);
-        return Events.size() == 2 ? Events[1].substr(std::string("key up ").size()) : "";
+        return events.size() == 2 ? events[1].substr(std::string("key up ").size()) : "";
     }
 
     QWidget& field = At<QWidget>("KeyboardField");

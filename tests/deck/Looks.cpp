@@ -19,7 +19,7 @@ protected:
     DeckLooks() {
         ApplyTheme(GetParam());
         // The smallest screen that it is made for; the offscreen one is smaller still at scale 2.
-        Deck.resize(1024, 700);
+        window.resize(1024, 700);
         PlayFlight();
     }
 
@@ -31,9 +31,9 @@ protected:
 
 void DeckLooks::PlayFlight() {
     ConnectAll();
-    auto& tessaly = SetUp.Tessaly;
-    SetUp.Velmarc.SeeServer("127.0.0.1");
-    SetUp.Velmarc.SeeServer("TOWERPC");
+    auto& tessaly = setUp.Tessaly;
+    setUp.Velmarc.SeeServer("127.0.0.1");
+    setUp.Velmarc.SeeServer("TOWERPC");
     tessaly.SetStatus(1);
     tessaly.SetCallsign("ORV123");
     tessaly.SetFrequency(0, "122.800");
@@ -54,21 +54,21 @@ void DeckLooks::PlayFlight() {
     tessaly.CloseInterface();
     Settle();
 
-    SetUp.VVL.Start(3);
+    setUp.VVL.Start(3);
     Settle();
-    SetUp.VVL.RoomJoin(1, "ORV123 (1234567)", "voice.example.net/lowi_app");
-    SetUp.VVL.ChannelOutput(1, 0, true);
-    SetUp.VVL.RoomMute(1, false);
+    setUp.VVL.RoomJoin(1, "ORV123 (1234567)", "voice.example.net/lowi_app");
+    setUp.VVL.ChannelOutput(1, 0, true);
+    setUp.VVL.RoomMute(1, false);
     Settle();
-    SetUp.VVL.SetRoomAudio(1, true);
-    SetUp.VVL.SetJoinDelay(60'000);
-    SetUp.VVL.RoomJoin(0, "ORV123 (pilot)", "voice.example.net/tower");
-    SetUp.Velmarc.PlaySound("Tessaly\\RADIO_ONCHANNEL.wav");
-    SetUp.Velmarc.PlaySound("Tessaly\\RADIO_NOCHANNEL.wav");
-    Deck.TellOfProgram("No program was started, because there is no file \"/home/pilot/RogerWilco/roger.exe\".");
+    setUp.VVL.SetRoomAudio(1, true);
+    setUp.VVL.SetJoinDelay(60'000);
+    setUp.VVL.RoomJoin(0, "ORV123 (pilot)", "voice.example.net/tower");
+    setUp.Velmarc.PlaySound("Tessaly\\RADIO_ONCHANNEL.wav");
+    setUp.Velmarc.PlaySound("Tessaly\\RADIO_NOCHANNEL.wav");
+    window.TellOfProgram("No program was started, because there is no file \"/home/pilot/RogerWilco/roger.exe\".");
     tessaly.WriteParameter(2, 13, 1);
-    SetUp.Velmarc.PressKey("Ctrl");
-    SetUp.Velmarc.PressKey("F8");
+    setUp.Velmarc.PressKey("Ctrl");
+    setUp.Velmarc.PressKey("F8");
     Settle();
 }
 
@@ -91,7 +91,7 @@ TEST_P(DeckLooks, NothingIsClipped) {
         }
         QDir().mkpath(PICTURES);
         const QString name = QString("%1/deck-%2-%3-%4x.png").arg(PICTURES).arg(index + 1).arg(SchemeName());
-        EXPECT_TRUE(Deck.grab().save(name.arg(Deck.devicePixelRatio())));
+        EXPECT_TRUE(window.grab().save(name.arg(window.devicePixelRatio())));
     }
 }
 

@@ -23,16 +23,16 @@ protected:
     }
 
     Long CreateOwn(const char* role) {
-        const Long id = SetUp.Tessaly.CreateInterface("VOICE", role);
-        SetUp.Tessaly.CloseInterface();
+        const Long id = setUp.Tessaly.CreateInterface("VOICE", role);
+        setUp.Tessaly.CloseInterface();
         Settle();
-        Events.clear();
+        events.clear();
         return id;
     }
     void PanelWrites(Long id, Long index, Long value) {
-        SetUp.Tessaly.OpenInterface(id);
-        SetUp.Tessaly.SetParam(index, value);
-        SetUp.Tessaly.CloseInterface();
+        setUp.Tessaly.OpenInterface(id);
+        setUp.Tessaly.SetParam(index, value);
+        setUp.Tessaly.CloseInterface();
         Settle();
     }
     QString Cell(int row, Column column) { return table.item(row, column)->text(); }
@@ -71,13 +71,13 @@ TEST_F(DeckParameters, ThePanelsOwnVoiceRecordIsShownFirst) {
 
 TEST_F(DeckParameters, TheUsersPickStaysUntilItsRecordGoes) {
     CreateOwn("VVL");
-    const Long other = SetUp.Tessaly.Claim("COCKPIT2", "VVL");
+    const Long other = setUp.Tessaly.Claim("COCKPIT2", "VVL");
     Settle();
     Pick("ParameterRecord", 1);
     PanelWrites(1, 2, 1);
     EXPECT_EQ(At<QComboBox>("ParameterRecord").currentText(), "2  VVL of COCKPIT2");
     EXPECT_EQ(Cell(2, Value), "");
-    SetUp.Tessaly.DropClaim(other);
+    setUp.Tessaly.DropClaim(other);
     Settle();
     EXPECT_EQ(At<QComboBox>("ParameterRecord").currentText(), "1  VVL of this panel");
     EXPECT_EQ(Cell(2, Value), "1");
@@ -87,7 +87,7 @@ TEST_F(DeckParameters, EditingANumberIsAnotherPartysWrite) {
     const Long id = CreateOwn("VVL");
     Edit(13, "1");
     EXPECT_THAT(TakeEvents(), ElementsAre("parameter changed 1/13"));
-    EXPECT_EQ(SetUp.Tessaly.Records().at(id).Parameters.at(13).Content, 1);
+    EXPECT_EQ(setUp.Tessaly.Records().at(id).Parameters.at(13).Content, 1);
     EXPECT_EQ(Cell(13, Value), "1");
     EXPECT_EQ(Cell(13, Writer), "other");
 }
@@ -96,9 +96,9 @@ TEST_F(DeckParameters, EditingATextIsAnotherPartysWrite) {
     const Long id = CreateOwn("VVL");
     Edit(FirstText + 2, "voice.example.net/private");
     EXPECT_THAT(TakeEvents(), ElementsAre("parameter changed 1/9"));
-    EXPECT_EQ(SetUp.Tessaly.Records().at(id).Texts.at(9).Content, "voice.example.net/private");
+    EXPECT_EQ(setUp.Tessaly.Records().at(id).Texts.at(9).Content, "voice.example.net/private");
     Edit(FirstText + 2, "");
-    EXPECT_EQ(SetUp.Tessaly.Records().at(id).Texts.at(9).Content, "");
+    EXPECT_EQ(setUp.Tessaly.Records().at(id).Texts.at(9).Content, "");
 }
 
 TEST_F(DeckParameters, WhatIsNoNumberIsToldAndNotWritten) {
@@ -115,7 +115,7 @@ TEST_F(DeckParameters, WhatIsNoNumberIsToldAndNotWritten) {
 
 TEST_F(DeckParameters, AWriteWithoutTheLinkIsTold) {
     CreateOwn("VVL");
-    SetUp.Tessaly.SetLink(LinkState::Down);
+    setUp.Tessaly.SetLink(LinkState::Down);
     Settle();
     TakeEvents();
     Edit(13, "1");
@@ -146,18 +146,18 @@ TEST_F(DeckParameters, WhatChangedLatelyIsMarked) {
 }
 
 TEST(LateWrites, AFlurryLastsUntilAPauseAndStaysUntilTheNext) {
-    constexpr std::int64_t start = 50'000;
+    constexpr std::int64_t Start = 50'000;
     deck::LateWrites late;
     late.Forget(10);
     EXPECT_FALSE(late.IsLate(10));
-    late.Count(11, start);
-    late.Count(13, start + deck::LateWrites::Pause - 1);
+    late.Count(11, Start);
+    late.Count(13, Start + deck::LateWrites::Pause - 1);
     EXPECT_FALSE(late.IsLate(10));
     EXPECT_TRUE(late.IsLate(11));
     EXPECT_TRUE(late.IsLate(13));
-    late.Count(13, start + 10 * deck::LateWrites::Pause);
+    late.Count(13, Start + 10 * deck::LateWrites::Pause);
     EXPECT_TRUE(late.IsLate(11));
-    late.Count(14, start + 11 * deck::LateWrites::Pause);
+    late.Count(14, Start + 11 * deck::LateWrites::Pause);
     EXPECT_FALSE(late.IsLate(13));
     EXPECT_TRUE(late.IsLate(14));
 }

@@ -16,8 +16,8 @@ protected:
     DeckRecords() { ConnectAll(); }
 
     void CreateOwn(const char* role) {
-        SetUp.Tessaly.CreateInterface("VOICE", role);
-        SetUp.Tessaly.CloseInterface();
+        setUp.Tessaly.CreateInterface("VOICE", role);
+        setUp.Tessaly.CloseInterface();
         Settle();
     }
     QStringList Row(int row) {
@@ -34,7 +34,7 @@ TEST_F(DeckRecords, EachRoleIsClaimedAndDropped) {
     for (const char* button : {"ClaimRWCom1", "ClaimRWCom2", "ClaimTSCom1", "ClaimTSCom2", "ClaimVVL"}) {
         Click(button);
         EXPECT_THAT(TakeEvents(), ElementsAre("record appeared " + std::to_string(id)));
-        EXPECT_EQ(SetUp.Tessaly.Records().at(id).Role, std::string(button).substr(std::string("Claim").size()));
+        EXPECT_EQ(setUp.Tessaly.Records().at(id).Role, std::string(button).substr(std::string("Claim").size()));
         EXPECT_TRUE(At<QToolButton>(button).isChecked());
         ++id;
     }
@@ -46,10 +46,10 @@ TEST_F(DeckRecords, EachRoleIsClaimedAndDropped) {
 
 TEST_F(DeckRecords, TheTableTellsOwnersAndParameters) {
     CreateOwn("VVL");
-    SetUp.Tessaly.OpenInterface(1);
-    SetUp.Tessaly.SetParam(0, 3);
-    SetUp.Tessaly.SetParamText(7, "server/room");
-    SetUp.Tessaly.CloseInterface();
+    setUp.Tessaly.OpenInterface(1);
+    setUp.Tessaly.SetParam(0, 3);
+    setUp.Tessaly.SetParamText(7, "server/room");
+    setUp.Tessaly.CloseInterface();
     Click("ClaimRWCom1");
     EXPECT_EQ(Row(0), QStringList({"1", "VOICE", "VVL", "this panel", "0=3  7=\"server/room\""}));
     EXPECT_EQ(Row(1), QStringList({"2", "VOICE", "RWCom1", "COCKPIT2", ""}));

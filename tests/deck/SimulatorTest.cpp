@@ -24,17 +24,17 @@ TEST_F(DeckSimulator, TheSwitchTakesTheLinkUpAndDown) {
 }
 
 TEST_F(DeckSimulator, ALinkOnItsWaySaysSo) {
-    SetUp.Velmarc.SetDelay(60'000);
+    setUp.Velmarc.SetDelay(60'000);
     Click("SimulatorLink");
     EXPECT_EQ(TextOf("SimulatorStateText"), "Not connected yet, server AUTOMATIC");
     EXPECT_TRUE(At<QCheckBox>("SimulatorLink").isChecked());
 }
 
 TEST_F(DeckSimulator, TheServerInUseFollowsThePanel) {
-    SetUp.Velmarc.SetServer("TOWERPC");
+    setUp.Velmarc.SetServer("TOWERPC");
     Settle();
     EXPECT_EQ(TextOf("SimulatorStateText"), "Not connected, server TOWERPC");
-    SetUp.Velmarc.SetServer("");
+    setUp.Velmarc.SetServer("");
     Settle();
     EXPECT_EQ(TextOf("SimulatorStateText"), "Not connected, server (empty)");
 }
@@ -60,7 +60,7 @@ TEST_F(DeckSimulator, AJoystickButtonIsDownAsLongAsTheMouseHoldsIt) {
     QTest::mousePress(&button, Qt::LeftButton);
     Settle();
     EXPECT_THAT(TakeEvents(), ElementsAre("button down Stick.Button 3"));
-    EXPECT_THAT(SetUp.Velmarc.HeldButtons(), ElementsAre("Stick.Button 3"));
+    EXPECT_THAT(setUp.Velmarc.HeldButtons(), ElementsAre("Stick.Button 3"));
     QTest::mouseRelease(&button, Qt::LeftButton);
     Settle();
     EXPECT_THAT(TakeEvents(), ElementsAre("button up Stick.Button 3"));
@@ -81,7 +81,7 @@ TEST_F(DeckSimulator, TheSpaceBarHoldsAJoystickButtonToo) {
 TEST_F(DeckSimulator, AHeldButtonIsReportedUpBeforeItsLinkIsLost) {
     ConnectAll();
     QTest::mousePress(&At<QWidget>("Stick1"), Qt::LeftButton);
-    SetUp.Velmarc.SetLink(LinkState::Down);
+    setUp.Velmarc.SetLink(LinkState::Down);
     Settle();
     QTest::mouseRelease(&At<QWidget>("Stick1"), Qt::LeftButton);
     Settle();
@@ -93,17 +93,17 @@ TEST_F(DeckSimulator, ClosingTheWindowLetsGoWhatIsHeld) {
     ConnectAll();
     QTest::mousePress(&At<QWidget>("Stick1"), Qt::LeftButton);
     Settle();
-    Deck.close();
+    window.close();
     Settle();
     EXPECT_THAT(TakeEvents(), ElementsAre("button down Stick.Button 1", "button up Stick.Button 1"));
 }
 
 TEST_F(DeckSimulator, SoundsAreListedInTheirOrderWithTheirTime) {
     ConnectAll();
-    SetUp.Velmarc.PlaySound("Tessaly\\RADIO_ONCHANNEL.wav");
-    SetUp.Velmarc.PlaySound("Tessaly\\RADIO_NOCHANNEL.wav");
+    setUp.Velmarc.PlaySound("Tessaly\\RADIO_ONCHANNEL.wav");
+    setUp.Velmarc.PlaySound("Tessaly\\RADIO_NOCHANNEL.wav");
     Settle();
-    SetUp.Velmarc.PlaySound("Tessaly\\RADIO_ONCHANNEL.wav");
+    setUp.Velmarc.PlaySound("Tessaly\\RADIO_ONCHANNEL.wav");
     Settle();
     const auto& list = At<QListWidget>("Sounds");
     ASSERT_EQ(list.count(), 3);
@@ -114,9 +114,9 @@ TEST_F(DeckSimulator, SoundsAreListedInTheirOrderWithTheirTime) {
 
 TEST_F(DeckSimulator, TheListOfSoundsKeepsTheLast200) {
     ConnectAll();
-    for (int sound = 1; sound <= 250; ++sound) SetUp.Velmarc.PlaySound(std::to_string(sound));
+    for (int sound = 1; sound <= 250; ++sound) setUp.Velmarc.PlaySound(std::to_string(sound));
     Settle();
-    SetUp.Velmarc.PlaySound("last");
+    setUp.Velmarc.PlaySound("last");
     Settle();
     const auto& list = At<QListWidget>("Sounds");
     EXPECT_EQ(list.count(), 200);
@@ -125,7 +125,7 @@ TEST_F(DeckSimulator, TheListOfSoundsKeepsTheLast200) {
 }
 
 TEST_F(DeckSimulator, AFailedStartIsToldInItsSentence) {
-    Deck.TellOfProgram("No program was started, because there is no file \"/opt/rw\".");
+    window.TellOfProgram("No program was started, because there is no file \"/opt/rw\".");
     const auto& list = At<QListWidget>("Programs");
     ASSERT_EQ(list.count(), 1);
     EXPECT_TRUE(list.item(0)->text().endsWith("  No program was started, because there is no file \"/opt/rw\"."));

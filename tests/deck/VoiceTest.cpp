@@ -19,17 +19,17 @@ using testing::IsEmpty;
 class DeckVoice : public DeckRig {
 protected:
     void StartEngine() {
-        SetUp.VVL.Start(3);
+        setUp.VVL.Start(3);
         Settle();
-        Events.clear();
+        events.clear();
     }
     void Join(Long room) {
-        SetUp.VVL.RoomJoin(room, "ORV123 (pilot)", "voice.example.net/tower");
+        setUp.VVL.RoomJoin(room, "ORV123 (pilot)", "voice.example.net/tower");
         Settle();
     }
     // Answers the dialogue from the loop, while the engine waits in it.
     void AnswerCalibration(QDialogButtonBox::StandardButton answer, double input, double output) {
-        Loop.Post([this, answer, input, output] {
+        loop.Post([this, answer, input, output] {
             auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
             ASSERT_TRUE(dialog);
             shownInput = dialog->findChild<QDoubleSpinBox*>("InputSquelch")->value();
@@ -45,8 +45,8 @@ protected:
 TEST_F(DeckVoice, TheEnginesStateIsShown) {
     EXPECT_EQ(TextOf("EngineStateText"), "Stopped");
     StartEngine();
-    SetUp.VVL.InputSquelch(37.5);
-    SetUp.VVL.OutputSquelch(50);
+    setUp.VVL.InputSquelch(37.5);
+    setUp.VVL.OutputSquelch(50);
     Join(0);
     EXPECT_EQ(TextOf("EngineStateText"), "Running");
     EXPECT_EQ(TextOf("EngineAudioText"), "Audio runs");
@@ -55,13 +55,13 @@ TEST_F(DeckVoice, TheEnginesStateIsShown) {
 
 TEST_F(DeckVoice, TheNextStartIsRefusedOrDies) {
     Pick("EngineStart", 1);
-    EXPECT_FALSE(SetUp.VVL.Start(3));
+    EXPECT_FALSE(setUp.VVL.Start(3));
     Pick("EngineStart", 2);
-    EXPECT_TRUE(SetUp.VVL.Start(3));
+    EXPECT_TRUE(setUp.VVL.Start(3));
     Settle();
     EXPECT_THAT(TakeEvents(), ElementsAre("engine stopped"));
     Pick("EngineStart", 0);
-    EXPECT_TRUE(SetUp.VVL.Start(3));
+    EXPECT_TRUE(setUp.VVL.Start(3));
     Settle();
     EXPECT_THAT(TakeEvents(), ElementsAre("engine started"));
 }
@@ -77,8 +77,8 @@ TEST_F(DeckVoice, ARunningEngineStopsByItself) {
 TEST_F(DeckVoice, ARoomIsShown) {
     StartEngine();
     Join(1);
-    SetUp.VVL.ChannelOutput(1, 0, true);
-    SetUp.VVL.RoomMute(1, false);
+    setUp.VVL.ChannelOutput(1, 0, true);
+    setUp.VVL.RoomMute(1, false);
     Settle();
     EXPECT_EQ(TextOf("Room1StateText"), "In the room");
     EXPECT_EQ(TextOf("Room1Client"), "ORV123 (pilot)");
@@ -115,7 +115,7 @@ TEST_F(DeckVoice, JoinsAreRefusedOrFail) {
     StartEngine();
     Pick("Room0NextJoin", 1);
     Pick("Room1NextJoin", 2);
-    EXPECT_FALSE(SetUp.VVL.RoomJoin(0, "ORV123", "a/b"));
+    EXPECT_FALSE(setUp.VVL.RoomJoin(0, "ORV123", "a/b"));
     Join(1);
     EXPECT_THAT(TakeEvents(), testing::Contains("join failed 1"));
 }
@@ -125,7 +125,7 @@ TEST_F(DeckVoice, AStatusTextIsTold) {
     Join(0);
     TakeEvents();
     Type("Room0Status", "Two pilots");
-    EXPECT_EQ(SetUp.VVL.RoomStatus(0), "Two pilots");
+    EXPECT_EQ(setUp.VVL.RoomStatus(0), "Two pilots");
     EXPECT_THAT(TakeEvents(), ElementsAre("room status changed 0"));
 }
 
@@ -133,19 +133,19 @@ TEST_F(DeckVoice, DevicesFail) {
     StartEngine();
     Click("MicrophoneFails");
     Click("SpeakersFails");
-    EXPECT_FALSE(SetUp.VVL.InputStatus());
-    EXPECT_TRUE(SetUp.VVL.OutputStatus(0));
-    EXPECT_FALSE(SetUp.VVL.OutputStatus(1));
+    EXPECT_FALSE(setUp.VVL.InputStatus());
+    EXPECT_TRUE(setUp.VVL.OutputStatus(0));
+    EXPECT_FALSE(setUp.VVL.OutputStatus(1));
     Click("MicrophoneFails");
-    EXPECT_TRUE(SetUp.VVL.InputStatus());
+    EXPECT_TRUE(setUp.VVL.InputStatus());
 }
 
 TEST_F(DeckVoice, TheDevicesTellWhatThePanelSet) {
-    SetUp.VVL.InputDevice(2);
-    SetUp.VVL.OutputDevice(1, 0);
-    SetUp.VVL.OutputVolume(1, 150);
-    SetUp.VVL.SignalVolume(1, 30);
-    SetUp.VVL.OutputFilter(1, true);
+    setUp.VVL.InputDevice(2);
+    setUp.VVL.OutputDevice(1, 0);
+    setUp.VVL.OutputVolume(1, 150);
+    setUp.VVL.SignalVolume(1, 30);
+    setUp.VVL.OutputFilter(1, true);
     Settle();
     EXPECT_EQ(TextOf("MicrophoneDevice"), "Device 2");
     EXPECT_EQ(TextOf("SpeakersDevice"), "Device 0, volume 150, signal 30, filtered");
@@ -155,7 +155,7 @@ TEST_F(DeckVoice, CalibrationGivesTheTwoValues) {
     float input = 0;
     float output = 0;
     AnswerCalibration(QDialogButtonBox::Ok, 42.5, 17);
-    EXPECT_TRUE(SetUp.VVL.Calibrate(-1, 0, input, output));
+    EXPECT_TRUE(setUp.VVL.Calibrate(-1, 0, input, output));
     EXPECT_EQ(shownInput, 50);
     EXPECT_FLOAT_EQ(input, 42.5);
     EXPECT_FLOAT_EQ(output, 17);
@@ -165,17 +165,17 @@ TEST_F(DeckVoice, ACancelledCalibrationGivesNone) {
     float input = 1;
     float output = 2;
     AnswerCalibration(QDialogButtonBox::Cancel, 42.5, 17);
-    EXPECT_FALSE(SetUp.VVL.Calibrate(-1, 0, input, output));
+    EXPECT_FALSE(setUp.VVL.Calibrate(-1, 0, input, output));
     EXPECT_FLOAT_EQ(input, 1);
     EXPECT_FLOAT_EQ(output, 2);
 }
 
 TEST_F(DeckVoice, ACalibrationWithTheDeckClosedIsAskedToo) {
-    Deck.close();
+    window.close();
     float input = 0;
     float output = 0;
     AnswerCalibration(QDialogButtonBox::Ok, 1, 2);
-    EXPECT_TRUE(SetUp.VVL.Calibrate(-1, -1, input, output));
+    EXPECT_TRUE(setUp.VVL.Calibrate(-1, -1, input, output));
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ protected:
     // What the user operates; parts of such widgets are none.
     std::vector<QWidget*> Fields() {
         std::vector<QWidget*> fields;
-        for (QWidget* widget : Deck.findChildren<QWidget*>()) {
+        for (QWidget* widget : window.findChildren<QWidget*>()) {
             const bool isPart = qobject_cast<QAbstractSpinBox*>(widget->parentWidget()) ||
                                 widget->objectName().startsWith("qt_") || widget->objectName() == "ScrollLeftButton" ||
                                 widget->objectName() == "ScrollRightButton" || widget->inherits("QTableCornerButton") ||
@@ -67,38 +67,38 @@ TEST_F(DeckWindowTest, NoTwoMnemonicsOfAPageAreAlike) {
 }
 
 TEST_F(DeckWindowTest, AMnemonicLeadsToItsField) {
-    QTest::keyClick(&Deck, Qt::Key_V, Qt::AltModifier);
+    QTest::keyClick(&window, Qt::Key_V, Qt::AltModifier);
     EXPECT_TRUE(At<QWidget>("ServerCOM1").hasFocus());
-    QTest::keyClick(&Deck, Qt::Key_K, Qt::AltModifier);
+    QTest::keyClick(&window, Qt::Key_K, Qt::AltModifier);
     EXPECT_TRUE(At<QWidget>("KeyboardField").hasFocus());
 }
 
-TEST_F(DeckWindowTest, ItSaysWhatItIs) { EXPECT_EQ(Deck.windowTitle(), "OrvelleCP Flight Deck"); }
+TEST_F(DeckWindowTest, ItSaysWhatItIs) { EXPECT_EQ(window.windowTitle(), "OrvelleCP Flight Deck"); }
 
 TEST_F(DeckWindowTest, ClosingItEndsNothing) {
-    EXPECT_TRUE(Deck.close());
-    EXPECT_FALSE(Deck.testAttribute(Qt::WA_QuitOnClose));
-    EXPECT_FALSE(Deck.testAttribute(Qt::WA_DeleteOnClose));
-    Deck.OpenAt({0, 0});
-    EXPECT_TRUE(Deck.isVisible());
+    EXPECT_TRUE(window.close());
+    EXPECT_FALSE(window.testAttribute(Qt::WA_QuitOnClose));
+    EXPECT_FALSE(window.testAttribute(Qt::WA_DeleteOnClose));
+    window.OpenAt({0, 0});
+    EXPECT_TRUE(window.isVisible());
 }
 
-TEST_F(DeckWindowTest, ItOpensWithoutTakingTheFocus) { EXPECT_TRUE(Deck.testAttribute(Qt::WA_ShowWithoutActivating)); }
+TEST_F(DeckWindowTest, ItOpensWithoutTakingTheFocus) { EXPECT_TRUE(window.testAttribute(Qt::WA_ShowWithoutActivating)); }
 
 TEST_F(DeckWindowTest, ItStaysOnTheScreen) {
-    const QRect room = Deck.screen()->availableGeometry();
-    Deck.close();
-    Deck.OpenAt(room.bottomRight());
-    EXPECT_TRUE(room.contains(Deck.frameGeometry()));
+    const QRect room = window.screen()->availableGeometry();
+    window.close();
+    window.OpenAt(room.bottomRight());
+    EXPECT_TRUE(room.contains(window.frameGeometry()));
 }
 
 TEST_F(DeckWindowTest, NothingRunsWhileNothingHappens) {
     ConnectAll();
-    Deck.setFocus();
+    window.setFocus();
     const auto timers = [this] {
         qsizetype count = 0;
         auto* dispatcher = QAbstractEventDispatcher::instance();
-        for (QObject* object : Deck.findChildren<QObject*>()) count += dispatcher->registeredTimers(object).size();
+        for (QObject* object : window.findChildren<QObject*>()) count += dispatcher->registeredTimers(object).size();
         return count;
     };
     // The toolkit's own one-shot timers of layouts and views run out.
@@ -107,12 +107,12 @@ TEST_F(DeckWindowTest, NothingRunsWhileNothingHappens) {
 
 TEST_F(DeckWindowTest, ADeckThatGoesLeavesTheSetUpAlone) {
     {
-        DeckWindow other(SetUp);
-        SetUp.Velmarc.SetLink(LinkState::Up);
+        DeckWindow other(setUp);
+        setUp.Velmarc.SetLink(LinkState::Up);
     }
     Settle();
     float value = 0;
-    EXPECT_FALSE(SetUp.VVL.Calibrate(-1, -1, value, value));
+    EXPECT_FALSE(setUp.VVL.Calibrate(-1, -1, value, value));
 }
 
 }  // namespace
