@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "deck/KeyNames.h"
+#include "deck/KeyRepeat.h"
 #include "deck/Section.h"
 #include "platform/embedded/Velmarc.h"
 
@@ -34,6 +35,7 @@ KeyboardField::KeyboardField(EmbeddedVelmarc& simulator)
       sequence(new QLabel),
       hint(new QLabel),
       watch(simulator.Changed.Observe([this] { ShowState(); })) {
+    TellRepeatsAsPresses();
     setObjectName("KeyboardField");
     setAccessibleName("Keyboard of the simulator's computer");
     setToolTip("Each key that goes down or up here goes down or up on the simulator's computer. Tab leaves the field.");
@@ -70,13 +72,12 @@ bool KeyboardField::event(QEvent* event) {
 
 void KeyboardField::keyPressEvent(QKeyEvent* event) {
     const int place = PlaceOf(*event);
-    if (event->isAutoRepeat()) {
-        const auto key = std::ranges::find(held, place, &Held::Place);
-        if (key != held.end()) velmarc.RepeatKey(key->Name);
-        return;
-    }
+    if (const auto key = std::ranges::find(held, place, &Held::Place); key != held.end())
+        return velmarc.RepeatKey(key->Name);
     const std::string name = KeyNameOf(*event);
-    if (!name.empty() && velmarc.PressKey(name)) held.push_back({place, name});
+    if (event->isAutoRepeat() || name.empty()) return;
+    velmarc.PressKey(name);
+    held.push_back({place, name});
 }
 
 void KeyboardField::keyReleaseEvent(QKeyEvent* event) {

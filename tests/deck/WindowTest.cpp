@@ -83,7 +83,9 @@ TEST_F(DeckWindowTest, ClosingItEndsNothing) {
     EXPECT_TRUE(window.isVisible());
 }
 
-TEST_F(DeckWindowTest, ItOpensWithoutTakingTheFocus) { EXPECT_TRUE(window.testAttribute(Qt::WA_ShowWithoutActivating)); }
+TEST_F(DeckWindowTest, ItOpensWithoutTakingTheFocus) {
+    EXPECT_TRUE(window.testAttribute(Qt::WA_ShowWithoutActivating));
+}
 
 TEST_F(DeckWindowTest, ItStaysOnTheScreen) {
     const QRect room = window.screen()->availableGeometry();

@@ -1,0 +1,86 @@
+// The deck on a real X server with a window manager: keys and focus as the server deals them out.
+#include <QLineEdit>
+#include <QProcess>
+#include <QWindow>
+#include <algorithm>
+
+#include "tests/deck/DeckRig.h"
+
+namespace orvelle {
+namespace {
+
+using testing::ElementsAre;
+
+constexpr int Patience = 20'000;  // milliseconds
+
+void Xdotool(const QStringList& arguments) {
+    QProcess process;
+    process.start("xdotool", arguments);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, Patience));
+    EXPECT_EQ(process.exitCode(), 0) << "xdotool " << arguments.join(' ').toStdString();
+}
+
+void ClickOn(const QWidget& widget) {
+    const QPoint place = widget.mapToGlobal(widget.rect().center());
+    Xdotool({"mousemove", QString::number(place.x()), QString::number(place.y()), "click", "1"});
+}
+
+class DeckOnX : public DeckRig {
+protected:
+    DeckOnX() {
+        ConnectAll();
+        ClickOn(field);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return field.hasFocus(); }, Patience));
+    }
+    bool WaitForEvents(std::size_t count) {
+        return QTest::qWaitFor([this, count] { return events.size() >= count; }, Patience);
+    }
+
+    QWidget& field = At<QWidget>("KeyboardField");
+};
+
+TEST_F(DeckOnX, AHeldKeyRepeatsAndComesUpOnce) {
+    Xdotool({"keydown", "F8"});
+    EXPECT_TRUE(WaitForEvents(6));
+    Xdotool({"keyup", "F8"});
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !events.empty() && events.back() == "key up F8"; }, Patience));
+    EXPECT_EQ(events.front(), "key down F8 in F8");
+    EXPECT_EQ(std::ranges::count(events, "key up F8"), 1);
+    EXPECT_EQ(std::ranges::count(events, "key down F8 in F8 repeat"), static_cast<std::ptrdiff_t>(events.size()) - 2);
+}
+
+TEST_F(DeckOnX, KeysHeldTogetherBearTheirNames) {
+    Xdotool({"key", "ctrl+shift+1"});
+    EXPECT_TRUE(WaitForEvents(6));
+    EXPECT_THAT(std::vector(events.begin(), events.begin() + 3),
+                ElementsAre("key down Ctrl in Ctrl", "key down Shift in Ctrl+Shift", "key down 1 in Ctrl+Shift+1"));
+}
+
+TEST_F(DeckOnX, AnotherWindowThatTakesTheFocusEndsWhatIsHeld) {
+    QLineEdit other;
+    other.setAttribute(Qt::WA_ShowWithoutActivating);
+    other.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&other));
+    Xdotool({"keydown", "ctrl"});
+    EXPECT_TRUE(WaitForEvents(1));
+    ClickOn(other);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !events.empty() && events.back() == "key up Ctrl"; }, Patience));
+    Xdotool({"keyup", "ctrl"});
+}
+
+TEST(DeckBesideAPanel, OpensWithoutTakingTheFocus) {
+    const QTemporaryDir folder;
+    QtEventLoop loop;
+    EmbeddedSetUp setUp(loop, folder.filePath("store").toStdString());
+    QLineEdit panel;
+    panel.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
+    DeckWindow deck(setUp);
+    deck.OpenAt({200, 100});
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&deck));
+    Xdotool({"type", "to the panel"});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return panel.text() == "to the panel"; }, Patience));
+}
+
+}  // namespace
+}  // namespace orvelle
