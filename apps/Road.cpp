@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QScreen>
+#include <QTreeWidget>
 #include <array>
 #include <chrono>
 #include <cstdlib>
@@ -174,19 +175,27 @@ void Road::TakePictures() {
     QScreen& screen = *QGuiApplication::primaryScreen();
     const QPixmap desktop = screen.grabWindow(0);
     desktop.save(pictures.filePath("desktop.png"));
-    constexpr QSize trayCorner(160, 36);
-    desktop.copy(QRect(QPoint(desktop.width() - trayCorner.width(), 0), trayCorner))
-        .scaled(trayCorner * 4)
+    constexpr QSize TrayCorner(160, 36);
+    desktop.copy(QRect(QPoint(desktop.width() - TrayCorner.width(), 0), TrayCorner))
+        .scaled(TrayCorner * 4)
         .save(pictures.filePath("tray-icon.png"));
+    auto& tree = *house.Window->findChild<QTreeWidget*>("twCategory");
+    tree.expandAll();
     for (std::size_t index = 0; index < Pages.size(); ++index) {
-        QWidget* shown = house.Window.get();
-        if (Pages[index].Node != nullptr)
+        const Frame& page = panel.Panels(static_cast<Long>(index));
+        if (Pages[index].Node != nullptr) {
+            tree.setCurrentItem(tree.findItems(Pages[index].Node, Qt::MatchExactly | Qt::MatchRecursive).value(0));
             panel.twCategory.UserClick(*panel.twCategory.Find(Pages[index].Node));
-        else
-            shown = &house.Window->Page(static_cast<int>(index));
+        } else {
+            // No node leads there while the media players are away.
+            panel.Panels(panel.CurrentPanel).Visible = false;
+            panel.CurrentPanel = static_cast<Long>(index);
+            panel.Panels(panel.CurrentPanel).Visible = true;
+        }
+        WaitUntil([&] { return page.Visible(); });
         Settle();
-        shown->grab().save(pictures.filePath(
-            QStringLiteral("panel-%1-%2.png").arg(index, 2, 10, QChar('0')).arg(Pages[index].Picture)));
+        const QString name = QStringLiteral("panel-%1-%2.png").arg(index, 2, 10, QChar('0')).arg(Pages[index].Picture);
+        house.Window->grab().save(pictures.filePath(name));
     }
     house.Deck->grab().save(pictures.filePath("flight-deck.png"));
     std::cout << "  Pictures: " << pictures.absolutePath().toStdString() << std::endl;

@@ -1,8 +1,8 @@
 // What the tables cost on the real store: Apply, which rewrites the whole section, and the load, by the number of rows.
 // The ratios of 1,000 rows to 10 are the figure.
 #include <benchmark/benchmark.h>
-#include <stdlib.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 
