@@ -18,6 +18,7 @@ void PanelHolder::RemoveIcon(const std::string& key) {
 void PanelHolder::PutPlayers() {
     panel->WMPCOM1 = world.Players.Present(0);
     panel->WMPCOM2 = world.Players.Present(1);
+    panel->Timer1.Enabled = true;
 }
 
 FrmOrvelle& PanelHolder::Panel() const {

@@ -18,7 +18,7 @@ public:
     void Load();
     bool IsLoaded() const { return panel != nullptr; }
     void RemoveIcon(const std::string& key);
-    // Gives the controller its two media players, which it has not by itself.
+    // Gives the controller its two media players and their polling, which it has not by itself.
     void PutPlayers();
 
     // LineError before the load.
