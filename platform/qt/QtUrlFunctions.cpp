@@ -20,10 +20,10 @@ constexpr Long LastPort = 65535;
 bool Has(Long flags, UrlFlag flag) { return (flags & flag) != 0; }
 
 std::string Trimmed(const std::string& text) {
-    constexpr const char* blanks = " \t\r\n\v\f";
-    const std::size_t first = text.find_first_not_of(blanks);
+    constexpr const char* Blanks = " \t\r\n\v\f";
+    const std::size_t first = text.find_first_not_of(Blanks);
     if (first == std::string::npos) return "";
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+    return text.substr(first, text.find_last_not_of(Blanks) - first + 1);
 }
 
 std::string Clean(const std::string& text, Long flags, UrlEncoding encoding = UrlEncoding::All) {

@@ -34,11 +34,11 @@ bool IsUnsafe(char character, UrlEncoding encoding) {
 }
 
 void AppendEncoded(std::string& text, char character) {
-    constexpr char digits[] = "0123456789ABCDEF";
+    constexpr char Digits[] = "0123456789ABCDEF";
     const auto byte = static_cast<unsigned char>(character);
     text += '%';
-    text += digits[byte >> 4];
-    text += digits[byte & 15];
+    text += Digits[byte >> 4];
+    text += Digits[byte & 15];
 }
 
 // -1 where the character is no digit.

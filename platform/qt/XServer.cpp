@@ -28,9 +28,9 @@ xcb_atom_t XAtom(xcb_connection_t* connection, const std::string& name) {
 xcb_window_t XHiddenWindow(xcb_connection_t* connection) {
     const xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
     const xcb_window_t window = xcb_generate_id(connection);
-    constexpr std::uint32_t noWindowManager = 1;
+    constexpr std::uint32_t NoWindowManager = 1;
     xcb_create_window(connection, XCB_COPY_FROM_PARENT, window, screen->root, 0, 0, 1, 1, 0,
-                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT, &noWindowManager);
+                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT, &NoWindowManager);
     return window;
 }
 

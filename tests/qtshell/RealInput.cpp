@@ -37,30 +37,30 @@ Window FindChild(Display* display, Window parent, const std::string& name) {
 }  // namespace
 
 struct RealInput::Connection {
-    Display* display = XOpenDisplay(nullptr);
-    Window root = 0;
+    Display* Server = XOpenDisplay(nullptr);
+    Window Root = 0;
 };
 
 RealInput::RealInput() : x(std::make_unique<Connection>()) {
-    if (x->display == nullptr) throw std::runtime_error("no X server");
-    x->root = DefaultRootWindow(x->display);
+    if (x->Server == nullptr) throw std::runtime_error("no X server");
+    x->Root = DefaultRootWindow(x->Server);
 }
 
-RealInput::~RealInput() { XCloseDisplay(x->display); }
+RealInput::~RealInput() { XCloseDisplay(x->Server); }
 
 void RealInput::MoveTo(QPoint place) {
-    XTestFakeMotionEvent(x->display, -1, place.x(), place.y(), 0);
-    XSync(x->display, 0);
+    XTestFakeMotionEvent(x->Server, -1, place.x(), place.y(), 0);
+    XSync(x->Server, 0);
 }
 
 void RealInput::Press(int button) {
-    XTestFakeButtonEvent(x->display, static_cast<unsigned>(button), 1, 0);
-    XSync(x->display, 0);
+    XTestFakeButtonEvent(x->Server, static_cast<unsigned>(button), 1, 0);
+    XSync(x->Server, 0);
 }
 
 void RealInput::Release(int button) {
-    XTestFakeButtonEvent(x->display, static_cast<unsigned>(button), 0, 0);
-    XSync(x->display, 0);
+    XTestFakeButtonEvent(x->Server, static_cast<unsigned>(button), 0, 0);
+    XSync(x->Server, 0);
 }
 
 void RealInput::Click(QPoint place, int button) {
@@ -70,25 +70,25 @@ void RealInput::Click(QPoint place, int button) {
 }
 
 void RealInput::KeyDown(int linuxKey) {
-    XTestFakeKeyEvent(x->display, static_cast<unsigned>(linuxKey + KeyCodeOffset), 1, 0);
-    XSync(x->display, 0);
+    XTestFakeKeyEvent(x->Server, static_cast<unsigned>(linuxKey + KeyCodeOffset), 1, 0);
+    XSync(x->Server, 0);
 }
 
 void RealInput::KeyUp(int linuxKey) {
-    XTestFakeKeyEvent(x->display, static_cast<unsigned>(linuxKey + KeyCodeOffset), 0, 0);
-    XSync(x->display, 0);
+    XTestFakeKeyEvent(x->Server, static_cast<unsigned>(linuxKey + KeyCodeOffset), 0, 0);
+    XSync(x->Server, 0);
 }
 
 QPoint RealInput::MiddleOf(const QWidget& widget) {
     int left = 0;
     int top = 0;
     Window child = 0;
-    XTranslateCoordinates(x->display, widget.window()->winId(), x->root, 0, 0, &left, &top, &child);
+    XTranslateCoordinates(x->Server, widget.window()->winId(), x->Root, 0, 0, &left, &top, &child);
     return QPoint(left, top) + widget.mapTo(widget.window(), widget.rect().center());
 }
 
 bool RealInput::PointsAt(const QWidget& widget) {
-    Window window = x->root;
+    Window window = x->Root;
     Window root = 0;
     Window child = 0;
     int rootX = 0;
@@ -96,7 +96,7 @@ bool RealInput::PointsAt(const QWidget& widget) {
     int left = 0;
     int top = 0;
     unsigned int buttons = 0;
-    while (XQueryPointer(x->display, window, &root, &child, &rootX, &rootY, &left, &top, &buttons) != 0 && child != 0)
+    while (XQueryPointer(x->Server, window, &root, &child, &rootX, &rootY, &left, &top, &buttons) != 0 && child != 0)
         window = child;
     return window == widget.winId();
 }
@@ -107,11 +107,11 @@ std::vector<std::string> RealInput::WindowState(const QWidget& widget) {
     unsigned long count = 0;
     unsigned long left = 0;
     unsigned char* data = nullptr;
-    XGetWindowProperty(x->display, widget.winId(), XInternAtom(x->display, "_NET_WM_STATE", 0), 0, 32, 0, XA_ATOM,
-                       &type, &format, &count, &left, &data);
+    XGetWindowProperty(x->Server, widget.winId(), XInternAtom(x->Server, "_NET_WM_STATE", 0), 0, 32, 0, XA_ATOM, &type,
+                       &format, &count, &left, &data);
     std::vector<std::string> names;
     for (unsigned long index = 0; index < count; ++index) {
-        char* name = XGetAtomName(x->display, reinterpret_cast<Atom*>(data)[index]);
+        char* name = XGetAtomName(x->Server, reinterpret_cast<Atom*>(data)[index]);
         names.emplace_back(name);
         XFree(name);
     }
@@ -122,27 +122,27 @@ std::vector<std::string> RealInput::WindowState(const QWidget& widget) {
 bool RealInput::HasFocus(const QWidget& widget) {
     Window focused = 0;
     int revert = 0;
-    XGetInputFocus(x->display, &focused, &revert);
+    XGetInputFocus(x->Server, &focused, &revert);
     return focused == widget.winId();
 }
 
 bool RealInput::HasTray() {
-    return XGetSelectionOwner(x->display, XInternAtom(x->display, "_NET_SYSTEM_TRAY_S0", 0)) != 0;
+    return XGetSelectionOwner(x->Server, XInternAtom(x->Server, "_NET_SYSTEM_TRAY_S0", 0)) != 0;
 }
 
 bool RealInput::SendDoorMessage(const std::string& windowName, long number, long wParam, long lParam) {
-    const Window window = FindChild(x->display, x->root, windowName);
+    const Window window = FindChild(x->Server, x->Root, windowName);
     if (window == 0) return false;
     XEvent event = {};
     event.xclient.type = ClientMessage;
     event.xclient.window = window;
-    event.xclient.message_type = XInternAtom(x->display, "ORVELLECP_MESSAGE", 0);
+    event.xclient.message_type = XInternAtom(x->Server, "ORVELLECP_MESSAGE", 0);
     event.xclient.format = 32;
     event.xclient.data.l[0] = number;
     event.xclient.data.l[1] = wParam;
     event.xclient.data.l[2] = lParam;
-    XSendEvent(x->display, window, 0, NoEventMask, &event);
-    XSync(x->display, 0);
+    XSendEvent(x->Server, window, 0, NoEventMask, &event);
+    XSync(x->Server, 0);
     return true;
 }
 

@@ -87,10 +87,10 @@ protected:
 
     // The tray gives the icon its size and place some time after it took it.
     bool PointerComesTo(QWidget& icon) {
-        constexpr int smallestIcon = 16;
+        constexpr int SmallestIcon = 16;
         return ComesTrue([&] {
             input.MoveTo(input.MiddleOf(icon));
-            return icon.height() >= smallestIcon && icon.underMouse() && input.PointsAt(icon);
+            return icon.height() >= SmallestIcon && icon.underMouse() && input.PointsAt(icon);
         });
     }
     void ClickHere(int button) {

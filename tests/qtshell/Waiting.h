@@ -7,8 +7,8 @@ namespace orvelle {
 
 template <typename Condition>
 bool ComesTrue(Condition condition) {
-    constexpr int boundMilliseconds = 20000;
-    return QTest::qWaitFor(condition, boundMilliseconds);
+    constexpr int BoundMilliseconds = 20000;
+    return QTest::qWaitFor(condition, BoundMilliseconds);
 }
 
 // Serves everything that waits, so that what should not come would have.

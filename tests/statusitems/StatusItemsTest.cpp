@@ -23,8 +23,8 @@ constexpr Long CallbackMessage = 1125;
 
 template <typename Condition>
 bool ComesTrue(Condition condition) {
-    constexpr int boundMilliseconds = 20000;
-    return QTest::qWaitFor(condition, boundMilliseconds);
+    constexpr int BoundMilliseconds = 20000;
+    return QTest::qWaitFor(condition, BoundMilliseconds);
 }
 
 bool StandInShows() {
