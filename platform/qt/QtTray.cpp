@@ -20,9 +20,11 @@ void QtTray::Shell_NotifyIconA(Long command, const NotifyIconData& data) {
         Remove();
         return;
     }
+    const NotifyIconData before = held;
     Take(data);
     if (command == NotifyIconModify) {
-        Dress();
+        // Most changes of the status leave the icon as it is.
+        if (held.Icon != before.Icon || held.Tip != before.Tip) Dress();
         return;
     }
     isAdded = true;

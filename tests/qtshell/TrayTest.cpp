@@ -127,6 +127,9 @@ TEST_F(TrayTest, TheIconAppearsInTheTrayAndGoesAgain) {
     change.Tip = "not valid";
     tray.Shell_NotifyIconA(NotifyIconModify, change);
     EXPECT_EQ(asked.back(), "second");
+    const std::size_t before = asked.size();
+    tray.Shell_NotifyIconA(NotifyIconModify, change);
+    EXPECT_EQ(asked.size(), before);
 
     tray.Shell_NotifyIconA(NotifyIconDelete, record);
     EXPECT_EQ(EmbeddedIcon(), nullptr);
