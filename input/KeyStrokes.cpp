@@ -37,7 +37,8 @@ std::string FrmOrvelle::KeyDisplayName(const std::string& keys) {
     std::string name;
     for (ScanCodeReader codes(keys); !codes.AtEnd();) {
         const std::string key = platform.Keyboard.GetKeyNameTextA(KeyMessage(codes.Next()), NameBuffer);
-        name = name.empty() ? key : name + "+" + key;
+        if (!name.empty()) name += '+';
+        name += key;
     }
     return name;
 }

@@ -40,9 +40,9 @@ void ListView::RemoveRow(Long row) {
 }
 
 const std::vector<Long>& ListView::RowsWithText(const std::string& text) const {
-    static const std::vector<Long> none;
+    static const std::vector<Long> None;
     const auto found = rowsByText.find(text);
-    return found == rowsByText.end() ? none : found->second;
+    return found == rowsByText.end() ? None : found->second;
 }
 
 void ListView::SelectRow(Long row) {

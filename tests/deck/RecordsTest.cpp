@@ -1,7 +1,6 @@
 // The interface records: what the table shows, and another computer's claims.
-#include <QLineEdit>
+#include <QCheckBox>
 #include <QTableWidget>
-#include <QToolButton>
 
 #include "tests/deck/DeckRig.h"
 
@@ -35,12 +34,12 @@ TEST_F(DeckRecords, EachRoleIsClaimedAndDropped) {
         Click(button);
         EXPECT_THAT(TakeEvents(), ElementsAre("record appeared " + std::to_string(id)));
         EXPECT_EQ(setUp.Tessaly.Records().at(id).Role, std::string(button).substr(std::string("Claim").size()));
-        EXPECT_TRUE(At<QToolButton>(button).isChecked());
+        EXPECT_TRUE(At<QCheckBox>(button).isChecked());
         ++id;
     }
     Click("ClaimTSCom1");
     EXPECT_THAT(TakeEvents(), ElementsAre("record removed 3"));
-    EXPECT_FALSE(At<QToolButton>("ClaimTSCom1").isChecked());
+    EXPECT_FALSE(At<QCheckBox>("ClaimTSCom1").isChecked());
     EXPECT_EQ(table.rowCount(), 4);
 }
 
@@ -58,7 +57,7 @@ TEST_F(DeckRecords, TheTableTellsOwnersAndParameters) {
 TEST_F(DeckRecords, EachComputerHasItsOwnClaims) {
     Click("ClaimVVL");
     Type("OtherComputer", "COCKPIT3");
-    EXPECT_FALSE(At<QToolButton>("ClaimVVL").isChecked());
+    EXPECT_FALSE(At<QCheckBox>("ClaimVVL").isChecked());
     Click("ClaimVVL");
     EXPECT_EQ(Row(1).at(3), "COCKPIT3");
     Type("OtherComputer", "COCKPIT2");

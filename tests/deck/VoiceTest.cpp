@@ -80,13 +80,13 @@ TEST_F(DeckVoice, ARoomIsShown) {
     setUp.VVL.ChannelOutput(1, 0, true);
     setUp.VVL.RoomMute(1, false);
     Settle();
-    EXPECT_EQ(TextOf("Room1StateText"), "In the room");
+    EXPECT_EQ(TextOf("Room1StateText"), "In");
     EXPECT_EQ(TextOf("Room1Client"), "ORV123 (pilot)");
     EXPECT_EQ(TextOf("Room1Address"), "voice.example.net/tower");
     EXPECT_EQ(TextOf("Room1HeadsetText"), "Heard");
     EXPECT_EQ(TextOf("Room1SpeakersText"), "Silent");
     EXPECT_EQ(TextOf("Room1MicrophoneText"), "Open");
-    EXPECT_EQ(TextOf("Room0StateText"), "Out of the room");
+    EXPECT_EQ(TextOf("Room0StateText"), "Out");
 }
 
 TEST_F(DeckVoice, AudioComesAndGoes) {
@@ -108,7 +108,7 @@ TEST_F(DeckVoice, ThePanelIsKicked) {
     TakeEvents();
     Click("Room2Kick");
     EXPECT_THAT(TakeEvents(), ElementsAre("room status changed 2", "kicked 2"));
-    EXPECT_EQ(TextOf("Room2StateText"), "Out of the room");
+    EXPECT_EQ(TextOf("Room2StateText"), "Out");
 }
 
 TEST_F(DeckVoice, JoinsAreRefusedOrFail) {

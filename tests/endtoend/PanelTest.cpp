@@ -12,36 +12,36 @@ PanelTest::PanelTest() {
         "#!/bin/sh\n{ printf '|'; for word; do printf '%s|' \"$word\"; done; echo; } >>\"${0%/*}/commands\"\n");
     script.close();
     script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    SqliteStore& store = House.SetUp.Store;
+    SqliteStore& store = house.SetUp.Store;
     store.SaveSettingString("OrvelleCP", "RWPath", '"' + VoiceProgram() + '"');
     store.SaveSettingString("OrvelleCP", "RWPTTKey", std::to_string(TalkKeyCode));
     store.HandlerEnded();
 }
 
 void PanelTest::Open() {
-    House.Open();
-    ASSERT_TRUE(ComesTrue([this] { return House.Deck && House.Deck->isVisible() && House.Window->isVisible(); }));
+    house.Open();
+    ASSERT_TRUE(ComesTrue([this] { return house.Deck && house.Deck->isVisible() && house.Window->isVisible(); }));
     // Side by side, so that nothing hides what is clicked.
-    House.Deck->move(0, House.Window->frameGeometry().bottom() + 1);
+    house.Deck->move(0, house.Window->frameGeometry().bottom() + 1);
 }
 
 void PanelTest::Connect() {
-    EmbeddedTessaly& network = House.SetUp.Tessaly;
-    House.SetUp.Velmarc.SetLink(LinkState::Up);
+    EmbeddedTessaly& network = house.SetUp.Tessaly;
+    house.SetUp.Velmarc.SetLink(LinkState::Up);
     network.SetLink(LinkState::Up);
     network.SetCallsign("ABC123");
     network.SetStatus(1);
     network.SetReceive("1");
     network.SetTransmit("1");
     network.StartSession();
-    ASSERT_TRUE(ComesTrue([this] { return Panel.SessionHandle != 0 && Panel.Panels(4).Enabled; }));
+    ASSERT_TRUE(ComesTrue([this] { return panel.SessionHandle != 0 && panel.Panels(4).Enabled; }));
 }
 
-void PanelTest::ShowPage(const char* node) { Panel.twCategory.UserClick(*Panel.twCategory.Find(node)); }
+void PanelTest::ShowPage(const char* node) { panel.twCategory.UserClick(*panel.twCategory.Find(node)); }
 
-QWidget& PanelTest::OfPanel(const char* name) { return Find(*House.Window, name); }
+QWidget& PanelTest::OfPanel(const char* name) { return Find(*house.Window, name); }
 
-QWidget& PanelTest::OfDeck(const char* name) { return Find(*House.Deck, name); }
+QWidget& PanelTest::OfDeck(const char* name) { return Find(*house.Deck, name); }
 
 QWidget& PanelTest::Find(QWidget& window, const char* name) {
     auto* widget = window.findChild<QWidget*>(name);

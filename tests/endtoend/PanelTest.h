@@ -37,8 +37,8 @@ protected:
     QTemporaryDir folder;
     TerminationSignals endings;
     ProcessProgram program{InstanceLock::OfThisSession()};
-    PanelProgram House{program, endings, folder.filePath("settings.sqlite").toStdString()};
-    FrmOrvelle& Panel = House.Panel;
+    PanelProgram house{program, endings, folder.filePath("settings.sqlite").toStdString()};
+    FrmOrvelle& panel = house.Panel;
     User user;
 
 private:

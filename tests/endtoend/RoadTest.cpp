@@ -14,18 +14,18 @@ protected:
     void TickRogerWilco() {
         ShowPage("RogerWilco");
         user.Click(OfPanel("RWEnable"));
-        ASSERT_TRUE(ComesTrue([this] { return Panel.RWEnable.Value == 1; }));
+        ASSERT_TRUE(ComesTrue([this] { return panel.RWEnable.Value == 1; }));
     }
     void MapF8() {
         user.Click(OfPanel("RWKeySet"));
-        ASSERT_TRUE(ComesTrue([this] { return Panel.RWKeySet.Caption == "Cancel"; }));
+        ASSERT_TRUE(ComesTrue([this] { return panel.RWKeySet.Caption == "Cancel"; }));
         user.Click(OfDeck("KeyboardField"));
         user.Do({"key", "F8"});
-        ASSERT_TRUE(ComesTrue([this] { return Panel.RWFSKey == "F8"; }));
+        ASSERT_TRUE(ComesTrue([this] { return panel.RWFSKey == "F8"; }));
     }
     void TuneCom1() {
-        House.SetUp.Tessaly.SetVoice(0, {RogerWilco, "srv1", "ops", "", ""});
-        ASSERT_TRUE(ComesTrue([this] { return Panel.ActiveVoiceSoftware == RogerWilco; }));
+        house.SetUp.Tessaly.SetVoice(0, {RogerWilco, "srv1", "ops", "", ""});
+        ASSERT_TRUE(ComesTrue([this] { return panel.ActiveVoiceSoftware == RogerWilco; }));
     }
 };
 
@@ -41,7 +41,7 @@ TEST_F(RoadTest, ATunedRadioStartsTheVoiceProgramAndAKeyOverThereHoldsItsTalkKey
     user.Do({"key", "Down"});
     user.Do({"key", "Return"});
     EXPECT_TRUE(ComesTrue([this] { return VoiceCommands() == Join; })) << VoiceCommands();
-    EXPECT_EQ(Panel.CommentCOM1.Caption(), "srv1/ops");
+    EXPECT_EQ(panel.CommentCOM1.Caption(), "srv1/ops");
 
     user.Click(OfDeck("KeyboardField"));
     user.KeyDown("F8");
@@ -60,8 +60,8 @@ TEST_F(RoadTest, ALostLinkReleasesTheTalkKeyThatIsHeld) {
     ASSERT_TRUE(ComesTrue([this] { return user.SeesDown(TalkKey); }));
 
     user.Click(OfDeck("SimulatorLink"));
-    EXPECT_TRUE(ComesTrue([this] { return !user.SeesDown(TalkKey) && !Panel.Panels(4).Enabled; }));
-    EXPECT_EQ(Panel.RWPTTKeyState, "");
+    EXPECT_TRUE(ComesTrue([this] { return !user.SeesDown(TalkKey) && !panel.Panels(4).Enabled; }));
+    EXPECT_EQ(panel.RWPTTKeyState, "");
     user.KeyUp("F8");
 }
 
@@ -69,16 +69,16 @@ TEST_F(RoadTest, ARoleThatAnotherComputerHoldsIsNotServedHereUntilItIsDropped) {
     ASSERT_NO_FATAL_FAILURE(Open());
     ASSERT_NO_FATAL_FAILURE(Connect());
     user.Click(OfDeck("ClaimRWCom1"));
-    ASSERT_TRUE(ComesTrue([this] { return Panel.ForeignRWCom1 != 0; }));
+    ASSERT_TRUE(ComesTrue([this] { return panel.ForeignRWCom1 != 0; }));
     ASSERT_NO_FATAL_FAILURE(TickRogerWilco());
-    House.SetUp.Tessaly.SetVoice(0, {RogerWilco, "srv1", "ops", "", ""});
-    ASSERT_TRUE(ComesTrue([this] { return Panel.CommentCOM1.Caption == "srv1/ops"; }));
-    EXPECT_EQ(Panel.ActiveVoiceSoftware, NoVoice);
+    house.SetUp.Tessaly.SetVoice(0, {RogerWilco, "srv1", "ops", "", ""});
+    ASSERT_TRUE(ComesTrue([this] { return panel.CommentCOM1.Caption == "srv1/ops"; }));
+    EXPECT_EQ(panel.ActiveVoiceSoftware, NoVoice);
     EXPECT_EQ(VoiceCommands(), "");
 
     user.Click(OfDeck("ClaimRWCom1"));
     EXPECT_TRUE(ComesTrue([this] { return VoiceCommands() == Join; })) << VoiceCommands();
-    EXPECT_NE(Panel.RWCom1, 0);
+    EXPECT_NE(panel.RWCom1, 0);
 }
 
 TEST_F(RoadTest, AVoiceProgramThatIsNotThereIsToldOnTheDeckAlone) {
@@ -86,7 +86,7 @@ TEST_F(RoadTest, AVoiceProgramThatIsNotThereIsToldOnTheDeckAlone) {
     ASSERT_NO_FATAL_FAILURE(Connect());
     ASSERT_NO_FATAL_FAILURE(TickRogerWilco());
     user.Enter(OfPanel("RWPath"), "/nowhere/roger.exe");
-    ASSERT_TRUE(ComesTrue([this] { return Panel.RWPath.Text == "/nowhere/roger.exe"; }));
+    ASSERT_TRUE(ComesTrue([this] { return panel.RWPath.Text == "/nowhere/roger.exe"; }));
     ASSERT_NO_FATAL_FAILURE(TuneCom1());
     const auto& programs = dynamic_cast<QListWidget&>(OfDeck("Programs"));
     EXPECT_TRUE(ComesTrue([&] { return programs.count() == 1; }));

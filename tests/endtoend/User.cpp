@@ -9,8 +9,8 @@
 namespace orvelle {
 
 bool ComesTrue(const std::function<bool()>& isTrue) {
-    constexpr int boundMilliseconds = 30000;
-    return QTest::qWaitFor(isTrue, boundMilliseconds);
+    constexpr int BoundMilliseconds = 30000;
+    return QTest::qWaitFor(isTrue, BoundMilliseconds);
 }
 
 void User::Do(const QStringList& words) {

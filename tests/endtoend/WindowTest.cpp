@@ -24,15 +24,15 @@ protected:
 TEST_F(WindowTest, TheCloseBoxHidesAndALeftPressOnTheIconBringsBack) {
     ASSERT_NO_FATAL_FAILURE(Open());
     ASSERT_TRUE(ComesTrue([this] { return TrayIcon() != nullptr; }));
-    ToFront(*House.Window);
+    ToFront(*house.Window);
     user.Do({"key", "alt+F4"});
-    ASSERT_TRUE(ComesTrue([this] { return !House.Window->isVisible(); }));
-    EXPECT_FALSE(Panel.Visible);
-    EXPECT_TRUE(Panel.IsLoaded());
+    ASSERT_TRUE(ComesTrue([this] { return !house.Window->isVisible(); }));
+    EXPECT_FALSE(panel.Visible);
+    EXPECT_TRUE(panel.IsLoaded());
 
     user.Click(*TrayIcon());
-    EXPECT_TRUE(ComesTrue([this] { return House.Window->isVisible(); }));
-    EXPECT_TRUE(Panel.Visible);
+    EXPECT_TRUE(ComesTrue([this] { return house.Window->isVisible(); }));
+    EXPECT_TRUE(panel.Visible);
 }
 
 TEST_F(WindowTest, ARightPressOnTheIconPopsUpTheMenu) {
@@ -42,10 +42,10 @@ TEST_F(WindowTest, ARightPressOnTheIconPopsUpTheMenu) {
     const QMenu* menu = nullptr;
     ASSERT_TRUE(ComesTrue([&] { return (menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) != nullptr; }));
     EXPECT_EQ(menu->actions().size(), 3);
-    Panel.Left = 3000;
+    panel.Left = 3000;
     user.Do({"key", "Down", "Return"});
     // "Ensure Visible", the first entry.
-    EXPECT_TRUE(ComesTrue([this] { return Panel.Left == 10.0 && Panel.Top == 10.0; }));
+    EXPECT_TRUE(ComesTrue([this] { return panel.Left == 10.0 && panel.Top == 10.0; }));
 }
 
 }  // namespace

@@ -21,12 +21,12 @@ std::vector<std::string> LinesOf(const std::string& calls) {
 
 // The strokes of a sequence as the transcript shows them, where each key's virtual key and scan byte are known.
 std::string Strokes(const std::string& sequence, int flags) {
-    std::string strokes;
+    std::ostringstream strokes;
     std::istringstream codes(sequence);
     for (std::string code; std::getline(codes, code, '+');)
-        strokes += "user32.MapVirtualKeyA(" + code + ", 3) -> " + code + "\nuser32.keybd_event(" + code + ", " +
-                   std::to_string(std::stoi(code) % 256) + ", " + std::to_string(flags) + ", 0)\n";
-    return strokes;
+        strokes << "user32.MapVirtualKeyA(" << code << ", 3) -> " << code << "\nuser32.keybd_event(" << code << ", "
+                << std::stoi(code) % 256 << ", " << flags << ", 0)\n";
+    return strokes.str();
 }
 
 }  // namespace
@@ -88,7 +88,7 @@ std::optional<std::string> Invariants::CheckRogerWilco(const FrmOrvelle& panel, 
 
 std::optional<std::string> Invariants::CheckTalkKey(const TalkKey& before, const TalkKey& now,
                                                     const std::string& calls) {
-    if (now.State != "" && now.State != "DOWN") return "its state is " + now.State;
+    if (!now.State.empty() && now.State != "DOWN") return "its state is " + now.State;
     if (before.State == now.State || before.Sequence != now.Sequence) return std::nullopt;
     const bool wentDown = now.State == "DOWN";
     if (calls.find(Strokes(now.Sequence, wentDown ? 1 : 3)) == std::string::npos)

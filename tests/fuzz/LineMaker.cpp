@@ -59,7 +59,8 @@ std::string Quoted(const std::string& text) { return '"' + text + '"'; }
 std::size_t LineMaker::Pick(std::size_t count) { return AtEnd() ? 0 : *next++ % count; }
 
 std::string LineMaker::Number(int first, int last) {
-    return std::to_string(first + static_cast<int>(Pick(static_cast<std::size_t>(last - first + 1))));
+    return std::to_string(first +
+                          static_cast<int>(Pick(static_cast<std::size_t>(last) - static_cast<std::size_t>(first) + 1)));
 }
 
 std::string LineMaker::Key() { return Quoted(OneOf(Keys)); }
@@ -78,17 +79,17 @@ std::string LineMaker::Preparation() {
 }
 
 std::string LineMaker::Setting() {
-    static constexpr std::array<Text, 8> keySettings{"TSFSKey", "RWFSKey", "VVLFSKey", "VVLPrivFSKey",
+    static constexpr std::array<Text, 8> KeySettings{"TSFSKey", "RWFSKey", "VVLFSKey", "VVLPrivFSKey",
                                                      "TSFSJoy", "RWFSJoy", "VVLFSJoy", "VVLPrivFSJoy"};
-    static constexpr std::array<Text, 3> deviceSettings{"VVLMicrophone", "VVLHeadset", "VVLSpeakers"};
+    static constexpr std::array<Text, 3> DeviceSettings{"VVLMicrophone", "VVLHeadset", "VVLSpeakers"};
     const std::string store = R"(store "OrvelleCP" )";
     switch (Pick(6)) {
         case 0: {
-            const std::size_t index = Pick(keySettings.size());
-            return store + Quoted(keySettings[index]) + ' ' + (index < 4 ? Key() : Button());
+            const std::size_t index = Pick(KeySettings.size());
+            return store + Quoted(KeySettings[index]) + ' ' + (index < 4 ? Key() : Button());
         }
         case 1:
-            return store + Quoted(OneOf(deviceSettings)) + ' ' + Quoted(OneOf(Devices));
+            return store + Quoted(OneOf(DeviceSettings)) + ' ' + Quoted(OneOf(Devices));
         case 2:
             return store + (Pick(2) == 0 ? R"("RWDriven" )" : R"("TSDriven" )") + Number(0, 2);
         case 3:
@@ -261,7 +262,7 @@ std::string LineMaker::NetworkEvent() {
 }
 
 std::string LineMaker::EngineEvent() {
-    static constexpr std::array<Text, 7> roomEvents{
+    static constexpr std::array<Text, 7> RoomEvents{
         "VVL_RoomJoinSucceed",  "VVL_RoomJoinFailed",   "VVL_RoomKicked",       "VVL_RoomLeft",
         "VVL_RoomAudioStarted", "VVL_RoomAudioStopped", "VVL_RoomStatusChanged"};
     switch (Pick(8)) {
@@ -274,7 +275,7 @@ std::string LineMaker::EngineEvent() {
         case 3:
             return "raise " + OneOf(MixerEvents);
         default:
-            return "raise " + OneOf(roomEvents) + "(" + Number(0, 2) + ")";
+            return "raise " + OneOf(RoomEvents) + "(" + Number(0, 2) + ")";
     }
 }
 

@@ -94,5 +94,17 @@ TEST_F(FormsTest, TheWarningIsCompleteAsSoonAsItShows) {
     EXPECT_FALSE(warning.IsLoaded());
 }
 
+TEST_F(FormsTest, TheWarningGoesByTheEnterAndTheEscapeKey) {
+    MultiFSWarningDlg warning;
+    WarningDialog dialog(warning);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+        warning.Show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        QTest::keyClick(&dialog, key);
+        EXPECT_FALSE(dialog.isVisible());
+        EXPECT_FALSE(warning.IsLoaded());
+    }
+}
+
 }  // namespace
 }  // namespace orvelle

@@ -121,19 +121,19 @@ TEST_F(ItemMirrorsTest, ADisabledTableTakesNoClick) {
 
 // An event costs what its row costs; a table that copied or measured all rows for each would take minutes here.
 TEST_F(ItemMirrorsTest, AHundredThousandRowsAreNoBurden) {
-    constexpr int rows = 100000;
-    constexpr qint64 boundMilliseconds = 30000;
+    constexpr int Rows = 100000;
+    constexpr qint64 BoundMilliseconds = 30000;
     QElapsedTimer time;
     time.start();
-    AddRows(rows);
-    for (int change = 0; change < rows; ++change) {
+    AddRows(Rows);
+    for (int change = 0; change < Rows; ++change) {
         panel.ListJoyToKey.SetSubItem(change + 1, 1, "Ctrl");
         if (change % 1000 == 0) QCoreApplication::processEvents();
     }
-    panel.ListJoyToKey.SelectRow(rows);
+    panel.ListJoyToKey.SelectRow(Rows);
     QCoreApplication::processEvents();
-    EXPECT_LT(time.elapsed(), boundMilliseconds);
-    EXPECT_EQ(Cell(rows - 1, 1), "Ctrl");
+    EXPECT_LT(time.elapsed(), BoundMilliseconds);
+    EXPECT_EQ(Cell(Rows - 1, 1), "Ctrl");
 }
 
 class TreeTest : public ShownPanel {

@@ -30,23 +30,23 @@ QImage Grey(const std::string& key, int size, const QColor& tray) {
 
 // Points that differ so that it is seen.
 int Difference(const QImage& one, const QImage& other) {
-    constexpr int seen = 48;
+    constexpr int Seen = 48;
     int points = 0;
     for (int y = 0; y < one.height(); ++y)
         for (int x = 0; x < one.width(); ++x)
-            if (std::abs(qGray(one.pixel(x, y)) - qGray(other.pixel(x, y))) >= seen) ++points;
+            if (std::abs(qGray(one.pixel(x, y)) - qGray(other.pixel(x, y))) >= Seen) ++points;
     return points;
 }
 
 TEST_F(StatusImageTest, All96DifferWithoutTheirColoursAt16Pixels) {
     ASSERT_EQ(keys.size(), 96u);
-    constexpr int leastPoints = 6;  // of the 24 of one lamp
+    constexpr int LeastPoints = 6;  // of the 24 of one lamp
     for (const QColor& tray : {QColor(Qt::white), QColor(Qt::black)}) {
         std::vector<QImage> images;
         for (const std::string& key : keys) images.push_back(Grey(key, 16, tray));
         for (std::size_t one = 0; one < images.size(); ++one)
             for (std::size_t other = one + 1; other < images.size(); ++other)
-                ASSERT_GE(Difference(images[one], images[other]), leastPoints) << one << " and " << other;
+                ASSERT_GE(Difference(images[one], images[other]), LeastPoints) << one << " and " << other;
     }
 }
 

@@ -12,7 +12,7 @@ PlayedTeamSpeak played;
 
 extern "C" {
 
-PlayedTeamSpeak* playedTeamSpeak() { return &played; }
+PlayedTeamSpeak* PlayedTeamSpeakOfLibrary() { return &played; }
 
 Integer tsrConnect(const char* url) {
     played.Calls.push_back(std::string("connect ") + url);

@@ -18,6 +18,6 @@ struct PlayedTeamSpeak {
 };
 
 // The library's one instance, by this C function.
-constexpr const char* PlayedTeamSpeakFunction = "playedTeamSpeak";
+constexpr const char* PlayedTeamSpeakFunction = "PlayedTeamSpeakOfLibrary";
 
 }  // namespace orvelle
