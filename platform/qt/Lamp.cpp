@@ -58,7 +58,7 @@ void Lamp::paintEvent(QPaintEvent*) {
     } else if (isLit) {
         const qreal side = std::min(width(), height()) - Unit / 2.0;
         const QRectF area((width() - side) / 2, (height() - side) / 2, side, side);
-        DrawSign(painter, area, isEnabled() ? sign : Sign::Off, SignColour(sign, SchemeOf(palette())));
+        DrawSign(painter, area, sign, SignColour(isEnabled() ? sign : Sign::Off, SchemeOf(palette())));
     }
 }
 

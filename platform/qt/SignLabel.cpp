@@ -22,12 +22,12 @@ void SignLabel::changeEvent(QEvent* event) {
 void SignLabel::paintEvent(QPaintEvent* event) {
     QLabel::paintEvent(event);
     QPainter painter(this);
-    const Sign sign = isEnabled() ? ShownSign() : Sign::Off;
+    const QColor colour = SignColour(isEnabled() ? ShownSign() : Sign::Off, SchemeOf(palette()));
     const int side = fontMetrics().height();
     // Beside the first line, wherever the text stands in the label.
     const int textHeight = heightForWidth(width());
     const int top = (alignment() & Qt::AlignTop) != 0 || textHeight < 0 ? 0 : (height() - textHeight) / 2;
-    DrawSign(painter, QRectF(0, top, side, side), sign, SignColour(sign, SchemeOf(palette())));
+    DrawSign(painter, QRectF(0, top, side, side), ShownSign(), colour);
 }
 
 void StatusLine::SetForeColor(Long color) {

@@ -77,7 +77,8 @@ public:
 
     void paint(QPainter* painter, const QRect& area, QIcon::Mode, QIcon::State) override {
         const int side = std::min(area.width(), area.height());
-        const QRectF square(area.x() + (area.width() - side) / 2, area.y() + (area.height() - side) / 2, side, side);
+        const QRectF square(area.x() + (area.width() - side) / 2.0, area.y() + (area.height() - side) / 2.0, side,
+                            side);
         DrawStatusImage(*painter, square, lamps, 1 / painter->device()->devicePixelRatioF());
     }
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
@@ -126,8 +127,9 @@ void DrawStatusImage(QPainter& painter, const QRectF& area, const std::string& k
     painter.drawRoundedRect(area.adjusted(edge, edge, -edge, -edge), radius - edge, radius - edge);
 
     for (int place = 0; place < Places; ++place) {
-        const QRectF box(left + (place % Columns) * (width + gap),
-                         top + (place / Columns) * (height + captionHeight + rowGap), width, height);
+        const int column = place % Columns;
+        const int row = place / Columns;
+        const QRectF box(left + column * (width + gap), top + row * (height + captionHeight + rowGap), width, height);
         const std::size_t position = static_cast<std::size_t>(place);
         DrawLamp(painter, box, position < key.size() ? key[position] : ' ', detailed, pixel);
         if (!captions) continue;

@@ -14,14 +14,50 @@ namespace {
 constexpr Long RedText = 255;
 
 struct Tones {
-    QRgb window, base, alternate, button, text, disabled, placeholder, highlight, highlightedText, tip, tipText, link,
-        line, outline;
+    QRgb Window;
+    QRgb Base;
+    QRgb Alternate;
+    QRgb Button;
+    QRgb Text;
+    QRgb Disabled;
+    QRgb Placeholder;
+    QRgb Highlight;
+    QRgb HighlightedText;
+    QRgb Tip;
+    QRgb TipText;
+    QRgb Link;
+    QRgb Line;
+    QRgb Outline;
 };
 
-constexpr Tones LightTones{0xfff1f3f5, 0xffffffff, 0xfff7f9fa, 0xffe9edf0, 0xff1b2630, 0xff8a959f, 0xff5f6b76,
-                           0xff2b6a94, 0xffffffff, 0xff26323c, 0xfff1f3f5, 0xff1f5f8b, 0xffbcc5cc, 0xff8d98a1};
-constexpr Tones DarkTones{0xff20262c, 0xff181d22, 0xff1d2329, 0xff2e363e, 0xffdfe5ea, 0xff76828d, 0xff93a0ab,
-                          0xff2f6f99, 0xffffffff, 0xff0f1316, 0xffdfe5ea, 0xff7fb6db, 0xff3d4750, 0xff66737f};
+constexpr Tones LightTones{.Window = 0xfff1f3f5,
+                           .Base = 0xffffffff,
+                           .Alternate = 0xfff7f9fa,
+                           .Button = 0xffe9edf0,
+                           .Text = 0xff1b2630,
+                           .Disabled = 0xff8a959f,
+                           .Placeholder = 0xff5f6b76,
+                           .Highlight = 0xff2b6a94,
+                           .HighlightedText = 0xffffffff,
+                           .Tip = 0xff26323c,
+                           .TipText = 0xfff1f3f5,
+                           .Link = 0xff1f5f8b,
+                           .Line = 0xffbcc5cc,
+                           .Outline = 0xff8d98a1};
+constexpr Tones DarkTones{.Window = 0xff20262c,
+                          .Base = 0xff181d22,
+                          .Alternate = 0xff1d2329,
+                          .Button = 0xff2e363e,
+                          .Text = 0xffdfe5ea,
+                          .Disabled = 0xff76828d,
+                          .Placeholder = 0xff93a0ab,
+                          .Highlight = 0xff2f6f99,
+                          .HighlightedText = 0xffffffff,
+                          .Tip = 0xff0f1316,
+                          .TipText = 0xffdfe5ea,
+                          .Link = 0xff7fb6db,
+                          .Line = 0xff3d4750,
+                          .Outline = 0xff66737f};
 
 QPainterPath Disc(const QRectF& area) {
     QPainterPath path;
@@ -103,31 +139,31 @@ Scheme SystemScheme() { return SchemeOf(QGuiApplication::palette()); }
 
 QPalette CalmPalette(Scheme scheme) {
     const Tones& tones = scheme == Scheme::Dark ? DarkTones : LightTones;
-    const QColor window = QColor::fromRgb(tones.window);
-    QPalette palette(QColor::fromRgb(tones.button), window);
+    const QColor window = QColor::fromRgb(tones.Window);
+    QPalette palette(QColor::fromRgb(tones.Button), window);
     const auto all = [&](QPalette::ColorRole role, QRgb tone) { palette.setColor(role, QColor::fromRgb(tone)); };
-    all(QPalette::Base, tones.base);
-    all(QPalette::AlternateBase, tones.alternate);
-    all(QPalette::WindowText, tones.text);
-    all(QPalette::Text, tones.text);
-    all(QPalette::ButtonText, tones.text);
-    all(QPalette::BrightText, tones.highlightedText);
-    all(QPalette::PlaceholderText, tones.placeholder);
-    all(QPalette::Highlight, tones.highlight);
-    all(QPalette::HighlightedText, tones.highlightedText);
-    all(QPalette::ToolTipBase, tones.tip);
-    all(QPalette::ToolTipText, tones.tipText);
-    all(QPalette::Link, tones.link);
-    all(QPalette::LinkVisited, tones.link);
-    all(QPalette::Mid, tones.line);
-    all(QPalette::Dark, tones.line);
-    all(QPalette::Shadow, tones.outline);
+    all(QPalette::Base, tones.Base);
+    all(QPalette::AlternateBase, tones.Alternate);
+    all(QPalette::WindowText, tones.Text);
+    all(QPalette::Text, tones.Text);
+    all(QPalette::ButtonText, tones.Text);
+    all(QPalette::BrightText, tones.HighlightedText);
+    all(QPalette::PlaceholderText, tones.Placeholder);
+    all(QPalette::Highlight, tones.Highlight);
+    all(QPalette::HighlightedText, tones.HighlightedText);
+    all(QPalette::ToolTipBase, tones.Tip);
+    all(QPalette::ToolTipText, tones.TipText);
+    all(QPalette::Link, tones.Link);
+    all(QPalette::LinkVisited, tones.Link);
+    all(QPalette::Mid, tones.Line);
+    all(QPalette::Dark, tones.Line);
+    all(QPalette::Shadow, tones.Outline);
     for (const QPalette::ColorRole role :
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText})
-        palette.setColor(QPalette::Disabled, role, QColor::fromRgb(tones.disabled));
+        palette.setColor(QPalette::Disabled, role, QColor::fromRgb(tones.Disabled));
     palette.setColor(QPalette::Disabled, QPalette::Base, window);
     palette.setColor(QPalette::Disabled, QPalette::AlternateBase, window);
-    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor::fromRgb(tones.disabled));
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor::fromRgb(tones.Disabled));
     return palette;
 }
 

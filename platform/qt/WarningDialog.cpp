@@ -1,5 +1,7 @@
 #include "platform/qt/WarningDialog.h"
 
+#include <QShortcut>
+
 #include "ui_WarningDialog.h"
 
 namespace orvelle {
@@ -18,6 +20,9 @@ void WarningDialog::Prepare() {
     dialog.setupUi(this);
     dialog.Label1->setMinimumWidth(fontMetrics().averageCharWidth() * LineLength);
     binder.Bind(*this);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
+        new QShortcut(key, this, [button = dialog.OKButton] { button->click(); });
+    new QShortcut(Qt::Key_Escape, this, [this] { form.Unload(Form::ControlMenu); });
 }
 
 }  // namespace orvelle
