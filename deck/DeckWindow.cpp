@@ -19,7 +19,8 @@ using namespace deck;
 
 namespace {
 
-constexpr QSize WantedSize(1024, 700);
+// Beside the panel on a screen of 1920 by 1080.
+constexpr QSize WantedSize(940, 700);
 
 // On a screen too small for the page, or with letters too large, the page is scrolled, never clipped.
 void AddPage(QTabWidget& tabs, QWidget* page, const QString& title) {

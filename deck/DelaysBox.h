@@ -1,4 +1,4 @@
-// How long each side of the set-up takes to bring its events to the panel, milliseconds.
+// How long the links and the mixers take to bring their events to the panel, milliseconds.
 #pragma once
 
 #include "deck/Section.h"

@@ -19,7 +19,7 @@ QCheckBox* NewFailure(const QString& name, std::function<void(bool)> apply) {
 }  // namespace
 
 DevicesBox::DevicesBox(EmbeddedVoiceEngine& voiceEngine)
-    : Section("Devices", "Devices", 3),
+    : Section("Devices", "Devices", 4),
       engine(voiceEngine),
       microphoneFails(NewFailure("Microphone", [this](bool failed) { engine.FailInput(failed); })),
       microphone(new Readout("MicrophoneDevice")),

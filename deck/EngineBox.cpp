@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QPushButton>
+#include <QSpinBox>
 
 #include "deck/Fields.h"
 #include "deck/Readout.h"
@@ -29,6 +30,12 @@ EngineBox::EngineBox(EmbeddedVoiceEngine& voiceEngine)
       watch(engine.Changed.Observe([this] { ShowState(); })) {
     AddRow("State", {state, audio, squelch});
     AddRow("Next start", {nextStart, fail, new QWidget});
+    AddRow("Start takes", {NewDelay("StartDelay", "From the engine's start to its event", engine.StartDelay(),
+                                    [this](int milliseconds) { engine.SetStartDelay(milliseconds); }),
+                           new QWidget});
+    AddRow("Join takes", {NewDelay("JoinDelay", "From a room's join to its outcome", engine.JoinDelay(),
+                                   [this](int milliseconds) { engine.SetJoinDelay(milliseconds); }),
+                          new QWidget});
     ShowState();
 }
 

@@ -12,6 +12,9 @@ namespace orvelle::deck {
 
 namespace {
 
+constexpr int LongestDelay = 60'000;  // milliseconds
+constexpr int DelayStep = 100;
+
 template <typename Widget>
 Widget* Named(Widget* widget, const QString& name, const QString& toolTip) {
     widget->setObjectName(name);
@@ -51,6 +54,14 @@ QSpinBox* NewNumber(const QString& name, const QString& toolTip, int least, int 
     box->setRange(least, most);
     box->setKeyboardTracking(false);
     QObject::connect(box, &QSpinBox::valueChanged, box, std::move(apply));
+    return box;
+}
+
+QSpinBox* NewDelay(const QString& name, const QString& toolTip, int value, std::function<void(int)> apply) {
+    auto* box = NewNumber(name, toolTip, 0, LongestDelay, std::move(apply));
+    box->setSuffix(" ms");
+    box->setSingleStep(DelayStep);
+    ShowNumber(*box, value);
     return box;
 }
 

@@ -23,6 +23,8 @@ QComboBox* NewChoice(const QString& name, const QString& toolTip, const QStringL
                      std::function<void(int)> apply);
 // Applies by the arrows, by Enter or by leaving the field.
 QSpinBox* NewNumber(const QString& name, const QString& toolTip, int least, int most, std::function<void(int)> apply);
+// A time that something takes, milliseconds up to a minute.
+QSpinBox* NewDelay(const QString& name, const QString& toolTip, int value, std::function<void(int)> apply);
 QPushButton* NewButton(const QString& name, const QString& text, const QString& toolTip, std::function<void()> apply);
 
 void ShowText(QLineEdit& edit, const std::string& text);

@@ -1,9 +1,10 @@
 #include "deck/RecordsBox.h"
 
+#include <QCheckBox>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QToolButton>
 #include <algorithm>
 
 #include "deck/Fields.h"
@@ -57,21 +58,17 @@ RecordsBox::RecordsBox(EmbeddedTessaly& framework)
     AddRow("Selected", {drop, announce});
     AddRow("Other computer", {computer});
 
-    QList<QWidget*> buttons;
+    QList<QWidget*> boxes = {new QLabel("holds")};
     for (const std::string role : Roles) {
         const QString name = QString::fromStdString(role);
-        auto* button = new QToolButton;
-        button->setText(name);
-        button->setObjectName("Claim" + name);
-        button->setToolTip("Down: the other computer holds the role " + name);
-        button->setCheckable(true);
-        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        button->setFocusPolicy(Qt::TabFocus);
-        connect(button, &QToolButton::clicked, this, [this, role](bool on) { Claim(role, on); });
-        claims[role] = button;
-        buttons << button;
+        auto* box = NewCheck("Claim" + name, name, "The other computer holds the role " + name,
+                             [this, role](bool on) { Claim(role, on); });
+        // A click doesn't take the focus, so that keys stay held meanwhile.
+        box->setFocusPolicy(Qt::TabFocus);
+        claims[role] = box;
+        boxes << box;
     }
-    AddRow("holds", {RowOf(buttons)});
+    AddWide(RowOf(boxes));
     ShowState();
 }
 
@@ -116,7 +113,7 @@ void RecordsBox::ShowState() {
 }
 
 void RecordsBox::ShowButtons() {
-    for (const auto& [role, button] : claims) button->setChecked(ClaimOf(role) != 0);
+    for (const auto& [role, box] : claims) box->setChecked(ClaimOf(role) != 0);
     const auto records = tessaly.Records();
     const auto selected = records.find(SelectedId());
     drop->setEnabled(selected != records.end() && !selected->second.IsLocal);

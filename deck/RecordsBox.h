@@ -9,10 +9,10 @@
 #include "deck/Section.h"
 #include "platform/Types.h"
 
+class QCheckBox;
 class QLineEdit;
 class QPushButton;
 class QTableWidget;
-class QToolButton;
 
 namespace orvelle {
 class EmbeddedTessaly;
@@ -34,7 +34,7 @@ private:
     EmbeddedTessaly& tessaly;
     QTableWidget* table;
     QLineEdit* computer;
-    std::map<std::string, QToolButton*> claims;  // by role
+    std::map<std::string, QCheckBox*> claims;  // by role
     QPushButton* drop;
     QPushButton* announce;
     std::shared_ptr<void> watch;

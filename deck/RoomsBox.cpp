@@ -20,11 +20,11 @@ constexpr JoinOutcome JoinOutcomes[] = {JoinOutcome::Succeeds, JoinOutcome::Refu
 void ShowRoomState(SignalLight& light, RoomState state) {
     switch (state) {
         case RoomState::Out:
-            return light.Show(Signal::Off, "Out of the room");
+            return light.Show(Signal::Off, "Out");
         case RoomState::Joining:
             return light.Show(Signal::Waiting, "Joining");
         case RoomState::In:
-            return light.Show(Signal::On, "In the room");
+            return light.Show(Signal::On, "In");
     }
 }
 
