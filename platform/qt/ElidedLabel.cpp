@@ -2,6 +2,7 @@
 
 #include <QHelpEvent>
 #include <QPainter>
+#include <QTextDocument>
 #include <QToolTip>
 
 namespace orvelle {
@@ -10,7 +11,7 @@ QSize ElidedLabel::minimumSizeHint() const { return {fontMetrics().averageCharWi
 
 bool ElidedLabel::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip && fontMetrics().horizontalAdvance(text()) > contentsRect().width()) {
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text().toHtmlEscaped(), this);
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), Qt::convertFromPlainText(text()), this);
         return true;
     }
     return QLabel::event(event);

@@ -102,6 +102,9 @@ int TakePictures(const Folder& folder) {
     MainWindow emptyWindow(emptyPanel);
     emptyPanel.Show();
     folder.Keep(emptyWindow.grab(), QStringLiteral("00-overview-empty"));
+    emptyPanel.Panels(6).Visible = true;
+    QApplication::processEvents();
+    folder.Keep(emptyWindow.grab(), QStringLiteral("06-volumes-closed"));
     warning.Show();
     QApplication::processEvents();
     folder.Keep(dialog.grab(), QStringLiteral("20-warning"));
