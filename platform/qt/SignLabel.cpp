@@ -53,7 +53,7 @@ void WarningSign::paintEvent(QPaintEvent*) {
 Sign StatusLine::ShownSign() const {
     if (text().isEmpty()) return Sign::Off;
     if (isBad) return Sign::Bad;
-    if (place >= key.size()) return Sign::Good;
+    if (place >= key.size()) return Sign::Off;
     if (key[place] == QLatin1Char('Y')) return Sign::Waiting;
     return key[place] == QLatin1Char('V') ? Sign::Good : Sign::Off;
 }

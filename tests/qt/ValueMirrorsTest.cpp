@@ -146,6 +146,8 @@ TEST_F(ValueMirrorsTest, BadAndGoodTextsHaveTheirColours) {
     auto& line = Widget<StatusLine>(panel.StatusVelmarc);
     const QColor good = line.palette().color(QPalette::WindowText);
     panel.StatusVelmarc.Caption = "text";
+    EXPECT_EQ(line.ShownSign(), Sign::Off);
+    panel.StatusIcon.Picture = panel.IconList.Image("VVVRVY");
     panel.StatusVelmarc.ForeColor = 255;
     EXPECT_EQ(line.palette().color(QPalette::WindowText), SignColour(Sign::Bad, Scheme::Light));
     EXPECT_EQ(line.ShownSign(), Sign::Bad);
