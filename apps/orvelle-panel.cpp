@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "apps/PanelProgram.h"
+#include "deck/FirstFlight.h"
 #include "platform/qt/Application.h"
 #include "platform/qt/Display.h"
 #include "platform/qt/Theme.h"
@@ -22,5 +23,8 @@ int main() {
     Application::setDesktopFileName("net.orvelle.OrvelleCP");
     ApplyTheme(SystemScheme());
     PanelProgram panel(program, endings, SettingsFile());
-    return application.Run([&] { panel.Open(); });
+    return application.Run([&] {
+        panel.Open();
+        PrepareFirstFlight(panel.SetUp);
+    });
 }
