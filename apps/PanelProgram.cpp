@@ -49,8 +49,11 @@ PanelProgram::PanelProgram(ProcessProgram& endingProgram, TerminationSignals& te
     Window = std::make_unique<MainWindow>(Panel);
 
     SetUp.Notice = [this](const std::string& sentence) { messages.MsgBox(sentence); };
-    Processes.StartFailed = [this](const std::string& sentence) {
-        if (Deck) Deck->TellOfProgram(sentence);
+    Processes.Told = [this](const std::string& sentence) {
+        if (Deck)
+            Deck->TellOfProgram(sentence);
+        else
+            untold.push_back(sentence);
     };
     loop.WhenReadable(Processes.Descriptor(), [this] { Processes.Serve(); });
     loop.WhenReadable(endings.Descriptor(), [this] {
@@ -67,6 +70,8 @@ void PanelProgram::Open() {
     // The deck waits for the panel to be seen.
     loop.Post([this] {
         Deck = std::make_unique<DeckWindow>(SetUp);
+        for (const std::string& sentence : untold) Deck->TellOfProgram(sentence);
+        untold.clear();
         Deck->OpenAt(Window->frameGeometry().topRight() + QPoint(GapBesidePanel, 0));
     });
 }

@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "deck/DeckWindow.h"
 #include "panel/FrmOrvelle.h"
@@ -79,6 +80,7 @@ public:
     std::unique_ptr<DeckWindow> Deck;
 
 private:
+    std::vector<std::string> untold;  // of programs, until there is a deck
     WarningDialog warning{Panel.MultiFSWarningDlg};
     Door door{Table, Panel.Stub1};
 };

@@ -15,7 +15,8 @@ int main(int argumentCount, char** arguments) {
         return CannotRead;
     }
     std::ifstream file(arguments[1], std::ios::binary);
-    if (!file) {
+    // A folder can be opened, but not read.
+    if (!file || (file.peek(), file.bad())) {
         std::cerr << "the scenario " << arguments[1] << " cannot be read\n";
         return CannotRead;
     }

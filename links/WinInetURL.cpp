@@ -59,7 +59,7 @@ bool WinInetURL::CrackUrl(const std::string& url) {
 }
 
 // The function of bytes is handed 16-bit text, so its result has a zero behind each letter. Where the room is too small
-// it is asked again, with the size that it reported.
+// it is asked again, with the size that it reported; no more than the room for it is taken of what comes then.
 std::string WinInetURL::CreateURL() {
     URL_COMPONENTS parts;
     parts.Scheme = Scheme;
@@ -76,7 +76,7 @@ std::string WinInetURL::CreateURL() {
         if (urls.GetLastError() != InsufficientBuffer) return "";
         flags = RetryFlags;
     }
-    return Without(result, std::string(1, '\0'));
+    return Without(result.substr(0, ResultSize), std::string(1, '\0'));
 }
 
 }  // namespace orvelle

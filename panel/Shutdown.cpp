@@ -14,7 +14,9 @@ void FrmOrvelle::Form_Unload() {
     Stub1.EStop();
 }
 
+// The other window that may be open goes with the panel.
 void FrmOrvelle::Form_Terminate() {
+    MultiFSWarningDlg.Unload();
     Settings.HandlerEnded();
     platform.Program.End();
 }

@@ -6,7 +6,6 @@ namespace orvelle {
 
 namespace {
 
-constexpr double SizeInTwips = 510;
 constexpr std::size_t TipField = 64;
 constexpr const char* DefaultTip = "Notification area icon";
 

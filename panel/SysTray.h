@@ -31,6 +31,7 @@ public:
     enum class Mode { Designer, Run };
 
     static constexpr Long CallbackMessage = 1125;
+    static constexpr double SizeInTwips = 510;
 
     cSysTray(Form& form, std::string name, Windows& windowSystem, NotificationArea& notificationArea, mSysTray& module,
              Mode userMode);
@@ -51,8 +52,8 @@ public:
     void InTray(bool value);
 
     Property<orvelle::Picture> Picture{*this, ControlProperty::Picture};
-    Property<double> Width{*this, ControlProperty::Width, 0};
-    Property<double> Height{*this, ControlProperty::Height, 0};
+    Property<double> Width{*this, ControlProperty::Width, SizeInTwips};
+    Property<double> Height{*this, ControlProperty::Height, SizeInTwips};
 
     Event<Long&> MouseMove;                // id
     Event<Integer&, Long&> MouseDown;      // button: 1 left, 2 right; id

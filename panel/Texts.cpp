@@ -58,7 +58,7 @@ double LeadingNumber(const std::string& text) {
 
 std::string NumberText(float value) {
     std::array<char, 64> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed).ptr;
     return {digits.data(), end};
 }
 

@@ -16,7 +16,7 @@ std::string Without(std::string text, const std::string& part);
 std::vector<std::string> Lines(const std::string& text);
 // The number that the text begins with, behind leading blanks; 0 where it begins with none.
 double LeadingNumber(const std::string& text);
-// The shortest decimal that reads back as the same single-precision value.
+// The shortest decimal, without an exponent, that reads back as the same single-precision value.
 std::string NumberText(float value);
 
 }  // namespace orvelle

@@ -1,11 +1,24 @@
 // Where the window opens, what its close box does, how it comes back from the notification area, and the small
 // handlers of the pages "Options" and "Extra".
 #include <cmath>
+#include <limits>
 
 #include "panel/FrmOrvelle.h"
 #include "panel/RegistryPaths.h"
+#include "platform/RuntimeError.h"
 
 namespace orvelle {
+
+namespace {
+
+Long WholeTwips(double twips) {
+    const double whole = std::nearbyint(twips);
+    using Range = std::numeric_limits<Long>;
+    if (whole < Range::min() || whole > Range::max()) throw RuntimeError(RuntimeError::Overflow);
+    return static_cast<Long>(whole);
+}
+
+}  // namespace
 
 std::string FrmOrvelle::AutostartCommand() { return '"' + platform.Processes.GetModuleFileNameA() + "\" -MIN"; }
 
@@ -29,8 +42,8 @@ void FrmOrvelle::FS2004DPCompatible_Click() {
 // A minimised or maximised window saves nothing.
 void FrmOrvelle::SavePosition() {
     if (WindowState != Normal) return;
-    SaveSettingLong("Top", static_cast<Long>(std::nearbyint(Top())));
-    SaveSettingLong("Left", static_cast<Long>(std::nearbyint(Left())));
+    SaveSettingLong("Top", WholeTwips(Top));
+    SaveSettingLong("Left", WholeTwips(Left));
 }
 
 // The close box only hides the window; any other unload goes on.

@@ -65,13 +65,13 @@ constexpr EventForm Events[] = {
     {"VVL_Stopped", "", Raise<Engine, &VoiceEngineControl::VVL_Stopped>},
     {"VVL_AudioStarted", "", Raise<Engine, &VoiceEngineControl::VVL_AudioStarted>},
     {"VVL_AudioStopped", "", Raise<Engine, &VoiceEngineControl::VVL_AudioStopped>},
-    {"VVL_RoomJoinSucceed", "n", Raise<Engine, &VoiceEngineControl::VVL_RoomJoinSucceed>},
-    {"VVL_RoomJoinFailed", "n", Raise<Engine, &VoiceEngineControl::VVL_RoomJoinFailed>},
-    {"VVL_RoomKicked", "n", Raise<Engine, &VoiceEngineControl::VVL_RoomKicked>},
-    {"VVL_RoomLeft", "n", Raise<Engine, &VoiceEngineControl::VVL_RoomLeft>},
-    {"VVL_RoomAudioStarted", "n", Raise<Engine, &VoiceEngineControl::VVL_RoomAudioStarted>},
-    {"VVL_RoomAudioStopped", "n", Raise<Engine, &VoiceEngineControl::VVL_RoomAudioStopped>},
-    {"VVL_RoomStatusChanged", "n", Raise<Engine, &VoiceEngineControl::VVL_RoomStatusChanged>},
+    {"VVL_RoomJoinSucceed", "i", Raise<Engine, &VoiceEngineControl::VVL_RoomJoinSucceed>},
+    {"VVL_RoomJoinFailed", "i", Raise<Engine, &VoiceEngineControl::VVL_RoomJoinFailed>},
+    {"VVL_RoomKicked", "i", Raise<Engine, &VoiceEngineControl::VVL_RoomKicked>},
+    {"VVL_RoomLeft", "i", Raise<Engine, &VoiceEngineControl::VVL_RoomLeft>},
+    {"VVL_RoomAudioStarted", "i", Raise<Engine, &VoiceEngineControl::VVL_RoomAudioStarted>},
+    {"VVL_RoomAudioStopped", "i", Raise<Engine, &VoiceEngineControl::VVL_RoomAudioStopped>},
+    {"VVL_RoomStatusChanged", "i", Raise<Engine, &VoiceEngineControl::VVL_RoomStatusChanged>},
 
     {"VolumeControl.InputOpened", "", Raise<Mixer, &MixerControl::InputOpened>},
     {"VolumeControl.InputClosed", "", Raise<Mixer, &MixerControl::InputClosed>},
@@ -95,8 +95,9 @@ constexpr EventForm Events[] = {
 Act ReadEvent(Stage& stage, Scanner& line) {
     const Reference reference = line.AnyReference();
     line.ExpectEnd();
-    std::string name = reference.Parts[0].Name;
-    for (std::size_t part = 1; part < reference.Parts.size(); ++part) name += "." + reference.Parts[part].Name;
+    std::string name;
+    for (std::size_t part = 0; part + 1 < reference.Parts.size(); ++part) name += reference.Parts[part].Printed() + ".";
+    name += reference.Parts.back().Name;
     for (const EventForm& event : Events) {
         if (name != event.Name) continue;
         const Values arguments =

@@ -32,7 +32,8 @@ Lines ShownRecords(const InterfaceRecordTable& table) {
 
 Lines ShownFramework(const Stage& stage, const Reference& reference) {
     const InterfaceRecordTable& table = stage.Outside.Tessaly.Table();
-    const Reference::Part what = reference.Parts.size() == 2 ? reference.Parts[1] : Reference::Part{};
+    const bool namesOnePart = reference.Parts.size() == 2 && !reference.Parts[0].Arguments;
+    const Reference::Part what = namesOnePart ? reference.Parts[1] : Reference::Part{};
     if (what.Name == "Records" && !what.Arguments) return ShownRecords(table);
     if (what.Name != "Param" && what.Name != "ParamText") throw LineError("there is no " + reference.Printed());
     const Values place = Fitted(what.Arguments.value_or(Values()), "nn", reference.Parts[0].Name + "." + what.Name);

@@ -79,7 +79,7 @@ Task ReadScheduled(Stage& stage, Scanner& line, const std::string& word) {
     for (const MessageForm& form : MessageForms)
         if (word == form.Word) return form.Read(stage, line);
     const LineForm& form = FormOf(word);
-    const bool canWait = form.Kind == LineKind::Stimulus && word != "load" && word != "at" && word != "advance";
+    const bool canWait = form.Kind != LineKind::Look && word != "load" && word != "at" && word != "advance";
     if (!canWait) throw LineError(word + " cannot be scheduled");
     return OfLine(stage.Line, form.Read(stage, line));
 }

@@ -11,7 +11,9 @@ namespace {
 template <typename Number>
 std::string Shortest(Number number) {
     std::array<char, 1100> digits;
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed).ptr;
+    // Adding zero takes the sign off a negative zero.
+    const auto end =
+        std::to_chars(digits.data(), digits.data() + digits.size(), number + Number{0}, std::chars_format::fixed).ptr;
     return {digits.data(), end};
 }
 

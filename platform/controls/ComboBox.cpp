@@ -34,7 +34,7 @@ void ComboBox::Select(Long index) {
 }
 
 void ComboBox::UserPick(Long index) {
-    if (AcceptsInput()) Select(index);
+    if (AcceptsInput() && index >= 0 && index < ListCount()) Select(index);
 }
 
 void ComboBox::UserType(std::string text) {

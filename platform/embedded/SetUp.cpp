@@ -7,7 +7,7 @@ namespace orvelle {
 EmbeddedSetUp::EmbeddedSetUp(EventLoop& loop, const std::filesystem::path& storeFile,
                              std::vector<std::string> thisComputer)
     : notices(loop),
-      Store(storeFile, [this](const std::string& sentence) { notices.Raise([this, sentence] { Notice(sentence); }); }),
+      Store(storeFile, [this](const std::string& sentence) { Tell(sentence); }),
       Velmarc(loop, Store, std::move(thisComputer)),
       Tessaly(loop, Store),
       VVL(loop),
@@ -15,6 +15,15 @@ EmbeddedSetUp::EmbeddedSetUp(EventLoop& loop, const std::filesystem::path& store
       VolumeControlHP(loop),
       TSRemote(loop),
       MediaPlayers(loop) {}
+
+// A store that something else has written to may be full of wrong values; they make one message.
+void EmbeddedSetUp::Tell(const std::string& sentence) {
+    if (untold.empty())
+        notices.Raise([this] { Notice(std::exchange(untold, "")); });
+    else
+        untold += '\n';
+    untold += sentence;
+}
 
 void EmbeddedSetUp::Stop() {
     Velmarc.Stop();

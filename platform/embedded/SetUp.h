@@ -20,14 +20,15 @@ namespace orvelle {
 
 class EmbeddedSetUp {
     Delivery notices;
+    std::string untold;  // sentences, a line each
 
 public:
     // `storeFile` is the store's file, made with its folder where missing. `thisComputer` lists names and addresses of
     // this computer beside the loopback ones.
     EmbeddedSetUp(EventLoop& loop, const std::filesystem::path& storeFile, std::vector<std::string> thisComputer = {});
 
-    // A sentence for the user about the settings, for the shell to show. From the loop, one call each; what arose
-    // while this object was made comes in the loop's first turn.
+    // Sentences for the user about the settings, for the shell to show: from the loop, all that arose before its turn
+    // in one call, each on a line of its own. What arose while this object was made comes in the loop's first turn.
     Event<const std::string&> Notice;
 
     SqliteStore Store;  // the settings store and the registry
@@ -41,6 +42,9 @@ public:
 
     // The panel has ended: no event is raised any more.
     void Stop();
+
+private:
+    void Tell(const std::string& sentence);
 };
 
 }  // namespace orvelle

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <string_view>
 #include <tuple>
 
 #include "platform/embedded/StoreFile.h"
@@ -13,7 +14,7 @@ namespace {
 constexpr const char* NoPlace = "";  // the controls' own values stand in no section
 
 // Numbers come in the order of their value, before other names, which come in the order of their bytes.
-auto ListOrder(const std::string& name) {
+auto ListOrder(std::string_view name) {
     const bool isNumber = !name.empty() && std::ranges::all_of(name, [](unsigned char c) { return std::isdigit(c); });
     const std::size_t zeros = isNumber ? std::min(name.find_first_not_of('0'), name.size()) : 0;
     const std::size_t digits = isNumber ? name.size() - zeros : 0;

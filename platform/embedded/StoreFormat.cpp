@@ -77,7 +77,15 @@ FoundStore ReadThrough(Connection file) {
     FoundStore found;
     for (std::size_t table = 0; table < StoredTableCount; ++table) {
         Statement rows(file, std::string("SELECT place, name, value FROM ") + StoreTableNames[table]);
-        while (rows.Step()) found.Values[table][rows.Bytes(0)][rows.Bytes(1)] = rows.Value(2);
+        // They come in the order of the key, so each belongs to the place of the one before or behind all others.
+        StoredPlaces& places = found.Values[table];
+        auto names = places.end();
+        while (rows.Step()) {
+            std::string place = rows.Bytes(0);
+            if (names == places.end() || names->first != place)
+                names = places.try_emplace(places.end(), std::move(place));
+            names->second.insert_or_assign(names->second.end(), rows.Bytes(1), rows.Value(2));
+        }
     }
     found.Verdict = file.ReadOnly() ? StoreVerdict::ReadOnly : StoreVerdict::Good;
     if (found.Verdict != StoreVerdict::Good) return found;

@@ -2,13 +2,13 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <spawn.h>
 #include <sys/wait.h>
 
 #include <array>
 #include <csignal>
 
 #include "platform/linux/HeldKeys.h"
+#include "platform/linux/SpawnPreparation.h"
 
 namespace orvelle {
 
@@ -19,33 +19,17 @@ FileDescriptor OutOfTheWay(int number) { return FileDescriptor(fcntl(number, F_D
 
 // What the guard process is before its program runs: a session of its own, so that nothing sent to our group reaches
 // it; every signal blocked; no file open but its two.
-class Preparation {
-public:
-    Preparation(int pipe, int held) {
-        posix_spawn_file_actions_init(&Files);
-        for (int standard = 0; standard < 3; ++standard)
-            posix_spawn_file_actions_addopen(&Files, standard, "/dev/null", O_RDWR, 0);
-        posix_spawn_file_actions_adddup2(&Files, pipe, KeyGuard::PipeDescriptor);
-        posix_spawn_file_actions_adddup2(&Files, held, KeyGuard::HeldKeysDescriptor);
-        posix_spawn_file_actions_addclosefrom_np(&Files, KeyGuard::HeldKeysDescriptor + 1);
-        posix_spawn_file_actions_addchdir_np(&Files, "/");
+void Prepare(SpawnPreparation& start, int pipe, int held) {
+    posix_spawn_file_actions_adddup2(&start.Files, pipe, KeyGuard::PipeDescriptor);
+    posix_spawn_file_actions_adddup2(&start.Files, held, KeyGuard::HeldKeysDescriptor);
+    posix_spawn_file_actions_addclosefrom_np(&start.Files, KeyGuard::HeldKeysDescriptor + 1);
+    posix_spawn_file_actions_addchdir_np(&start.Files, "/");
 
-        posix_spawnattr_init(&Attributes);
-        posix_spawnattr_setflags(&Attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK);
-        sigset_t all;
-        sigfillset(&all);
-        posix_spawnattr_setsigmask(&Attributes, &all);
-    }
-    Preparation(const Preparation&) = delete;
-    Preparation& operator=(const Preparation&) = delete;
-    ~Preparation() {
-        posix_spawnattr_destroy(&Attributes);
-        posix_spawn_file_actions_destroy(&Files);
-    }
-
-    posix_spawn_file_actions_t Files;
-    posix_spawnattr_t Attributes;
-};
+    posix_spawnattr_setflags(&start.Attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK);
+    sigset_t all;
+    sigfillset(&all);
+    posix_spawnattr_setsigmask(&start.Attributes, &all);
+}
 
 }  // namespace
 
@@ -68,11 +52,11 @@ bool KeyGuard::Watch(const HeldKeys& held) {
     const FileDescriptor keys = OutOfTheWay(held.Descriptor());
     if (!theirs || !keys) return false;
 
-    const Preparation preparation(theirs.Number(), keys.Number());
+    SpawnPreparation start;
+    Prepare(start, theirs.Number(), keys.Number());
     std::array<char*, 3> arguments{file.data(), display.data(), nullptr};
     // From its success on the process is the guard's own, whatever becomes of this one.
-    const int error =
-        posix_spawn(&process, file.c_str(), &preparation.Files, &preparation.Attributes, arguments.data(), environ);
+    const int error = posix_spawn(&process, file.c_str(), &start.Files, &start.Attributes, arguments.data(), environ);
     if (error != 0) {
         process = -1;
         return false;

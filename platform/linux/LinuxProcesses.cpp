@@ -76,7 +76,8 @@ Long ResultOf(int error) {
     }
 }
 
-std::string Sentence(const std::string& program, int error) {
+std::string Sentence(const std::string& line, const std::string& program, int error) {
+    if (error == 0) return "Started " + line;
     if (program.empty()) return "No program was started, because the command line names none.";
     if (ResultOf(error) == LinuxProcesses::NoSuchFile)
         return "No program was started, because there is no file " + program + ".";
@@ -120,7 +121,7 @@ Long LinuxProcesses::WinExec(const std::string& commandLine, Long show) {
         for (std::size_t word = command.Words; word < words.size(); ++word) arguments.push_back(words[word].Text);
         error = Start(command.File, arguments, show);
     }
-    if (error != 0 && StartFailed) StartFailed(Sentence(words.empty() ? "" : words.front().Text, error));
+    if (Told) Told(Sentence(line, words.empty() ? "" : words.front().Text, error));
     return ResultOf(error);
 }
 

@@ -27,8 +27,8 @@ public:
     int Descriptor() const { return readiness.Number(); }
     void Serve();
 
-    // The panel shows nothing of a failed start; whoever wants to tell it listens here. One sentence.
-    std::function<void(const std::string&)> StartFailed;
+    // The panel shows nothing of a start, be it done or failed; whoever wants to tell of it listens here. One sentence.
+    std::function<void(const std::string&)> Told;
 
     // A program named without a "/" is searched in PATH. A path with blanks that is not quoted is found too, as the
     // shortest head of the line that is a file. Results: the constants above.

@@ -1,7 +1,5 @@
 #include "platform/linux/StartedPrograms.h"
 
-#include <fcntl.h>
-#include <spawn.h>
 #include <sys/epoll.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -9,6 +7,8 @@
 
 #include <csignal>
 #include <string_view>
+
+#include "platform/linux/SpawnPreparation.h"
 
 namespace orvelle {
 
@@ -34,32 +34,17 @@ std::vector<std::string> Environment(const std::string& startupId) {
     return variables;
 }
 
-class Preparation {
-public:
-    Preparation() {
-        posix_spawn_file_actions_init(&Files);
-        for (int standard = 0; standard < 3; ++standard)
-            posix_spawn_file_actions_addopen(&Files, standard, "/dev/null", O_RDWR, 0);
-        posix_spawn_file_actions_addclosefrom_np(&Files, 3);
+// A session of its own, no other file of ours, and no signal blocked or ignored.
+void Prepare(SpawnPreparation& start) {
+    posix_spawn_file_actions_addclosefrom_np(&start.Files, 3);
 
-        posix_spawnattr_init(&Attributes);
-        posix_spawnattr_setflags(&Attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
-        sigset_t signals;
-        sigemptyset(&signals);
-        posix_spawnattr_setsigmask(&Attributes, &signals);
-        sigfillset(&signals);
-        posix_spawnattr_setsigdefault(&Attributes, &signals);
-    }
-    Preparation(const Preparation&) = delete;
-    Preparation& operator=(const Preparation&) = delete;
-    ~Preparation() {
-        posix_spawnattr_destroy(&Attributes);
-        posix_spawn_file_actions_destroy(&Files);
-    }
-
-    posix_spawn_file_actions_t Files;
-    posix_spawnattr_t Attributes;
-};
+    posix_spawnattr_setflags(&start.Attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
+    sigset_t signals;
+    sigemptyset(&signals);
+    posix_spawnattr_setsigmask(&start.Attributes, &signals);
+    sigfillset(&signals);
+    posix_spawnattr_setsigdefault(&start.Attributes, &signals);
+}
 
 }  // namespace
 
@@ -71,10 +56,11 @@ StartedPrograms::Result StartedPrograms::Start(const std::string& file, const st
     std::vector<std::string> words{file};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<std::string> variables = Environment(startupId);
-    const Preparation preparation;
+    SpawnPreparation start;
+    Prepare(start);
     pid_t process = -1;
-    const int error = posix_spawn(&process, file.c_str(), &preparation.Files, &preparation.Attributes,
-                                  Pointers(words).data(), Pointers(variables).data());
+    const int error = posix_spawn(&process, file.c_str(), &start.Files, &start.Attributes, Pointers(words).data(),
+                                  Pointers(variables).data());
     if (error != 0) return {error, -1};
 
     FileDescriptor end(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));

@@ -93,6 +93,9 @@ void CalmStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
     if (control == CC_Slider) {
         const auto changed = WithPalette<QStyleOptionSlider>(*option, Outlined(option->palette));
         QProxyStyle::drawComplexControl(control, &changed, painter, widget);
+    } else if (control == CC_SpinBox) {
+        const auto changed = WithPalette<QStyleOptionSpinBox>(*option, Outlined(option->palette));
+        QProxyStyle::drawComplexControl(control, &changed, painter, widget);
     } else if (control == CC_ComboBox) {
         const auto changed = WithPalette<QStyleOptionComboBox>(*option, Outlined(option->palette));
         QProxyStyle::drawComplexControl(control, &changed, painter, widget);

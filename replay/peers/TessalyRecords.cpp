@@ -7,10 +7,7 @@ Long TessalyPeer::CreateInterface(const std::string& type, const std::string& ro
     const Values given = Answer("CreateInterface", {type, role}, {});
     const Long id = given.empty() ? table.LowestFreeId() : given.front().As<Long>();
     PrintCall("CreateInterface", {type, role}, {id});
-    if (given.empty()) {
-        table.Drop(id);
-        table.Records[id] = {type, role, InterfaceRecord::Owner::Local};
-    }
+    if (given.empty()) table.Records[id] = {type, role, InterfaceRecord::Owner::Local};
     if (id != 0) openId = id;
     return id;
 }

@@ -32,7 +32,20 @@ TEST_F(SetUpTest, AHealthyStoreGivesNoNotice) {
     EXPECT_TRUE(loop.Idle());
 }
 
-TEST_F(SetUpTest, NoticesComeFromTheLoopOneByOne) {
+TEST_F(SetUpTest, NoticesOfOneTurnComeTogether) {
+    Make();
+    loop.Run();
+    setUp->Store.SaveSettingString("OrvelleCP", "Left", "seven");
+    setUp->Store.SaveSettingString("OrvelleCP", "Top", "eight");
+    setUp->Store.GetSettingLong("OrvelleCP", "Left", 0);
+    setUp->Store.GetSettingLong("OrvelleCP", "Top", 0);
+    loop.Run();
+    EXPECT_EQ(notices, std::vector<std::string>{
+                           "The setting \"Left\" in \"OrvelleCP\" is not a number, so its default is used.\n"
+                           "The setting \"Top\" in \"OrvelleCP\" is not a number, so its default is used."});
+}
+
+TEST_F(SetUpTest, NoticesComeFromTheLoop) {
     WriteBytes(folder.Path(), "damaged");
     Make();
     EXPECT_TRUE(notices.empty());

@@ -163,6 +163,14 @@ TEST_F(CreateUrlTest, AsksAgainWithTheReportedRoomForAsLongAsThereIsTooLittle) {
     EXPECT_EQ(url.CreateURL(), "http://ab");
 }
 
+TEST_F(CreateUrlTest, ALongerResultOfARetryIsCutTo256Bytes) {
+    const std::string longText = Wide(std::string(150, 'a'));
+    EXPECT_CALL(urls, InternetCreateUrlA(_, 0, _, Eq(256))).WillOnce(DoAll(SetArgReferee<3>(300), Return(false)));
+    EXPECT_CALL(urls, GetLastError()).WillOnce(Return(122));
+    EXPECT_CALL(urls, InternetCreateUrlA(_, _, _, Eq(300))).WillOnce(DoAll(SetArgReferee<2>(longText), Return(true)));
+    EXPECT_EQ(url.CreateURL(), std::string(128, 'a'));
+}
+
 TEST_F(CreateUrlTest, AnyOtherErrorIsTheEmptyText) {
     EXPECT_CALL(urls, InternetCreateUrlA(_, 0, _, Eq(256)))
         .WillOnce(DoAll(SetArgReferee<2>("left over"), Return(false)));

@@ -45,11 +45,16 @@ protected:
 class MinimisedStartUnderAManager : public Desktop {
 protected:
     MinimisedStartUnderAManager() {
-        XClient client(server.Display());
-        EXPECT_TRUE(WaitUntil([&] { return client.HasWindowManager(); }));
+        std::optional<XClient> client(server.Display());
+        EXPECT_TRUE(WaitUntil([&] { return client->HasWindowManager(); }));
         program.emplace(std::vector<std::string>{SHOWS_WINDOW});
-        EXPECT_TRUE(WaitUntil([&] { return windows.Focused() != XCB_NONE; }));
-        user = windows.Focused();
+        EXPECT_TRUE(WaitUntil([&] { return windows.List().size() == 2; }));
+        // Its window leaves the list, and the focus goes and comes, when the manager has seen to it.
+        client.reset();
+        EXPECT_TRUE(WaitUntil([&] {
+            user = windows.Focused();
+            return user != XCB_NONE && windows.List() == std::vector{user};
+        }));
     }
 
     ChildProcess manager{{"openbox"}};

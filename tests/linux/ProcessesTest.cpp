@@ -23,7 +23,7 @@ protected:
     Processes() {
         mkdtemp(folder.data());
         setenv("WRITES_DOWN_INTO", Path("written").c_str(), 1);
-        processes.StartFailed = [this](const std::string& sentence) { failures.push_back(sentence); };
+        processes.Told = [this](const std::string& sentence) { told.push_back(sentence); };
     }
     ~Processes() override {
         while (waitpid(-1, nullptr, 0) > 0) {
@@ -54,7 +54,7 @@ protected:
 
     std::string folder = testing::TempDir() + "two words XXXXXX";
     LinuxProcesses processes{":65000"};
-    Texts failures;
+    Texts told;
 };
 
 TEST_F(Processes, StartAPathWithoutBlanks) {
@@ -63,7 +63,8 @@ TEST_F(Processes, StartAPathWithoutBlanks) {
         33);
     EXPECT_EQ(Written("argument"), (Texts{"[/join1]", "[srv1/ops]", "[/priority]", "[high]", "[/netspeed]", "[2]",
                                           "[/callsign]", "[ABC123]"}));
-    EXPECT_TRUE(failures.empty());
+    EXPECT_EQ(told, Texts{"Started " + std::string(WRITES_DOWN) +
+                          " /join1 srv1/ops /priority high /netspeed 2 /callsign ABC123"});
 }
 
 TEST_F(Processes, StartAQuotedPath) {
@@ -121,18 +122,18 @@ TEST_F(Processes, OfMissingFilesAreToldAndNothingElse) {
     EXPECT_EQ(processes.WinExec(R"(C:\Program Files\RogerWilco\rw.exe /leave )", 7), 2);
     EXPECT_EQ(processes.WinExec(" /join1 srv1/ops", 7), 2);
     EXPECT_EQ(processes.WinExec("/etc/passwd/rw", 7), 2);
-    EXPECT_EQ(failures, (Texts{"No program was started, because there is no file " + missing + ".",
-                               "No program was started, because there is no file /nowhere/rw.",
-                               "No program was started, because there is no file C:\\Program.",
-                               "No program was started, because there is no file /join1.",
-                               "No program was started, because there is no file /etc/passwd/rw."}));
+    EXPECT_EQ(told, (Texts{"No program was started, because there is no file " + missing + ".",
+                           "No program was started, because there is no file /nowhere/rw.",
+                           "No program was started, because there is no file C:\\Program.",
+                           "No program was started, because there is no file /join1.",
+                           "No program was started, because there is no file /etc/passwd/rw."}));
 }
 
 TEST_F(Processes, OfAnEmptyLineDoNotExist) {
     EXPECT_EQ(processes.WinExec("", 7), 2);
     EXPECT_EQ(processes.WinExec("  ", 7), 2);
     EXPECT_EQ(processes.WinExec("\"\" /leave", 7), 2);
-    EXPECT_EQ(failures.size(), 3U);
+    EXPECT_EQ(told.size(), 3U);
 }
 
 TEST_F(Processes, OfDirectoriesAndOfFilesWithoutPermissionAreRefused) {
@@ -140,7 +141,7 @@ TEST_F(Processes, OfDirectoriesAndOfFilesWithoutPermissionAreRefused) {
     EXPECT_EQ(processes.WinExec("\"" + plain + "\"", 7), 5);
     EXPECT_EQ(processes.WinExec("\"" + folder + "\"", 7), 5);
     EXPECT_EQ(processes.WinExec("/tmp /leave ", 7), 5);
-    EXPECT_EQ(failures[0], "The program " + plain + " could not be started: Permission denied.");
+    EXPECT_EQ(told[0], "The program " + plain + " could not be started: Permission denied.");
 }
 
 TEST_F(Processes, OfWhatIsNoProgramAreRefused) {

@@ -36,6 +36,20 @@ TEST(Stimulus, DoesNothingToWhatIsDisabledItselfOrByItsPanel) {
               "VelmarcServer.Text = \"\"\n");
 }
 
+TEST(Stimulus, DoesNothingWhereThereIsNothingToClickOn) {
+    EXPECT_EQ(AfterLoad("only none\n"
+                        "raise Velmarc.Connected\n"
+                        "pick VVLSpeakers 9\n"
+                        "pick VVLSpeakers -1\n"
+                        "item ListJoyToKey 1\n"
+                        "item ListJoyToKey 0\n"
+                        "node \"ATIS\"\n"
+                        "show VVLSpeakers.ListIndex CurrentPanel\n"),
+              "> raise Velmarc.Connected\n> pick VVLSpeakers 9\n> pick VVLSpeakers -1\n"
+              "> item ListJoyToKey 1\n> item ListJoyToKey 0\n> node \"ATIS\"\n"
+              "VVLSpeakers.ListIndex = 0\nCurrentPanel = 0\n");
+}
+
 TEST(Stimulus, ChecksABoxWhoseClickComesOnlyWithAChange) {
     EXPECT_EQ(AfterLoad("only Velmarc.SaveSettingLong\ncheck VVLFilter 2\ncheck VVLFilter 2\ncheck VVLFilter 0\n"),
               "> check VVLFilter 2\nVelmarc.SaveSettingLong(\"OrvelleCP\", \"VVLFilter\", 2)\n"

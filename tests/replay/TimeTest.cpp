@@ -60,6 +60,16 @@ TEST(Time, ALocalCaptureTakesKeysAndServesEverythingElse) {
               "TSPTTKey = \"256\"\n");
 }
 
+TEST(Time, AnAnswerCanChangeInsideALocalCapture) {
+    EXPECT_EQ(AfterLoad("only none\n"
+                        "at 300 give Velmarc.LinkUp = True\n"
+                        "at 400 raise Velmarc.Connected\n"
+                        "click RWPTTKeySet\n"
+                        "show StatusVelmarc\n"),
+              "> at 300 give Velmarc.LinkUp = True\n> at 400 raise Velmarc.Connected\n> click RWPTTKeySet\n"
+              "StatusVelmarc.Caption = \"FS with Velmarc is up and running\"\n");
+}
+
 TEST(Time, TheProgramCanEndInsideALocalCapture) {
     EXPECT_EQ(AfterLoad("only user32.*\nat 300 message Stub1 1237\nclick RWPTTKeySet\n"),
               "> at 300 message Stub1 1237\n> click RWPTTKeySet\nuser32.SetCapture(RWPTTKeyDisplay)\n! end\n");

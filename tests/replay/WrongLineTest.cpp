@@ -45,7 +45,7 @@ constexpr WrongLine Preparing[] = {
     {"give Tessaly.VoiceSoftware() = 1", "Tessaly.VoiceSoftware takes 1 value and not 0"},
     {"give Tessaly.VoiceSoftware(0, 1) = 1", "Tessaly.VoiceSoftware takes 1 value and not 2"},
     {"give Tessaly.VoiceSoftware(\"0\") = 1", "\"0\" is no whole number"},
-    {"give TSRemote.tsrConnect = 40000", "40000 is out of the range of a 16-bit number"},
+    {"give TSRemote.tsrConnect = 3000000000", "3000000000 is out of the range of a 32-bit number"},
     {"give Velmarc.PlaySound = 1", "nothing that can be told to answer is called Velmarc.PlaySound"},
     {"give Nobody.Nothing = 1", "nothing that can be told to answer is called Nobody.Nothing"},
     {"give IconList.RRRRRR = 1", "an icon can only be given as none"},
@@ -83,6 +83,8 @@ constexpr WrongLine Stimulating[] = {
     {"raise", "a name is missing at the end"},
     {"raise Velmarc.Exploded", "there is no event Velmarc.Exploded"},
     {"raise VVL.RoomLeft(1)", "there is no event VVL.RoomLeft"},
+    {"raise VVL_RoomLeft(40000)", "40000 is out of the range of a 16-bit number"},
+    {"raise Velmarc(5).Connected", "there is no event Velmarc(5).Connected"},
     {"raise Velmarc.Connected(1)", "the event Velmarc.Connected takes 0 values and not 1"},
     {"raise Velmarc.ServerFound", "the event Velmarc.ServerFound takes 1 value and not 0"},
     {"raise Velmarc.ServerFound(5)", "5 is no text"},
@@ -101,16 +103,11 @@ constexpr WrongLine Stimulating[] = {
     {"text RWEnable \"x\"", "RWEnable is no text box or combo box"},
     {"key VelmarcServer", "a value is missing at the end"},
     {"key Nothing 13", "there is no control Nothing"},
-    {"pick VVLSpeakers 2", "VVLSpeakers has no entry 2"},
-    {"pick VVLSpeakers -1", "VVLSpeakers has no entry -1"},
     {"pick RWPath 0", "RWPath is no combo box"},
     {"scroll VVLOut", "a value is missing at the end"},
     {"scroll VVLOut 1.5", "1.5 is no whole number"},
     {"scroll RWPath 1", "RWPath is no slider"},
     {"node Config", "a text in quotes is missing before \"Config\""},
-    {"node \"ATIS\"", "there is no node \"ATIS\""},
-    {"item ListJoyToKey 1", "ListJoyToKey has no row 1"},
-    {"item ListJoyToKey 0", "ListJoyToKey has no row 0"},
     {"item RWPath 1", "RWPath is no list"},
     {"move 1", "a value is missing at the end"},
     {"move left 1", "left is no number"},
@@ -130,7 +127,6 @@ constexpr WrongLine Stimulating[] = {
     {"at 5 load", "load cannot be scheduled"},
     {"at 5 at 5 resize", "at cannot be scheduled"},
     {"at 5 advance 5", "advance cannot be scheduled"},
-    {"at 5 clock 5", "clock cannot be scheduled"},
     {"at 5 show RWPath", "show cannot be scheduled"},
     {"at 5 jump", "no line begins with jump"},
     {"at 5 click Nothing", "there is no control Nothing"},
@@ -164,6 +160,7 @@ constexpr WrongLine Looking[] = {
     {"show Setting", "Setting takes 2 values and not 0"},
     {"show Registry(\"a\", 5)", "5 is no text"},
     {"show Tessaly", "there is no Tessaly"},
+    {"show Tessaly(1).Records", "there is no Tessaly(1).Records"},
     {"show Tessaly.Server", "there is no Tessaly.Server"},
     {"show Tessaly.Param(1)", "Tessaly.Param takes 2 values and not 1"},
     {"show Tessaly.ParamText(1, \"2\")", "\"2\" is no whole number"},
@@ -179,10 +176,11 @@ TEST(WrongLines, ControlsCannotBeNamedBeforeTheLoad) {
 }
 
 TEST(WrongLines, AScheduledStimulusIsWrongWithTheLineThatScheduledIt) {
-    const Outcome outcome = Replay("only none\nload\nat 10 pick VelmarcServer 0\nadvance 5\nadvance 5\nclock 1\n");
+    const std::string line = "at 10 address \"1234567890123456789012345678901\" zeros\n";
+    const Outcome outcome = Replay("only none\nload\n" + line + "advance 5\nadvance 5\nclock 1\n");
     EXPECT_EQ(outcome.Status, 2);
-    EXPECT_EQ(outcome.Errors, "3: VelmarcServer has no entry 0\n");
-    EXPECT_EQ(outcome.Transcript, "> load\n! FrmOrvelle.Show\n> at 10 pick VelmarcServer 0\n> advance 5\n");
+    EXPECT_EQ(outcome.Errors, "3: the address is longer than 30 characters\n");
+    EXPECT_EQ(outcome.Transcript, "> load\n! FrmOrvelle.Show\n> " + line + "> advance 5\n");
 }
 
 TEST(WrongLines, AScheduledStimulusMayNameAnEntryThatIsYetToCome) {
