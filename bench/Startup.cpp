@@ -1,6 +1,7 @@
-// orvelle-startup PROGRAM [RUNS [SECONDS]]: starts a program on the display, RUNS times after one that doesn't count,
-// and prints for each figure the least, the median and the greatest: the time from its start to its first mapped
-// window, then, once it has come to rest, its memory, and what it does in SECONDS of rest. bench/startup runs it.
+// orvelle-startup PROGRAM [RUNS [SECONDS [ROWS]]]: starts a program on the display, RUNS times after one that doesn't
+// count, and prints for each figure the least, the median and the greatest: the time from its start to its first mapped
+// window, then, once it has come to rest, its memory, and what it does in SECONDS of rest. With ROWS the settings are
+// given so many rows in each mapping table first. bench/startup runs it.
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -9,6 +10,8 @@
 #include <chrono>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
+#include <filesystem>
 #include <iostream>
 #include <map>
 #include <stdexcept>
@@ -16,8 +19,10 @@
 #include <thread>
 #include <vector>
 
+#include "bench/MappingRows.h"
 #include "bench/ProcessFigures.h"
 #include "bench/WindowWatch.h"
+#include "platform/embedded/Store.h"
 
 namespace orvelle {
 
@@ -121,6 +126,15 @@ void Print(Figures& figures) {
     }
 }
 
+// Where the panel looks for its settings.
+void PrepareSettings(int rows) {
+    const char* const folder = std::getenv("XDG_DATA_HOME");
+    if (folder == nullptr) throw std::runtime_error("XDG_DATA_HOME is not set");
+    SqliteStore store(std::filesystem::path(folder) / "OrvelleCP" / "settings.sqlite",
+                      [](const std::string& sentence) { throw std::runtime_error(sentence); });
+    SaveMappingRows(store, rows);
+}
+
 void Measure(const std::string& path, int runs, int idleSeconds) {
     Figures warmUp;
     MeasureOnce(path, 0, warmUp);
@@ -138,13 +152,14 @@ void Measure(const std::string& path, int runs, int idleSeconds) {
 
 int main(int argc, char** argv) {
     const std::vector<std::string> arguments(argv + 1, argv + argc);
-    if (arguments.empty() || arguments.size() > 3) {
-        std::cerr << "usage: orvelle-startup PROGRAM [RUNS [SECONDS]]\n";
+    if (arguments.empty() || arguments.size() > 4) {
+        std::cerr << "usage: orvelle-startup PROGRAM [RUNS [SECONDS [ROWS]]]\n";
         return 2;
     }
     try {
         const int runs = arguments.size() > 1 ? std::max(1, std::stoi(arguments[1])) : 5;
         const int idleSeconds = arguments.size() > 2 ? std::max(0, std::stoi(arguments[2])) : 10;
+        if (arguments.size() > 3) orvelle::PrepareSettings(std::stoi(arguments[3]));
         orvelle::Measure(arguments[0], runs, idleSeconds);
     } catch (const std::exception& error) {
         std::cerr << "orvelle-startup: " << error.what() << "\n";

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <string>
 
+#include "bench/MappingRows.h"
 #include "bench/SilentPeers.h"
 #include "panel/FrmOrvelle.h"
 #include "platform/embedded/Store.h"
@@ -31,16 +32,7 @@ public:
     // Rows in both tables.
     void Fill(Long rows) const {
         SqliteStore store = Open();
-        for (Long row = 1; row <= rows; ++row) {
-            const std::string number = std::to_string(row);
-            store.SaveSettingString("OrvelleCP\\Joy2Key\\" + number, "J2KJoy", "Stick." + number);
-            store.SaveSettingString("OrvelleCP\\Joy2Key\\" + number, "J2KKey", "29+46");
-            store.SaveSettingString("OrvelleCP\\Joy2Key\\" + number, "Toggle", "Push");
-            store.SaveSettingString("OrvelleCP\\Key2Key\\" + number, "K2KFSKey", "Key " + number);
-            store.SaveSettingString("OrvelleCP\\Key2Key\\" + number, "K2KKey", "29+46");
-            store.SaveSettingString("OrvelleCP\\Key2Key\\" + number, "Toggle", "Push");
-        }
-        store.HandlerEnded();
+        SaveMappingRows(store, rows);
     }
 
 private:

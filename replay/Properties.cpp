@@ -38,6 +38,12 @@ std::optional<std::string> ReadListIndex(const Control& control) {
     return box == nullptr ? std::nullopt : std::optional(Printed(box->ListIndex()));
 }
 
+// A lamp's words are its hover text.
+std::optional<std::string> ReadLampText(const Control& control) {
+    const auto* lamp = dynamic_cast<const Shape*>(&control);
+    return lamp == nullptr ? std::nullopt : std::optional(Printed(lamp->ToolTipText));
+}
+
 struct PropertyReader {
     const char* Property;
     std::optional<std::string> (*Read)(const Control& control);
@@ -50,6 +56,7 @@ constexpr PropertyReader Readers[] = {
     {"Caption", Read<&OptionButton::Caption>},
     {"Caption", Read<&MenuEntry::Caption>},
     {"Caption", Read<&Form::Caption>},
+    {"Caption", ReadLampText},
     {"Text", Read<&TextBox::Text>},
     {"Text", Read<&ComboBox::Text>},
     {"Value", Read<&CheckBox::Value>},

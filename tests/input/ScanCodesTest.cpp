@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -32,6 +33,9 @@ struct Row {
     std::vector<Long> Codes;
     int Error;
 };
+
+// Names the test.
+void PrintTo(const Row& row, std::ostream* out) { *out << "the sequence [" << row.Sequence << "]"; }
 
 class ScanCodesTest : public testing::TestWithParam<Row> {};
 

@@ -47,24 +47,24 @@ void WindowManager::Ask(const QWidget& window, const std::string& message, std::
 }
 
 void WindowManager::Move(const QWidget& window, QPoint place) {
-    constexpr std::uint32_t northWestFromPagerXY = 1 | FromPager << 12 | 1 << 8 | 1 << 9;
+    constexpr std::uint32_t NorthWestFromPagerXy = 1 | FromPager << 12 | 1 << 8 | 1 << 9;
     const qreal scale = window.devicePixelRatioF();
     Ask(window, "_NET_MOVERESIZE_WINDOW",
-        {northWestFromPagerXY, static_cast<std::uint32_t>(place.x() * scale),
+        {NorthWestFromPagerXy, static_cast<std::uint32_t>(place.x() * scale),
          static_cast<std::uint32_t>(place.y() * scale), 0, 0});
 }
 
 void WindowManager::Resize(const QWidget& window, QSize size) {
-    constexpr std::uint32_t northWestFromPagerSize = 1 | FromPager << 12 | 1 << 10 | 1 << 11;
+    constexpr std::uint32_t NorthWestFromPagerSize = 1 | FromPager << 12 | 1 << 10 | 1 << 11;
     const qreal scale = window.devicePixelRatioF();
     Ask(window, "_NET_MOVERESIZE_WINDOW",
-        {northWestFromPagerSize, 0, 0, static_cast<std::uint32_t>(size.width() * scale),
+        {NorthWestFromPagerSize, 0, 0, static_cast<std::uint32_t>(size.width() * scale),
          static_cast<std::uint32_t>(size.height() * scale)});
 }
 
 void WindowManager::Minimise(const QWidget& window) {
-    constexpr std::uint32_t iconicState = 3;
-    Ask(window, "WM_CHANGE_STATE", {iconicState});
+    constexpr std::uint32_t IconicState = 3;
+    Ask(window, "WM_CHANGE_STATE", {IconicState});
 }
 
 void WindowManager::Activate(const QWidget& window) { Ask(window, "_NET_ACTIVE_WINDOW", {FromPager, 0, 0}); }
