@@ -10,7 +10,8 @@ class QWidget;
 
 namespace orvelle::deck {
 
-// The devices by the engine's numbers, -1 the default device. The values at first are those that the engine has.
+// The devices by the engine's numbers, -1 the default device. The values at first are those that the engine has. A null
+// parent leaves the place of the dialogue to the system.
 std::optional<Squelch> AskCalibration(QWidget* parent, const EmbeddedVoiceEngine& engine, Long inputDevice,
                                       Long outputDevice);
 

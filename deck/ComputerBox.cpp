@@ -1,15 +1,14 @@
 #include "deck/ComputerBox.h"
 
-#include <QLineEdit>
-
 #include "deck/Fields.h"
+#include "deck/TextField.h"
 #include "platform/embedded/Velmarc.h"
 
 namespace orvelle::deck {
 
 namespace {
 
-QLineEdit* NewComputerEdit(EmbeddedVelmarc& velmarc, const QString& name, std::string SimulatorComputer::*text) {
+TextField* NewComputerEdit(EmbeddedVelmarc& velmarc, const QString& name, std::string SimulatorComputer::*text) {
     return NewEdit(name, "The panel reads it when the link comes up; Enter applies it",
                    [&velmarc, text](const std::string& value) {
                        SimulatorComputer computer = velmarc.Computer();
@@ -35,9 +34,9 @@ ComputerBox::ComputerBox(EmbeddedVelmarc& simulator)
 
 void ComputerBox::ShowState() {
     const SimulatorComputer& computer = velmarc.Computer();
-    ShowText(*address, computer.IPAddress);
-    ShowText(*name, computer.ComputerName);
-    ShowText(*desktop, computer.DesktopName);
+    address->Show(computer.IPAddress);
+    name->Show(computer.ComputerName);
+    desktop->Show(computer.DesktopName);
 }
 
 }  // namespace orvelle::deck

@@ -5,13 +5,13 @@
 
 #include "deck/Section.h"
 
-class QLineEdit;
-
 namespace orvelle {
 class EmbeddedVelmarc;
 }  // namespace orvelle
 
 namespace orvelle::deck {
+
+class TextField;
 
 class ComputerBox : public Section {
 public:
@@ -21,9 +21,9 @@ private:
     void ShowState();
 
     EmbeddedVelmarc& velmarc;
-    QLineEdit* address;
-    QLineEdit* name;
-    QLineEdit* desktop;
+    TextField* address;
+    TextField* name;
+    TextField* desktop;
     std::shared_ptr<void> watch;
 };
 

@@ -1,5 +1,6 @@
 #include "deck/DeckWindow.h"
 
+#include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QScreen>
 #include <QScrollArea>
@@ -21,6 +22,8 @@ namespace {
 
 // Beside the panel on a screen of 1920 by 1080.
 constexpr QSize WantedSize(940, 700);
+// What a window manager may put around the window; how much it really is is known only after the window was shown.
+constexpr QSize FrameAllowance(16, 44);
 
 // On a screen too small for the page, or with letters too large, the page is scrolled, never clipped.
 void AddPage(QTabWidget& tabs, QWidget* page, const QString& title) {
@@ -49,7 +52,8 @@ QWidget* SideBySide(QWidget* left, QWidget* right) {
 
 }  // namespace
 
-DeckWindow::DeckWindow(EmbeddedSetUp& embedded) : setUp(embedded), simulator(new SimulatorPage(embedded.Velmarc)) {
+DeckWindow::DeckWindow(EmbeddedSetUp& embedded)
+    : setUp(embedded), simulator(new SimulatorPage(embedded.Velmarc, embedded.VVL)) {
     setObjectName("DeckWindow");
     setWindowTitle("OrvelleCP Flight Deck");
     setAttribute(Qt::WA_ShowWithoutActivating);
@@ -69,10 +73,8 @@ DeckWindow::DeckWindow(EmbeddedSetUp& embedded) : setUp(embedded), simulator(new
 
 void DeckWindow::OpenAt(const QPoint& position) {
     const QRect room = screen()->availableGeometry();
-    // Nothing before the window was shown for the first time.
-    const QSize frame = frameGeometry().size() - size();
-    resize(size().boundedTo(room.size() - frame));
-    const QSize outer = size() + frame;
+    resize(size().boundedTo(room.size() - FrameAllowance));
+    const QSize outer = size() + FrameAllowance;
     move(std::clamp(position.x(), room.left(), std::max(room.left(), room.right() + 1 - outer.width())),
          std::clamp(position.y(), room.top(), std::max(room.top(), room.bottom() + 1 - outer.height())));
     show();
@@ -80,6 +82,12 @@ void DeckWindow::OpenAt(const QPoint& position) {
 
 void DeckWindow::TellOfProgram(const std::string& sentence) {
     simulator->TellOfProgram(QString::fromStdString(sentence));
+}
+
+// Hidden it could not be brought back. Minimising hides it too, as far as its events go.
+void DeckWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    showMinimized();
 }
 
 void DeckWindow::hideEvent(QHideEvent* event) {

@@ -1,7 +1,7 @@
 // The flight deck: the window in which one person plays the simulator, the network session and the other side of an
 // embedded set-up. The program makes it beside the panel and opens it where it wants. It knows nothing of the panel:
-// it works on the set-up's objects and listens to their changes. Closing it hides it; what is held down there is let
-// go, and the panel lives on.
+// it works on the set-up's objects and listens to their changes. Closing it minimises it, so that the taskbar brings
+// it back; what is held down there is let go, and the panel lives on.
 #pragma once
 
 #include <QWidget>
@@ -28,6 +28,7 @@ public:
     void TellOfProgram(const std::string& sentence);
 
 protected:
+    void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:

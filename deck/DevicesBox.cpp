@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 
+#include "deck/DeviceNames.h"
 #include "deck/Fields.h"
 #include "deck/Readout.h"
 #include "platform/embedded/VoiceEngine.h"
@@ -9,8 +10,6 @@
 namespace orvelle::deck {
 
 namespace {
-
-QString DeviceText(Long device) { return device < 0 ? "Default" : QString("Device %1").arg(device); }
 
 QCheckBox* NewFailure(const QString& name, std::function<void(bool)> apply) {
     return NewCheck(name + "Fails", "Fails", "This device does not work", std::move(apply));
@@ -26,24 +25,27 @@ DevicesBox::DevicesBox(EmbeddedVoiceEngine& voiceEngine)
       outputFails{NewFailure("Headset", [this](bool failed) { engine.FailOutput(0, failed); }),
                   NewFailure("Speakers", [this](bool failed) { engine.FailOutput(1, failed); })},
       outputs{new Readout("HeadsetDevice"), new Readout("SpeakersDevice")},
+      levels{new Readout("HeadsetLevels"), new Readout("SpeakersLevels")},
       watch(engine.Changed.Observe([this] { ShowState(); })) {
     AddRow("Microphone", {microphoneFails, microphone});
     AddRow("Headset", {outputFails[0], outputs[0]});
+    AddRow("", {new QWidget, levels[0]});
     AddRow("Speakers", {outputFails[1], outputs[1]});
+    AddRow("", {new QWidget, levels[1]});
     ShowState();
 }
 
 void DevicesBox::ShowState() {
     microphoneFails->setChecked(engine.InputFailed());
-    microphone->Show(DeviceText(engine.Microphone()));
+    microphone->Show(DeviceName(engine.InputDeviceNames(), engine.Microphone()));
     for (std::size_t index = 0; index < outputs.size(); ++index) {
         const VoiceOutput& output = engine.Output(static_cast<Long>(index));
         outputFails.at(index)->setChecked(output.Failed);
-        outputs.at(index)->Show(QString("%1, volume %2, signal %3, %4")
-                                    .arg(DeviceText(output.Device))
-                                    .arg(output.Volume)
-                                    .arg(output.SignalVolume)
-                                    .arg(output.Filter ? "filtered" : "clear"));
+        outputs.at(index)->Show(DeviceName(engine.OutputDeviceNames(), output.Device));
+        levels.at(index)->Show(QString("Volume %1, signal %2, %3")
+                                   .arg(output.Volume)
+                                   .arg(output.SignalVolume)
+                                   .arg(output.Filter ? "filtered" : "clear"));
     }
 }
 

@@ -28,6 +28,7 @@ private:
     Readout* microphone;
     std::array<QCheckBox*, 2> outputFails;
     std::array<Readout*, 2> outputs;
+    std::array<Readout*, 2> levels;
     std::shared_ptr<void> watch;
 };
 

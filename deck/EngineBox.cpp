@@ -4,9 +4,9 @@
 #include <QPushButton>
 #include <QSpinBox>
 
+#include "deck/EngineLight.h"
 #include "deck/Fields.h"
 #include "deck/Readout.h"
-#include "deck/SignalLight.h"
 #include "platform/embedded/VoiceEngine.h"
 
 namespace orvelle::deck {
@@ -21,15 +21,16 @@ constexpr StartOutcome StartOutcomes[] = {StartOutcome::Starts, StartOutcome::Re
 EngineBox::EngineBox(EmbeddedVoiceEngine& voiceEngine)
     : Section("Engine", "Voice engine", 3),
       engine(voiceEngine),
-      state(new SignalLight("EngineState")),
       audio(new SignalLight("EngineAudio")),
       squelch(new Readout("EngineSquelch")),
-      nextStart(NewChoice("EngineStart", "How the next start goes", {"Starts", "Is refused", "Stops at once"},
-                          [this](int index) { engine.SetStartOutcome(StartOutcomes[index]); })),
-      fail(NewButton("EngineFail", "Stop by itself", "The running engine stops by itself", [this] { engine.Fail(); })),
+      starts(NewChoice("EngineStart", "How starts of the engine go", {"Succeed", "Are refused", "Stop at once"},
+                       [this](int index) { engine.SetStartOutcome(StartOutcomes[index]); })),
       watch(engine.Changed.Observe([this] { ShowState(); })) {
-    AddRow("State", {state, audio, squelch});
-    AddRow("Next start", {nextStart, fail, new QWidget});
+    AddRow("State", {new EngineLight("EngineState", engine), audio, squelch});
+    // A button that its own click disabled would hand the focus on to whatever comes next.
+    auto* fail =
+        NewButton("EngineFail", "Stop by itself", "The engine, if it runs, stops by itself", [this] { engine.Fail(); });
+    AddRow("Starts", {starts, fail, new QWidget});
     AddRow("Start takes", {NewDelay("StartDelay", "From the engine's start to its event", engine.StartDelay(),
                                     [this](int milliseconds) { engine.SetStartDelay(milliseconds); }),
                            new QWidget});
@@ -40,12 +41,9 @@ EngineBox::EngineBox(EmbeddedVoiceEngine& voiceEngine)
 }
 
 void EngineBox::ShowState() {
-    const bool running = engine.Running();
-    state->Show(running ? Signal::On : Signal::Off, running ? "Running" : "Stopped");
     audio->Show(engine.AudioRuns() ? Signal::On : Signal::Off, engine.AudioRuns() ? "Audio runs" : "No audio");
     squelch->Show(QString("Squelch %1 / %2").arg(engine.InputSquelchValue()).arg(engine.OutputSquelchValue()));
-    nextStart->setCurrentIndex(static_cast<int>(engine.NextStart()));
-    fail->setEnabled(running);
+    starts->setCurrentIndex(static_cast<int>(engine.Starts()));
 }
 
 }  // namespace orvelle::deck

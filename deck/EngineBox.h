@@ -1,4 +1,4 @@
-// The voice engine as a whole: whether it runs, what it was told, and how its next start goes.
+// The voice engine as a whole: whether it runs, what it was told, and how its starts go.
 #pragma once
 
 #include <memory>
@@ -6,7 +6,6 @@
 #include "deck/Section.h"
 
 class QComboBox;
-class QPushButton;
 
 namespace orvelle {
 class EmbeddedVoiceEngine;
@@ -25,11 +24,9 @@ private:
     void ShowState();
 
     EmbeddedVoiceEngine& engine;
-    SignalLight* state;
     SignalLight* audio;
     Readout* squelch;
-    QComboBox* nextStart;
-    QPushButton* fail;
+    QComboBox* starts;
     std::shared_ptr<void> watch;
 };
 

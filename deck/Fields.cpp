@@ -2,11 +2,15 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLineEdit>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QSpinBox>
+#include <QTextDocument>
+#include <QWheelEvent>
 #include <utility>
+
+#include "deck/TextField.h"
 
 namespace orvelle::deck {
 
@@ -14,6 +18,32 @@ namespace {
 
 constexpr int LongestDelay = 60'000;  // milliseconds
 constexpr int DelayStep = 100;
+
+// A page that is scrolled passes below the mouse: a field that happens to come there keeps its value.
+template <typename Field>
+class FocusedField : public Field {
+public:
+    FocusedField() { Field::setFocusPolicy(Qt::StrongFocus); }
+
+protected:
+    void wheelEvent(QWheelEvent* event) override {
+        if (Field::hasFocus())
+            Field::wheelEvent(event);
+        else
+            event->ignore();
+    }
+};
+
+class NumberField : public FocusedField<QSpinBox> {
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        // The value is what was applied last: shown once more, it takes back what was typed.
+        if (event->key() == Qt::Key_Escape)
+            setValue(value());
+        else
+            FocusedField::keyPressEvent(event);
+    }
+};
 
 template <typename Widget>
 Widget* Named(Widget* widget, const QString& name, const QString& toolTip) {
@@ -24,15 +54,8 @@ Widget* Named(Widget* widget, const QString& name, const QString& toolTip) {
 
 }  // namespace
 
-QLineEdit* NewEdit(const QString& name, const QString& toolTip, std::function<void(const std::string&)> apply) {
-    auto* edit = Named(new QLineEdit, name, toolTip);
-    edit->setMinimumWidth(edit->fontMetrics().averageCharWidth() * 12);
-    QObject::connect(edit, &QLineEdit::editingFinished, edit, [edit, apply = std::move(apply)] {
-        if (!edit->isModified()) return;
-        edit->setModified(false);
-        apply(edit->text().toStdString());
-    });
-    return edit;
+TextField* NewEdit(const QString& name, const QString& toolTip, std::function<void(const std::string&)> apply) {
+    return Named(new TextField(std::move(apply)), name, toolTip);
 }
 
 QCheckBox* NewCheck(const QString& name, const QString& text, const QString& toolTip, std::function<void(bool)> apply) {
@@ -43,14 +66,14 @@ QCheckBox* NewCheck(const QString& name, const QString& text, const QString& too
 
 QComboBox* NewChoice(const QString& name, const QString& toolTip, const QStringList& entries,
                      std::function<void(int)> apply) {
-    auto* box = Named(new QComboBox, name, toolTip);
+    auto* box = Named(new FocusedField<QComboBox>, name, toolTip);
     box->addItems(entries);
     QObject::connect(box, &QComboBox::activated, box, std::move(apply));
     return box;
 }
 
 QSpinBox* NewNumber(const QString& name, const QString& toolTip, int least, int most, std::function<void(int)> apply) {
-    auto* box = Named(new QSpinBox, name, toolTip);
+    auto* box = Named(new NumberField, name, toolTip);
     box->setRange(least, most);
     box->setKeyboardTracking(false);
     QObject::connect(box, &QSpinBox::valueChanged, box, std::move(apply));
@@ -72,11 +95,8 @@ QPushButton* NewButton(const QString& name, const QString& text, const QString& 
     return button;
 }
 
-void ShowText(QLineEdit& edit, const std::string& text) {
-    const QString shown = QString::fromStdString(text);
-    if (edit.isModified() || edit.text() == shown) return;
-    edit.setText(shown);
-    edit.setCursorPosition(0);
+QString PlainTip(const QString& text) {
+    return text.isEmpty() ? QString() : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
 }
 
 void ShowNumber(QSpinBox& box, int number) {

@@ -64,15 +64,27 @@ QString MeaningOf(const ParameterName& name, const QString& value) {
     return isKnown ? QString("%1: %2").arg(name.Meaning, RoomStates[state]) : name.Meaning;
 }
 
-// What the user edits goes to the record and comes back from there; the table itself is never written.
+// What the user edits goes to the record and comes back from there; the table itself is never written. What the user is
+// typing stays while others write. A long value is cut in its middle, as rooms differ at their end.
 class ValueDelegate : public QStyledItemDelegate {
 public:
     using Apply = std::function<void(int row, const QString& text)>;
 
     ValueDelegate(QTableWidget& table, Apply applyText) : QStyledItemDelegate(&table), apply(std::move(applyText)) {}
 
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override {
+        auto* edit = static_cast<QLineEdit*>(editor);
+        const QString value = index.data().toString();
+        if (!edit->isModified() && edit->text() != value) edit->setText(value);
+    }
     void setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex& index) const override {
         apply(index.row(), static_cast<QLineEdit*>(editor)->text());
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->textElideMode = Qt::ElideMiddle;
     }
 
 private:
@@ -109,8 +121,8 @@ ParametersBox::ParametersBox(EmbeddedTessaly& framework)
 
     AddRow("Recor&d", {record});
     AddWide(table, 1);
-    AddWide(note);
-    note->Show(QString("● changed lately. Editing a value is the write of another party."));
+    AddRow(LateMark + QString(" last changed"), {note});
+    note->Show(QString("Editing a value is the write of another party"));
     ShowState();
 }
 
@@ -130,8 +142,14 @@ void ParametersBox::ShowRecords() {
         for (const auto& [id, entry] : records)
             if (entry.IsLocal && entry.Role == "VVL") wanted = id;
 
-    record->clear();
-    for (const auto& [id, entry] : records) record->addItem(NameOf(id, entry), id);
+    // Filled anew the list would lose what is marked in it while it is open.
+    QStringList names;
+    for (const auto& [id, entry] : records) names << NameOf(id, entry);
+    if (names != shownRecords) {
+        record->clear();
+        for (const auto& [id, entry] : records) record->addItem(NameOf(id, entry), id);
+        shownRecords = names;
+    }
     if (const int index = record->findData(wanted); index >= 0) record->setCurrentIndex(index);
 }
 
@@ -148,8 +166,9 @@ void ParametersBox::ShowParameters() {
         QTableWidgetItem& value = ShowCell(*table, row, Value, shown.Value);
         ShowCell(*table, row, Writer, shown.Writer);
 
-        value.setToolTip(shown.Value.toHtmlEscaped());
-        value.setFlags(value.flags().setFlag(Qt::ItemIsEditable, isThere));
+        value.setToolTip(PlainTip(shown.Value));
+        if (value.flags().testFlag(Qt::ItemIsEditable) != isThere)
+            value.setFlags(value.flags().setFlag(Qt::ItemIsEditable, isThere));
         QFont font = table->font();
         font.setBold(shown.IsLate);
         for (const int column : {Meaning, Value, Writer}) table->item(row, column)->setFont(font);
@@ -167,7 +186,7 @@ void ParametersBox::Write(int row, const QString& text) {
     } else if (const Long number = text.toInt(&isValid); isValid) {
         isWritten = tessaly.WriteParameter(ShownId(), name.Index, number);
     }
-    note->Show(!isValid     ? "\"" + text + "\" is no whole number of 32 bits"
+    note->Show(!isValid     ? "No whole number of 32 bits: \"" + text + "\""
                : !isWritten ? QString("Not written, as the network link is down")
                             : QString("Written by another party: %1").arg(name.Meaning));
     ShowParameters();

@@ -33,6 +33,7 @@ private:
 
     EmbeddedTessaly& tessaly;
     QComboBox* record;
+    QStringList shownRecords;
     QTableWidget* table;
     Readout* note;
     LateWrites late;

@@ -3,10 +3,10 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <utility>
 
 #include "deck/Fields.h"
+#include "deck/TextField.h"
 #include "platform/embedded/Tessaly.h"
 
 namespace orvelle::deck {
@@ -82,7 +82,7 @@ RadioBox::Radio RadioBox::NewRadio(int radio) {
              NewVoiceEdit(radio, "Password", "The password for the server", &RadioVoiceSetting::Password)}};
 }
 
-QLineEdit* RadioBox::NewVoiceEdit(int radio, const QString& name, const QString& toolTip, VoiceText text) {
+TextField* RadioBox::NewVoiceEdit(int radio, const QString& name, const QString& toolTip, VoiceText text) {
     return NewEdit(name + RadioName(radio), toolTip + " of " + RadioName(radio) + "; Enter applies it",
                    [this, radio, text](const std::string& value) {
                        RadioVoiceSetting voice = tessaly.Session().Voice.at(static_cast<std::size_t>(radio));
@@ -101,10 +101,10 @@ void RadioBox::ShowState() {
     const SessionSetting& session = tessaly.Session();
     for (std::size_t radio = 0; radio < radios.size(); ++radio) {
         const RadioVoiceSetting& voice = session.Voice.at(radio);
-        ShowText(*radios.at(radio).Frequency, session.Frequency.at(radio));
+        radios.at(radio).Frequency->Show(session.Frequency.at(radio));
         radios.at(radio).Software->setCurrentIndex(voice.Software);
         for (std::size_t row = 0; row < std::size(VoiceTexts); ++row)
-            ShowText(*radios.at(radio).Texts.at(row), voice.*VoiceTexts[row]);
+            radios.at(radio).Texts.at(row)->Show(voice.*VoiceTexts[row]);
     }
     receive->setCurrentIndex(SelectionOf(session.Receive));
     transmit->setCurrentIndex(SelectionOf(session.Transmit));

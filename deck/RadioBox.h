@@ -10,7 +10,6 @@
 #include "deck/Section.h"
 
 class QComboBox;
-class QLineEdit;
 
 namespace orvelle {
 class EmbeddedTessaly;
@@ -19,6 +18,8 @@ struct RadioVoiceSetting;
 
 namespace orvelle::deck {
 
+class TextField;
+
 class RadioBox : public Section {
 public:
     explicit RadioBox(EmbeddedTessaly& framework);
@@ -26,13 +27,13 @@ public:
 private:
     using VoiceText = std::string RadioVoiceSetting::*;
     struct Radio {
-        QLineEdit* Frequency;
+        TextField* Frequency;
         QComboBox* Software;
-        std::array<QLineEdit*, 4> Texts;  // in the order of the rows
+        std::array<TextField*, 4> Texts;  // in the order of the rows
     };
 
     Radio NewRadio(int radio);
-    QLineEdit* NewVoiceEdit(int radio, const QString& name, const QString& toolTip, VoiceText text);
+    TextField* NewVoiceEdit(int radio, const QString& name, const QString& toolTip, VoiceText text);
     QComboBox* NewSelection(const QString& name, const QString& toolTip, std::function<void(const std::string&)> apply);
     void ShowState();
 

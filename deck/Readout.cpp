@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+#include "deck/Fields.h"
+
 namespace orvelle::deck {
 
 namespace {
@@ -19,7 +21,7 @@ Readout::Readout(const QString& name) {
 void Readout::Show(const QString& text) {
     if (text == this->text()) return;
     setText(text);
-    setToolTip(text.toHtmlEscaped());
+    setToolTip(PlainTip(text));
 }
 
 QSize Readout::sizeHint() const { return {fontMetrics().horizontalAdvance(text()), fontMetrics().height()}; }
@@ -32,7 +34,7 @@ void Readout::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
     painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                     fontMetrics().elidedText(text(), Qt::ElideRight, width()));
+                     fontMetrics().elidedText(text(), Qt::ElideMiddle, width()));
 }
 
 }  // namespace orvelle::deck

@@ -1,5 +1,5 @@
-// A line of text that the deck reads out, of any length: where the room is too narrow its end is left out, and the
-// whole text is the tool tip.
+// A line of text that the deck reads out, of any length: where the room is too narrow its middle is left out, and
+// the whole text is the tool tip.
 #pragma once
 
 #include <QLabel>

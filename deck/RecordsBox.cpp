@@ -43,19 +43,18 @@ RecordsBox::RecordsBox(EmbeddedTessaly& framework)
       table(NewTable("Records", "The interface records of all computers", {"Id", "Type", "Role", "Owner", "Parameters"},
                      Parameters)),
       computer(new QLineEdit("COCKPIT2")),
-      drop(NewButton("DropRecord", "Drop", "The owner, another computer, removes the selected record",
-                     [this] { tessaly.DropClaim(SelectedId()); })),
-      announce(NewButton("AnnounceRecord", "Announce change", "Report to the panel that the selected record changed",
-                         [this] { tessaly.AnnounceChange(SelectedId()); })),
       watch(tessaly.Changed.Observe([this] { ShowState(); })) {
     table->setEditTriggers(QTableWidget::NoEditTriggers);
-    connect(table, &QTableWidget::itemSelectionChanged, this, [this] { ShowButtons(); });
     AddWide(table, 1);
 
     computer->setObjectName("OtherComputer");
     computer->setToolTip("The name of the computer that claims and drops roles");
-    connect(computer, &QLineEdit::textChanged, this, [this] { ShowButtons(); });
-    AddRow("Selected", {drop, announce});
+    connect(computer, &QLineEdit::textChanged, this, [this] { ShowClaims(); });
+    AddRow("Selected",
+           {NewButton("DropRecord", "Drop", "The owner, if it is another computer, removes the selected record",
+                      [this] { tessaly.DropClaim(SelectedId()); }),
+            NewButton("AnnounceRecord", "Announce change", "Report to the panel that the selected record changed",
+                      [this] { tessaly.AnnounceChange(SelectedId()); })});
     AddRow("Other computer", {computer});
 
     QList<QWidget*> boxes = {new QLabel("holds")};
@@ -101,7 +100,7 @@ void RecordsBox::ShowState() {
         ShowCell(*table, row, Role, QString::fromStdString(record.Role));
         ShowCell(*table, row, Owner, record.IsLocal ? "this panel" : QString::fromStdString(record.Owner));
         const QString parameters = ParametersOf(record);
-        ShowCell(*table, row, Parameters, parameters).setToolTip(parameters.toHtmlEscaped());
+        ShowCell(*table, row, Parameters, parameters).setToolTip(PlainTip(parameters));
         ++row;
     }
     // A record keeps its selection when others come and go.
@@ -109,15 +108,11 @@ void RecordsBox::ShowState() {
         table->clearSelection();
     else if (SelectedId() != selected)
         table->selectRow(static_cast<int>(std::distance(records.begin(), records.find(selected))));
-    ShowButtons();
+    ShowClaims();
 }
 
-void RecordsBox::ShowButtons() {
+void RecordsBox::ShowClaims() {
     for (const auto& [role, box] : claims) box->setChecked(ClaimOf(role) != 0);
-    const auto records = tessaly.Records();
-    const auto selected = records.find(SelectedId());
-    drop->setEnabled(selected != records.end() && !selected->second.IsLocal);
-    announce->setEnabled(selected != records.end());
 }
 
 }  // namespace orvelle::deck

@@ -11,7 +11,6 @@
 
 class QCheckBox;
 class QLineEdit;
-class QPushButton;
 class QTableWidget;
 
 namespace orvelle {
@@ -29,14 +28,12 @@ private:
     Long SelectedId() const;                      // likewise
     void Claim(const std::string& role, bool on);
     void ShowState();
-    void ShowButtons();
+    void ShowClaims();
 
     EmbeddedTessaly& tessaly;
     QTableWidget* table;
     QLineEdit* computer;
     std::map<std::string, QCheckBox*> claims;  // by role
-    QPushButton* drop;
-    QPushButton* announce;
     std::shared_ptr<void> watch;
 };
 

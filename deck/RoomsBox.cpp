@@ -2,12 +2,12 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLineEdit>
 #include <QPushButton>
 
 #include "deck/Fields.h"
 #include "deck/Readout.h"
 #include "deck/SignalLight.h"
+#include "deck/TextField.h"
 #include "platform/embedded/VoiceEngine.h"
 
 namespace orvelle::deck {
@@ -52,7 +52,7 @@ RoomsBox::RoomsBox(EmbeddedVoiceEngine& voiceEngine)
     addRow("Audio", &Room::Audio);
     addRow("", &Room::CarriesAudio);
     addRow("Status text", &Room::Status);
-    addRow("Next join", &Room::NextJoin);
+    addRow("Joins", &Room::Joins);
     addRow("", &Room::Kick);
     ShowState();
 }
@@ -68,31 +68,40 @@ RoomsBox::Room RoomsBox::NewRoom(int number) {
             new SignalLight(name + "Audio"),
             NewCheck(name + "CarriesAudio", "Carries audio", "The room carries audio",
                      [this, number](bool on) { engine.SetRoomAudio(number, on); }),
-            NewButton(name + "Kick", "Kick", "The voice server throws the panel out of the room",
+            NewButton(name + "Kick", "Kick", "The voice server throws the panel out of the room, if it is in there",
                       [this, number] { engine.Kick(number); }),
-            NewChoice(name + "NextJoin", "How joins of this room go", {"Succeeds", "Is refused", "Fails"},
+            NewChoice(name + "Joins", "How joins of this room go", {"Succeed", "Are refused", "Fail"},
                       [this, number](int index) { engine.SetJoinOutcome(number, JoinOutcomes[index]); }),
             NewEdit(name + "Status", "The room's status text; Enter applies it",
                     [this, number](const std::string& text) { engine.SetRoomStatus(number, text); })};
+}
+
+// An engine that stands still has rooms no more.
+void RoomsBox::ShowPanelsDoing(const Room& shown, const VoiceRoom& room) const {
+    if (!engine.Running()) {
+        for (SignalLight* light : {shown.State, shown.Microphone, shown.Headset, shown.Speakers, shown.Audio})
+            light->Show(Signal::Off, "");
+        for (Readout* text : {shown.Client, shown.Address}) text->Show(QString());
+        return;
+    }
+    ShowRoomState(*shown.State, room.State);
+    shown.Client->Show(room.ClientName);
+    shown.Address->Show(room.Address);
+    ShowSwitch(*shown.Microphone, !room.Muted, "Open", "Muted");
+    ShowSwitch(*shown.Headset, room.Output[0], "Heard", "Silent");
+    ShowSwitch(*shown.Speakers, room.Output[1], "Heard", "Silent");
+    ShowSwitch(*shown.Audio, room.Audio, "On the air", "Quiet");
 }
 
 void RoomsBox::ShowState() {
     for (Long number = 0; number < static_cast<Long>(rooms.size()); ++number) {
         const Room& shown = rooms.at(static_cast<std::size_t>(number));
         const VoiceRoom& room = engine.Room(number);
-        const bool isIn = room.State == RoomState::In;
-        ShowRoomState(*shown.State, room.State);
-        shown.Client->Show(room.ClientName);
-        shown.Address->Show(room.Address);
-        ShowSwitch(*shown.Microphone, !room.Muted, "Open", "Muted");
-        ShowSwitch(*shown.Headset, room.Output[0], "Heard", "Silent");
-        ShowSwitch(*shown.Speakers, room.Output[1], "Heard", "Silent");
-        ShowSwitch(*shown.Audio, room.Audio, "On the air", "Quiet");
+        ShowPanelsDoing(shown, room);
         shown.CarriesAudio->setChecked(room.Audio);
-        shown.CarriesAudio->setEnabled(isIn);
-        shown.Kick->setEnabled(isIn);
-        shown.NextJoin->setCurrentIndex(static_cast<int>(room.NextJoin));
-        ShowText(*shown.Status, room.Status);
+        shown.CarriesAudio->setEnabled(room.State == RoomState::In);
+        shown.Joins->setCurrentIndex(static_cast<int>(room.Joins));
+        shown.Status->Show(room.Status);
     }
 }
 

@@ -8,17 +8,18 @@
 
 class QCheckBox;
 class QComboBox;
-class QLineEdit;
 class QPushButton;
 
 namespace orvelle {
 class EmbeddedVoiceEngine;
+struct VoiceRoom;
 }  // namespace orvelle
 
 namespace orvelle::deck {
 
 class Readout;
 class SignalLight;
+class TextField;
 
 class RoomsBox : public Section {
 public:
@@ -35,11 +36,12 @@ private:
         SignalLight* Audio;
         QCheckBox* CarriesAudio;
         QPushButton* Kick;
-        QComboBox* NextJoin;
-        QLineEdit* Status;
+        QComboBox* Joins;
+        TextField* Status;
     };
 
     Room NewRoom(int number);
+    void ShowPanelsDoing(const Room& shown, const VoiceRoom& room) const;
     void ShowState();
 
     EmbeddedVoiceEngine& engine;

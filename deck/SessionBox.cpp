@@ -1,9 +1,9 @@
 #include "deck/SessionBox.h"
 
 #include <QCheckBox>
-#include <QLineEdit>
 
 #include "deck/Fields.h"
+#include "deck/TextField.h"
 #include "platform/embedded/Tessaly.h"
 
 namespace orvelle::deck {
@@ -31,7 +31,7 @@ void SessionBox::ShowState() {
     const SessionSetting& session = tessaly.Session();
     open->setChecked(session.Handle != 0);
     connected->setChecked(session.Status == 1);
-    ShowText(*callsign, session.Callsign);
+    callsign->Show(session.Callsign);
 }
 
 }  // namespace orvelle::deck

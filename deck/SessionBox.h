@@ -6,13 +6,14 @@
 #include "deck/Section.h"
 
 class QCheckBox;
-class QLineEdit;
 
 namespace orvelle {
 class EmbeddedTessaly;
 }  // namespace orvelle
 
 namespace orvelle::deck {
+
+class TextField;
 
 class SessionBox : public Section {
 public:
@@ -24,7 +25,7 @@ private:
     EmbeddedTessaly& tessaly;
     QCheckBox* open;
     QCheckBox* connected;
-    QLineEdit* callsign;
+    TextField* callsign;
     std::shared_ptr<void> watch;
 };
 

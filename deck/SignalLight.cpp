@@ -43,14 +43,15 @@ SignalLight::SignalLight(const QString& name) : words(new Readout(name + "Text")
 }
 
 void SignalLight::Show(Signal newSignal, const QString& text) {
+    if (signal == newSignal && accessibleName() == text) return;
     words->Show(text);
     setAccessibleName(text);
-    if (signal == newSignal) return;
     signal = newSignal;
     update();
 }
 
 void SignalLight::paintEvent(QPaintEvent*) {
+    if (accessibleName().isEmpty()) return;
     const qreal side = SideIn(*this) - 1;
     const QRectF area(1, (height() - side) / 2, side, side);
     const QColor colour = ColourOf(signal, palette());

@@ -1,5 +1,5 @@
 // A state told by shape and colour, with its words beside it: a filled disc is on, an empty ring off, a triangle is on
-// its way. Words that find no room are the tool tip.
+// its way, and without words there is nothing to tell. Words that find no room are the tool tip.
 #pragma once
 
 #include <QWidget>

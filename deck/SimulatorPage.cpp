@@ -5,15 +5,14 @@
 #include <algorithm>
 
 #include "deck/Fields.h"
-#include "deck/JoystickRow.h"
-#include "deck/KeyboardField.h"
+#include "deck/InputsBox.h"
 #include "deck/LinkBox.h"
 #include "deck/TimedLog.h"
 #include "platform/embedded/Velmarc.h"
 
 namespace orvelle::deck {
 
-SimulatorPage::SimulatorPage(EmbeddedVelmarc& simulator)
+SimulatorPage::SimulatorPage(EmbeddedVelmarc& simulator, EmbeddedVoiceEngine& engine)
     : velmarc(simulator),
       active(NewCheck("SimulatorActive", "The simulator is the &active application",
                       "Keys pressed while it is not start no voice program's push-to-talk",
@@ -27,11 +26,6 @@ SimulatorPage::SimulatorPage(EmbeddedVelmarc& simulator)
     auto* link = new LinkBox("Simulator", "Simulator", "&Simulator link", FarSideOf(velmarc));
     link->AddRow("Application", {active});
 
-    auto* inputs = new Section("Inputs", "Keyboard and joysticks");
-    inputs->AddRow("&Keyboard", {new KeyboardField(velmarc)});
-    inputs->AddRow("Stick", {new JoystickRow(velmarc, "Stick")});
-    inputs->AddRow("Throttle", {new JoystickRow(velmarc, "Throttle")});
-
     auto* soundSection = new Section("SoundSection", "Sounds asked for");
     soundSection->AddWide(sounds, 1);
     auto* programSection = new Section("ProgramSection", "Voice programs on this computer");
@@ -41,7 +35,7 @@ SimulatorPage::SimulatorPage(EmbeddedVelmarc& simulator)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(SectionGap);
     column->addWidget(link);
-    column->addWidget(inputs);
+    column->addWidget(new InputsBox(velmarc, engine));
     column->addWidget(soundSection, 1);
     column->addWidget(programSection, 1);
     ShowState();

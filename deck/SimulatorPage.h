@@ -1,5 +1,5 @@
-// The simulator's side: its link, keyboard and joysticks, the sounds that it was asked to play, and what became of the
-// voice programs that the panel started on this computer.
+// The simulator's side: its link, keyboard and joysticks with what they make heard, the sounds that it was asked to
+// play, and what became of the voice programs that the panel started on this computer.
 #pragma once
 
 #include <QWidget>
@@ -10,6 +10,7 @@ class QCheckBox;
 
 namespace orvelle {
 class EmbeddedVelmarc;
+class EmbeddedVoiceEngine;
 }  // namespace orvelle
 
 namespace orvelle::deck {
@@ -18,7 +19,7 @@ class TimedLog;
 
 class SimulatorPage : public QWidget {
 public:
-    explicit SimulatorPage(EmbeddedVelmarc& simulator);
+    SimulatorPage(EmbeddedVelmarc& simulator, EmbeddedVoiceEngine& engine);
 
     void TellOfProgram(const QString& sentence);
 

@@ -2,12 +2,12 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLineEdit>
 #include <QSpinBox>
 #include <limits>
 
 #include "deck/Fields.h"
 #include "deck/Readout.h"
+#include "deck/TextField.h"
 #include "platform/embedded/TeamSpeak.h"
 
 namespace orvelle::deck {

@@ -27,6 +27,12 @@ void TimedLog::Add(const QString& line) {
     scrollToBottom();
 }
 
+void TimedLog::resizeEvent(QResizeEvent* event) {
+    const bool wasAtEnd = verticalScrollBar()->value() == verticalScrollBar()->maximum();
+    QListWidget::resizeEvent(event);
+    if (wasAtEnd) scrollToBottom();
+}
+
 QSize TimedLog::sizeHint() const {
     return {QListWidget::sizeHint().width(), LinesWanted * fontMetrics().lineSpacing() + 2 * frameWidth()};
 }

@@ -1,4 +1,5 @@
-// A list of what happened, each line with its time of day, the latest at the end and in sight. It keeps the last 200.
+// A list of what happened, each line with its time of day, the latest at the end and in sight unless the user looks at
+// earlier ones. It keeps the last 200.
 #pragma once
 
 #include <QListWidget>
@@ -13,6 +14,9 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
 };
 
 }  // namespace orvelle::deck

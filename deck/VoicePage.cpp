@@ -1,5 +1,6 @@
 #include "deck/VoicePage.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -14,8 +15,9 @@ namespace orvelle::deck {
 
 VoicePage::VoicePage(EmbeddedVoiceEngine& voiceEngine, EmbeddedTessaly& tessaly) : engine(voiceEngine) {
     setObjectName("VoicePage");
+    // In front of the window in which the user asked for it.
     engine.CalibrationDialogue = [this](Long inputDevice, Long outputDevice) {
-        return AskCalibration(window()->isVisible() ? window() : nullptr, engine, inputDevice, outputDevice);
+        return AskCalibration(QApplication::activeWindow(), engine, inputDevice, outputDevice);
     };
 
     auto* column = new QVBoxLayout;

@@ -33,6 +33,7 @@ bool EmbeddedVoiceEngine::Start(Long) {
     if (running || startOutcome == StartOutcome::Refused) return false;
     if (!starting) delivery.RaiseAfter(startDelay, [this] { StartDone(); });
     starting = true;
+    Changed.Mark();
     return true;
 }
 
@@ -85,7 +86,7 @@ bool EmbeddedVoiceEngine::OutputStatus(Long output) {
 
 bool EmbeddedVoiceEngine::RoomJoin(Long room, const std::string& clientName, const std::string& roomAddress) {
     VoiceRoom* place = At(rooms, room);
-    if (!running || !place || place->NextJoin == JoinOutcome::Refused) return false;
+    if (!running || !place || place->Joins == JoinOutcome::Refused) return false;
     RoomLeave(room);
     place->ClientName = clientName;
     place->Address = roomAddress;
@@ -96,7 +97,13 @@ bool EmbeddedVoiceEngine::RoomJoin(Long room, const std::string& clientName, con
     return true;
 }
 
-void EmbeddedVoiceEngine::RoomLeave(Long room) { Leave(room, VVL_RoomLeft); }
+// Who is on the way back in when the event comes has not left: told late, it would pass for the end of the new join.
+void EmbeddedVoiceEngine::RoomLeave(Long room) {
+    if (!Leave(room)) return;
+    delivery.Raise([this, room] {
+        if (Room(room).State == RoomState::Out) VVL_RoomLeft(room);
+    });
+}
 
 void EmbeddedVoiceEngine::RoomMute(Long room, bool mute) {
     VoiceRoom* place = At(rooms, room);
@@ -115,6 +122,8 @@ bool EmbeddedVoiceEngine::Calibrate(Long microphone, Long headset, float& inputS
     if (!squelch) return false;
     inputSquelch = squelch->Input;
     outputSquelch = squelch->Output;
+    InputSquelch(squelch->Input);
+    OutputSquelch(squelch->Output);
     return true;
 }
 
@@ -124,11 +133,14 @@ void EmbeddedVoiceEngine::SetStartOutcome(StartOutcome outcome) {
 }
 
 void EmbeddedVoiceEngine::SetJoinOutcome(Long room, JoinOutcome outcome) {
-    if (VoiceRoom* place = At(rooms, room)) place->NextJoin = outcome;
+    if (VoiceRoom* place = At(rooms, room)) place->Joins = outcome;
     Changed.Mark();
 }
 
-void EmbeddedVoiceEngine::Kick(Long room) { Leave(room, VVL_RoomKicked); }
+void EmbeddedVoiceEngine::Kick(Long room) {
+    const VoiceRoom* place = At(rooms, room);
+    if (place && place->State == RoomState::In && Leave(room)) RaiseForRoom(VVL_RoomKicked, room);
+}
 
 void EmbeddedVoiceEngine::SetRoomAudio(Long room, bool carries) {
     VoiceRoom* place = At(rooms, room);
@@ -151,8 +163,14 @@ void EmbeddedVoiceEngine::Fail() {
     delivery.Raise([this] { VVL_Stopped(); });
 }
 
-void EmbeddedVoiceEngine::SetInputDevices(std::vector<std::string> names) { inputDevices = std::move(names); }
-void EmbeddedVoiceEngine::SetOutputDevices(std::vector<std::string> names) { outputDevices = std::move(names); }
+void EmbeddedVoiceEngine::SetInputDevices(std::vector<std::string> names) {
+    inputDevices = std::move(names);
+    Changed.Mark();
+}
+void EmbeddedVoiceEngine::SetOutputDevices(std::vector<std::string> names) {
+    outputDevices = std::move(names);
+    Changed.Mark();
+}
 
 void EmbeddedVoiceEngine::FailInput(bool failed) {
     inputFailed = failed;
@@ -181,7 +199,7 @@ void EmbeddedVoiceEngine::StartDone() {
 
 // A join that the deck refuses only after it was accepted has failed.
 void EmbeddedVoiceEngine::JoinDone(Long room) {
-    const bool joined = Room(room).NextJoin == JoinOutcome::Succeeds;
+    const bool joined = Room(room).Joins == JoinOutcome::Succeeds;
     SetState(room, joined ? RoomState::In : RoomState::Out, joined ? "In " + Room(room).Address : "Not joined");
     FollowAudio();
     if (joined)
@@ -190,17 +208,16 @@ void EmbeddedVoiceEngine::JoinDone(Long room) {
         VVL_RoomJoinFailed(room);
 }
 
-// The way out of a room. A join under way is given up without an event of its own.
-void EmbeddedVoiceEngine::Leave(Long room, const Event<Long>& wayOut) {
+// Tells whether somebody was in the room. A join under way is given up without an event of its own.
+bool EmbeddedVoiceEngine::Leave(Long room) {
     VoiceRoom* place = At(rooms, room);
-    if (!place || place->State == RoomState::Out) return;
+    if (!place || place->State == RoomState::Out) return false;
     const bool wasIn = place->State == RoomState::In;
-    if (&wayOut == &VVL_RoomKicked && !wasIn) return;
     ++attempts[static_cast<std::size_t>(room)];
     SetRoomAudio(room, false);
     SetState(room, RoomState::Out, "");
     FollowAudio();
-    if (wasIn) RaiseForRoom(wayOut, room);
+    return wasIn;
 }
 
 void EmbeddedVoiceEngine::SetState(Long room, RoomState state, const std::string& status) {

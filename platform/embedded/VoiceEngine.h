@@ -28,7 +28,7 @@ struct VoiceRoom {
     bool Audio = false;  // the room carries audio now
     bool Muted = true;   // the microphone to the room
     std::array<bool, 2> Output{};
-    JoinOutcome NextJoin = JoinOutcome::Succeeds;
+    JoinOutcome Joins = JoinOutcome::Succeeds;
 };
 
 struct VoiceOutput {
@@ -64,7 +64,7 @@ public:
     bool InputStatus() override;
     bool OutputStatus(Long output) override;
     bool RoomJoin(Long room, const std::string& clientName, const std::string& roomAddress) override;
-    void RoomLeave(Long room) override;  // VVL_RoomLeft follows only if it was in the room
+    void RoomLeave(Long room) override;  // VVL_RoomLeft follows if it was in the room and stays out
     void RoomMute(Long room, bool mute) override;
     std::string RoomStatus(Long room) override;
     bool Calibrate(Long inputDevice, Long outputDevice, float& inputSquelch, float& outputSquelch) override;
@@ -75,11 +75,12 @@ public:
     Long Microphone() const { return inputDevice; }
     double InputSquelchValue() const { return inputSquelchValue; }
     double OutputSquelchValue() const { return outputSquelchValue; }
+    bool Starting() const { return starting; }
     bool AudioRuns() const { return audioRuns; }  // from the first room joined to the last one left
 
-    // What happens next, and how long it takes in milliseconds.
+    // How starts and joins go, and how long they take in milliseconds.
     void SetStartOutcome(StartOutcome outcome);
-    StartOutcome NextStart() const { return startOutcome; }
+    StartOutcome Starts() const { return startOutcome; }
     void SetJoinOutcome(Long room, JoinOutcome outcome);
     void SetStartDelay(Long milliseconds) { startDelay = milliseconds; }
     void SetJoinDelay(Long milliseconds) { joinDelay = milliseconds; }
@@ -96,19 +97,24 @@ public:
     void SetOutputDevices(std::vector<std::string> names);
     void FailInput(bool failed);
     void FailOutput(Long output, bool failed);
+    const std::vector<std::string>& InputDeviceNames() const { return inputDevices; }
+    const std::vector<std::string>& OutputDeviceNames() const { return outputDevices; }
     bool InputFailed() const { return inputFailed; }
 
-    // The calibration dialogue with the two devices; none is a cancel. Without a hook every calibration is one.
+    // The calibration dialogue with the two devices; none is a cancel. Without a hook every calibration is one. The
+    // engine keeps what it gives.
     std::function<std::optional<Squelch>(Long inputDevice, Long outputDevice)> CalibrationDialogue;
 
     Changes Changed;
 
 private:
+    static constexpr double FirstSquelch = 50;
+
     template <typename Value>
     void SetOutput(Long output, Value VoiceOutput::*member, Value value);
     void StartDone();
     void JoinDone(Long room);
-    void Leave(Long room, const Event<Long>& wayOut);
+    bool Leave(Long room);
     void SetState(Long room, RoomState state, const std::string& status);
     void ShutDown();
     void FollowAudio();
@@ -127,8 +133,8 @@ private:
     std::vector<std::string> inputDevices;
     std::vector<std::string> outputDevices;
     Long inputDevice = -1;
-    double inputSquelchValue = 0;
-    double outputSquelchValue = 0;
+    double inputSquelchValue = FirstSquelch;
+    double outputSquelchValue = FirstSquelch;
     bool inputFailed = false;
 };
 

@@ -1,7 +1,10 @@
 // The parameters of a record: names, late marks and the writes of other parties.
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTableWidget>
+#include <QTextDocumentFragment>
+#include <stdexcept>
 
 #include "deck/LateWrites.h"
 #include "tests/deck/DeckRig.h"
@@ -36,15 +39,18 @@ protected:
         Settle();
     }
     QString Cell(int row, Column column) { return table.item(row, column)->text(); }
-    void Edit(int row, const QString& text) {
+    QLineEdit& BeginToEdit(int row, const QString& text) {
         table.scrollToItem(table.item(row, Value));
         table.editItem(table.item(row, Value));
         auto* editor = table.findChild<QLineEdit*>();
-        ASSERT_TRUE(editor);
+        if (!editor) throw std::logic_error("no editor");
         editor->selectAll();
         QTest::keyClicks(editor, text);
         if (text.isEmpty()) QTest::keyClick(editor, Qt::Key_Delete);
-        QTest::keyClick(editor, Qt::Key_Return);
+        return *editor;
+    }
+    void Edit(int row, const QString& text) {
+        QTest::keyClick(&BeginToEdit(row, text), Qt::Key_Return);
         Settle();
     }
 
@@ -104,9 +110,9 @@ TEST_F(DeckParameters, EditingATextIsAnotherPartysWrite) {
 TEST_F(DeckParameters, WhatIsNoNumberIsToldAndNotWritten) {
     CreateOwn("VVL");
     Edit(13, "1.5");
-    EXPECT_EQ(TextOf("ParameterNote"), "\"1.5\" is no whole number of 32 bits");
+    EXPECT_EQ(TextOf("ParameterNote"), "No whole number of 32 bits: \"1.5\"");
     Edit(13, "2147483648");
-    EXPECT_EQ(TextOf("ParameterNote"), "\"2147483648\" is no whole number of 32 bits");
+    EXPECT_EQ(TextOf("ParameterNote"), "No whole number of 32 bits: \"2147483648\"");
     EXPECT_THAT(TakeEvents(), IsEmpty());
     EXPECT_EQ(Cell(13, Value), "");
     Edit(13, "-2147483648");
@@ -129,6 +135,52 @@ TEST_F(DeckParameters, AnEditThatChangesNothingIsNoWrite) {
     PanelWrites(id, 13, 1);
     Edit(13, "1");
     EXPECT_THAT(TakeEvents(), IsEmpty());
+}
+
+TEST_F(DeckParameters, WhatIsBeingTypedOutlivesWhatOthersWrite) {
+    const Long id = CreateOwn("VVL");
+    auto& editor = BeginToEdit(13, "12");
+    PanelWrites(id, 13, 7);
+    setUp.Tessaly.SetCallsign("ORV124");
+    Settle();
+    EXPECT_EQ(editor.text(), "12");
+    QTest::keyClicks(&editor, "3");
+    QTest::keyClick(&editor, Qt::Key_Return);
+    Settle();
+    EXPECT_EQ(Cell(13, Value), "123");
+}
+
+TEST_F(DeckParameters, AnEditorInWhichNothingWasTypedFollows) {
+    const Long id = CreateOwn("VVL");
+    table.editItem(table.item(13, Value));
+    auto* editor = table.findChild<QLineEdit*>();
+    ASSERT_TRUE(editor);
+    PanelWrites(id, 13, 7);
+    EXPECT_EQ(editor->text(), "7");
+}
+
+TEST_F(DeckParameters, TheOpenListOfRecordsKeepsItsMarkWhileOthersWrite) {
+    const Long id = CreateOwn("VVL");
+    setUp.Tessaly.Claim("COCKPIT2", "VVL");
+    Settle();
+    auto& box = At<QComboBox>("ParameterRecord");
+    box.showPopup();
+    QTest::keyClick(box.view(), Qt::Key_Down);
+    ASSERT_EQ(box.view()->currentIndex().row(), 1);
+    PanelWrites(id, 13, 7);
+    EXPECT_EQ(box.view()->currentIndex().row(), 1);
+    QTest::keyClick(box.view(), Qt::Key_Return);
+    Settle();
+    EXPECT_EQ(box.currentText(), "2  VVL of COCKPIT2");
+}
+
+TEST_F(DeckParameters, AToolTipShowsATextToTheLetter) {
+    CreateOwn("VVL");
+    Edit(FirstText, "a&b <i>c</i>");
+    const QString tip = table.item(FirstText, Value)->toolTip();
+    EXPECT_TRUE(Qt::mightBeRichText(tip));
+    EXPECT_EQ(QTextDocumentFragment::fromHtml(tip).toPlainText(), "a&b <i>c</i>");
+    EXPECT_EQ(table.item(FirstText + 1, Value)->toolTip(), "");
 }
 
 TEST_F(DeckParameters, WithoutARecordNothingCanBeEdited) {

@@ -112,6 +112,26 @@ TEST_F(DeckSimulator, SoundsAreListedInTheirOrderWithTheirTime) {
     EXPECT_TRUE(list.item(2)->text().contains(QRegularExpression("^\\d\\d:\\d\\d:\\d\\d  ")));
 }
 
+TEST_F(DeckSimulator, TheLatestSoundStaysInSightWhenTheListChangesItsSize) {
+    ConnectAll();
+    for (int sound = 1; sound <= 50; ++sound) setUp.Velmarc.PlaySound(std::to_string(sound));
+    Settle();
+    auto& list = At<QListWidget>("Sounds");
+    const auto lastIsSeen = [&list] {
+        return list.viewport()->rect().contains(list.visualItemRect(list.item(list.count() - 1)));
+    };
+    EXPECT_TRUE(lastIsSeen());
+    for (const int height : {500, 700, 450}) {
+        window.resize(window.width(), height);
+        Settle();
+        EXPECT_TRUE(lastIsSeen()) << "at a height of " << height;
+    }
+    list.scrollToTop();
+    window.resize(window.width(), 600);
+    Settle();
+    EXPECT_FALSE(lastIsSeen()) << "the user looks at earlier ones";
+}
+
 TEST_F(DeckSimulator, TheListOfSoundsKeepsTheLast200) {
     ConnectAll();
     for (int sound = 1; sound <= 250; ++sound) setUp.Velmarc.PlaySound(std::to_string(sound));

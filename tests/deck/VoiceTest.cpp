@@ -4,10 +4,12 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <optional>
 
+#include "deck/SignalLight.h"
 #include "tests/deck/DeckRig.h"
 
 namespace orvelle {
@@ -32,6 +34,12 @@ protected:
         loop.Post([this, answer, input, output] {
             auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
             ASSERT_TRUE(dialog);
+            parent = dialog->parentWidget();
+            shownMicrophone = dialog->findChild<QLabel*>("CalibratedMicrophone")->text();
+            shownHeadset = dialog->findChild<QLabel*>("CalibratedHeadset")->text();
+            EXPECT_TRUE(dialog->windowFlags().testFlag(Qt::CustomizeWindowHint));
+            EXPECT_FALSE(dialog->windowFlags() & Qt::WindowMinMaxButtonsHint);
+            EXPECT_GT(dialog->width(), dialog->fontMetrics().horizontalAdvance(dialog->windowTitle()));
             shownInput = dialog->findChild<QDoubleSpinBox*>("InputSquelch")->value();
             dialog->findChild<QDoubleSpinBox*>("InputSquelch")->setValue(input);
             dialog->findChild<QDoubleSpinBox*>("OutputSquelch")->setValue(output);
@@ -40,6 +48,9 @@ protected:
     }
 
     double shownInput = 0;
+    QString shownMicrophone;
+    QString shownHeadset;
+    QWidget* parent = nullptr;
 };
 
 TEST_F(DeckVoice, TheEnginesStateIsShown) {
@@ -53,7 +64,7 @@ TEST_F(DeckVoice, TheEnginesStateIsShown) {
     EXPECT_EQ(TextOf("EngineSquelch"), "Squelch 37.5 / 50");
 }
 
-TEST_F(DeckVoice, TheNextStartIsRefusedOrDies) {
+TEST_F(DeckVoice, StartsAreRefusedOrDie) {
     Pick("EngineStart", 1);
     EXPECT_FALSE(setUp.VVL.Start(3));
     Pick("EngineStart", 2);
@@ -67,11 +78,15 @@ TEST_F(DeckVoice, TheNextStartIsRefusedOrDies) {
 }
 
 TEST_F(DeckVoice, ARunningEngineStopsByItself) {
-    EXPECT_FALSE(At<QWidget>("EngineFail").isEnabled());
     StartEngine();
     Click("EngineFail");
     EXPECT_THAT(TakeEvents(), ElementsAre("engine stopped"));
     EXPECT_EQ(TextOf("EngineStateText"), "Stopped");
+    EXPECT_TRUE(At<QWidget>("EngineFail").hasFocus());
+    QTest::keyClick(&At<QWidget>("EngineFail"), Qt::Key_Space);
+    Settle();
+    EXPECT_THAT(TakeEvents(), IsEmpty());
+    EXPECT_FALSE(At<QCheckBox>("MicrophoneFails").isChecked());
 }
 
 TEST_F(DeckVoice, ARoomIsShown) {
@@ -89,6 +104,41 @@ TEST_F(DeckVoice, ARoomIsShown) {
     EXPECT_EQ(TextOf("Room0StateText"), "Out");
 }
 
+TEST_F(DeckVoice, AStoppedEngineHasNothingToTellOfItsRooms) {
+    StartEngine();
+    Join(1);
+    setUp.VVL.ChannelOutput(1, 0, true);
+    setUp.VVL.Stop();
+    Settle();
+    for (const char* text : {"Room1StateText", "Room1Client", "Room1Address", "Room1MicrophoneText", "Room1HeadsetText",
+                             "Room1SpeakersText", "Room1AudioText"})
+        EXPECT_EQ(TextOf(text), "") << text;
+}
+
+TEST_F(DeckVoice, AStartUnderWayIsTold) {
+    setUp.VVL.SetStartDelay(60'000);
+    setUp.VVL.Start(3);
+    Settle();
+    EXPECT_EQ(TextOf("EngineStateText"), "Starting");
+    EXPECT_EQ(At<deck::SignalLight>("EngineState").Shown(), deck::Signal::Waiting);
+    EXPECT_EQ(TextOf("FlightEngineText"), "Starting");
+}
+
+TEST_F(DeckVoice, TheFlightShowsWhereTheUserTalks) {
+    StartEngine();
+    EXPECT_EQ(TextOf("FlightEngineText"), "Running");
+    setUp.VVL.RoomMute(0, false);
+    Settle();
+    EXPECT_EQ(TextOf("TalksCOM1Text"), "COM1 silent") << "nobody is there to hear";
+    Join(0);
+    EXPECT_EQ(TextOf("TalksCOM1Text"), "COM1 talks");
+    EXPECT_EQ(TextOf("TalksCOM2Text"), "COM2 silent");
+    EXPECT_EQ(TextOf("TalksPrivateText"), "Private silent");
+    setUp.VVL.RoomMute(0, true);
+    Settle();
+    EXPECT_EQ(TextOf("TalksCOM1Text"), "COM1 silent");
+}
+
 TEST_F(DeckVoice, AudioComesAndGoes) {
     StartEngine();
     EXPECT_FALSE(At<QWidget>("Room0CarriesAudio").isEnabled());
@@ -103,18 +153,23 @@ TEST_F(DeckVoice, AudioComesAndGoes) {
 
 TEST_F(DeckVoice, ThePanelIsKicked) {
     StartEngine();
-    EXPECT_FALSE(At<QWidget>("Room2Kick").isEnabled());
+    Join(1);
     Join(2);
     TakeEvents();
-    Click("Room2Kick");
-    EXPECT_THAT(TakeEvents(), ElementsAre("room status changed 2", "kicked 2"));
-    EXPECT_EQ(TextOf("Room2StateText"), "Out");
+    Click("Room1Kick");
+    EXPECT_THAT(TakeEvents(), ElementsAre("room status changed 1", "kicked 1"));
+    EXPECT_EQ(TextOf("Room1StateText"), "Out");
+    EXPECT_TRUE(At<QWidget>("Room1Kick").hasFocus());
+    QTest::keyClick(&At<QWidget>("Room1Kick"), Qt::Key_Space);
+    Settle();
+    EXPECT_THAT(TakeEvents(), IsEmpty());
+    EXPECT_EQ(TextOf("Room2StateText"), "In");
 }
 
 TEST_F(DeckVoice, JoinsAreRefusedOrFail) {
     StartEngine();
-    Pick("Room0NextJoin", 1);
-    Pick("Room1NextJoin", 2);
+    Pick("Room0Joins", 1);
+    Pick("Room1Joins", 2);
     EXPECT_FALSE(setUp.VVL.RoomJoin(0, "ORV123", "a/b"));
     Join(1);
     EXPECT_THAT(TakeEvents(), testing::Contains("join failed 1"));
@@ -141,14 +196,20 @@ TEST_F(DeckVoice, DevicesFail) {
 }
 
 TEST_F(DeckVoice, TheDevicesTellWhatThePanelSet) {
-    setUp.VVL.InputDevice(2);
+    setUp.VVL.InputDevice(0);
+    setUp.VVL.OutputDevice(0, 7);
     setUp.VVL.OutputDevice(1, 0);
     setUp.VVL.OutputVolume(1, 150);
     setUp.VVL.SignalVolume(1, 30);
     setUp.VVL.OutputFilter(1, true);
     Settle();
-    EXPECT_EQ(TextOf("MicrophoneDevice"), "Device 2");
-    EXPECT_EQ(TextOf("SpeakersDevice"), "Device 0, volume 150, signal 30, filtered");
+    EXPECT_EQ(TextOf("MicrophoneDevice"), "DirectSound - Microphone");
+    EXPECT_EQ(TextOf("HeadsetDevice"), "Device 7");
+    EXPECT_EQ(TextOf("SpeakersDevice"), "DirectSound - Loudspeakers");
+    EXPECT_EQ(TextOf("SpeakersLevels"), "Volume 150, signal 30, filtered");
+    setUp.VVL.OutputDevice(0, -1);
+    Settle();
+    EXPECT_EQ(TextOf("HeadsetDevice"), "Default device");
 }
 
 TEST_F(DeckVoice, CalibrationGivesTheTwoValues) {
@@ -161,6 +222,36 @@ TEST_F(DeckVoice, CalibrationGivesTheTwoValues) {
     EXPECT_FLOAT_EQ(output, 17);
 }
 
+TEST_F(DeckVoice, CalibrationNamesTheDevices) {
+    float value = 0;
+    AnswerCalibration(QDialogButtonBox::Ok, 1, 2);
+    setUp.VVL.Calibrate(1, -1, value, value);
+    EXPECT_EQ(shownMicrophone, "Wave - Headset Microphone");
+    EXPECT_EQ(shownHeadset, "Default device");
+}
+
+TEST_F(DeckVoice, WhatWasAcceptedIsOfferedNextALevelOfNothingToo) {
+    float value = 0;
+    AnswerCalibration(QDialogButtonBox::Ok, 0, 17);
+    setUp.VVL.Calibrate(-1, -1, value, value);
+    AnswerCalibration(QDialogButtonBox::Cancel, 99, 99);
+    setUp.VVL.Calibrate(-1, -1, value, value);
+    EXPECT_EQ(shownInput, 0);
+    Settle();
+    EXPECT_EQ(TextOf("EngineSquelch"), "Squelch 0 / 17");
+}
+
+TEST_F(DeckVoice, CalibrationBelongsToTheWindowThatAskedForIt) {
+    QWidget panel;
+    panel.show();
+    panel.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
+    float value = 0;
+    AnswerCalibration(QDialogButtonBox::Ok, 1, 2);
+    setUp.VVL.Calibrate(-1, -1, value, value);
+    EXPECT_EQ(parent, &panel);
+}
+
 TEST_F(DeckVoice, ACancelledCalibrationGivesNone) {
     float input = 1;
     float output = 2;
@@ -170,7 +261,7 @@ TEST_F(DeckVoice, ACancelledCalibrationGivesNone) {
     EXPECT_FLOAT_EQ(output, 2);
 }
 
-TEST_F(DeckVoice, ACalibrationWithTheDeckClosedIsAskedToo) {
+TEST_F(DeckVoice, ACalibrationWithTheDeckMinimisedIsAskedToo) {
     window.close();
     float input = 0;
     float output = 0;

@@ -49,12 +49,15 @@ protected:
 
 TEST_F(VoiceEngineTest, StartIsAnsweredFromTheLoopAfterItsDelay) {
     engine.SetStartDelay(300);
+    EXPECT_FALSE(engine.Starting());
     EXPECT_TRUE(engine.Start(3));
+    EXPECT_TRUE(engine.Starting());
     EXPECT_TRUE(engine.Start(3));
     EXPECT_FALSE(engine.Running());
     EXPECT_TRUE(Run(299).empty());
     EXPECT_EQ(Run(1), Texts{"Started"});
     EXPECT_TRUE(engine.Running());
+    EXPECT_FALSE(engine.Starting());
     EXPECT_FALSE(engine.Start(3));
     EXPECT_TRUE(Run(1000).empty());
 }
@@ -125,12 +128,18 @@ TEST_F(VoiceEngineTest, AJoinThatIsGivenUpNeverEnds) {
     EXPECT_EQ(engine.Room(0).Address, "srv1/other");
 }
 
-TEST_F(VoiceEngineTest, LeavingAndJoiningInOneGoTellsOfBothInOrder) {
+TEST_F(VoiceEngineTest, LeavingAndJoiningInOneGoTellsNothingOfTheLeaving) {
     StartEngine();
     Enter(0);
     engine.RoomLeave(0);
     engine.RoomJoin(0, "ABC123", "srv1/other");
-    EXPECT_EQ(Run(), (Texts{"AudioStopped", "Left 0", "JoinSucceed 0", "AudioStarted"}));
+    EXPECT_EQ(Run(), (Texts{"AudioStopped", "JoinSucceed 0", "AudioStarted"}));
+    engine.RoomJoin(0, "ABC123", "srv1/ops");
+    EXPECT_EQ(Run(), (Texts{"AudioStopped", "JoinSucceed 0", "AudioStarted"}));
+    engine.RoomLeave(0);
+    engine.RoomJoin(0, "ABC123", "srv1/ops");
+    engine.RoomLeave(0);
+    EXPECT_EQ(Run(), (Texts{"AudioStopped", "Left 0"}));
 }
 
 TEST_F(VoiceEngineTest, AKickTakesWhoIsInTheRoom) {
@@ -263,6 +272,8 @@ TEST_F(VoiceEngineTest, CalibratesByTheDialogueItIsGiven) {
     EXPECT_TRUE(engine.Calibrate(-1, 3, input, output));
     EXPECT_EQ(input, -0.5F);
     EXPECT_EQ(output, 3);
+    EXPECT_EQ(engine.InputSquelchValue(), -0.5);
+    EXPECT_EQ(engine.OutputSquelchValue(), 3);
 }
 
 }  // namespace
