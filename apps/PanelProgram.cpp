@@ -1,5 +1,6 @@
 #include "apps/PanelProgram.h"
 
+#include <QApplication>
 #include <QIcon>
 #include <QStandardPaths>
 #include <QSysInfo>
@@ -43,6 +44,8 @@ PanelProgram::PanelProgram(ProcessProgram& endingProgram, TerminationSignals& te
       Panel({SetUp.Velmarc, SetUp.Store, SetUp.Store, SetUp.Tessaly, SetUp.VVL, SetUp.VolumeControl,
              SetUp.VolumeControlHP, RemoteControl(teamSpeak, SetUp.TSRemote), SetUp.MediaPlayers, dialog, messages,
              Keyboard, queue, windows, clock, Processes, program, tray, urls}) {
+    // The main window's icon tells the state; the other windows have the one with all lamps on.
+    QApplication::setWindowIcon(StatusIcon("VVVVVV"));
     program.AtEnd([this] { Keyboard.ReleaseAll(); });
     Panel.Attach(timers);
     Panel.Attach(menus);

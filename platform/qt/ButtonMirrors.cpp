@@ -26,6 +26,7 @@ ButtonMirror::ButtonMirror(CommandButton& commandButton, QPushButton& pushButton
       control(commandButton),
       widget(pushButton),
       purpose(pushButton.accessibleName()) {
+    widget.setAutoDefault(true);  // Enter presses it, as Space does
     connect(&widget, &QPushButton::clicked, this, [this] { control.UserClick(); });
 }
 

@@ -13,6 +13,7 @@ namespace {
 
 // Fusion darkens the window's colour by this for its outlines.
 constexpr int OutlineFactor = 140;
+constexpr int HighlightFactor = 180;
 constexpr int MostPalettes = 64;
 
 template <typename Option>
@@ -35,6 +36,9 @@ QSize CalmStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
         case CT_ComboBox:
             needed.setHeight(std::max(needed.height(), option->fontMetrics.height() + Unit + Unit / 2));
             break;
+        case CT_Slider:
+            needed.rheight() += Unit / 2;
+            break;
         case CT_ItemViewItem:
         case CT_HeaderSection:
             needed.rheight() += Unit;
@@ -47,12 +51,35 @@ QSize CalmStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
 
 const QPalette& CalmStyle::Outlined(const QPalette& palette) const {
     if (outlined.size() > MostPalettes) outlined.clear();
-    auto found = outlined.find(palette.cacheKey());
+    const auto key = std::pair(palette.cacheKey(), palette.currentColorGroup());
+    auto found = outlined.find(key);
     if (found == outlined.end()) {
-        found = outlined.insert(palette.cacheKey(), palette);
+        found = outlined.insert(key, palette);
         found->setColor(QPalette::Window, palette.color(QPalette::Shadow).lighter(OutlineFactor));
+        // Fusion darkens the highlight, too, for what has the focus.
+        if (SchemeOf(palette) == Scheme::Dark)
+            found->setColor(QPalette::Highlight, palette.color(QPalette::Highlight).lighter(HighlightFactor));
     }
     return *found;
+}
+
+// Fusion lays a slider with ticks so far up that its handle leaves the widget.
+QRect CalmStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                                const QWidget* widget) const {
+    QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+    if (control == CC_Slider && (part == SC_SliderHandle || part == SC_SliderGroove))
+        rect.moveCenter({rect.center().x(), option->rect.center().y()});
+    return rect;
+}
+
+void CalmStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                            const QWidget* widget) const {
+    if (element == CE_PushButtonBevel) {
+        const auto changed = WithPalette<QStyleOptionButton>(*option, Outlined(option->palette));
+        QProxyStyle::drawControl(element, &changed, painter, widget);
+    } else {
+        QProxyStyle::drawControl(element, option, painter, widget);
+    }
 }
 
 void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

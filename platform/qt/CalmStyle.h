@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QPalette>
 #include <QProxyStyle>
+#include <utility>
 
 namespace orvelle {
 
@@ -15,16 +16,20 @@ public:
 
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                            const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                         const QWidget* widget) const override;
 
 private:
-    // The same one for the same palette: Fusion keeps what it has drawn by the palette's identity.
+    // The same one for the same palette and state: Fusion keeps what it has drawn by the palette's identity.
     const QPalette& Outlined(const QPalette& palette) const;
 
-    mutable QHash<qint64, QPalette> outlined;
+    mutable QHash<std::pair<qint64, QPalette::ColorGroup>, QPalette> outlined;
 };
 
 }  // namespace orvelle

@@ -10,6 +10,7 @@ namespace orvelle {
 ComboMirror::ComboMirror(ComboBox& comboBox, QComboBox& box) : Mirror(comboBox, box), control(comboBox), widget(box) {
     widget.setInsertPolicy(QComboBox::NoInsert);
     widget.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    widget.setFocusPolicy(Qt::StrongFocus);  // not by the wheel
     widget.installEventFilter(this);
     if (control.IsEditable()) MakeEditable();
     connect(&widget, &QComboBox::activated, this, [this](int index) {

@@ -11,6 +11,7 @@ namespace orvelle {
 namespace {
 
 constexpr std::chrono::milliseconds Patience{300};
+constexpr std::chrono::seconds PatienceForFrame{5};
 
 int ToPixels(double twips) { return qRound(twips / TwipsPerPixel); }
 
@@ -34,6 +35,7 @@ FormWindow::FormWindow(Form& shownForm) : form(shownForm), binder(shownForm) {
     connect(&look, &QTimer::timeout, this, [this] { Look(); });
     patience.setSingleShot(true);
     connect(&patience, &QTimer::timeout, this, [this] {
+        if (isPlaceDue) move(FormPlace());
         EndSettling();
         Look();
     });
@@ -76,6 +78,7 @@ void FormWindow::ShowOrHide() {
     if (!form.Visible) {
         isSettling = false;
         isMovedInView = false;
+        isPlaceDue = false;
         patience.stop();
         hide();
         return;
@@ -93,7 +96,10 @@ void FormWindow::ShowOrHide() {
 void FormWindow::PlaceAndSize() {
     const QSize wanted = FormSize();
     if (wanted.isEmpty()) return;
+    // A window that has only just been shown has no frame yet and would come to stand without regard to it.
+    isPlaceDue = isVisible() && !isMinimized() && !IsExposed();
     Settle();
+    if (isPlaceDue) return;
     // The frame of a window that is out of view is not known; a size that stands is left alone.
     if (wanted != frameSize) {
         resize(wanted - (frameGeometry().size() - size()));
@@ -148,21 +154,26 @@ void FormWindow::LookLater() {
 // it.
 void FormWindow::Settle() {
     isSettling = true;
-    if (isVisible()) patience.start(Patience);
+    if (isVisible()) patience.start(isPlaceDue ? PatienceForFrame : Patience);
 }
+
+bool FormWindow::IsExposed() const { return windowHandle() != nullptr && windowHandle()->isExposed(); }
 
 bool FormWindow::IsSettled() const {
     // Qt takes a new place for granted at once; what the window manager makes of it comes later, unannounced.
     if (isMovedInView || State() != form.WindowState) return false;
     if (isMinimized()) return true;
-    if (windowHandle() == nullptr || !windowHandle()->isExposed()) return false;
+    if (!IsExposed()) return false;
     return isMaximized() || FormSize().isEmpty() || (size() == knownSize && frameGeometry().topLeft() == FormPlace());
 }
 
 void FormWindow::Look() {
     if (!form.Visible || !isVisible()) return;
     if (isSettling) {
-        if (IsSettled()) EndSettling();
+        if (isPlaceDue && IsExposed())
+            PlaceAndSize();
+        else if (!isPlaceDue && IsSettled())
+            EndSettling();
         return;
     }
     const bool isStateChanged = State() != form.WindowState;
@@ -180,6 +191,7 @@ void FormWindow::Look() {
 void FormWindow::EndSettling() {
     isSettling = false;
     isMovedInView = false;
+    isPlaceDue = false;
     patience.stop();
     TakePlaceAndSize();
 }

@@ -42,6 +42,7 @@ private:
     void LookLater();
     void Look();
     void TakePlaceAndSize();
+    bool IsExposed() const;
     bool IsSettled() const;
     void Settle();
     void EndSettling();
@@ -55,6 +56,7 @@ private:
     QSize frameSize;
     bool isSettling = false;
     bool isMovedInView = false;
+    bool isPlaceDue = false;  // the place that the form wants is still to be asked for
     bool isTaking = false;
 };
 

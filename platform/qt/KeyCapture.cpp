@@ -77,7 +77,10 @@ bool KeyCapture::eventFilter(QObject* receiver, QEvent* event) {
         event->accept();
         return true;
     }
-    return IsMouse(event->type()) && MouseIsCaught(receiver);
+    if (!IsMouse(event->type()) || !MouseIsCaught(receiver)) return false;
+    // The press has given the focus away already.
+    if (event->type() == QEvent::MouseButtonPress) targetWidget->setFocus();
+    return true;
 }
 
 }  // namespace orvelle

@@ -32,8 +32,8 @@ void SliderMirror::ShowOwn(ControlProperty property) {
         return;
     widget.setRange(control.Min, control.Max);
     const int frequency = std::max(1, control.TickFrequency());
-    const int shown = (control.Max - control.Min) / frequency / MostTicks;
-    widget.setTickInterval(frequency * (shown + 1));
+    const int steps = (control.Max - control.Min) / frequency;
+    widget.setTickInterval(frequency * std::max(1, (steps + MostTicks - 1) / MostTicks));
     widget.setValue(control.Value);
 }
 

@@ -18,6 +18,12 @@ TreeMirror::TreeMirror(TreeView& treeView, QTreeWidget& treeWidget)
       widget(treeWidget),
       clicks(treeWidget, [this](const QModelIndex& index) { control.UserClick(*NodeOf(index.data(NodeRole))); }) {
     widget.setAllColumnsShowFocus(true);
+    // A click beside the nodes takes the mark off; the page that shows keeps it.
+    connect(&widget, &QTreeWidget::itemSelectionChanged, this, [this] {
+        const ItemClicks::Quiet quiet(clicks);
+        if (widget.selectedItems().isEmpty() && widget.currentItem() != nullptr)
+            widget.currentItem()->setSelected(true);
+    });
 }
 
 void TreeMirror::ShowOwn(ControlProperty property) {

@@ -1,5 +1,6 @@
 #include "platform/qt/WarningDialog.h"
 
+#include <QLayout>
 #include <QShortcut>
 
 #include "ui_WarningDialog.h"
@@ -12,12 +13,15 @@ constexpr int LineLength = 64;  // characters
 
 }  // namespace
 
-WarningDialog::WarningDialog(Form& warningForm) : FormWindow(warningForm) { setWindowFlag(Qt::Dialog); }
+WarningDialog::WarningDialog(Form& warningForm) : FormWindow(warningForm) {
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+}
 
 void WarningDialog::Prepare() {
     if (layout() != nullptr) return;
     Ui::WarningDialog dialog;
     dialog.setupUi(this);
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
     dialog.Label1->setMinimumWidth(fontMetrics().averageCharWidth() * LineLength);
     binder.Bind(*this);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})

@@ -11,6 +11,9 @@ namespace {
 
 class WindowTest : public PanelTest {
 protected:
+    // The presses of two tests on the same icon are no double click.
+    WindowTest() { QApplication::setDoubleClickInterval(0); }
+
     // Once the tray, which lies at the right of the screen, has taken it in.
     const QWidget* TrayIcon() {
         for (const QWidget* widget : QApplication::allWidgets())
@@ -18,6 +21,11 @@ protected:
                 user.Input.MiddleOf(*widget).x() > widget->screen()->geometry().center().x())
                 return widget;
         return nullptr;
+    }
+    void PopUpTheMenu() {
+        ASSERT_TRUE(ComesTrue([this] { return TrayIcon() != nullptr; }));
+        user.RightClick(*TrayIcon());
+        ASSERT_TRUE(ComesTrue([] { return qobject_cast<QMenu*>(QApplication::activePopupWidget()) != nullptr; }));
     }
 };
 
@@ -37,15 +45,27 @@ TEST_F(WindowTest, TheCloseBoxHidesAndALeftPressOnTheIconBringsBack) {
 
 TEST_F(WindowTest, ARightPressOnTheIconPopsUpTheMenu) {
     ASSERT_NO_FATAL_FAILURE(Open());
-    ASSERT_TRUE(ComesTrue([this] { return TrayIcon() != nullptr; }));
-    user.RightClick(*TrayIcon());
-    const QMenu* menu = nullptr;
-    ASSERT_TRUE(ComesTrue([&] { return (menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) != nullptr; }));
-    EXPECT_EQ(menu->actions().size(), 3);
+    ASSERT_NO_FATAL_FAILURE(PopUpTheMenu());
+    EXPECT_EQ(qobject_cast<QMenu*>(QApplication::activePopupWidget())->actions().size(), 3);
     panel.Left = 3000;
     user.Do({"key", "Down", "Return"});
     // "Ensure Visible", the first entry.
     EXPECT_TRUE(ComesTrue([this] { return panel.Left == 10.0 && panel.Top == 10.0; }));
+}
+
+TEST_F(WindowTest, AHiddenWindowMadeVisibleStandsWithItsWholeFrameOnTheScreen) {
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_TRUE(ComesTrue([this] { return TrayIcon() != nullptr; }));
+    ToFront(*house.Window);
+    user.Do({"key", "alt+F4"});
+    ASSERT_TRUE(ComesTrue([this] { return !house.Window->isVisible(); }));
+    ASSERT_NO_FATAL_FAILURE(PopUpTheMenu());
+    user.Do({"key", "Down", "Return"});
+    EXPECT_TRUE(ComesTrue([this] {
+        const QRect inside = house.Window->geometry();
+        return house.Window->frameGeometry().topLeft() == QPoint(1, 1) && inside.top() > 1;
+    }));
+    EXPECT_EQ(panel.Top, 10.0);
 }
 
 }  // namespace

@@ -126,6 +126,8 @@ TEST_F(ComboMirrorTest, TheWheelPicksOnlyWithTheFocus) {
                           Qt::NoModifier, Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(&box, &wheel);
     };
+    // Qt gives a box the focus by the wheel where its policy says so.
+    EXPECT_FALSE(box.focusPolicy() & Qt::WheelFocus & ~Qt::StrongFocus);
     box.clearFocus();
     turn();
     EXPECT_EQ(panel.VVLHeadset.ListIndex(), 0);

@@ -172,6 +172,14 @@ TEST_F(TreeTest, TheArrowKeysClickNodes) {
     EXPECT_EQ(events, (Events{"Velmarc", "Kestrine"}));
 }
 
+TEST_F(TreeTest, AClickBesideTheNodesLeavesTheMark) {
+    Tree().setCurrentItem(Tree().topLevelItem(0)->child(0));
+    events.clear();
+    QTest::mouseClick(Tree().viewport(), Qt::LeftButton, {}, Tree().viewport()->rect().bottomLeft() - QPoint(-5, 5));
+    EXPECT_EQ(Tree().selectedItems(), QList{Tree().topLevelItem(0)->child(0)});
+    EXPECT_TRUE(events.empty());
+}
+
 TEST_F(TreeTest, ExpandingClicksNothing) {
     Tree().setFocus();
     QTest::keyClick(&Tree(), Qt::Key_Left);

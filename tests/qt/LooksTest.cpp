@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
+#include <QLineEdit>
 #include <QPainter>
 #include <cmath>
 
@@ -52,6 +53,18 @@ TEST_P(LooksTest, SignsAndOutlinesHaveContrast) {
             EXPECT_GE(Contrast(SignColour(sign, GetParam()), palette.color(ground)), 3);
         EXPECT_GE(Contrast(palette.color(QPalette::Shadow), palette.color(ground)), 2.5);
     }
+}
+
+TEST_P(LooksTest, AFieldThatIsEnabledLooksSo) {
+    ApplyTheme(GetParam());
+    QLineEdit field;
+    field.resize(100, 30);
+    const auto ground = [&field] { return QColor(field.grab().toImage().pixel(50, 15)); };
+    field.setEnabled(false);
+    EXPECT_EQ(ground(), palette.color(QPalette::Disabled, QPalette::Base));
+    field.setEnabled(true);
+    EXPECT_EQ(ground(), palette.color(QPalette::Base));
+    ApplyTheme(Scheme::Light);
 }
 
 TEST_P(LooksTest, ThePaletteIsKnownByItsLightness) { EXPECT_EQ(SchemeOf(palette), GetParam()); }

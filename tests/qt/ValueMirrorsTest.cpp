@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSlider>
+#include <QStyleOptionSlider>
 
 #include "platform/qt/Lamp.h"
 #include "platform/qt/Readout.h"
@@ -82,6 +83,22 @@ TEST_F(SliderTest, RangeAndStepsAreTheControls) {
     EXPECT_EQ(slider.maximum(), 65535);
     EXPECT_EQ(slider.value(), 65535);
     EXPECT_EQ(slider.tickInterval() % 3276, 0);
+}
+
+TEST_F(SliderTest, TheTicksReachTheEnd) {
+    EXPECT_EQ(Out().maximum() % Out().tickInterval(), 0);
+    const auto& signal = Widget<QSlider>(panel.VVLSignal);
+    EXPECT_EQ(signal.maximum() % signal.tickInterval(), 0);
+}
+
+TEST_F(SliderTest, TheHandleIsWhole) {
+    QStyleOptionSlider option;
+    option.initFrom(&Out());
+    option.orientation = Qt::Horizontal;
+    option.tickPosition = Out().tickPosition();
+    option.maximum = Out().maximum();
+    const QRect handle = Out().style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, &Out());
+    EXPECT_TRUE(Out().rect().contains(handle));
 }
 
 TEST_F(SliderTest, ANarrowerRangeTakesTheValueAlongWithoutAScroll) {
