@@ -68,6 +68,21 @@ TEST_F(DeckOnX, AnotherWindowThatTakesTheFocusEndsWhatIsHeld) {
     Xdotool({"keyup", "ctrl"});
 }
 
+TEST_F(DeckOnX, ClosingMinimisesAndEndsWhatIsHeld) {
+    Xdotool({"keydown", "ctrl"});
+    EXPECT_TRUE(WaitForEvents(1));
+    EXPECT_FALSE(window.close());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !events.empty() && events.back() == "key up Ctrl"; }, Patience));
+    const auto isSeen = [this] { return window.isActiveWindow() && window.windowHandle()->isExposed(); };
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return !window.isActiveWindow() && !window.windowHandle()->isExposed(); }, Patience));
+    Xdotool({"keyup", "ctrl"});
+    // As a taskbar does it.
+    Xdotool({"windowactivate", QString::number(window.winId())});
+    EXPECT_TRUE(QTest::qWaitFor(isSeen, Patience));
+    EXPECT_FALSE(window.isMinimized());
+}
+
 TEST(DeckBesideAPanel, OpensWithoutTakingTheFocus) {
     const QTemporaryDir folder;
     QtEventLoop loop;
