@@ -15,6 +15,11 @@ namespace {
 
 constexpr int GapBesidePanel = 16;  // logical pixels
 
+// Whose entries the desktop starts with the session.
+std::string AutostartFolder() {
+    return (QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/autostart").toStdString();
+}
+
 // TeamSpeak's own library where this computer has it, else the stand-in.
 TeamSpeakRemote& RemoteControl(DynamicTeamSpeak& real, TeamSpeakRemote& standIn) {
     if (real.IsThere()) return real;
@@ -40,10 +45,11 @@ PanelProgram::PanelProgram(ProcessProgram& endingProgram, TerminationSignals& te
       SetUp(loop, settingsFile, {QSysInfo::machineHostName().toStdString()}),
       Keyboard("", BesideOwnFile("orvelle-key-guard")),
       Processes(""),
+      registry(SetUp.Store, AutostartFolder()),
       tray(Table, [](const Picture& picture) { return StatusIcon(picture.Name); }),
-      Panel({SetUp.Velmarc, SetUp.Store, SetUp.Store, SetUp.Tessaly, SetUp.VVL, SetUp.VolumeControl,
-             SetUp.VolumeControlHP, RemoteControl(teamSpeak, SetUp.TSRemote), SetUp.MediaPlayers, dialog, messages,
-             Keyboard, queue, windows, clock, Processes, program, tray, urls}) {
+      Panel({SetUp.Velmarc, SetUp.Store, registry, SetUp.Tessaly, SetUp.VVL, SetUp.VolumeControl, SetUp.VolumeControlHP,
+             RemoteControl(teamSpeak, SetUp.TSRemote), SetUp.MediaPlayers, dialog, messages, Keyboard, queue, windows,
+             clock, Processes, program, tray, urls}) {
     // The main window's icon tells the state; the other windows have the one with all lamps on.
     QApplication::setWindowIcon(StatusIcon("VVVVVV"));
     program.AtEnd([this] { Keyboard.ReleaseAll(); });

@@ -11,6 +11,7 @@
 #include "panel/FrmOrvelle.h"
 #include "platform/controls/WindowTable.h"
 #include "platform/embedded/SetUp.h"
+#include "platform/linux/DesktopAutostart.h"
 #include "platform/linux/DynamicTeamSpeak.h"
 #include "platform/linux/LinuxProcesses.h"
 #include "platform/linux/ProcessProgram.h"
@@ -58,6 +59,7 @@ public:
     WindowTable Table;
 
 private:
+    DesktopAutostart registry;
     DynamicTeamSpeak teamSpeak;
     KeyCapture keys;
     QtClock clock;

@@ -1,6 +1,9 @@
 #include "platform/qt/ListMirror.h"
 
+#include <QApplication>
 #include <QHeaderView>
+#include <QScrollBar>
+#include <QWheelEvent>
 
 namespace orvelle {
 
@@ -22,6 +25,7 @@ ListMirror::ListMirror(ListView& listView, QTreeView& view)
           control.UserClickRow(index.row() + 1);
           ShowSelected();
       }) {
+    widget.viewport()->installEventFilter(this);
     widget.setRootIsDecorated(false);
     widget.setItemsExpandable(false);
     widget.setUniformRowHeights(true);
@@ -35,6 +39,18 @@ ListMirror::ListMirror(ListView& listView, QTreeView& view)
     const int last = model.columnCount() - 1;
     for (int column = 0; column <= last; ++column)
         header.setSectionResizeMode(column, column == last ? QHeaderView::ResizeToContents : QHeaderView::Stretch);
+}
+
+// A table that can't be changed can still be read to its end.
+bool ListMirror::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Wheel && !widget.isEnabled()) {
+        constexpr int Notch = 120;  // eighths of a degree
+        const int turned = static_cast<QWheelEvent*>(event)->angleDelta().y();
+        QScrollBar& bar = *widget.verticalScrollBar();
+        bar.setValue(bar.value() - turned * QApplication::wheelScrollLines() * bar.singleStep() / Notch);
+        return true;
+    }
+    return Mirror::eventFilter(watched, event);
 }
 
 void ListMirror::ShowOwn(ControlProperty property) {

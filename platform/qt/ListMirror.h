@@ -14,6 +14,8 @@ class ListMirror : public Mirror {
 public:
     ListMirror(ListView& listView, QTreeView& view);
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 protected:
     void ShowOwn(ControlProperty property) override;
     void ShowAllOwn() override { ShowSelected(); }

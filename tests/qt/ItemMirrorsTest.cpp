@@ -2,7 +2,9 @@
 #include <QAbstractItemModelTester>
 #include <QElapsedTimer>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QTreeWidget>
+#include <QWheelEvent>
 
 #include "tests/qt/PlausiblePanel.h"
 #include "tests/qt/ShownPanel.h"
@@ -120,6 +122,16 @@ TEST_F(ItemMirrorsTest, ADisabledTableTakesNoClick) {
 }
 
 // An event costs what its row costs; a table that copied or measured all rows for each would take minutes here.
+TEST_F(ItemMirrorsTest, ADisabledTableCanBeReadToItsEnd) {
+    AddRows(200);
+    panel.Panels(4).Enabled = false;
+    QWheelEvent wheel(QPointF(5, 5), Table().mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(Table().viewport(), &wheel);
+    EXPECT_GT(Table().verticalScrollBar()->value(), 0);
+    EXPECT_TRUE(SelectedRows().isEmpty());
+}
+
 TEST_F(ItemMirrorsTest, AHundredThousandRowsAreNoBurden) {
     constexpr int Rows = 100000;
     constexpr qint64 BoundMilliseconds = 30000;
