@@ -73,6 +73,7 @@ std::optional<Squelch> AskCalibration(QWidget* parent, const EmbeddedVoiceEngine
     column->addStrut(dialog.fontMetrics().horizontalAdvance(Title) + TitleButtons);
     column->setSizeConstraint(QLayout::SetFixedSize);
 
+    input->selectAll();
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     return Squelch{static_cast<float>(input->value()), static_cast<float>(output->value())};
 }

@@ -76,15 +76,15 @@ RoomsBox::Room RoomsBox::NewRoom(int number) {
                     [this, number](const std::string& text) { engine.SetRoomStatus(number, text); })};
 }
 
-// An engine that stands still has rooms no more.
+// An engine that stands still has nobody in its rooms, and nothing is open there.
 void RoomsBox::ShowPanelsDoing(const Room& shown, const VoiceRoom& room) const {
+    ShowRoomState(*shown.State, room.State);
     if (!engine.Running()) {
-        for (SignalLight* light : {shown.State, shown.Microphone, shown.Headset, shown.Speakers, shown.Audio})
+        for (SignalLight* light : {shown.Microphone, shown.Headset, shown.Speakers, shown.Audio})
             light->Show(Signal::Off, "");
         for (Readout* text : {shown.Client, shown.Address}) text->Show(QString());
         return;
     }
-    ShowRoomState(*shown.State, room.State);
     shown.Client->Show(room.ClientName);
     shown.Address->Show(room.Address);
     ShowSwitch(*shown.Microphone, !room.Muted, "Open", "Muted");

@@ -110,9 +110,10 @@ TEST_F(DeckVoice, AStoppedEngineHasNothingToTellOfItsRooms) {
     setUp.VVL.ChannelOutput(1, 0, true);
     setUp.VVL.Stop();
     Settle();
-    for (const char* text : {"Room1StateText", "Room1Client", "Room1Address", "Room1MicrophoneText", "Room1HeadsetText",
+    for (const char* text : {"Room1Client", "Room1Address", "Room1MicrophoneText", "Room1HeadsetText",
                              "Room1SpeakersText", "Room1AudioText"})
         EXPECT_EQ(TextOf(text), "") << text;
+    EXPECT_EQ(TextOf("Room1StateText"), "Out");
 }
 
 TEST_F(DeckVoice, AStartUnderWayIsTold) {

@@ -11,7 +11,7 @@
 namespace orvelle {
 namespace {
 
-constexpr const char* RunPath = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\RunPath";
+constexpr const char* RunPath = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
 
 // Keeps texts of one root; numbers pass through it.
 class KeptRegistry : public Registry {
