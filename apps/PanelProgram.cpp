@@ -79,6 +79,7 @@ void PanelProgram::Open() {
     // The deck waits for the panel to be seen.
     loop.Post([this] {
         Deck = std::make_unique<DeckWindow>(SetUp);
+        ownStrokes = std::make_unique<OwnStrokes>(Keyboard, *Deck);
         for (const std::string& sentence : untold) Deck->TellOfProgram(sentence);
         untold.clear();
         Deck->OpenAt(Window->frameGeometry().topRight() + QPoint(GapBesidePanel, 0));

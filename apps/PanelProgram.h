@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "apps/OwnStrokes.h"
 #include "deck/DeckWindow.h"
 #include "panel/FrmOrvelle.h"
 #include "platform/controls/WindowTable.h"
@@ -82,7 +83,8 @@ public:
     std::unique_ptr<DeckWindow> Deck;
 
 private:
-    std::vector<std::string> untold;  // of programs, until there is a deck
+    std::unique_ptr<OwnStrokes> ownStrokes;  // kept out of the deck
+    std::vector<std::string> untold;         // of programs, until there is a deck
     WarningDialog warning{Panel.MultiFSWarningDlg};
     Door door{Table, Panel.Stub1};
 };

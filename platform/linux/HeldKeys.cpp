@@ -36,10 +36,14 @@ void HeldKeys::Insert(int keyCode) { words[keyCode / WordBits] |= Bit(keyCode); 
 
 void HeldKeys::Erase(int keyCode) { words[keyCode / WordBits] &= ~Bit(keyCode); }
 
+bool HeldKeys::Contains(int keyCode) const {
+    return keyCode >= 0 && keyCode < KeyCodes && (words[keyCode / WordBits] & Bit(keyCode)) != 0;
+}
+
 std::vector<int> HeldKeys::Keys() const {
     std::vector<int> keys;
     for (int keyCode = 0; keyCode < KeyCodes; ++keyCode)
-        if (words[keyCode / WordBits] & Bit(keyCode)) keys.push_back(keyCode);
+        if (Contains(keyCode)) keys.push_back(keyCode);
     return keys;
 }
 

@@ -25,6 +25,7 @@ public:
     int Descriptor() const { return memory.Number(); }
     void Insert(int keyCode);
     void Erase(int keyCode);
+    bool Contains(int keyCode) const;
     std::vector<int> Keys() const;
 
 private:

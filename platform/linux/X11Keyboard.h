@@ -28,6 +28,8 @@ public:
     // Never "": a code without a key is named by its number in brackets. In UTF-8.
     std::string GetKeyNameTextA(Long keyMessage, Long size) override;
 
+    // Whether the key of that X key code is down because of this program.
+    bool Holds(int keyCode) const { return held.Contains(keyCode); }
     // To be called at the program's end, whichever it is.
     void ReleaseAll();
     // What keeps keys from being pressed, or from being let go whatever happens; one sentence, "" if all is well.

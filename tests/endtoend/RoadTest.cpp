@@ -50,6 +50,22 @@ TEST_F(RoadTest, ATunedRadioStartsTheVoiceProgramAndAKeyOverThereHoldsItsTalkKey
     EXPECT_TRUE(ComesTrue([this] { return !user.SeesDown(TalkKey); }));
 }
 
+TEST_F(RoadTest, WhatThePanelStrikesHereIsNotTypedOverThere) {
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_NO_FATAL_FAILURE(Connect());
+    ASSERT_NO_FATAL_FAILURE(TickRogerWilco());
+    ASSERT_NO_FATAL_FAILURE(MapF8());
+    ASSERT_NO_FATAL_FAILURE(TuneCom1());
+    user.KeyDown("F8");
+    ASSERT_TRUE(ComesTrue([this] { return user.SeesDown(TalkKey); }));
+    user.KeyDown("a");
+    EXPECT_TRUE(ComesTrue([this] { return house.SetUp.Velmarc.HeldSequence() == "F8+A"; }))
+        << house.SetUp.Velmarc.HeldSequence();
+    user.KeyUp("a");
+    user.KeyUp("F8");
+    EXPECT_TRUE(ComesTrue([this] { return !user.SeesDown(TalkKey); }));
+}
+
 TEST_F(RoadTest, ALostLinkReleasesTheTalkKeyThatIsHeld) {
     ASSERT_NO_FATAL_FAILURE(Open());
     ASSERT_NO_FATAL_FAILURE(Connect());

@@ -1,0 +1,25 @@
+// Keeps what the panel itself strikes on this computer's keyboard out of a window: it comes back from the X server as
+// every stroke does, and the flight deck would take it for the user's, pressed on the simulator's computer. Keys that
+// the panel holds go down for that window only once they have been let go. Both outlive this object.
+#pragma once
+
+#include <QObject>
+
+class QWidget;
+
+namespace orvelle {
+
+class X11Keyboard;
+
+class OwnStrokes : public QObject {
+public:
+    OwnStrokes(const X11Keyboard& strikingKeyboard, const QWidget& window);
+
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
+private:
+    const X11Keyboard& keyboard;
+    const QWidget& shielded;
+};
+
+}  // namespace orvelle
