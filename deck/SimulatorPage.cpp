@@ -18,7 +18,7 @@ SimulatorPage::SimulatorPage(EmbeddedVelmarc& simulator, EmbeddedVoiceEngine& en
                       "Keys pressed while it is not start no voice program's push-to-talk",
                       [this](bool on) { velmarc.SetSimulatorActive(on); })),
       sounds(new TimedLog("Sounds", "Sounds that the simulator was asked to play")),
-      programs(new TimedLog("Programs", "Voice programs that could not be started")),
+      programs(new TimedLog("Programs", "Voice programs that the panel started, or could not start")),
       watch(velmarc.Changed.Observe([this] { ShowState(); })) {
     setObjectName("SimulatorPage");
     active->setFocusPolicy(Qt::TabFocus);
