@@ -91,6 +91,7 @@ void SqliteStore::HandlerEnded() {
     const std::string reason = changes.empty() ? "" : file->Write(changes);
     if (reason.empty()) {
         for (StoredPlaces& places : before) places.clear();
+        last.Before = nullptr;
     } else if (!toldOfFailure) {
         toldOfFailure = true;
         tell("The settings file \"" + fileName + "\" could not be written (" + reason +
@@ -137,11 +138,14 @@ void SqliteStore::SetControlValue(const std::string& name, const std::string& va
 template <typename Value>
 Value SqliteStore::Read(StoredTable table, const std::string& place, const std::string& name,
                         const Value& defaultValue) {
-    const StoredPlaces& places = Table(table);
-    const auto names = places.find(place);
-    if (names == places.end()) return defaultValue;
-    const auto found = names->second.find(name);
-    if (found == names->second.end()) return defaultValue;
+    if (!IsLast(table, place)) {
+        StoredPlaces& places = Table(table);
+        const auto names = places.find(place);
+        if (names == places.end()) return defaultValue;
+        last = {table, place, &names->second};
+    }
+    const auto found = last.Names->find(name);
+    if (found == last.Names->end()) return defaultValue;
     if (const auto* value = std::get_if<Value>(&found->second)) return *value;
     if (std::holds_alternative<NoValue>(found->second)) return defaultValue;
     TellOfWrongType(place, name, std::is_same_v<Value, Long> ? "a number" : "a text");
@@ -149,13 +153,18 @@ Value SqliteStore::Read(StoredTable table, const std::string& place, const std::
 }
 
 void SqliteStore::Write(StoredTable table, const std::string& place, const std::string& name, StoredValue value) {
-    StoredValue& stored = Table(table)[place][name];
+    if (!IsLast(table, place)) last = {table, place, &Table(table)[place]};
+    StoredValue& stored = (*last.Names)[name];
     if (Same(stored, value)) return;
-    if (file) before[static_cast<std::size_t>(table)][place].try_emplace(name, stored);
+    if (file) {
+        if (last.Before == nullptr) last.Before = &before[static_cast<std::size_t>(table)][place];
+        last.Before->try_emplace(name, stored);
+    }
     stored = std::move(value);
 }
 
 void SqliteStore::Forget(StoredTable table, StoredPlaces::iterator place) {
+    last = {};
     auto names = Table(table).extract(place);
     if (!file) return;
     StoredPlaces& places = before[static_cast<std::size_t>(table)];

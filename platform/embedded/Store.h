@@ -59,10 +59,21 @@ public:
     void SetControlValue(const std::string& name, const std::string& value) override;
 
 private:
+    // The place that was used last: a row's values are read and written one after another.
+    struct LastPlace {
+        StoredTable Table = StoredTable::Setting;
+        std::string Place;
+        StoredNames* Names = nullptr;   // null: none was used yet, or it is gone
+        StoredNames* Before = nullptr;  // in `before`; null until the first write there
+    };
+
     StoredPlaces& Table(StoredTable table) { return values[static_cast<std::size_t>(table)]; }
     template <typename Value>
     Value Read(StoredTable table, const std::string& place, const std::string& name, const Value& defaultValue);
     void Write(StoredTable table, const std::string& place, const std::string& name, StoredValue value);
+    bool IsLast(StoredTable table, const std::string& place) const {
+        return last.Names != nullptr && last.Table == table && last.Place == place;
+    }
     void Forget(StoredTable table, StoredPlaces::iterator place);  // a place with all its values
     StoredChanges Changes() const;
     void TellOfWrongType(const std::string& place, const std::string& name, const char* expected);
@@ -72,6 +83,7 @@ private:
     std::unique_ptr<StoreFile> file;  // null: this run is kept in memory alone
     StoredTables values;
     StoredTables before;  // what the file holds of each value written since the last HandlerEnded; empty without a file
+    LastPlace last;
     std::vector<std::string> listed;                       // the open listing
     std::set<std::pair<std::string, std::string>> toldOf;  // values of a wrong type
     bool toldOfFailure = false;
