@@ -84,8 +84,10 @@ void DeckWindow::TellOfProgram(const std::string& sentence) {
     simulator->TellOfProgram(QString::fromStdString(sentence));
 }
 
-// Hidden it could not be brought back. Minimising hides it too, as far as its events go.
+// Hidden it could not be brought back. Minimising hides it too, as far as its events go. Closed by the program, as at
+// the end of the session, it just goes.
 void DeckWindow::closeEvent(QCloseEvent* event) {
+    if (!event->spontaneous()) return;
     event->ignore();
     showMinimized();
 }

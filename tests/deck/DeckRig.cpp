@@ -1,6 +1,7 @@
 #include "tests/deck/DeckRig.h"
 
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -27,6 +28,12 @@ void DeckRig::Settle() {
         QCoreApplication::sendPostedEvents();
         QCoreApplication::processEvents();
     }
+}
+
+void DeckRig::CloseByHand() {
+    QCloseEvent event;
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    QCoreApplication::instance()->notify(&window, &event);
 }
 
 void DeckRig::ConnectAll() {

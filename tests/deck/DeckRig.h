@@ -21,6 +21,8 @@ protected:
 
     // Lets the loop bring all that waits, events at the panel and changes at the deck.
     static void Settle();
+    // By the box in the window's frame.
+    void CloseByHand();
     // Both links up and the framework link started, a session there.
     void ConnectAll();
 

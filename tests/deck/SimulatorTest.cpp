@@ -93,7 +93,7 @@ TEST_F(DeckSimulator, ClosingTheWindowLetsGoWhatIsHeld) {
     ConnectAll();
     QTest::mousePress(&At<QWidget>("Stick1"), Qt::LeftButton);
     Settle();
-    window.close();
+    CloseByHand();
     Settle();
     EXPECT_THAT(TakeEvents(), ElementsAre("button down Stick.Button 1", "button up Stick.Button 1"));
 }

@@ -263,7 +263,7 @@ TEST_F(DeckVoice, ACancelledCalibrationGivesNone) {
 }
 
 TEST_F(DeckVoice, ACalibrationWithTheDeckMinimisedIsAskedToo) {
-    window.close();
+    CloseByHand();
     float input = 0;
     float output = 0;
     AnswerCalibration(QDialogButtonBox::Ok, 1, 2);

@@ -75,8 +75,10 @@ TEST_F(DeckWindowTest, AMnemonicLeadsToItsField) {
 
 TEST_F(DeckWindowTest, ItSaysWhatItIs) { EXPECT_EQ(window.windowTitle(), "OrvelleCP Flight Deck"); }
 
+TEST_F(DeckWindowTest, ClosedAtTheEndOfTheSessionItGoes) { EXPECT_TRUE(window.close()); }
+
 TEST_F(DeckWindowTest, ClosingItMinimisesIt) {
-    EXPECT_FALSE(window.close());
+    CloseByHand();
     EXPECT_TRUE(window.isMinimized());
     EXPECT_TRUE(window.isVisible()) << "out of the taskbar's reach";
     window.showNormal();
