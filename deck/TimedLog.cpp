@@ -1,5 +1,6 @@
 #include "deck/TimedLog.h"
 
+#include <QScrollBar>
 #include <QTime>
 
 namespace orvelle::deck {
