@@ -21,7 +21,7 @@ using namespace deck;
 namespace {
 
 // Beside the panel on a screen of 1920 by 1080.
-constexpr QSize WantedSize(940, 700);
+constexpr QSize WantedSize(940, 760);
 // What a window manager may put around the window; how much it really is is known only after the window was shown.
 constexpr QSize FrameAllowance(16, 44);
 

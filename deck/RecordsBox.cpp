@@ -92,6 +92,7 @@ void RecordsBox::Claim(const std::string& role, bool on) {
 void RecordsBox::ShowState() {
     const auto records = tessaly.Records();
     const Long selected = SelectedId();
+    const bool isLonger = static_cast<int>(records.size()) > table->rowCount();
     table->setRowCount(static_cast<int>(records.size()));
     int row = 0;
     for (const auto& [id, record] : records) {
@@ -103,6 +104,8 @@ void RecordsBox::ShowState() {
         ShowCell(*table, row, Parameters, parameters).setToolTip(PlainTip(parameters));
         ++row;
     }
+    // A new record has the highest number as a rule.
+    if (isLonger) table->scrollToBottom();
     // A record keeps its selection when others come and go.
     if (!records.contains(selected))
         table->clearSelection();

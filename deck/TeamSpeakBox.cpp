@@ -50,7 +50,8 @@ TeamSpeakBox::TeamSpeakBox(EmbeddedTeamSpeak& program)
         [this](int index) { teamSpeak.SetPadding(index == 0 ? AddressPadding::Blanks : AddressPadding::Zeros); });
     EmbeddedTeamSpeak::Results& results = teamSpeak.Fail;
 
-    AddRow("Program", {running, place});
+    AddRow("Program", {running});
+    AddRow("Server", {place});
     AddRow("Last URL", {url});
     AddRow("Channels", {channels});
     AddRow("Padding", {padding, new QWidget});
