@@ -52,8 +52,7 @@ void LinkBox::ShowState() {
     const bool wanted = link.Wanted() == LinkState::Up;
     const bool isUp = link.IsUp();
     const Signal signal = wanted != isUp ? Signal::Waiting : isUp ? Signal::On : Signal::Off;
-    const QString text =
-        wanted == isUp ? (isUp ? "Connected" : "Not connected") : (wanted ? "Not connected yet" : "Not lost yet");
+    const QString text = wanted == isUp ? (isUp ? "Connected" : "Down") : (wanted ? "Not up yet" : "Not lost yet");
     const std::string server = link.Server();
     up->setChecked(wanted);
     state->Show(signal, text + ", server " + (server.empty() ? "(empty)" : QString::fromStdString(server)));

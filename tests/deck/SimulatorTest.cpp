@@ -14,29 +14,29 @@ using testing::IsEmpty;
 class DeckSimulator : public DeckRig {};
 
 TEST_F(DeckSimulator, TheSwitchTakesTheLinkUpAndDown) {
-    EXPECT_EQ(TextOf("SimulatorStateText"), "Not connected, server AUTOMATIC");
+    EXPECT_EQ(TextOf("SimulatorStateText"), "Down, server AUTOMATIC");
     Click("SimulatorLink");
     EXPECT_THAT(TakeEvents(), ElementsAre("simulator connected"));
     EXPECT_EQ(TextOf("SimulatorStateText"), "Connected, server AUTOMATIC");
     Click("SimulatorLink");
     EXPECT_THAT(TakeEvents(), ElementsAre("simulator disconnected"));
-    EXPECT_EQ(TextOf("SimulatorStateText"), "Not connected, server AUTOMATIC");
+    EXPECT_EQ(TextOf("SimulatorStateText"), "Down, server AUTOMATIC");
 }
 
 TEST_F(DeckSimulator, ALinkOnItsWaySaysSo) {
     setUp.Velmarc.SetDelay(60'000);
     Click("SimulatorLink");
-    EXPECT_EQ(TextOf("SimulatorStateText"), "Not connected yet, server AUTOMATIC");
+    EXPECT_EQ(TextOf("SimulatorStateText"), "Not up yet, server AUTOMATIC");
     EXPECT_TRUE(At<QCheckBox>("SimulatorLink").isChecked());
 }
 
 TEST_F(DeckSimulator, TheServerInUseFollowsThePanel) {
     setUp.Velmarc.SetServer("TOWERPC");
     Settle();
-    EXPECT_EQ(TextOf("SimulatorStateText"), "Not connected, server TOWERPC");
+    EXPECT_EQ(TextOf("SimulatorStateText"), "Down, server TOWERPC");
     setUp.Velmarc.SetServer("");
     Settle();
-    EXPECT_EQ(TextOf("SimulatorStateText"), "Not connected, server (empty)");
+    EXPECT_EQ(TextOf("SimulatorStateText"), "Down, server (empty)");
 }
 
 TEST_F(DeckSimulator, AServerIsSeenByTheButtonOrEnterAsItIsTyped) {
