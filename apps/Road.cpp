@@ -175,9 +175,9 @@ void Road::TakePictures() {
     QScreen& screen = *QGuiApplication::primaryScreen();
     const QPixmap desktop = screen.grabWindow(0);
     desktop.save(pictures.filePath("desktop.png"));
-    constexpr QSize TrayCorner(160, 36);
+    constexpr QSize TrayCorner(24, 32);  // the place of the one icon
     desktop.copy(QRect(QPoint(desktop.width() - TrayCorner.width(), 0), TrayCorner))
-        .scaled(TrayCorner * 4)
+        .scaled(TrayCorner * 8)
         .save(pictures.filePath("tray-icon.png"));
     auto& tree = *house.Window->findChild<QTreeWidget*>("twCategory");
     tree.expandAll();
