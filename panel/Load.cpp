@@ -1,8 +1,8 @@
 // The load event: the only entry. Assigning a saved value to a control runs that control's handler, which gives the
 // links their servers and writes settings back; so the order of the steps is behaviour.
 #include "panel/FrmOrvelle.h"
-#include "panel/RegistryPaths.h"
 #include "panel/Texts.h"
+#include "platform/RegistryPaths.h"
 #include "platform/RuntimeError.h"
 
 namespace orvelle {

@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "panel/FrmOrvelle.h"
-#include "panel/RegistryPaths.h"
+#include "platform/RegistryPaths.h"
 #include "platform/RuntimeError.h"
 
 namespace orvelle {

@@ -1,5 +1,5 @@
 // The forms of scenario lines, by their first word. Reading a line checks its form and its names and throws LineError
-// where they are wrong; the act that it gives may still throw it for a row or an entry that is not there.
+// where they are wrong; the act that it gives may still throw it for what only the run can tell.
 #pragma once
 
 #include <initializer_list>

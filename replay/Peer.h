@@ -40,6 +40,7 @@ protected:
     // The answer alone, with nothing printed.
     Values Answer(const std::string& member, const Values& arguments, const Values& otherwise, Stamp since = 0);
 
+    // Numbers are printed as the scenario wrote them; where the panel wants 16 bits it is given the low ones.
     template <typename T>
     static T As(const Value& value) {
         if constexpr (std::is_same_v<T, Integer>)

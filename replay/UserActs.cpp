@@ -6,7 +6,6 @@ namespace orvelle::replay {
 
 namespace {
 
-// As with a real mouse there is nothing to click on where an entry, a row or a node is not there, so nothing happens.
 Act ReadClick(Stage& stage, Scanner& line) {
     const std::string name = line.PlainReference();
     line.ExpectEnd();
@@ -45,6 +44,7 @@ Act ReadKey(Stage& stage, Scanner& line) {
     };
 }
 
+// As with a real mouse there is nothing to click on where an entry, a node or a row is not there, so nothing happens.
 Act ReadPick(Stage& stage, Scanner& line) {
     auto& box = stage.Panel.FindAs<ComboBox>(line.PlainReference(), "combo box");
     const Long index = line.WholeNumber();

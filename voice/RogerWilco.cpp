@@ -1,7 +1,7 @@
 // RogerWilco: each command is a separate start of the program's file, and the running instance does the work. Whether a
 // command succeeded is never learnt.
 #include "panel/FrmOrvelle.h"
-#include "panel/RegistryPaths.h"
+#include "platform/RegistryPaths.h"
 
 namespace orvelle {
 

@@ -1,8 +1,8 @@
 // TeamSpeak: its file is started by command line and then remote-controlled through a library.
 #include "links/WinInetURL.h"
 #include "panel/FrmOrvelle.h"
-#include "panel/RegistryPaths.h"
 #include "panel/Texts.h"
+#include "platform/RegistryPaths.h"
 
 namespace orvelle {
 

@@ -3,13 +3,13 @@
 #include <fstream>
 #include <system_error>
 
+#include "platform/RegistryPaths.h"
+
 namespace orvelle {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr const char* RunPath = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
 
 // Inside the quotes of a command line "\", "`" and "$" are escaped, each "\" again as every text of an entry's is, and
 // "%" stands for fields.

@@ -117,17 +117,20 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
 
 void CalmStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                    const QWidget* widget) const {
-    if (control == CC_Slider) {
-        const auto changed = WithPalette<QStyleOptionSlider>(*option, Outlined(option->palette));
-        QProxyStyle::drawComplexControl(control, &changed, painter, widget);
-    } else if (control == CC_SpinBox) {
-        const auto changed = WithPalette<QStyleOptionSpinBox>(*option, Outlined(option->palette));
-        QProxyStyle::drawComplexControl(control, &changed, painter, widget);
-    } else if (control == CC_ComboBox) {
-        const auto changed = WithPalette<QStyleOptionComboBox>(*option, Outlined(option->palette));
-        QProxyStyle::drawComplexControl(control, &changed, painter, widget);
-    } else {
-        QProxyStyle::drawComplexControl(control, option, painter, widget);
+    const auto draw = [&](const auto& changed) { QProxyStyle::drawComplexControl(control, &changed, painter, widget); };
+    switch (control) {
+        case CC_Slider:
+            draw(WithPalette<QStyleOptionSlider>(*option, Outlined(option->palette)));
+            break;
+        case CC_SpinBox:
+            draw(WithPalette<QStyleOptionSpinBox>(*option, Outlined(option->palette)));
+            break;
+        case CC_ComboBox:
+            draw(WithPalette<QStyleOptionComboBox>(*option, Outlined(option->palette)));
+            break;
+        default:
+            draw(*option);
+            break;
     }
 }
 

@@ -161,7 +161,7 @@ bool FormWindow::IsExposed() const { return windowHandle() != nullptr && windowH
 
 bool FormWindow::IsSettled() const {
     // Qt takes a new place for granted at once; what the window manager makes of it comes later, unannounced.
-    if (isMovedInView || State() != form.WindowState) return false;
+    if (isPlaceDue || isMovedInView || State() != form.WindowState) return false;
     if (isMinimized()) return true;
     if (!IsExposed()) return false;
     return isMaximized() || FormSize().isEmpty() || (size() == knownSize && frameGeometry().topLeft() == FormPlace());
@@ -172,7 +172,7 @@ void FormWindow::Look() {
     if (isSettling) {
         if (isPlaceDue && IsExposed())
             PlaceAndSize();
-        else if (!isPlaceDue && IsSettled())
+        else if (IsSettled())
             EndSettling();
         return;
     }

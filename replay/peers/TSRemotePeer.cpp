@@ -6,7 +6,6 @@ namespace orvelle::replay {
 
 namespace {
 
-// Results are answered as the scenario wrote them; the panel is given their low 16 bits.
 constexpr Integer Success = 0;
 
 }  // namespace

@@ -27,6 +27,16 @@ protected:
         house.SetUp.Tessaly.SetVoice(0, {RogerWilco, "srv1", "ops", "", ""});
         ASSERT_TRUE(ComesTrue([this] { return panel.ActiveVoiceSoftware == RogerWilco; }));
     }
+    // From the start to the mapped key held over there and the talk key held here.
+    void HoldTheTalkKey() {
+        ASSERT_NO_FATAL_FAILURE(Open());
+        ASSERT_NO_FATAL_FAILURE(Connect());
+        ASSERT_NO_FATAL_FAILURE(TickRogerWilco());
+        ASSERT_NO_FATAL_FAILURE(MapF8());
+        ASSERT_NO_FATAL_FAILURE(TuneCom1());
+        user.KeyDown("F8");
+        ASSERT_TRUE(ComesTrue([this] { return user.SeesDown(TalkKey); }));
+    }
 };
 
 TEST_F(RoadTest, ATunedRadioStartsTheVoiceProgramAndAKeyOverThereHoldsItsTalkKeyHere) {
@@ -51,13 +61,7 @@ TEST_F(RoadTest, ATunedRadioStartsTheVoiceProgramAndAKeyOverThereHoldsItsTalkKey
 }
 
 TEST_F(RoadTest, WhatThePanelStrikesHereIsNotTypedOverThere) {
-    ASSERT_NO_FATAL_FAILURE(Open());
-    ASSERT_NO_FATAL_FAILURE(Connect());
-    ASSERT_NO_FATAL_FAILURE(TickRogerWilco());
-    ASSERT_NO_FATAL_FAILURE(MapF8());
-    ASSERT_NO_FATAL_FAILURE(TuneCom1());
-    user.KeyDown("F8");
-    ASSERT_TRUE(ComesTrue([this] { return user.SeesDown(TalkKey); }));
+    ASSERT_NO_FATAL_FAILURE(HoldTheTalkKey());
     user.KeyDown("a");
     EXPECT_TRUE(ComesTrue([this] { return house.SetUp.Velmarc.HeldSequence() == "F8+A"; }))
         << house.SetUp.Velmarc.HeldSequence();
@@ -67,13 +71,7 @@ TEST_F(RoadTest, WhatThePanelStrikesHereIsNotTypedOverThere) {
 }
 
 TEST_F(RoadTest, ALostLinkReleasesTheTalkKeyThatIsHeld) {
-    ASSERT_NO_FATAL_FAILURE(Open());
-    ASSERT_NO_FATAL_FAILURE(Connect());
-    ASSERT_NO_FATAL_FAILURE(TickRogerWilco());
-    ASSERT_NO_FATAL_FAILURE(MapF8());
-    ASSERT_NO_FATAL_FAILURE(TuneCom1());
-    user.KeyDown("F8");
-    ASSERT_TRUE(ComesTrue([this] { return user.SeesDown(TalkKey); }));
+    ASSERT_NO_FATAL_FAILURE(HoldTheTalkKey());
 
     user.Click(OfDeck("SimulatorLink"));
     EXPECT_TRUE(ComesTrue([this] { return !user.SeesDown(TalkKey) && !panel.Panels(4).Enabled; }));

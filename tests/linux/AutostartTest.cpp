@@ -6,12 +6,11 @@
 #include <iterator>
 #include <map>
 
+#include "platform/RegistryPaths.h"
 #include "platform/linux/DesktopAutostart.h"
 
 namespace orvelle {
 namespace {
-
-constexpr const char* RunPath = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
 
 // Keeps texts of one root; numbers pass through it.
 class KeptRegistry : public Registry {

@@ -1,4 +1,5 @@
-// Paths below the local machine's root that the panel reads and writes.
+// Paths below the local machine's root that the panel reads and writes, and that an adapter may give a meaning on its
+// system.
 #pragma once
 
 namespace orvelle {
