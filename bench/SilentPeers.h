@@ -272,8 +272,10 @@ struct SilentPeers {
     SilentTray Tray;
     SilentUrls Urls;
 
-    Platform Outside() {
-        return {Velmarc,  Settings, Registry, Tessaly, Engine, Mixer,     MixerHP, Remote, Players, Dialog,
+    Platform Outside() { return Outside(Settings, Registry); }
+    // With a real store in the place of the silent one.
+    Platform Outside(SettingsStore& settings, orvelle::Registry& registry) {
+        return {Velmarc,  settings, registry, Tessaly, Engine, Mixer,     MixerHP, Remote, Players, Dialog,
                 Messages, Keyboard, Queue,    Windows, Clock,  Processes, Program, Tray,   Urls};
     }
 };

@@ -39,36 +39,13 @@ private:
     std::filesystem::path path;
 };
 
-Platform With(SilentPeers& peers, SqliteStore& store) {
-    const Platform silent = peers.Outside();
-    return {silent.Velmarc,
-            store,
-            store,
-            silent.Tessaly,
-            silent.VVL,
-            silent.VolumeControl,
-            silent.VolumeControlHP,
-            silent.TSRemote,
-            silent.MediaPlayers,
-            silent.Dialog,
-            silent.Messages,
-            silent.Keyboard,
-            silent.Queue,
-            silent.Windows,
-            silent.Clock,
-            silent.Processes,
-            silent.Program,
-            silent.Tray,
-            silent.Urls};
-}
-
 // The row in the middle goes from push to toggle and back.
 void ApplyRow(benchmark::State& state) {
     const StoreFolder folder;
     folder.Fill(static_cast<Long>(state.range(0)));
     SqliteStore store = folder.Open();
     SilentPeers peers;
-    FrmOrvelle panel(With(peers, store));
+    FrmOrvelle panel(peers.Outside(store, store));
     panel.Show();
     peers.Velmarc.Connected();
     panel.ListKeyToKey.UserClickRow(static_cast<Long>(state.range(0)) / 2);
@@ -86,7 +63,7 @@ void LoadWithRows(benchmark::State& state) {
     for (auto iteration : state) {
         SqliteStore store = folder.Open();
         SilentPeers peers;
-        FrmOrvelle panel(With(peers, store));
+        FrmOrvelle panel(peers.Outside(store, store));
         panel.Show();
         if (panel.ListJoyToKey.Count() != state.range(0)) state.SkipWithError("the rows were not read");
     }
