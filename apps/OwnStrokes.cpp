@@ -4,11 +4,11 @@
 #include <QKeyEvent>
 #include <QWidget>
 
-#include "platform/linux/X11Keyboard.h"
+#include "adapters/linux/X11Keyboard.h"
 
 namespace orvelle {
 
-OwnStrokes::OwnStrokes(const X11Keyboard& strikingKeyboard, const QWidget& window)
+OwnStrokes::OwnStrokes(const linux::X11Keyboard& strikingKeyboard, const QWidget& window)
     : keyboard(strikingKeyboard), shielded(window) {
     QCoreApplication::instance()->installEventFilter(this);
 }

@@ -9,16 +9,18 @@ class QWidget;
 
 namespace orvelle {
 
+namespace linux {
 class X11Keyboard;
+}
 
 class OwnStrokes : public QObject {
 public:
-    OwnStrokes(const X11Keyboard& strikingKeyboard, const QWidget& window);
+    OwnStrokes(const linux::X11Keyboard& strikingKeyboard, const QWidget& window);
 
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
-    const X11Keyboard& keyboard;
+    const linux::X11Keyboard& keyboard;
     const QWidget& shielded;
 };
 

@@ -5,9 +5,9 @@
 #include <QStandardPaths>
 #include <QSysInfo>
 
+#include "adapters/linux/OwnFile.h"
+#include "adapters/qt/widgets/StatusImage.h"
 #include "platform/RuntimeError.h"
-#include "platform/linux/OwnFile.h"
-#include "platform/qt/StatusImage.h"
 
 namespace orvelle {
 
@@ -21,7 +21,7 @@ std::string AutostartFolder() {
 }
 
 // TeamSpeak's own library where this computer has it, else the stand-in.
-TeamSpeakRemote& RemoteControl(DynamicTeamSpeak& real, TeamSpeakRemote& standIn) {
+TeamSpeakRemote& RemoteControl(linux::DynamicTeamSpeak& real, TeamSpeakRemote& standIn) {
     if (real.IsThere()) return real;
     return standIn;
 }
@@ -33,29 +33,29 @@ std::string SettingsFile() {
     return (folder + "/OrvelleCP/settings.sqlite").toStdString();
 }
 
-void EndByError(ProcessProgram& program, const std::exception& error) {
+void EndByError(linux::ProcessProgram& program, const std::exception& error) {
     if (const auto* runtimeError = dynamic_cast<const RuntimeError*>(&error)) program.Fail(runtimeError->Number);
     program.Fail(std::string("internal error: ") + error.what());
 }
 
-PanelProgram::PanelProgram(ProcessProgram& endingProgram, TerminationSignals& terminationSignals,
+PanelProgram::PanelProgram(linux::ProcessProgram& endingProgram, linux::TerminationSignals& terminationSignals,
                            const std::string& settingsFile)
     : program(endingProgram),
       endings(terminationSignals),
       SetUp(loop, settingsFile, {QSysInfo::machineHostName().toStdString()}),
-      Keyboard("", BesideOwnFile("orvelle-key-guard")),
+      Keyboard("", linux::BesideOwnFile("orvelle-key-guard")),
       Processes(""),
       registry(SetUp.Store, AutostartFolder()),
-      tray(Table, [](const Picture& picture) { return StatusIcon(picture.Name); }),
+      tray(Table, [](const Picture& picture) { return qt::StatusIcon(picture.Name); }),
       Panel({SetUp.Velmarc, SetUp.Store, registry, SetUp.Tessaly, SetUp.VVL, SetUp.VolumeControl, SetUp.VolumeControlHP,
              RemoteControl(teamSpeak, SetUp.TSRemote), SetUp.MediaPlayers, dialog, messages, Keyboard, queue, windows,
              clock, Processes, program, tray, urls}) {
     // The main window's icon tells the state; the other windows have the one with all lamps on.
-    QApplication::setWindowIcon(StatusIcon("VVVVVV"));
+    QApplication::setWindowIcon(qt::StatusIcon("VVVVVV"));
     program.AtEnd([this] { Keyboard.ReleaseAll(); });
     Panel.Attach(timers);
     Panel.Attach(menus);
-    Window = std::make_unique<MainWindow>(Panel);
+    Window = std::make_unique<qt::MainWindow>(Panel);
 
     SetUp.Notice = [this](const std::string& sentence) { messages.MsgBox(sentence); };
     Processes.Told = [this](const std::string& sentence) {

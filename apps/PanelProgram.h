@@ -7,30 +7,30 @@
 #include <string>
 #include <vector>
 
+#include "adapters/embedded/SetUp.h"
+#include "adapters/linux/DesktopAutostart.h"
+#include "adapters/linux/DynamicTeamSpeak.h"
+#include "adapters/linux/LinuxProcesses.h"
+#include "adapters/linux/ProcessProgram.h"
+#include "adapters/linux/TerminationSignals.h"
+#include "adapters/linux/X11Keyboard.h"
+#include "adapters/qt/services/KeyCapture.h"
+#include "adapters/qt/services/QtDialogs.h"
+#include "adapters/qt/services/QtEventLoop.h"
+#include "adapters/qt/services/QtMessageQueue.h"
+#include "adapters/qt/services/QtTimers.h"
+#include "adapters/qt/services/QtTray.h"
+#include "adapters/qt/services/QtWindows.h"
+#include "adapters/qt/windows/MainWindow.h"
+#include "adapters/qt/windows/PopupMenus.h"
+#include "adapters/qt/windows/WarningDialog.h"
+#include "adapters/shared/SystemClock.h"
+#include "adapters/shared/WindowTable.h"
+#include "adapters/urls/StandardUrlFunctions.h"
+#include "adapters/x11/Door.h"
 #include "apps/OwnStrokes.h"
 #include "deck/DeckWindow.h"
 #include "panel/FrmOrvelle.h"
-#include "platform/controls/WindowTable.h"
-#include "platform/embedded/SetUp.h"
-#include "platform/linux/DesktopAutostart.h"
-#include "platform/linux/DynamicTeamSpeak.h"
-#include "platform/linux/LinuxProcesses.h"
-#include "platform/linux/ProcessProgram.h"
-#include "platform/linux/TerminationSignals.h"
-#include "platform/linux/X11Keyboard.h"
-#include "platform/qt/Door.h"
-#include "platform/qt/KeyCapture.h"
-#include "platform/qt/MainWindow.h"
-#include "platform/qt/PopupMenus.h"
-#include "platform/qt/QtClock.h"
-#include "platform/qt/QtDialogs.h"
-#include "platform/qt/QtEventLoop.h"
-#include "platform/qt/QtMessageQueue.h"
-#include "platform/qt/QtTimers.h"
-#include "platform/qt/QtTray.h"
-#include "platform/qt/QtUrlFunctions.h"
-#include "platform/qt/QtWindows.h"
-#include "platform/qt/WarningDialog.h"
 
 namespace orvelle {
 
@@ -38,54 +38,54 @@ namespace orvelle {
 std::string SettingsFile();
 
 // Ends the program for an error that left a handler: one line on standard error.
-[[noreturn]] void EndByError(ProcessProgram& program, const std::exception& error);
+[[noreturn]] void EndByError(linux::ProcessProgram& program, const std::exception& error);
 
 class PanelProgram {
 public:
-    PanelProgram(ProcessProgram& endingProgram, TerminationSignals& terminationSignals,
+    PanelProgram(linux::ProcessProgram& endingProgram, linux::TerminationSignals& terminationSignals,
                  const std::string& settingsFile);
 
     // Loads and shows the panel, then opens the flight deck beside it.
     void Open();
 
 private:
-    ProcessProgram& program;
-    TerminationSignals& endings;
-    QtEventLoop loop;
+    linux::ProcessProgram& program;
+    linux::TerminationSignals& endings;
+    qt::QtEventLoop loop;
 
 public:
     EmbeddedSetUp SetUp;
-    X11Keyboard Keyboard;
-    LinuxProcesses Processes;
+    linux::X11Keyboard Keyboard;
+    linux::LinuxProcesses Processes;
     WindowTable Table;
 
 private:
-    DesktopAutostart registry;
-    DynamicTeamSpeak teamSpeak;
-    KeyCapture keys;
-    QtClock clock;
-    QtFileDialog dialog{[this] { return Window.get(); }};
-    QtMessageBox messages{[this] { return Window.get(); }};
-    QtMessageQueue queue{Table, keys};
-    QtTray tray;
-    QtUrlFunctions urls;
-    QtWindows windows{Table, keys, [this](const Control& control) { return Window->WidgetOf(control); }};
+    linux::DesktopAutostart registry;
+    linux::DynamicTeamSpeak teamSpeak;
+    qt::KeyCapture keys;
+    SystemClock clock;
+    qt::QtFileDialog dialog{[this] { return Window.get(); }};
+    qt::QtMessageBox messages{[this] { return Window.get(); }};
+    qt::QtMessageQueue queue{Table, keys};
+    qt::QtTray tray;
+    urls::StandardUrlFunctions urls;
+    qt::QtWindows windows{Table, keys, [this](const Control& control) { return Window->WidgetOf(control); }};
 
 public:
     FrmOrvelle Panel;
 
 private:
-    QtTimers timers;
-    PopupMenus menus;
+    qt::QtTimers timers;
+    qt::PopupMenus menus;
 
 public:
-    std::unique_ptr<MainWindow> Window;
+    std::unique_ptr<qt::MainWindow> Window;
     std::unique_ptr<DeckWindow> Deck;
 
 private:
     std::unique_ptr<OwnStrokes> ownStrokes;  // kept out of the deck
     std::vector<std::string> untold;         // of programs, until there is a deck
-    WarningDialog warning{Panel.MultiFSWarningDlg};
+    qt::WarningDialog warning{Panel.MultiFSWarningDlg};
     Door door{Table, Panel.Stub1};
 };
 

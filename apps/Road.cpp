@@ -14,7 +14,7 @@
 #include <cstdlib>
 #include <iostream>
 
-#include "platform/ScanCodes.h"
+#include "adapters/shared/ScanCodes.h"
 
 namespace orvelle {
 

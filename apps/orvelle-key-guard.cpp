@@ -5,15 +5,15 @@
 #include <cerrno>
 #include <utility>
 
-#include "platform/linux/HeldKeys.h"
-#include "platform/linux/KeyGuard.h"
-#include "platform/linux/XTestConnection.h"
+#include "adapters/linux/HeldKeys.h"
+#include "adapters/linux/KeyGuard.h"
+#include "adapters/x11/XTestConnection.h"
 
 using namespace orvelle;
 
 int main(int count, char** arguments) {
-    const FileDescriptor pipe(KeyGuard::PipeDescriptor);
-    const HeldKeys held{FileDescriptor(KeyGuard::HeldKeysDescriptor)};
+    const linux::FileDescriptor pipe(linux::KeyGuard::PipeDescriptor);
+    const linux::HeldKeys held{linux::FileDescriptor(linux::KeyGuard::HeldKeysDescriptor)};
     if (count != 2 || held.Descriptor() < 0) return 2;
 
     // The panel never writes; its end of the pipe closes when it is gone.

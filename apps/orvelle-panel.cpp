@@ -2,25 +2,25 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "adapters/looks/Theme.h"
+#include "adapters/qt/services/Application.h"
+#include "adapters/x11/Display.h"
 #include "apps/PanelProgram.h"
 #include "deck/FirstFlight.h"
-#include "platform/qt/Application.h"
-#include "platform/qt/Display.h"
-#include "platform/qt/Theme.h"
 
 int main() {
     using namespace orvelle;
-    TerminationSignals endings;
+    linux::TerminationSignals endings;
     if (const std::string missing = MissingDisplay(); !missing.empty()) {
         std::cerr << "OrvelleCP: " << missing << "\n";
         return EXIT_FAILURE;
     }
-    ProcessProgram program(InstanceLock::OfThisSession());
+    linux::ProcessProgram program(linux::InstanceLock::OfThisSession());
     // The settings belong to the first instance.
     if (program.PrevInstance()) program.End();
 
-    Application application("orvelle-panel", [&](const std::exception& error) { EndByError(program, error); });
-    Application::setDesktopFileName("net.orvelle.OrvelleCP");
+    qt::Application application("orvelle-panel", [&](const std::exception& error) { EndByError(program, error); });
+    qt::Application::setDesktopFileName("net.orvelle.OrvelleCP");
     ApplyTheme(SystemScheme());
     PanelProgram panel(program, endings, SettingsFile());
     return application.Run([&] {

@@ -4,20 +4,20 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "adapters/looks/Theme.h"
+#include "adapters/qt/services/Application.h"
+#include "adapters/x11/Display.h"
 #include "apps/Road.h"
-#include "platform/qt/Application.h"
-#include "platform/qt/Display.h"
-#include "platform/qt/Theme.h"
 
 int main() {
     using namespace orvelle;
-    TerminationSignals endings;
+    linux::TerminationSignals endings;
     if (const std::string missing = MissingDisplay(); !missing.empty()) {
         std::cerr << "OrvelleCP: " << missing << "\n";
         return EXIT_FAILURE;
     }
-    ProcessProgram program(InstanceLock::OfThisSession());
-    Application application("orvelle-road", [&](const std::exception& error) { EndByError(program, error); });
+    linux::ProcessProgram program(linux::InstanceLock::OfThisSession());
+    qt::Application application("orvelle-road", [&](const std::exception& error) { EndByError(program, error); });
     ApplyTheme(SystemScheme());
     QTemporaryDir settings;
     program.AtEnd([&] { settings.remove(); });

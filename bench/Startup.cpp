@@ -19,10 +19,10 @@
 #include <thread>
 #include <vector>
 
+#include "adapters/store/SqliteStore.h"
 #include "bench/MappingRows.h"
 #include "bench/ProcessFigures.h"
 #include "bench/WindowWatch.h"
-#include "platform/embedded/Store.h"
 
 namespace orvelle {
 
@@ -130,8 +130,8 @@ void Print(Figures& figures) {
 void PrepareSettings(int rows) {
     const char* const folder = std::getenv("XDG_DATA_HOME");
     if (folder == nullptr) throw std::runtime_error("XDG_DATA_HOME is not set");
-    SqliteStore store(std::filesystem::path(folder) / "OrvelleCP" / "settings.sqlite",
-                      [](const std::string& sentence) { throw std::runtime_error(sentence); });
+    store::SqliteStore store(std::filesystem::path(folder) / "OrvelleCP" / "settings.sqlite",
+                             [](const std::string& sentence) { throw std::runtime_error(sentence); });
     SaveMappingRows(store, rows);
 }
 

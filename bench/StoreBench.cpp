@@ -6,10 +6,10 @@
 #include <filesystem>
 #include <string>
 
+#include "adapters/store/SqliteStore.h"
 #include "bench/MappingRows.h"
 #include "bench/SilentPeers.h"
 #include "panel/FrmOrvelle.h"
-#include "platform/embedded/Store.h"
 
 namespace orvelle {
 
@@ -26,12 +26,12 @@ public:
     StoreFolder& operator=(const StoreFolder&) = delete;
     ~StoreFolder() { std::filesystem::remove_all(path); }
 
-    SqliteStore Open() const {
+    store::SqliteStore Open() const {
         return {path / "settings.sqlite", [](const std::string&) {}};
     }
     // Rows in both tables.
     void Fill(Long rows) const {
-        SqliteStore store = Open();
+        store::SqliteStore store = Open();
         SaveMappingRows(store, rows);
     }
 
@@ -43,7 +43,7 @@ private:
 void ApplyRow(benchmark::State& state) {
     const StoreFolder folder;
     folder.Fill(static_cast<Long>(state.range(0)));
-    SqliteStore store = folder.Open();
+    store::SqliteStore store = folder.Open();
     SilentPeers peers;
     FrmOrvelle panel(peers.Outside(store, store));
     panel.Show();
@@ -61,7 +61,7 @@ void LoadWithRows(benchmark::State& state) {
     const StoreFolder folder;
     folder.Fill(static_cast<Long>(state.range(0)));
     for (auto iteration : state) {
-        SqliteStore store = folder.Open();
+        store::SqliteStore store = folder.Open();
         SilentPeers peers;
         FrmOrvelle panel(peers.Outside(store, store));
         panel.Show();

@@ -7,12 +7,12 @@
 #include <QTabWidget>
 #include <algorithm>
 
-#include "deck/FaultsPage.h"
-#include "deck/NetworkPage.h"
-#include "deck/Section.h"
-#include "deck/SimulatorPage.h"
-#include "deck/VoicePage.h"
-#include "platform/embedded/SetUp.h"
+#include "adapters/embedded/SetUp.h"
+#include "deck/fields/Section.h"
+#include "deck/pages/FaultsPage.h"
+#include "deck/pages/NetworkPage.h"
+#include "deck/pages/SimulatorPage.h"
+#include "deck/pages/VoicePage.h"
 
 namespace orvelle {
 

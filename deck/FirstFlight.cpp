@@ -1,6 +1,6 @@
 #include "deck/FirstFlight.h"
 
-#include "platform/embedded/SetUp.h"
+#include "adapters/embedded/SetUp.h"
 
 namespace orvelle {
 

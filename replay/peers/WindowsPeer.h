@@ -1,8 +1,8 @@
 // The scripted window system: it keeps the procedures of windows, and every window is empty and stands at the origin.
 #pragma once
 
+#include "adapters/shared/WindowTable.h"
 #include "platform/Windows.h"
-#include "platform/controls/WindowTable.h"
 #include "replay/Peer.h"
 
 namespace orvelle::replay {

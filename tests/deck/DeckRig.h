@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
+#include "adapters/embedded/SetUp.h"
+#include "adapters/qt/services/QtEventLoop.h"
 #include "deck/DeckWindow.h"
-#include "platform/embedded/SetUp.h"
-#include "platform/qt/QtEventLoop.h"
 
 namespace orvelle {
 
@@ -40,7 +40,7 @@ protected:
     QString TextOf(const char* name);
 
     QTemporaryDir folder;
-    QtEventLoop loop;
+    qt::QtEventLoop loop;
     EmbeddedSetUp setUp;
     DeckWindow window;
     std::vector<std::string> events;  // raised since they were read last

@@ -7,8 +7,8 @@
 #include <QScrollBar>
 #include <QTabWidget>
 
-#include "deck/Readout.h"
-#include "platform/qt/Theme.h"
+#include "adapters/looks/Theme.h"
+#include "deck/fields/Readout.h"
 #include "tests/deck/DeckRig.h"
 
 namespace orvelle {

@@ -6,7 +6,7 @@
 #include <QTextDocumentFragment>
 #include <stdexcept>
 
-#include "deck/LateWrites.h"
+#include "deck/fields/LateWrites.h"
 #include "tests/deck/DeckRig.h"
 
 namespace orvelle {

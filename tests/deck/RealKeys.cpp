@@ -89,7 +89,7 @@ TEST_F(DeckOnX, ClosingMinimisesAndEndsWhatIsHeld) {
 
 TEST(DeckBesideAPanel, OpensWithoutTakingTheFocus) {
     const QTemporaryDir folder;
-    QtEventLoop loop;
+    qt::QtEventLoop loop;
     EmbeddedSetUp setUp(loop, folder.filePath("store").toStdString());
     QLineEdit panel;
     panel.show();

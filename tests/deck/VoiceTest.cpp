@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <optional>
 
-#include "deck/SignalLight.h"
+#include "deck/fields/SignalLight.h"
 #include "tests/deck/DeckRig.h"
 
 namespace orvelle {

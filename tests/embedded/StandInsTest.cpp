@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "adapters/embedded/MediaPlayers.h"
+#include "adapters/embedded/TeamSpeak.h"
 #include "platform/RuntimeError.h"
-#include "platform/embedded/MediaPlayers.h"
-#include "platform/embedded/TeamSpeak.h"
-#include "tests/embedded/HandLoop.h"
+#include "tests/shared/HandLoop.h"
 
 namespace orvelle {
 namespace {

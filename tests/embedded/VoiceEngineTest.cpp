@@ -1,10 +1,10 @@
-#include "platform/embedded/VoiceEngine.h"
+#include "adapters/embedded/VoiceEngine.h"
 
 #include <gtest/gtest.h>
 
 #include <vector>
 
-#include "tests/embedded/HandLoop.h"
+#include "tests/shared/HandLoop.h"
 
 namespace orvelle {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "platform/qt/Application.h"
-#include "platform/qt/Theme.h"
+#include "adapters/looks/Theme.h"
+#include "adapters/qt/services/Application.h"
 
 int main(int argumentCount, char** arguments) {
     testing::InitGoogleTest(&argumentCount, arguments);

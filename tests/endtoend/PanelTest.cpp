@@ -12,7 +12,7 @@ PanelTest::PanelTest() {
         "#!/bin/sh\n{ printf '|'; for word; do printf '%s|' \"$word\"; done; echo; } >>\"${0%/*}/commands\"\n");
     script.close();
     script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    SqliteStore& store = house.SetUp.Store;
+    store::SqliteStore& store = house.SetUp.Store;
     store.SaveSettingString("OrvelleCP", "RWPath", '"' + VoiceProgram() + '"');
     store.SaveSettingString("OrvelleCP", "RWPTTKey", std::to_string(TalkKeyCode));
     store.HandlerEnded();

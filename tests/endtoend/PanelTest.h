@@ -35,8 +35,8 @@ protected:
     std::string VoiceCommands() const;
 
     QTemporaryDir folder;
-    TerminationSignals endings;
-    ProcessProgram program{InstanceLock::OfThisSession()};
+    linux::TerminationSignals endings;
+    linux::ProcessProgram program{linux::InstanceLock::OfThisSession()};
     PanelProgram house{program, endings, folder.filePath("settings.sqlite").toStdString()};
     FrmOrvelle& panel = house.Panel;
     User user;

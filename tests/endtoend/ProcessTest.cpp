@@ -5,7 +5,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include "platform/embedded/Store.h"
+#include "adapters/store/SqliteStore.h"
 #include "tests/endtoend/User.h"
 
 namespace orvelle {
@@ -36,7 +36,7 @@ protected:
             return !search.readAllStandardOutput().trimmed().isEmpty();
         });
     }
-    SqliteStore Settings() {
+    store::SqliteStore Settings() {
         QDir(folder.path()).mkpath("OrvelleCP");
         return {folder.filePath("OrvelleCP/settings.sqlite").toStdString(),
                 [](const std::string& sentence) { ADD_FAILURE() << sentence; }};
@@ -83,7 +83,7 @@ TEST_F(ProcessTest, AnotherMessageThroughTheDoorDoesNothing) {
 }
 
 TEST_F(ProcessTest, ADriverSettingOutOfRangeEndsTheProgramWithARunTimeError) {
-    SqliteStore settings = Settings();
+    store::SqliteStore settings = Settings();
     settings.SaveSettingLong("OrvelleCP", "RWDriven", 7);
     settings.HandlerEnded();
     QProcess panel;

@@ -8,7 +8,7 @@
 #include <functional>
 
 #include "apps/KeyWatch.h"
-#include "tests/qtshell/RealInput.h"
+#include "tests/qt/shell/RealInput.h"
 
 namespace orvelle {
 

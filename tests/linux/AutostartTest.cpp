@@ -6,10 +6,10 @@
 #include <iterator>
 #include <map>
 
+#include "adapters/linux/DesktopAutostart.h"
 #include "platform/RegistryPaths.h"
-#include "platform/linux/DesktopAutostart.h"
 
-namespace orvelle {
+namespace orvelle::linux {
 namespace {
 
 // Keeps texts of one root; numbers pass through it.
@@ -95,4 +95,4 @@ TEST_F(DesktopAutostartTest, WhereNoEntryCanBeMadeTheValueIsKeptForTheOthers) {
 }
 
 }  // namespace
-}  // namespace orvelle
+}  // namespace orvelle::linux

@@ -9,7 +9,7 @@
 #include <array>
 #include <csignal>
 
-namespace orvelle {
+namespace orvelle::linux {
 
 namespace {
 
@@ -88,4 +88,4 @@ std::string ChildProcess::Errors() {
     return text;
 }
 
-}  // namespace orvelle
+}  // namespace orvelle::linux

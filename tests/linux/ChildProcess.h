@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/linux/FileDescriptor.h"
+#include "adapters/linux/FileDescriptor.h"
 
-namespace orvelle {
+namespace orvelle::linux {
 
 class ChildProcess {
 public:
@@ -39,4 +39,4 @@ private:
     FileDescriptor errors;
 };
 
-}  // namespace orvelle
+}  // namespace orvelle::linux

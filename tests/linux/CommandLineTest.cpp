@@ -1,8 +1,8 @@
-#include "platform/linux/CommandLine.h"
+#include "adapters/linux/CommandLine.h"
 
 #include <gtest/gtest.h>
 
-namespace orvelle {
+namespace orvelle::linux {
 namespace {
 
 std::vector<std::string> Words(std::string_view line) {
@@ -48,4 +48,4 @@ TEST(CommandLine, AWordKnowsWhereItEndsAndWhetherItWasQuoted) {
 }
 
 }  // namespace
-}  // namespace orvelle
+}  // namespace orvelle::linux

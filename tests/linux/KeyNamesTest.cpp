@@ -2,13 +2,13 @@
 
 #include <set>
 
-#include "platform/ScanCodes.h"
-#include "platform/linux/KeyTable.h"
-#include "platform/linux/X11Keyboard.h"
+#include "adapters/linux/KeyTable.h"
+#include "adapters/linux/X11Keyboard.h"
+#include "adapters/shared/ScanCodes.h"
 #include "tests/linux/XClient.h"
 #include "tests/linux/XServer.h"
 
-namespace orvelle {
+namespace orvelle::linux {
 namespace {
 
 constexpr const char* NoDisplay = ":65000";
@@ -153,4 +153,4 @@ TEST(VirtualKeys, OfWhatIsNoCodeAreZero) {
 }
 
 }  // namespace
-}  // namespace orvelle
+}  // namespace orvelle::linux

@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
 
-#include "platform/ScanCodes.h"
-#include "platform/linux/X11Keyboard.h"
+#include "adapters/linux/X11Keyboard.h"
+#include "adapters/shared/ScanCodes.h"
 #include "tests/linux/WaitUntil.h"
 #include "tests/linux/XClient.h"
 #include "tests/linux/XServer.h"
 
-namespace orvelle {
+namespace orvelle::linux {
 namespace {
 
 using Strokes = std::vector<SeenStroke>;
@@ -135,4 +135,4 @@ TEST(KeyboardProblem, OfAMissingGuardIsToldAndKeysWorkAllTheSame) {
 }
 
 }  // namespace
-}  // namespace orvelle
+}  // namespace orvelle::linux

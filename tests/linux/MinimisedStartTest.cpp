@@ -1,4 +1,4 @@
-#include "platform/linux/MinimisedStart.h"
+#include "adapters/linux/MinimisedStart.h"
 
 #include <gtest/gtest.h>
 #include <poll.h>
@@ -7,13 +7,13 @@
 #include <functional>
 #include <optional>
 
-#include "platform/linux/LinuxProcesses.h"
+#include "adapters/linux/LinuxProcesses.h"
 #include "tests/linux/ChildProcess.h"
 #include "tests/linux/WaitUntil.h"
 #include "tests/linux/XClient.h"
 #include "tests/linux/XServer.h"
 
-namespace orvelle {
+namespace orvelle::linux {
 namespace {
 
 using State = TopLevelWindows::State;
@@ -173,4 +173,4 @@ TEST_F(MinimisedStartWithoutAManager, EndsWithTheServer) {
 }
 
 }  // namespace
-}  // namespace orvelle
+}  // namespace orvelle::linux

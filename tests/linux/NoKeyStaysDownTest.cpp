@@ -13,7 +13,7 @@
 #include "tests/linux/XClient.h"
 #include "tests/linux/XServer.h"
 
-namespace orvelle {
+namespace orvelle::linux {
 namespace {
 
 std::vector<pid_t> ChildrenOf(pid_t process) {
@@ -218,4 +218,4 @@ TEST_F(NoKeyStaysDown, AfterAKillAtAnyMoment) {
 }
 
 }  // namespace
-}  // namespace orvelle
+}  // namespace orvelle::linux

@@ -15,12 +15,13 @@
 #include <iostream>
 #include <sstream>
 
+#include "adapters/linux/ProcessProgram.h"
+#include "adapters/linux/TerminationSignals.h"
+#include "adapters/linux/X11Keyboard.h"
 #include "platform/RuntimeError.h"
-#include "platform/linux/ProcessProgram.h"
-#include "platform/linux/TerminationSignals.h"
-#include "platform/linux/X11Keyboard.h"
 
 using namespace orvelle;
+using namespace orvelle::linux;
 
 namespace {
 

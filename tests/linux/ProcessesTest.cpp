@@ -8,11 +8,11 @@
 #include <filesystem>
 #include <fstream>
 
-#include "platform/linux/FileDescriptor.h"
-#include "platform/linux/LinuxProcesses.h"
+#include "adapters/linux/FileDescriptor.h"
+#include "adapters/linux/LinuxProcesses.h"
 #include "tests/linux/WaitUntil.h"
 
-namespace orvelle {
+namespace orvelle::linux {
 namespace {
 
 using Texts = std::vector<std::string>;
@@ -235,4 +235,4 @@ TEST_F(Processes, KeepAndChangeTheWorkingDirectory) {
 }
 
 }  // namespace
-}  // namespace orvelle
+}  // namespace orvelle::linux

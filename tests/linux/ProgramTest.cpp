@@ -7,12 +7,12 @@
 #include <cstring>
 #include <filesystem>
 
+#include "adapters/linux/ProcessProgram.h"
+#include "adapters/linux/TerminationSignals.h"
 #include "platform/RuntimeError.h"
-#include "platform/linux/ProcessProgram.h"
-#include "platform/linux/TerminationSignals.h"
 #include "tests/linux/ChildProcess.h"
 
-namespace orvelle {
+namespace orvelle::linux {
 namespace {
 
 class SingleInstance : public testing::Test {
@@ -150,4 +150,4 @@ TEST(TerminationSignalsDeathTest, AreTakenOnceAndAnIgnoredOneStaysIgnored) {
 }
 
 }  // namespace
-}  // namespace orvelle
+}  // namespace orvelle::linux

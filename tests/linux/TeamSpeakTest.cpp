@@ -7,10 +7,10 @@
 #include <string>
 #include <vector>
 
-#include "platform/linux/DynamicTeamSpeak.h"
-#include "platform/linux/OwnFile.h"
+#include "adapters/linux/DynamicTeamSpeak.h"
+#include "adapters/linux/OwnFile.h"
 
-namespace orvelle {
+namespace orvelle::linux {
 namespace {
 
 const std::string Library = std::string(LIBRARIES) + "/libTSRemote.so";
@@ -126,4 +126,4 @@ TEST_F(TeamSpeak, TheLibraryBesideTheProgramGoesBeforeTheLibraryPath) {
 }
 
 }  // namespace
-}  // namespace orvelle
+}  // namespace orvelle::linux

@@ -4,7 +4,7 @@
 #include <chrono>
 #include <thread>
 
-namespace orvelle {
+namespace orvelle::linux {
 
 template <typename Condition>
 bool WaitUntil(Condition condition) {
@@ -16,4 +16,4 @@ bool WaitUntil(Condition condition) {
     return true;
 }
 
-}  // namespace orvelle
+}  // namespace orvelle::linux

@@ -5,10 +5,10 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "platform/linux/XkbRequests.h"
+#include "adapters/x11/XkbRequests.h"
 #include "tests/linux/WaitUntil.h"
 
-namespace orvelle {
+namespace orvelle::linux {
 
 XClient::XClient(const std::string& display) : connection(xcb_connect(display.c_str(), nullptr)) {
     xcb_connection_t* const server = connection.get();
@@ -72,4 +72,4 @@ bool XClient::HasWindowManager() {
     return has;
 }
 
-}  // namespace orvelle
+}  // namespace orvelle::linux

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace orvelle {
+namespace orvelle::linux {
 
 struct SeenStroke {
     int KeyCode;
@@ -37,4 +37,4 @@ private:
     std::vector<SeenStroke> seen;
 };
 
-}  // namespace orvelle
+}  // namespace orvelle::linux

@@ -2,7 +2,7 @@
 
 #include <csignal>
 
-namespace orvelle {
+namespace orvelle::linux {
 
 namespace {
 
@@ -28,4 +28,4 @@ void XServer::SetLayout(const std::string& layouts) {
     ChildProcess({"setxkbmap", "-display", display, "-layout", layouts}).Wait();
 }
 
-}  // namespace orvelle
+}  // namespace orvelle::linux

@@ -6,7 +6,7 @@
 
 #include "tests/linux/ChildProcess.h"
 
-namespace orvelle {
+namespace orvelle::linux {
 
 class XServer {
 public:
@@ -23,4 +23,4 @@ private:
     std::string display;
 };
 
-}  // namespace orvelle
+}  // namespace orvelle::linux

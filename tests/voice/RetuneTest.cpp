@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "adapters/linux/DynamicTeamSpeak.h"
 #include "panel/FrmOrvelle.h"
-#include "platform/linux/DynamicTeamSpeak.h"
 #include "replay/World.h"
 #include "tests/voice/PlayedTSRemote.h"
 
@@ -68,7 +68,7 @@ protected:
     }
 
     PlayedTeamSpeak& played = Played();
-    DynamicTeamSpeak teamSpeak{{PLAYED_LIBRARY}};
+    linux::DynamicTeamSpeak teamSpeak{{PLAYED_LIBRARY}};
     std::ostringstream output;
     replay::World world{output};
     FrmOrvelle panel{Outside()};

@@ -1,0 +1,41 @@
+// The two ends of this process: whether it may begin, and every way in which it ends by its own will. Each of the ends
+// runs the clean-ups that the adapters registered, the last one first, and then ends the process at once. What is left
+// are ends that nobody can attend, for which the key guard is there.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "adapters/linux/InstanceLock.h"
+#include "platform/Processes.h"
+
+namespace orvelle::linux {
+
+class ProcessProgram : public Program {
+public:
+    static constexpr int ExitOfRunTimeError = 70;
+
+    explicit ProcessProgram(InstanceLock lock) : lock(std::move(lock)) {}
+
+    bool PrevInstance() override { return !lock.Take(); }
+    // Exit status 0.
+    [[noreturn]] void End() override;
+    // For a run-time error that nobody caught, by its number, or another error by its reason: one line on standard
+    // error and exit status 70.
+    [[noreturn]] void Fail(int errorNumber);
+    [[noreturn]] void Fail(const std::string& reason);
+    // For a signal that asks for the end; the process ends by this signal, so that whoever waits for it can tell.
+    [[noreturn]] void EndBySignal(int signal);
+
+    // A clean-up must not throw; one that does is given up and the next one runs.
+    void AtEnd(std::function<void()> cleanUp) { cleanUps.push_back(std::move(cleanUp)); }
+
+private:
+    void CleanUp();
+
+    InstanceLock lock;
+    std::vector<std::function<void()>> cleanUps;
+};
+
+}  // namespace orvelle::linux

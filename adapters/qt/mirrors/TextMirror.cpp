@@ -1,0 +1,34 @@
+#include "adapters/qt/mirrors/TextMirror.h"
+
+#include <limits>
+
+#include "adapters/looks/Text.h"
+#include "adapters/looks/Theme.h"
+
+namespace orvelle::qt {
+
+TextMirror::TextMirror(TextBox& textBox, QLineEdit& lineEdit)
+    : Mirror(textBox, lineEdit), control(textBox), widget(lineEdit) {
+    widget.setTextMargins(Unit / 2, 0, Unit / 2, 0);
+    widget.setMaxLength(std::numeric_limits<int>::max());
+    if (control.Locked()) {
+        widget.setReadOnly(true);
+        QPalette display = widget.palette();
+        display.setColor(QPalette::Base, display.color(QPalette::Window));
+        widget.setPalette(display);
+    }
+    connect(&widget, &QLineEdit::textEdited, this, [this](const QString& typed) {
+        control.UserType(FromQt(typed));
+        ShowOwn(ControlProperty::Text);
+    });
+}
+
+void TextMirror::ShowOwn(ControlProperty property) {
+    if (property != ControlProperty::Text) return;
+    const QString text = ToQt(control.Text);
+    if (widget.text() == text) return;
+    widget.setText(text);
+    if (control.Locked()) widget.setCursorPosition(0);
+}
+
+}  // namespace orvelle::qt

@@ -1,0 +1,48 @@
+#include "adapters/qt/services/QtDialogs.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+#include "adapters/looks/Text.h"
+
+namespace orvelle::qt {
+
+namespace {
+
+constexpr Long FileMustExist = 4096;
+
+// A dialog over a hidden window would be hidden with it.
+QWidget* Shown(const DialogParent& parentOf) {
+    QWidget* parent = parentOf();
+    return parent != nullptr && parent->isVisible() ? parent : nullptr;
+}
+
+// The file that a text names: a path, or the quoted one of a command line.
+QFileInfo FileOf(const std::string& name) {
+    const QString text = ToQt(name).trimmed();
+    return QFileInfo(text.startsWith('"') ? text.section('"', 1, 1) : text);
+}
+
+}  // namespace
+
+void QtFileDialog::ShowOpen() {
+    QFileDialog dialog(Shown(parentOf), ToQt(title));
+    dialog.setFileMode((flags & FileMustExist) != 0 ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    const QFileInfo present = FileOf(fileName);
+    if (present.isAbsolute() && present.absoluteDir().exists()) {
+        dialog.setDirectory(present.absolutePath());
+        dialog.selectFile(present.fileName());
+    }
+    if (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty())
+        fileName = FromQt(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
+}
+
+void QtMessageBox::MsgBox(const std::string& text) {
+    QMessageBox box(QMessageBox::NoIcon, "Orvelle Control Panel", ToQt(text), QMessageBox::Ok, Shown(parentOf));
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+}  // namespace orvelle::qt

@@ -1,0 +1,111 @@
+#include "adapters/qt/services/QtTray.h"
+
+#include <QTimer>
+#include <string>
+
+#include "adapters/looks/Text.h"
+
+namespace orvelle::qt {
+
+namespace {
+
+QString Explanation() {
+    return "This desktop has no notification area, so this icon stands in for it: a click shows or hides the panel.";
+}
+
+}  // namespace
+
+void QtTray::Shell_NotifyIconA(Long command, const NotifyIconData& data) {
+    if (command == NotifyIconDelete) {
+        Remove();
+        return;
+    }
+    const NotifyIconData before = held;
+    Take(data);
+    if (command == NotifyIconModify) {
+        // Most changes of the status leave the icon as it is.
+        if (held.Icon != before.Icon || held.Tip != before.Tip) Dress();
+        return;
+    }
+    isAdded = true;
+    QTimer::singleShot(0, &context, [this] {
+        if (host == nullptr) host = std::make_unique<TrayHost>([this] { Place(); });
+        Place();
+    });
+}
+
+void QtTray::Take(const NotifyIconData& data) {
+    held.Window = data.Window;
+    held.Id = data.Id;
+    if ((data.Flags & NotifyIconMessage) != 0) held.CallbackMessage = data.CallbackMessage;
+    if ((data.Flags & NotifyIconPicture) != 0) held.Icon = data.Icon;
+    if ((data.Flags & NotifyIconTip) != 0) held.Tip = data.Tip.substr(0, data.Tip.find('\0'));
+}
+
+void QtTray::Remove() {
+    isAdded = false;
+    trayIcon.reset();
+    standIn.reset();
+}
+
+void QtTray::Place() {
+    if (!isAdded) return;
+    if (host->IsThere()) {
+        if (standIn != nullptr) standIn->hide();
+        trayIcon = std::make_unique<QSystemTrayIcon>();
+        QObject::connect(trayIcon.get(), &QSystemTrayIcon::activated, &context,
+                         [this](QSystemTrayIcon::ActivationReason reason) { Activated(reason); });
+        Dress();
+        trayIcon->show();
+    } else {
+        trayIcon.reset();
+        if (standIn == nullptr)
+            standIn = std::make_unique<StandInIcon>([this](StandInIcon::Mouse mouse) { Clicked(mouse); });
+        Dress();
+        standIn->Appear(ToQt(held.Tip), Explanation());
+    }
+}
+
+void QtTray::Dress() {
+    if (trayIcon != nullptr) {
+        trayIcon->setIcon(iconOf(held.Icon));
+        trayIcon->setToolTip(ToQt(held.Tip));
+    }
+    if (standIn != nullptr) standIn->SetIcon(iconOf(held.Icon));
+}
+
+void QtTray::Activated(QSystemTrayIcon::ActivationReason reason) {
+    switch (reason) {
+        case QSystemTrayIcon::Trigger:
+            Send(LeftPress);
+            break;
+        case QSystemTrayIcon::Context:
+            Send(RightPress);
+            break;
+        case QSystemTrayIcon::DoubleClick:
+            Send(DoubleClick);
+            break;
+        default:
+            break;
+    }
+}
+
+void QtTray::Clicked(StandInIcon::Mouse mouse) {
+    switch (mouse) {
+        case StandInIcon::Mouse::LeftPress:
+            Send(LeftPress);
+            break;
+        case StandInIcon::Mouse::RightPress:
+            Send(RightPress);
+            break;
+        case StandInIcon::Mouse::DoubleClick:
+            Send(DoubleClick);
+            break;
+    }
+}
+
+void QtTray::Send(MouseMessage message) {
+    if (isAdded && held.Window != nullptr) table.Deliver(*held.Window, held.CallbackMessage, held.Id, message);
+}
+
+}  // namespace orvelle::qt

@@ -1,0 +1,50 @@
+// The notification area: one icon with a tip in the desktop's tray, or in a small window of its own while the desktop
+// has no tray. Presses on it come as messages to the window that the record names: wParam the icon's id, lParam 513 for
+// a left press, 516 for a right one, 515 for a double click. The icon appears from the loop, after the windows that the
+// program showed.
+#pragma once
+
+#include <QIcon>
+#include <QObject>
+#include <QSystemTrayIcon>
+#include <functional>
+#include <memory>
+
+#include "adapters/qt/services/StandInIcon.h"
+#include "adapters/shared/WindowTable.h"
+#include "adapters/x11/TrayHost.h"
+#include "platform/NotificationArea.h"
+
+namespace orvelle::qt {
+
+class QtTray : public NotificationArea {
+public:
+    using IconSource = std::function<QIcon(const Picture&)>;
+
+    QtTray(const WindowTable& windowTable, IconSource iconSource) : table(windowTable), iconOf(std::move(iconSource)) {}
+
+    void Shell_NotifyIconA(Long command, const NotifyIconData& data) override;
+
+private:
+    enum MouseMessage : Long { LeftPress = 513, DoubleClick = 515, RightPress = 516 };
+
+    void Take(const NotifyIconData& data);
+    void Remove();
+    // Into the tray or the stand-in, whichever the desktop needs now.
+    void Place();
+    void Dress();
+    void Activated(QSystemTrayIcon::ActivationReason reason);
+    void Clicked(StandInIcon::Mouse mouse);
+    void Send(MouseMessage message);
+
+    const WindowTable& table;
+    const IconSource iconOf;
+    QObject context;
+    bool isAdded = false;
+    NotifyIconData held;
+    std::unique_ptr<TrayHost> host;
+    std::unique_ptr<QSystemTrayIcon> trayIcon;
+    std::unique_ptr<StandInIcon> standIn;
+};
+
+}  // namespace orvelle::qt

@@ -1,0 +1,23 @@
+#include "adapters/qt/widgets/Heading.h"
+
+#include <QPainter>
+
+#include "adapters/looks/Theme.h"
+
+namespace orvelle::qt {
+
+Heading::Heading(QWidget* parent) : QLabel(parent) {
+    QFont large = font();
+    large.setPointSizeF(large.pointSizeF() * 1.3);
+    large.setWeight(QFont::DemiBold);
+    setFont(large);
+    setContentsMargins(0, 0, 0, Unit);
+}
+
+void Heading::paintEvent(QPaintEvent* event) {
+    QLabel::paintEvent(event);
+    QPainter painter(this);
+    painter.fillRect(0, height() - 1, width(), 1, palette().color(QPalette::Mid));
+}
+
+}  // namespace orvelle::qt

@@ -1,0 +1,18 @@
+// The title of a page: larger than its texts, with a fine line under it.
+#pragma once
+
+#include <QLabel>
+
+namespace orvelle::qt {
+
+class Heading : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit Heading(QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace orvelle::qt

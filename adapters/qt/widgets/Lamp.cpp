@@ -1,0 +1,90 @@
+#include "adapters/qt/widgets/Lamp.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+
+namespace orvelle::qt {
+
+namespace {
+
+QFont KeyFont(QFont font) {
+    font.setBold(true);
+    return font;
+}
+
+}  // namespace
+
+void Lamp::SetLetters(const QString& text) {
+    letters = text;
+    updateGeometry();
+}
+
+void Lamp::SetOutgoing(bool outgoing) {
+    isOutgoing = outgoing;
+    update();
+}
+
+void Lamp::SetLit(bool lit) {
+    isLit = lit;
+    Describe();
+    update();
+}
+
+void Lamp::SetFill(Long fillColor) {
+    sign = SignOfFill(fillColor);
+    Describe();
+    update();
+}
+
+void Lamp::Describe() {
+    setAccessibleDescription(!isLit               ? tr("off")
+                             : !letters.isEmpty() ? tr("on")
+                             : sign == Sign::Good ? tr("works")
+                                                  : tr("does not work"));
+}
+
+QSize Lamp::sizeHint() const {
+    const QFontMetrics metrics(KeyFont(font()));
+    const int side = metrics.height() + Unit / 2;
+    if (letters.isEmpty()) return {side, side};
+    return {metrics.horizontalAdvance(letters) + metrics.ascent() + 2 * Unit, side + Unit / 2};
+}
+
+void Lamp::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (!letters.isEmpty()) {
+        DrawKey(painter);
+    } else if (isLit) {
+        const qreal side = std::min(width(), height()) - Unit / 2.0;
+        const QRectF area((width() - side) / 2, (height() - side) / 2, side, side);
+        DrawSign(painter, area, sign, SignColour(isEnabled() ? sign : Sign::Off, SchemeOf(palette())));
+    }
+}
+
+void Lamp::DrawKey(QPainter& painter) const {
+    const Scheme scheme = SchemeOf(palette());
+    const QColor outline = SignColour(isLit ? sign : Sign::Off, scheme);
+    const QColor text = isLit ? palette().color(scheme == Scheme::Dark ? QPalette::Base : QPalette::HighlightedText)
+                              : palette().color(QPalette::PlaceholderText);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(outline, 1));
+    painter.setBrush(isLit ? QBrush(outline) : QBrush(Qt::NoBrush));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Unit / 2.0, Unit / 2.0);
+
+    // A radio receives downwards and sends upwards.
+    const qreal side = QFontMetrics(KeyFont(font())).ascent() * 0.62;
+    const qreal top = (height() - side * 0.9) / 2;
+    QPainterPath arrow(QPointF(Unit, isOutgoing ? top + side * 0.9 : top));
+    arrow.lineTo(Unit + side, isOutgoing ? top + side * 0.9 : top);
+    arrow.lineTo(Unit + side / 2, isOutgoing ? top : top + side * 0.9);
+    arrow.closeSubpath();
+    painter.setPen(QPen(text, 1));
+    painter.setBrush(isLit ? QBrush(text) : QBrush(Qt::NoBrush));
+    painter.drawPath(arrow);
+
+    painter.setFont(KeyFont(font()));
+    painter.drawText(rect().adjusted(Unit + qRound(side), 0, 0, 0), Qt::AlignCenter, letters);
+}
+
+}  // namespace orvelle::qt

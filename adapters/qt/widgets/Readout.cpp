@@ -1,0 +1,23 @@
+#include "adapters/qt/widgets/Readout.h"
+
+#include <QEvent>
+#include <QSlider>
+
+namespace orvelle::qt {
+
+void Readout::Follow() {
+    auto* slider = qobject_cast<QSlider*>(buddy());
+    if (slider == nullptr) return;
+    connect(slider, &QSlider::valueChanged, this, qOverload<int>(&QLabel::setNum));
+    setNum(slider->value());
+    slider->installEventFilter(this);
+}
+
+bool Readout::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ShowToParent) show();
+    if (event->type() == QEvent::HideToParent) hide();
+    if (event->type() == QEvent::EnabledChange) setEnabled(buddy()->isEnabled());
+    return QLabel::eventFilter(watched, event);
+}
+
+}  // namespace orvelle::qt

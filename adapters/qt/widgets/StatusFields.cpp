@@ -1,0 +1,44 @@
+#include "adapters/qt/widgets/StatusFields.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+
+#include "adapters/looks/Theme.h"
+
+namespace orvelle::qt {
+
+namespace {
+
+// The first field keeps its width over the texts that it gets by turns.
+constexpr int FirstFieldCharacters = 22;
+
+}  // namespace
+
+StatusFields::StatusFields(QWidget* parent) : QFrame(parent) {
+    setFrameShape(QFrame::StyledPanel);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(Unit, Unit / 2, Unit, Unit / 2);
+    row->setSpacing(Unit);
+    for (QLabel*& label : labels) {
+        label = new QLabel(this);
+        label->setTextFormat(Qt::PlainText);
+    }
+    labels[0]->setMinimumWidth(fontMetrics().averageCharWidth() * FirstFieldCharacters);
+    labels[1]->setWordWrap(true);
+    divider = new QFrame(this);
+    divider->setFrameShape(QFrame::VLine);
+    divider->setFrameShadow(QFrame::Sunken);
+    row->addWidget(labels[0]);
+    row->addWidget(divider);
+    row->addWidget(labels[1], 1);
+}
+
+QString StatusFields::Text(int field) const { return labels[field]->text(); }
+
+void StatusFields::SetField(int field, const QString& text, const QString& toolTip) {
+    labels[field]->setText(text);
+    labels[field]->setToolTip(toolTip);
+    divider->setVisible(!labels[1]->text().isEmpty());
+}
+
+}  // namespace orvelle::qt

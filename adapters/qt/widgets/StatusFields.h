@@ -1,0 +1,27 @@
+// The two text fields of a status bar, side by side: the first as wide as its texts, the second with the rest.
+#pragma once
+
+#include <QFrame>
+
+class QLabel;
+
+namespace orvelle::qt {
+
+class StatusFields : public QFrame {
+    Q_OBJECT
+
+public:
+    static constexpr int Fields = 2;
+
+    explicit StatusFields(QWidget* parent = nullptr);
+
+    QString Text(int field) const;
+    // `field` from 0.
+    void SetField(int field, const QString& text, const QString& toolTip);
+
+private:
+    QLabel* labels[Fields];
+    QFrame* divider;
+};
+
+}  // namespace orvelle::qt

@@ -1,0 +1,35 @@
+#include "adapters/qt/widgets/StatusPicture.h"
+
+#include <QPainter>
+#include <algorithm>
+
+#include "adapters/qt/widgets/StatusImage.h"
+
+namespace orvelle::qt {
+
+namespace {
+
+// As high as the status lines beside it with their longest texts.
+constexpr int Lines = 14;
+
+}  // namespace
+
+void StatusPicture::SetKey(const QString& pictureKey) {
+    key = pictureKey;
+    emit KeyChanged(key);
+    update();
+}
+
+QSize StatusPicture::sizeHint() const {
+    const int side = Lines * fontMetrics().height();
+    return {side, side};
+}
+
+void StatusPicture::paintEvent(QPaintEvent*) {
+    if (key.isEmpty()) return;
+    QPainter painter(this);
+    const int side = std::min(width(), height());
+    DrawStatusImage(painter, QRectF((width() - side) / 2.0, 0, side, side), key.toStdString(), 1 / devicePixelRatioF());
+}
+
+}  // namespace orvelle::qt

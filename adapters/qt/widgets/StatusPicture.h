@@ -1,0 +1,31 @@
+// The status picture at large: draws the picture of a key at whatever size it has. The status lines listen to its key.
+#pragma once
+
+#include <QWidget>
+
+namespace orvelle::qt {
+
+class StatusPicture : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit StatusPicture(QWidget* parent = nullptr) : QWidget(parent) {}
+
+    QString Key() const { return key; }
+    // An empty key shows nothing.
+    void SetKey(const QString& pictureKey);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+signals:
+    void KeyChanged(const QString& pictureKey);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString key;
+};
+
+}  // namespace orvelle::qt

@@ -1,0 +1,91 @@
+#include "adapters/qt/windows/MainWindow.h"
+
+#include <algorithm>
+#include <string>
+
+#include "adapters/looks/Theme.h"
+#include "adapters/qt/widgets/StatusImage.h"
+#include "platform/controls/Label.h"
+#include "ui_MainWindow.h"
+
+namespace orvelle::qt {
+
+namespace {
+
+constexpr int Overview = 0;
+// The room that the tree needs: its widest name at its deepest level.
+constexpr char WidestNode[] = "Key Management";
+constexpr int TreeLevels = 3;
+
+// The side is a shade apart from the page, and the chosen node stands out no more than it must.
+QPalette SidePalette(QPalette palette) {
+    const QColor shade = palette.color(QPalette::Button);
+    const QColor highlight = palette.color(QPalette::Highlight);
+    const auto mix = [](int ground, int tint) { return (3 * ground + tint) / 4; };
+    const QColor chosen(mix(shade.red(), highlight.red()), mix(shade.green(), highlight.green()),
+                        mix(shade.blue(), highlight.blue()));
+    palette.setColor(QPalette::Base, shade);
+    palette.setColor(QPalette::Window, shade);
+    palette.setColor(QPalette::Highlight, chosen);
+    palette.setColor(QPalette::HighlightedText, palette.color(QPalette::WindowText));
+    return palette;
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Form& panelForm) : FormWindow(panelForm) {
+    Ui::MainWindow window;
+    window.setupUi(this);
+    pages = window.pages;
+    pages->setMinimumSize(PageSize(*this));
+    window.twCategory->setFixedWidth(fontMetrics().horizontalAdvance(QLatin1String(WidestNode)) +
+                                     TreeLevels * window.twCategory->indentation() + 2 * Unit);
+    window.twCategory->setPalette(SidePalette(palette()));
+    window.side->setPalette(window.twCategory->palette());
+    binder.Bind(*this);
+    for (int panel = 0; panel < PageCount; ++panel)
+        frames[static_cast<std::size_t>(panel)] = form.Find("Panels(" + std::to_string(panel) + ")");
+    pages->setCurrentWidget(&Page(Overview));
+    TellSize();
+}
+
+void MainWindow::TellSize() {
+    auto* overview = dynamic_cast<Frame*>(frames[Overview]);
+    if (overview == nullptr) return;
+    const QSize needed = layout()->totalSizeHint();
+    const int left = needed.width() - std::max(pages->sizeHint().width(), pages->minimumWidth());
+    overview->Left = left * TwipsPerPixel;
+    overview->Top = 0;
+    overview->Width = (needed.width() - left) * TwipsPerPixel;
+    overview->Height = needed.height() * TwipsPerPixel;
+}
+
+int MainWindow::PanelOf(const Control& frame) const {
+    return static_cast<int>(std::find(frames.begin(), frames.end(), &frame) - frames.begin());
+}
+
+QWidget& MainWindow::Page(int panel) {
+    QWidget*& page = made.at(static_cast<std::size_t>(panel));
+    if (page == nullptr) {
+        page = MakePage(panel, pages);
+        pages->addWidget(page);
+        binder.Bind(*page);
+    }
+    return *page;
+}
+
+QWidget* MainWindow::WidgetOf(const Control& control) {
+    const Control* frame = control.Container == nullptr ? &control : control.Container;
+    if (const int panel = PanelOf(*frame); panel < PageCount) Page(panel);
+    return FormWindow::WidgetOf(control);
+}
+
+void MainWindow::ControlChanged(Control& control, ControlProperty property) {
+    FormWindow::ControlChanged(control, property);
+    if (property == ControlProperty::Visible && control.Visible)
+        if (const int panel = PanelOf(control); panel < PageCount) pages->setCurrentWidget(&Page(panel));
+    if (property == ControlProperty::Picture)
+        if (const auto* image = dynamic_cast<const Image*>(&control)) setWindowIcon(StatusIcon(image->Picture().Name));
+}
+
+}  // namespace orvelle::qt

@@ -1,0 +1,37 @@
+// The panel's window: the tree of categories on the left, beside it the page whose frame is visible. A page is made
+// when it is first seen. Built before the form loads: it gives the frame Panels(0) the place and size (twips) by which
+// the load then sizes the window, so that every page has room.
+#pragma once
+
+#include <array>
+#include <memory>
+
+#include "adapters/qt/windows/FormWindow.h"
+#include "adapters/qt/windows/Pages.h"
+
+class QStackedWidget;
+
+namespace orvelle::qt {
+
+class MainWindow : public FormWindow {
+public:
+    explicit MainWindow(Form& panelForm);
+
+    // Makes the page that the control sits on where it is not there yet.
+    QWidget* WidgetOf(const Control& control) override;
+    // The page of that panel, 0 to 12, made now if need be.
+    QWidget& Page(int panel);
+    const Binder& Bindings() const { return binder; }
+
+    void ControlChanged(Control& control, ControlProperty property) override;
+
+private:
+    int PanelOf(const Control& frame) const;
+    void TellSize();
+
+    QStackedWidget* pages = nullptr;
+    std::array<Control*, PageCount> frames{};
+    std::array<QWidget*, PageCount> made{};
+};
+
+}  // namespace orvelle::qt

@@ -1,0 +1,18 @@
+// The pages of the main window, one for each panel, made from its form. All share one grid, whose columns follow the
+// font: labels, fields, and two columns of buttons.
+#pragma once
+
+#include <QSize>
+
+class QWidget;
+
+namespace orvelle::qt {
+
+constexpr int PageCount = 13;
+
+// `panel` is 0 to 12. The page is named as its frame; its widgets show nothing yet.
+QWidget* MakePage(int panel, QWidget* parent);
+// What every page has room in, whichever is there already.
+QSize PageSize(const QWidget& window);
+
+}  // namespace orvelle::qt

@@ -1,0 +1,43 @@
+#include "deck/fields/JoystickRow.h"
+
+#include <QHBoxLayout>
+#include <QToolButton>
+
+#include "adapters/embedded/Velmarc.h"
+#include "deck/fields/Section.h"
+
+namespace orvelle::deck {
+
+namespace {
+
+constexpr int Buttons = 8;
+
+QToolButton* NewJoystickButton(EmbeddedVelmarc& velmarc, const std::string& device, int number) {
+    const std::string text = std::to_string(number);
+    const std::string button = "Button " + text;
+    auto* widget = new QToolButton;
+    widget->setObjectName(QString::fromStdString(device + text));
+    widget->setText(QString::fromStdString(text));
+    widget->setToolTip(QString::fromStdString("Hold \"" + device + "." + button + "\" down"));
+    widget->setAccessibleName(QString::fromStdString(device + " " + button));
+    // A mouse press doesn't take the focus, so that keys stay held meanwhile.
+    widget->setFocusPolicy(Qt::TabFocus);
+    widget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    QObject::connect(widget, &QToolButton::pressed, widget,
+                     [&velmarc, device, button] { velmarc.PressButton(device, button); });
+    QObject::connect(widget, &QToolButton::released, widget,
+                     [&velmarc, device, button] { velmarc.ReleaseButton(device, button); });
+    return widget;
+}
+
+}  // namespace
+
+JoystickRow::JoystickRow(EmbeddedVelmarc& velmarc, const std::string& device) {
+    setObjectName(QString::fromStdString(device));
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(DeckUnit / 2);
+    for (int number = 1; number <= Buttons; ++number) row->addWidget(NewJoystickButton(velmarc, device, number));
+}
+
+}  // namespace orvelle::deck

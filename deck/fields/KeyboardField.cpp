@@ -1,0 +1,127 @@
+#include "deck/fields/KeyboardField.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "adapters/embedded/Velmarc.h"
+#include "adapters/x11/KeyRepeat.h"
+#include "deck/fields/KeyNames.h"
+#include "deck/fields/Section.h"
+
+namespace orvelle::deck {
+
+namespace {
+
+constexpr double SequenceSize = 1.6;  // times the size of other texts
+constexpr int FocusLine = 2;
+
+int PlaceOf(const QKeyEvent& event) {
+    const auto place = static_cast<int>(event.nativeScanCode());
+    return place != 0 ? place : -event.key();
+}
+
+bool LeavesField(const QKeyEvent& event) {
+    const bool plain = !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+    return plain && (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab);
+}
+
+}  // namespace
+
+KeyboardField::KeyboardField(EmbeddedVelmarc& simulator)
+    : velmarc(simulator),
+      sequence(new QLabel),
+      hint(new QLabel),
+      watch(simulator.Changed.Observe([this] { ShowState(); })) {
+    TellRepeatsAsPresses();
+    setObjectName("KeyboardField");
+    setAccessibleName("Keyboard of the simulator's computer");
+    setToolTip("Each key that goes down or up here goes down or up on the simulator's computer. Tab leaves the field.");
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::PointingHandCursor);
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
+
+    QFont large = sequence->font();
+    large.setPointSizeF(large.pointSizeF() * SequenceSize);
+    sequence->setFont(large);
+    sequence->setObjectName("KeysHeld");
+    hint->setObjectName("KeyboardHint");
+    hint->setForegroundRole(QPalette::PlaceholderText);
+    for (QLabel* label : {sequence, hint}) {
+        label->setAlignment(Qt::AlignCenter);
+        label->setTextFormat(Qt::PlainText);
+    }
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(DeckUnit, DeckUnit, DeckUnit, DeckUnit);
+    column->setSpacing(0);
+    column->addWidget(sequence);
+    column->addWidget(hint);
+    ShowState();
+}
+
+bool KeyboardField::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && !LeavesField(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
+    return QFrame::event(event);
+}
+
+void KeyboardField::keyPressEvent(QKeyEvent* event) {
+    const int place = PlaceOf(*event);
+    if (const auto key = std::ranges::find(held, place, &Held::Place); key != held.end())
+        return velmarc.RepeatKey(key->Name);
+    const std::string name = KeyNameOf(*event);
+    if (event->isAutoRepeat() || name.empty()) return;
+    velmarc.PressKey(name);
+    held.push_back({place, name});
+}
+
+void KeyboardField::keyReleaseEvent(QKeyEvent* event) {
+    const auto key = std::ranges::find(held, PlaceOf(*event), &Held::Place);
+    if (event->isAutoRepeat() || key == held.end()) return;
+    velmarc.ReleaseKey(key->Name);
+    held.erase(key);
+}
+
+void KeyboardField::focusInEvent(QFocusEvent* event) {
+    QFrame::focusInEvent(event);
+    ShowState();
+}
+
+void KeyboardField::focusOutEvent(QFocusEvent* event) {
+    QFrame::focusOutEvent(event);
+    ReleaseAll();
+    ShowState();
+}
+
+void KeyboardField::mousePressEvent(QMouseEvent*) { setFocus(Qt::MouseFocusReason); }
+
+void KeyboardField::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const int width = hasFocus() ? FocusLine : 1;
+    painter.setPen(QPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid), width));
+    const qreal inset = width / 2.0;
+    painter.drawRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset));
+}
+
+void KeyboardField::ReleaseAll() {
+    for (const Held& key : held) velmarc.ReleaseKey(key.Name);
+    held.clear();
+}
+
+void KeyboardField::ShowState() {
+    const bool up = velmarc.Link() == LinkState::Up;
+    const std::string keys = velmarc.HeldSequence();
+    sequence->setText(!keys.empty() ? QString::fromStdString(keys) : up && hasFocus() ? "Listening" : "Keys");
+    sequence->setForegroundRole(keys.empty() ? QPalette::PlaceholderText : QPalette::Text);
+    hint->setText(!up          ? "The link is down: keys go nowhere"
+                  : hasFocus() ? "Every key but Tab goes down and up over there"
+                               : "Click here, then press keys");
+    update();
+}
+
+}  // namespace orvelle::deck

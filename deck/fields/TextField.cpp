@@ -1,0 +1,41 @@
+#include "deck/fields/TextField.h"
+
+#include <QKeyEvent>
+#include <utility>
+
+namespace orvelle::deck {
+
+namespace {
+
+constexpr int LeastLetters = 12;
+
+}  // namespace
+
+TextField::TextField(std::function<void(const std::string&)> apply) {
+    setMinimumWidth(fontMetrics().averageCharWidth() * LeastLetters);
+    connect(this, &QLineEdit::editingFinished, this, [this, apply = std::move(apply)] {
+        if (!isModified()) return;
+        setModified(false);
+        holding = text();
+        apply(holding.toStdString());
+    });
+}
+
+void TextField::Show(const std::string& text) {
+    holding = QString::fromStdString(text);
+    if (!isModified() && this->text() != holding) ShowHolding();
+}
+
+void TextField::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && isModified())
+        ShowHolding();
+    else
+        QLineEdit::keyPressEvent(event);
+}
+
+void TextField::ShowHolding() {
+    setText(holding);
+    setCursorPosition(0);
+}
+
+}  // namespace orvelle::deck

@@ -1,0 +1,52 @@
+#include "deck/pages/DevicesBox.h"
+
+#include <QCheckBox>
+
+#include "adapters/embedded/VoiceEngine.h"
+#include "deck/fields/DeviceNames.h"
+#include "deck/fields/Fields.h"
+#include "deck/fields/Readout.h"
+
+namespace orvelle::deck {
+
+namespace {
+
+QCheckBox* NewFailure(const QString& name, std::function<void(bool)> apply) {
+    return NewCheck(name + "Fails", "Fails", "This device does not work", std::move(apply));
+}
+
+}  // namespace
+
+DevicesBox::DevicesBox(EmbeddedVoiceEngine& voiceEngine)
+    : Section("Devices", "Devices", 4),
+      engine(voiceEngine),
+      microphoneFails(NewFailure("Microphone", [this](bool failed) { engine.FailInput(failed); })),
+      microphone(new Readout("MicrophoneDevice")),
+      outputFails{NewFailure("Headset", [this](bool failed) { engine.FailOutput(0, failed); }),
+                  NewFailure("Speakers", [this](bool failed) { engine.FailOutput(1, failed); })},
+      outputs{new Readout("HeadsetDevice"), new Readout("SpeakersDevice")},
+      levels{new Readout("HeadsetLevels"), new Readout("SpeakersLevels")},
+      watch(engine.Changed.Observe([this] { ShowState(); })) {
+    AddRow("Microphone", {microphoneFails, microphone});
+    AddRow("Headset", {outputFails[0], outputs[0]});
+    AddRow("", {new QWidget, levels[0]});
+    AddRow("Speakers", {outputFails[1], outputs[1]});
+    AddRow("", {new QWidget, levels[1]});
+    ShowState();
+}
+
+void DevicesBox::ShowState() {
+    microphoneFails->setChecked(engine.InputFailed());
+    microphone->Show(DeviceName(engine.InputDeviceNames(), engine.Microphone()));
+    for (std::size_t index = 0; index < outputs.size(); ++index) {
+        const VoiceOutput& output = engine.Output(static_cast<Long>(index));
+        outputFails.at(index)->setChecked(output.Failed);
+        outputs.at(index)->Show(DeviceName(engine.OutputDeviceNames(), output.Device));
+        levels.at(index)->Show(QString("Volume %1, signal %2, %3")
+                                   .arg(output.Volume)
+                                   .arg(output.SignalVolume)
+                                   .arg(output.Filter ? "filtered" : "clear"));
+    }
+}
+
+}  // namespace orvelle::deck

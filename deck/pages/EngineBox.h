@@ -1,0 +1,33 @@
+// The voice engine as a whole: whether it runs, what it was told, and how its starts go.
+#pragma once
+
+#include <memory>
+
+#include "deck/fields/Section.h"
+
+class QComboBox;
+
+namespace orvelle {
+class EmbeddedVoiceEngine;
+}  // namespace orvelle
+
+namespace orvelle::deck {
+
+class Readout;
+class SignalLight;
+
+class EngineBox : public Section {
+public:
+    explicit EngineBox(EmbeddedVoiceEngine& voiceEngine);
+
+private:
+    void ShowState();
+
+    EmbeddedVoiceEngine& engine;
+    SignalLight* audio;
+    Readout* squelch;
+    QComboBox* starts;
+    std::shared_ptr<void> watch;
+};
+
+}  // namespace orvelle::deck

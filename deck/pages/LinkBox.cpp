@@ -1,0 +1,62 @@
+#include "deck/pages/LinkBox.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <utility>
+
+#include "deck/fields/Fields.h"
+#include "deck/fields/Readout.h"
+#include "deck/fields/SignalLight.h"
+
+namespace orvelle::deck {
+
+namespace {
+
+QString Joined(const std::vector<std::string>& names) {
+    QStringList list;
+    for (const std::string& name : names) list << QString::fromStdString(name);
+    return list.isEmpty() ? "None yet" : list.join(", ");
+}
+
+}  // namespace
+
+LinkBox::LinkBox(const QString& name, const QString& title, const QString& switchLabel, FarSide farSide)
+    : Section(name, title, 3),
+      link(std::move(farSide)),
+      up(NewCheck(name + "Link", switchLabel, "The link as this side wants it",
+                  [this](bool on) { link.SetLink(on ? LinkState::Up : LinkState::Down); })),
+      state(new SignalLight(name + "State")),
+      seen(new QLineEdit),
+      allSeen(new Readout(name + "ServersSeen")),
+      watch(link.Changed.Observe([this] { ShowState(); })) {
+    // A click doesn't take the focus, so that keys stay held while a link goes.
+    up->setFocusPolicy(Qt::TabFocus);
+    seen->setObjectName(name + "ServerSeen");
+    seen->setToolTip("A name or an address that is reported to the panel as a server on the network");
+    connect(seen, &QLineEdit::returnPressed, this, [this] { SeeServer(); });
+    auto* see = NewButton(name + "SeeServer", "See server", "Report this server to the panel", [this] { SeeServer(); });
+
+    AddRow("Link", {up, state});
+    AddRow("Server seen", {seen, see, allSeen});
+    ShowState();
+}
+
+void LinkBox::SeeServer() {
+    if (seen->text().isEmpty()) return;
+    link.SeeServer(seen->text().toStdString());
+    seen->selectAll();
+}
+
+void LinkBox::ShowState() {
+    const bool wanted = link.Wanted() == LinkState::Up;
+    const bool isUp = link.IsUp();
+    const Signal signal = wanted != isUp ? Signal::Waiting : isUp ? Signal::On : Signal::Off;
+    const QString text = wanted == isUp ? (isUp ? "Connected" : "Down") : (wanted ? "Not up yet" : "Not lost yet");
+    const std::string server = link.Server();
+    up->setChecked(wanted);
+    state->Show(signal, text + ", server " + (server.empty() ? "(empty)" : QString::fromStdString(server)));
+    allSeen->Show(Joined(link.ServersSeen()));
+}
+
+}  // namespace orvelle::deck

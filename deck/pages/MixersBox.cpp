@@ -1,0 +1,88 @@
+#include "deck/pages/MixersBox.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QSpinBox>
+
+#include "deck/fields/Fields.h"
+#include "deck/fields/SignalLight.h"
+
+namespace orvelle::deck {
+
+namespace {
+
+constexpr MixerLine Lines[] = {MixerLine::Microphone, MixerLine::Master, MixerLine::Wave};
+constexpr MixerSide Sides[] = {MixerSide::Input, MixerSide::Output};
+
+QWidget* Beside(QWidget* first, QWidget* second) {
+    auto* widget = new QWidget;
+    auto* row = new QHBoxLayout(widget);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(DeckUnit);
+    row->addWidget(first);
+    row->addWidget(second, 1);
+    return widget;
+}
+
+}  // namespace
+
+MixersBox::MixersBox(EmbeddedMixer& headset, EmbeddedMixer& speakers)
+    : Section("Mixers", "Mixers", 2), columns{NewColumn(headset, "Headset"), NewColumn(speakers, "Speakers")} {
+    AddCaptions({"Microphone and headset", "Speakers"});
+    AddRow("Mixer", {columns[0].State, columns[1].State});
+    AddRow("Input", {columns[0].Plugged[0], columns[1].Plugged[0]});
+    AddRow("Output", {columns[0].Plugged[1], columns[1].Plugged[1]});
+    std::size_t row = 0;
+    for (const char* label : {"Microphone line", "Master line", "Wave line"}) {
+        const Line& left = columns[0].Lines.at(row);
+        const Line& right = columns[1].Lines.at(row);
+        AddRow(label, {Beside(left.IsThere, left.Level), Beside(right.IsThere, right.Level)});
+        ++row;
+    }
+    for (Column& column : columns) {
+        column.Watch = column.Mixer->Changed.Observe([&column] { ShowState(column); });
+        ShowState(column);
+    }
+}
+
+MixersBox::Column MixersBox::NewColumn(EmbeddedMixer& mixer, const QString& name) {
+    return {&mixer,
+            new SignalLight(name + "Mixer"),
+            {NewPlug(mixer, MixerSide::Input, name + "Input"), NewPlug(mixer, MixerSide::Output, name + "Output")},
+            {NewLine(mixer, MixerLine::Microphone, name + "Microphone"),
+             NewLine(mixer, MixerLine::Master, name + "Master"), NewLine(mixer, MixerLine::Wave, name + "Wave")},
+            nullptr};
+}
+
+MixersBox::Line MixersBox::NewLine(EmbeddedMixer& mixer, MixerLine line, const QString& name) {
+    const MixerLevel& level = mixer.Level(line);
+    return {NewCheck(name + "Line", "Present", "The mixer has this line",
+                     [&mixer, line](bool on) {
+                         MixerLevel changed = mixer.Level(line);
+                         changed.Unavailable = !on;
+                         mixer.SetLevel(line, changed);
+                     }),
+            NewNumber(name + "Level", "Somebody else moves the line's level", level.Min, level.Max,
+                      [&mixer, line](int value) { mixer.Move(line, value); })};
+}
+
+QCheckBox* MixersBox::NewPlug(EmbeddedMixer& mixer, MixerSide side, const QString& name) {
+    return NewCheck(name + "Plugged", "Plugged in", "The device is plugged into this computer",
+                    [&mixer, side](bool on) { mixer.SetPlugged(side, on); });
+}
+
+void MixersBox::ShowState(const Column& column) {
+    const EmbeddedMixer& mixer = *column.Mixer;
+    const QString device = QString::fromStdString(mixer.DeviceName(MixerSide::Output));
+    column.State->Show(mixer.IsOpen() ? Signal::On : Signal::Off, (mixer.IsOpen() ? "Open on " : "Closed, ") + device);
+    for (const MixerSide side : Sides)
+        column.Plugged.at(static_cast<std::size_t>(side))->setChecked(mixer.Plugged(side));
+    for (const MixerLine line : Lines) {
+        const auto& [isThere, level] = column.Lines.at(static_cast<std::size_t>(line));
+        isThere->setChecked(!mixer.Level(line).Unavailable);
+        level->setEnabled(!mixer.Level(line).Unavailable);
+        ShowNumber(*level, mixer.Level(line).Volume);
+    }
+}
+
+}  // namespace orvelle::deck

@@ -1,0 +1,45 @@
+// The parameters of one interface record by their names: who wrote them, and which changed lately. Editing a value is
+// the write of another party on the network. Until the user picks one it is the panel's own record of role "VVL".
+#pragma once
+
+#include <QElapsedTimer>
+#include <memory>
+
+#include "deck/fields/LateWrites.h"
+#include "deck/fields/Section.h"
+#include "platform/Types.h"
+
+class QComboBox;
+class QTableWidget;
+
+namespace orvelle {
+class EmbeddedTessaly;
+}  // namespace orvelle
+
+namespace orvelle::deck {
+
+class Readout;
+
+class ParametersBox : public Section {
+public:
+    explicit ParametersBox(EmbeddedTessaly& framework);
+
+private:
+    Long ShownId() const;  // 0 for none
+    void ShowState();
+    void ShowRecords();
+    void ShowParameters();
+    void Write(int row, const QString& text);
+
+    EmbeddedTessaly& tessaly;
+    QComboBox* record;
+    QStringList shownRecords;
+    QTableWidget* table;
+    Readout* note;
+    LateWrites late;
+    QElapsedTimer clock;
+    bool picked = false;  // by the user
+    std::shared_ptr<void> watch;
+};
+
+}  // namespace orvelle::deck

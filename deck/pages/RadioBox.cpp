@@ -1,0 +1,113 @@
+#include "deck/pages/RadioBox.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <utility>
+
+#include "adapters/embedded/Tessaly.h"
+#include "deck/fields/Fields.h"
+#include "deck/fields/TextField.h"
+
+namespace orvelle::deck {
+
+namespace {
+
+constexpr std::string RadioVoiceSetting::*VoiceTexts[] = {&RadioVoiceSetting::Server, &RadioVoiceSetting::Channel,
+                                                          &RadioVoiceSetting::Login, &RadioVoiceSetting::Password};
+// In the order of the entries "1", "2", "Both", "None"
+constexpr const char* Selections[] = {"1", "2", "B", ""};
+constexpr int NoSelection = 3;
+
+QString RadioName(int radio) { return radio == 0 ? "COM1" : "COM2"; }
+
+int SelectionOf(const std::string& text) {
+    for (int index = 0; index < NoSelection; ++index)
+        if (text == Selections[index]) return index;
+    return NoSelection;
+}
+
+QWidget* Labelled(const QString& label, QWidget* field) {
+    auto* widget = new QWidget;
+    auto* row = new QHBoxLayout(widget);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(DeckUnit);
+    auto* caption = new QLabel(label);
+    caption->setBuddy(field);
+    row->addWidget(caption);
+    row->addWidget(field, 1);
+    return widget;
+}
+
+}  // namespace
+
+RadioBox::RadioBox(EmbeddedTessaly& framework)
+    : Section("Radios", "Radios", 2),
+      tessaly(framework),
+      radios{NewRadio(0), NewRadio(1)},
+      receive(NewSelection("Receive", "The radios that are received",
+                           [this](const std::string& text) { tessaly.SetReceive(text); })),
+      transmit(NewSelection("Transmit", "The radio that transmits",
+                            [this](const std::string& text) { tessaly.SetTransmit(text); })),
+      watch(tessaly.Changed.Observe([this] { ShowState(); })) {
+    AddCaptions({RadioName(0), RadioName(1)});
+    AddRow("&Frequency", {radios[0].Frequency, radios[1].Frequency});
+    AddRow("Soft&ware", {radios[0].Software, radios[1].Software});
+    std::size_t row = 0;
+    for (const char* label : {"Ser&ver", "C&hannel", "Lo&gin", "&Password"}) {
+        AddRow(label, {radios[0].Texts[row], radios[1].Texts[row]});
+        ++row;
+    }
+    AddRow("&Receive", {receive, Labelled("&Transmit", transmit)});
+    ShowState();
+}
+
+RadioBox::Radio RadioBox::NewRadio(int radio) {
+    const QString name = RadioName(radio);
+    auto* frequency = NewEdit("Frequency" + name, "The frequency of " + name + "; Enter applies it",
+                              [this, radio](const std::string& text) { tessaly.SetFrequency(radio, text); });
+    frequency->setPlaceholderText(radio == 0 ? "122.800" : "121.500");
+    auto* software = NewChoice(
+        "Software" + name, "The voice software that serves " + name,
+        {"None", "RogerWilco", "TeamSpeak", "VATSIM", "TeamSpeak by URL", "Voice ATIS"}, [this, radio](int index) {
+            RadioVoiceSetting voice = tessaly.Session().Voice.at(static_cast<std::size_t>(radio));
+            voice.Software = index;
+            tessaly.SetVoice(radio, voice);
+        });
+    return {frequency,
+            software,
+            {NewVoiceEdit(radio, "Server", "The voice server", &RadioVoiceSetting::Server),
+             NewVoiceEdit(radio, "Channel", "The channel on that server", &RadioVoiceSetting::Channel),
+             NewVoiceEdit(radio, "Login", "The login name for the server", &RadioVoiceSetting::Login),
+             NewVoiceEdit(radio, "Password", "The password for the server", &RadioVoiceSetting::Password)}};
+}
+
+TextField* RadioBox::NewVoiceEdit(int radio, const QString& name, const QString& toolTip, VoiceText text) {
+    return NewEdit(name + RadioName(radio), toolTip + " of " + RadioName(radio) + "; Enter applies it",
+                   [this, radio, text](const std::string& value) {
+                       RadioVoiceSetting voice = tessaly.Session().Voice.at(static_cast<std::size_t>(radio));
+                       voice.*text = value;
+                       tessaly.SetVoice(radio, voice);
+                   });
+}
+
+QComboBox* RadioBox::NewSelection(const QString& name, const QString& toolTip,
+                                  std::function<void(const std::string&)> apply) {
+    return NewChoice(name, toolTip, {"1", "2", "Both", "None"},
+                     [apply = std::move(apply)](int index) { apply(Selections[index]); });
+}
+
+void RadioBox::ShowState() {
+    const SessionSetting& session = tessaly.Session();
+    for (std::size_t radio = 0; radio < radios.size(); ++radio) {
+        const RadioVoiceSetting& voice = session.Voice.at(radio);
+        radios.at(radio).Frequency->Show(session.Frequency.at(radio));
+        radios.at(radio).Software->setCurrentIndex(voice.Software);
+        for (std::size_t row = 0; row < std::size(VoiceTexts); ++row)
+            radios.at(radio).Texts.at(row)->Show(voice.*VoiceTexts[row]);
+    }
+    receive->setCurrentIndex(SelectionOf(session.Receive));
+    transmit->setCurrentIndex(SelectionOf(session.Transmit));
+}
+
+}  // namespace orvelle::deck

@@ -1,0 +1,47 @@
+// The radio set of the session: both radios with their voice records side by side, and which of them are received and
+// transmitted on. Each change raises its event at the panel.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "deck/fields/Section.h"
+
+class QComboBox;
+
+namespace orvelle {
+class EmbeddedTessaly;
+struct RadioVoiceSetting;
+}  // namespace orvelle
+
+namespace orvelle::deck {
+
+class TextField;
+
+class RadioBox : public Section {
+public:
+    explicit RadioBox(EmbeddedTessaly& framework);
+
+private:
+    using VoiceText = std::string RadioVoiceSetting::*;
+    struct Radio {
+        TextField* Frequency;
+        QComboBox* Software;
+        std::array<TextField*, 4> Texts;  // in the order of the rows
+    };
+
+    Radio NewRadio(int radio);
+    TextField* NewVoiceEdit(int radio, const QString& name, const QString& toolTip, VoiceText text);
+    QComboBox* NewSelection(const QString& name, const QString& toolTip, std::function<void(const std::string&)> apply);
+    void ShowState();
+
+    EmbeddedTessaly& tessaly;
+    std::array<Radio, 2> radios;
+    QComboBox* receive;
+    QComboBox* transmit;
+    std::shared_ptr<void> watch;
+};
+
+}  // namespace orvelle::deck

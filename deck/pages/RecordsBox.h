@@ -1,0 +1,40 @@
+// The interface records in which the panels of several computers meet: all that are there, and what another computer
+// does with its own: it claims a voice role or drops it again.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+
+#include "deck/fields/Section.h"
+#include "platform/Types.h"
+
+class QCheckBox;
+class QLineEdit;
+class QTableWidget;
+
+namespace orvelle {
+class EmbeddedTessaly;
+}  // namespace orvelle
+
+namespace orvelle::deck {
+
+class RecordsBox : public Section {
+public:
+    explicit RecordsBox(EmbeddedTessaly& framework);
+
+private:
+    Long ClaimOf(const std::string& role) const;  // the other computer's record of the role, 0 for none
+    Long SelectedId() const;                      // likewise
+    void Claim(const std::string& role, bool on);
+    void ShowState();
+    void ShowClaims();
+
+    EmbeddedTessaly& tessaly;
+    QTableWidget* table;
+    QLineEdit* computer;
+    std::map<std::string, QCheckBox*> claims;  // by role
+    std::shared_ptr<void> watch;
+};
+
+}  // namespace orvelle::deck

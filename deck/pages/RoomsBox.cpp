@@ -1,0 +1,108 @@
+#include "deck/pages/RoomsBox.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QPushButton>
+
+#include "adapters/embedded/VoiceEngine.h"
+#include "deck/fields/Fields.h"
+#include "deck/fields/Readout.h"
+#include "deck/fields/SignalLight.h"
+#include "deck/fields/TextField.h"
+
+namespace orvelle::deck {
+
+namespace {
+
+// In the order of the entries
+constexpr JoinOutcome JoinOutcomes[] = {JoinOutcome::Succeeds, JoinOutcome::Refused, JoinOutcome::Fails};
+
+void ShowRoomState(SignalLight& light, RoomState state) {
+    switch (state) {
+        case RoomState::Out:
+            return light.Show(Signal::Off, "Out");
+        case RoomState::Joining:
+            return light.Show(Signal::Waiting, "Joining");
+        case RoomState::In:
+            return light.Show(Signal::On, "In");
+    }
+}
+
+void ShowSwitch(SignalLight& light, bool on, const QString& whenOn, const QString& whenOff) {
+    light.Show(on ? Signal::On : Signal::Off, on ? whenOn : whenOff);
+}
+
+}  // namespace
+
+RoomsBox::RoomsBox(EmbeddedVoiceEngine& voiceEngine)
+    : Section("Rooms", "Rooms", 3),
+      engine(voiceEngine),
+      rooms{NewRoom(0), NewRoom(1), NewRoom(2)},
+      watch(engine.Changed.Observe([this] { ShowState(); })) {
+    const auto addRow = [this](const QString& label, const auto field) {
+        AddRow(label, {rooms[0].*field, rooms[1].*field, rooms[2].*field});
+    };
+    AddCaptions({"0  COM1", "1  COM2", "2  Private"});
+    addRow("State", &Room::State);
+    addRow("Client", &Room::Client);
+    addRow("Address", &Room::Address);
+    addRow("Microphone", &Room::Microphone);
+    addRow("Headset", &Room::Headset);
+    addRow("Speakers", &Room::Speakers);
+    addRow("Audio", &Room::Audio);
+    addRow("", &Room::CarriesAudio);
+    addRow("Status text", &Room::Status);
+    addRow("Joins", &Room::Joins);
+    addRow("", &Room::Kick);
+    ShowState();
+}
+
+RoomsBox::Room RoomsBox::NewRoom(int number) {
+    const QString name = QString("Room%1").arg(number);
+    return {new SignalLight(name + "State"),
+            new Readout(name + "Client"),
+            new Readout(name + "Address"),
+            new SignalLight(name + "Microphone"),
+            new SignalLight(name + "Headset"),
+            new SignalLight(name + "Speakers"),
+            new SignalLight(name + "Audio"),
+            NewCheck(name + "CarriesAudio", "Carries audio", "The room carries audio",
+                     [this, number](bool on) { engine.SetRoomAudio(number, on); }),
+            NewButton(name + "Kick", "Kick", "The voice server throws the panel out of the room, if it is in there",
+                      [this, number] { engine.Kick(number); }),
+            NewChoice(name + "Joins", "How joins of this room go", {"Succeed", "Are refused", "Fail"},
+                      [this, number](int index) { engine.SetJoinOutcome(number, JoinOutcomes[index]); }),
+            NewEdit(name + "Status", "The room's status text; Enter applies it",
+                    [this, number](const std::string& text) { engine.SetRoomStatus(number, text); })};
+}
+
+// An engine that stands still has nobody in its rooms, and nothing is open there.
+void RoomsBox::ShowPanelsDoing(const Room& shown, const VoiceRoom& room) const {
+    ShowRoomState(*shown.State, room.State);
+    if (!engine.Running()) {
+        for (SignalLight* light : {shown.Microphone, shown.Headset, shown.Speakers, shown.Audio})
+            light->Show(Signal::Off, "");
+        for (Readout* text : {shown.Client, shown.Address}) text->Show(QString());
+        return;
+    }
+    shown.Client->Show(room.ClientName);
+    shown.Address->Show(room.Address);
+    ShowSwitch(*shown.Microphone, !room.Muted, "Open", "Muted");
+    ShowSwitch(*shown.Headset, room.Output[0], "Heard", "Silent");
+    ShowSwitch(*shown.Speakers, room.Output[1], "Heard", "Silent");
+    ShowSwitch(*shown.Audio, room.Audio, "On the air", "Quiet");
+}
+
+void RoomsBox::ShowState() {
+    for (Long number = 0; number < static_cast<Long>(rooms.size()); ++number) {
+        const Room& shown = rooms.at(static_cast<std::size_t>(number));
+        const VoiceRoom& room = engine.Room(number);
+        ShowPanelsDoing(shown, room);
+        shown.CarriesAudio->setChecked(room.Audio);
+        shown.CarriesAudio->setEnabled(room.State == RoomState::In);
+        shown.Joins->setCurrentIndex(static_cast<int>(room.Joins));
+        shown.Status->Show(room.Status);
+    }
+}
+
+}  // namespace orvelle::deck

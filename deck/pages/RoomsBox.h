@@ -1,0 +1,52 @@
+// The three rooms of the voice engine side by side: what the panel made of each, and what happens in it.
+#pragma once
+
+#include <array>
+#include <memory>
+
+#include "deck/fields/Section.h"
+
+class QCheckBox;
+class QComboBox;
+class QPushButton;
+
+namespace orvelle {
+class EmbeddedVoiceEngine;
+struct VoiceRoom;
+}  // namespace orvelle
+
+namespace orvelle::deck {
+
+class Readout;
+class SignalLight;
+class TextField;
+
+class RoomsBox : public Section {
+public:
+    explicit RoomsBox(EmbeddedVoiceEngine& voiceEngine);
+
+private:
+    struct Room {
+        SignalLight* State;
+        Readout* Client;
+        Readout* Address;
+        SignalLight* Microphone;
+        SignalLight* Headset;
+        SignalLight* Speakers;
+        SignalLight* Audio;
+        QCheckBox* CarriesAudio;
+        QPushButton* Kick;
+        QComboBox* Joins;
+        TextField* Status;
+    };
+
+    Room NewRoom(int number);
+    void ShowPanelsDoing(const Room& shown, const VoiceRoom& room) const;
+    void ShowState();
+
+    EmbeddedVoiceEngine& engine;
+    std::array<Room, 3> rooms;
+    std::shared_ptr<void> watch;
+};
+
+}  // namespace orvelle::deck

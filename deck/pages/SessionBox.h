@@ -1,0 +1,32 @@
+// The user's session on the network: whether there is one, its status and the callsign.
+#pragma once
+
+#include <memory>
+
+#include "deck/fields/Section.h"
+
+class QCheckBox;
+
+namespace orvelle {
+class EmbeddedTessaly;
+}  // namespace orvelle
+
+namespace orvelle::deck {
+
+class TextField;
+
+class SessionBox : public Section {
+public:
+    explicit SessionBox(EmbeddedTessaly& framework);
+
+private:
+    void ShowState();
+
+    EmbeddedTessaly& tessaly;
+    QCheckBox* open;
+    QCheckBox* connected;
+    TextField* callsign;
+    std::shared_ptr<void> watch;
+};
+
+}  // namespace orvelle::deck

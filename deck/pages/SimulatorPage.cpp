@@ -1,0 +1,55 @@
+#include "deck/pages/SimulatorPage.h"
+
+#include <QCheckBox>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "adapters/embedded/Velmarc.h"
+#include "deck/fields/Fields.h"
+#include "deck/fields/TimedLog.h"
+#include "deck/pages/InputsBox.h"
+#include "deck/pages/LinkBox.h"
+
+namespace orvelle::deck {
+
+SimulatorPage::SimulatorPage(EmbeddedVelmarc& simulator, EmbeddedVoiceEngine& engine)
+    : velmarc(simulator),
+      active(NewCheck("SimulatorActive", "The simulator is the &active application",
+                      "Keys pressed while it is not start no voice program's push-to-talk",
+                      [this](bool on) { velmarc.SetSimulatorActive(on); })),
+      sounds(new TimedLog("Sounds", "Sounds that the simulator was asked to play")),
+      programs(new TimedLog("Programs", "Voice programs that the panel started, or could not start")),
+      watch(velmarc.Changed.Observe([this] { ShowState(); })) {
+    setObjectName("SimulatorPage");
+    active->setFocusPolicy(Qt::TabFocus);
+
+    auto* link = new LinkBox("Simulator", "Simulator", "&Simulator link", FarSideOf(velmarc));
+    link->AddRow("Application", {active});
+
+    auto* soundSection = new Section("SoundSection", "Sounds asked for");
+    soundSection->AddWide(sounds, 1);
+    auto* programSection = new Section("ProgramSection", "Voice programs on this computer");
+    programSection->AddWide(programs, 1);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(SectionGap);
+    column->addWidget(link);
+    column->addWidget(new InputsBox(velmarc, engine));
+    column->addWidget(soundSection, 1);
+    column->addWidget(programSection, 1);
+    ShowState();
+}
+
+void SimulatorPage::TellOfProgram(const QString& sentence) { programs->Add(sentence); }
+
+void SimulatorPage::ShowState() {
+    active->setChecked(velmarc.SimulatorActive());
+    const auto& played = velmarc.Sounds();
+    const std::size_t fresh = std::min(velmarc.SoundsPlayed() - soundsShown, played.size());
+    for (std::size_t index = played.size() - fresh; index < played.size(); ++index)
+        sounds->Add(QString::fromStdString(played[index]));
+    soundsShown = velmarc.SoundsPlayed();
+}
+
+}  // namespace orvelle::deck

@@ -1,0 +1,76 @@
+#include "deck/pages/TeamSpeakBox.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QSpinBox>
+#include <limits>
+
+#include "adapters/embedded/TeamSpeak.h"
+#include "deck/fields/Fields.h"
+#include "deck/fields/Readout.h"
+#include "deck/fields/TextField.h"
+
+namespace orvelle::deck {
+
+namespace {
+
+// "Lobby, Tower": the first channel has the number 1.
+std::map<std::string, Long> ChannelsOf(const std::string& text) {
+    std::map<std::string, Long> channels;
+    Long id = 0;
+    for (const QString& name : QString::fromStdString(text).split(',', Qt::SkipEmptyParts))
+        channels[name.trimmed().toStdString()] = ++id;
+    return channels;
+}
+
+QSpinBox* NewResult(const QString& name, Integer& result) {
+    auto* box = NewNumber(name, "The result in place of success; 0 for none", std::numeric_limits<Integer>::min(),
+                          std::numeric_limits<Integer>::max(),
+                          [&result](int number) { result = static_cast<Integer>(number); });
+    ShowNumber(*box, result);
+    return box;
+}
+
+}  // namespace
+
+TeamSpeakBox::TeamSpeakBox(EmbeddedTeamSpeak& program)
+    : Section("TeamSpeak", "TeamSpeak program", 2),
+      teamSpeak(program),
+      running(
+          NewCheck("TeamSpeakRuns", "Runs", "While it does not run every call of the panel fails",
+                   [this](bool on) { teamSpeak.SetProgram(on ? ProgramState::Running : ProgramState::NotRunning); })),
+      place(new Readout("TeamSpeakPlace")),
+      url(new Readout("TeamSpeakUrl")),
+      watch(teamSpeak.Changed.Observe([this] { ShowState(); })) {
+    auto* channels = NewEdit("TeamSpeakChannels", "The channels of every server, with commas between; Enter applies",
+                             [this](const std::string& text) { teamSpeak.SetChannels(ChannelsOf(text)); });
+    channels->setPlaceholderText("Lobby, Tower");
+    auto* padding = NewChoice(
+        "TeamSpeakPadding", "What fills the field of the server's address behind it", {"Blanks", "Zeros"},
+        [this](int index) { teamSpeak.SetPadding(index == 0 ? AddressPadding::Blanks : AddressPadding::Zeros); });
+    EmbeddedTeamSpeak::Results& results = teamSpeak.Fail;
+
+    AddRow("Program", {running});
+    AddRow("Server", {place});
+    AddRow("Last URL", {url});
+    AddRow("Channels", {channels});
+    AddRow("Padding", {padding, new QWidget});
+    AddRow("Connect", {NewResult("ConnectResult", results.Connect), new QWidget});
+    AddRow("Disconnect", {NewResult("DisconnectResult", results.Disconnect), new QWidget});
+    AddRow("Server info", {NewResult("ServerInfoResult", results.ServerInfo), new QWidget});
+    AddRow("Channel info", {NewResult("ChannelInfoResult", results.ChannelInfo), new QWidget});
+    AddRow("Switch channel", {NewResult("SwitchChannelResult", results.SwitchChannel), new QWidget});
+    ShowState();
+}
+
+void TeamSpeakBox::ShowState() {
+    running->setChecked(teamSpeak.Program() == ProgramState::Running);
+    const QString address = QString::fromStdString(teamSpeak.Address());
+    const QString channel = QString::fromStdString(teamSpeak.Channel());
+    place->Show(address.isEmpty()   ? "Not connected"
+                : channel.isEmpty() ? "On " + address
+                                    : "On " + address + ", channel " + channel);
+    url->Show(teamSpeak.LastUrl().empty() ? "None yet" : QString::fromStdString(teamSpeak.LastUrl()));
+}
+
+}  // namespace orvelle::deck

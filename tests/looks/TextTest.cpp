@@ -1,0 +1,25 @@
+#include "adapters/looks/Text.h"
+
+#include <gtest/gtest.h>
+
+namespace orvelle {
+namespace {
+
+TEST(TextTest, Utf8IsShownAsUtf8AndComesBackAsItWas) {
+    const std::string text = "Gr\xc3\xbc\xc3\x9f Gott \xe2\x82\xac \xf0\x9f\x9b\xa9";
+    EXPECT_EQ(ToQt(text), QString::fromUtf8("Grüß Gott € 🛩"));
+    EXPECT_EQ(FromQt(ToQt(text)), text);
+}
+
+TEST(TextTest, BytesThatAreNoUtf8AreShownAsLatin1) {
+    EXPECT_EQ(ToQt("M\xfcnchen"), QString::fromUtf8("München"));
+    EXPECT_EQ(ToQt("cut \xe2\x82"), QString::fromLatin1("cut \xe2\x82"));
+}
+
+TEST(TextTest, AnEmptyTextIsEmpty) {
+    EXPECT_TRUE(ToQt("").isEmpty());
+    EXPECT_EQ(FromQt(QString()), "");
+}
+
+}  // namespace
+}  // namespace orvelle

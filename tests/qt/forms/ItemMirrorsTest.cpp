@@ -1,0 +1,209 @@
+// The two tables and the tree.
+#include <QAbstractItemModelTester>
+#include <QElapsedTimer>
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QTreeWidget>
+#include <QWheelEvent>
+
+#include "tests/qt/forms/PlausiblePanel.h"
+#include "tests/qt/forms/ShownPanel.h"
+
+namespace orvelle::qt {
+namespace {
+
+using Events = std::vector<std::string>;
+
+class ItemMirrorsTest : public ShownPanel {
+protected:
+    ItemMirrorsTest() {
+        GoTo(4);
+        panel.ListJoyToKey.ItemClick = [this](Long row) { events.push_back("row " + std::to_string(row)); };
+    }
+
+    QTreeView& Table() { return Widget<QTreeView>(panel.ListJoyToKey); }
+    std::string Cell(int row, int column) {
+        return Table().model()->index(row, column).data().toString().toStdString();
+    }
+    void AddRows(int count) {
+        for (int row = 1; row <= count; ++row) panel.ListJoyToKey.AddRow("input " + std::to_string(row));
+        QCoreApplication::processEvents();
+    }
+    void ClickRow(int row) {
+        const QRect place = Table().visualRect(Table().model()->index(row - 1, 1));
+        QTest::mouseClick(Table().viewport(), Qt::LeftButton, {}, place.center());
+    }
+    QModelIndexList SelectedRows() { return Table().selectionModel()->selectedRows(); }
+};
+
+TEST_F(ItemMirrorsTest, AnEmptyTableShowsItsHeadings) {
+    const QAbstractItemModel* model = Table().model();
+    ASSERT_EQ(model->columnCount(), 3);
+    EXPECT_EQ(model->headerData(2, Qt::Horizontal).toString(), QStringLiteral("Push/Toggle"));
+    EXPECT_TRUE(Table().header()->isVisible());
+}
+
+TEST_F(ItemMirrorsTest, RowsComeChangeAndGo) {
+    QAbstractItemModelTester tester(Table().model());
+    AddRows(3);
+    panel.ListJoyToKey.SetSubItem(2, 1, "Ctrl");
+    panel.ListJoyToKey.SetSubItem(2, 4, "DOWN");
+    EXPECT_EQ(Table().model()->rowCount(), 3);
+    EXPECT_EQ(Cell(1, 0), "input 2");
+    EXPECT_EQ(Cell(1, 1), "Ctrl");
+    panel.ListJoyToKey.RemoveRow(1);
+    EXPECT_EQ(Table().model()->rowCount(), 2);
+    EXPECT_EQ(Cell(0, 1), "Ctrl");
+    panel.ListJoyToKey.RemoveRow(2);
+    panel.ListJoyToKey.RemoveRow(1);
+    EXPECT_EQ(Table().model()->rowCount(), 0);
+}
+
+TEST_F(ItemMirrorsTest, AClickOnARowIsOneItemClickAndAgainAnother) {
+    AddRows(3);
+    ClickRow(2);
+    EXPECT_EQ(panel.ListJoyToKey.SelectedRow(), 2);
+    ClickRow(2);
+    ClickRow(3);
+    EXPECT_EQ(events, (Events{"row 2", "row 2", "row 3"}));
+    ASSERT_EQ(SelectedRows().size(), 1);
+    EXPECT_EQ(SelectedRows().first().row(), 2);
+}
+
+TEST_F(ItemMirrorsTest, TheArrowKeysClickRows) {
+    AddRows(3);
+    ClickRow(1);
+    QTest::keyClick(&Table(), Qt::Key_Down);
+    EXPECT_EQ(events, (Events{"row 1", "row 2"}));
+    ClickRow(2);
+    EXPECT_EQ(events, (Events{"row 1", "row 2", "row 2"}));
+}
+
+TEST_F(ItemMirrorsTest, ComingToATableByTheTabKeyClicksNothing) {
+    AddRows(2);
+    Table().setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(events, Events{});
+    EXPECT_EQ(panel.ListJoyToKey.SelectedRow(), 0);
+}
+
+TEST_F(ItemMirrorsTest, TheProgramsSelectionShowsAndClicksNothing) {
+    AddRows(200);
+    panel.ListJoyToKey.SelectRow(190);
+    ASSERT_EQ(SelectedRows().size(), 1);
+    EXPECT_EQ(SelectedRows().first().row(), 189);
+    EXPECT_TRUE(Table().viewport()->rect().intersects(Table().visualRect(SelectedRows().first())));
+    EXPECT_EQ(events, Events{});
+}
+
+TEST_F(ItemMirrorsTest, ASelectedRowThatGoesLeavesNothingSelected) {
+    AddRows(3);
+    ClickRow(2);
+    events.clear();
+    panel.ListJoyToKey.RemoveRow(2);
+    EXPECT_TRUE(SelectedRows().isEmpty());
+    EXPECT_EQ(events, Events{});
+}
+
+TEST_F(ItemMirrorsTest, ARowThatGoesAboveMovesTheSelectionAlong) {
+    AddRows(3);
+    ClickRow(3);
+    panel.ListJoyToKey.RemoveRow(1);
+    ASSERT_EQ(SelectedRows().size(), 1);
+    EXPECT_EQ(SelectedRows().first().row(), 1);
+    EXPECT_EQ(events, Events{"row 3"});
+}
+
+TEST_F(ItemMirrorsTest, ADisabledTableTakesNoClick) {
+    AddRows(2);
+    panel.Panels(4).Enabled = false;
+    ClickRow(1);
+    EXPECT_EQ(events, Events{});
+    EXPECT_EQ(panel.ListJoyToKey.SelectedRow(), 0);
+}
+
+// An event costs what its row costs; a table that copied or measured all rows for each would take minutes here.
+TEST_F(ItemMirrorsTest, ADisabledTableCanBeReadToItsEnd) {
+    AddRows(200);
+    panel.Panels(4).Enabled = false;
+    QWheelEvent wheel(QPointF(5, 5), Table().mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(Table().viewport(), &wheel);
+    EXPECT_GT(Table().verticalScrollBar()->value(), 0);
+    EXPECT_TRUE(SelectedRows().isEmpty());
+}
+
+TEST_F(ItemMirrorsTest, AHundredThousandRowsAreNoBurden) {
+    constexpr int Rows = 100000;
+    constexpr qint64 BoundMilliseconds = 30000;
+    QElapsedTimer time;
+    time.start();
+    AddRows(Rows);
+    for (int change = 0; change < Rows; ++change) {
+        panel.ListJoyToKey.SetSubItem(change + 1, 1, "Ctrl");
+        if (change % 1000 == 0) QCoreApplication::processEvents();
+    }
+    panel.ListJoyToKey.SelectRow(Rows);
+    QCoreApplication::processEvents();
+    EXPECT_LT(time.elapsed(), BoundMilliseconds);
+    EXPECT_EQ(Cell(Rows - 1, 1), "Ctrl");
+}
+
+class TreeTest : public ShownPanel {
+protected:
+    TreeTest() {
+        panel.twCategory.NodeClick = [this](TreeNode& node) { events.push_back(node.Text); };
+        FillPlausibly(panel);
+        QCoreApplication::processEvents();
+    }
+
+    QTreeWidget& Tree() { return Widget<QTreeWidget>(panel.twCategory); }
+    void ClickNode(QTreeWidgetItem* item) {
+        QTest::mouseClick(Tree().viewport(), Qt::LeftButton, {}, Tree().visualItemRect(item).center());
+    }
+};
+
+TEST_F(TreeTest, TheNodesStandInTheirOrderAndOneIsExpanded) {
+    ASSERT_EQ(Tree().topLevelItemCount(), 3);
+    EXPECT_EQ(Tree().topLevelItem(0)->text(0), QStringLiteral("Config"));
+    EXPECT_TRUE(Tree().topLevelItem(0)->isExpanded());
+    EXPECT_FALSE(Tree().topLevelItem(1)->isExpanded());
+    EXPECT_EQ(Tree().topLevelItem(0)->child(1)->child(0)->text(0), QStringLiteral("Extra"));
+    EXPECT_EQ(events, Events{});
+}
+
+TEST_F(TreeTest, AClickIsOneClickAndAgainAnother) {
+    ClickNode(Tree().topLevelItem(0)->child(0));
+    ClickNode(Tree().topLevelItem(0)->child(0));
+    EXPECT_EQ(events, (Events{"Velmarc", "Velmarc"}));
+}
+
+TEST_F(TreeTest, TheArrowKeysClickNodes) {
+    Tree().setFocus();
+    QTest::keyClick(&Tree(), Qt::Key_Down);
+    QTest::keyClick(&Tree(), Qt::Key_Down);
+    EXPECT_EQ(events, (Events{"Velmarc", "Kestrine"}));
+}
+
+TEST_F(TreeTest, AClickBesideTheNodesLeavesTheMark) {
+    Tree().setCurrentItem(Tree().topLevelItem(0)->child(0));
+    events.clear();
+    QTest::mouseClick(Tree().viewport(), Qt::LeftButton, {}, Tree().viewport()->rect().bottomLeft() - QPoint(-5, 5));
+    EXPECT_EQ(Tree().selectedItems(), QList{Tree().topLevelItem(0)->child(0)});
+    EXPECT_TRUE(events.empty());
+}
+
+TEST_F(TreeTest, ExpandingClicksNothing) {
+    Tree().setFocus();
+    QTest::keyClick(&Tree(), Qt::Key_Left);
+    QTest::keyClick(&Tree(), Qt::Key_Right);
+    EXPECT_EQ(events, Events{});
+}
+
+TEST_F(TreeTest, ATreeThatIsEmptiedIsEmpty) {
+    panel.twCategory.Clear();
+    EXPECT_EQ(Tree().topLevelItemCount(), 0);
+    EXPECT_EQ(events, Events{});
+}
+
+}  // namespace
+}  // namespace orvelle::qt

@@ -1,0 +1,129 @@
+// Takes pictures of every page, the warning and the icons, in one palette at the scale that Qt is told to have
+// (QT_SCALE_FACTOR). For looking at: orvelle-pictures FOLDER light|dark
+#include <QApplication>
+#include <QDir>
+#include <QPainter>
+#include <QTreeWidget>
+#include <iostream>
+#include <string>
+
+#include "adapters/looks/Theme.h"
+#include "adapters/qt/widgets/StatusImage.h"
+#include "adapters/qt/windows/MainWindow.h"
+#include "adapters/qt/windows/WarningDialog.h"
+#include "panel/Controls.h"
+#include "panel/MultiFSWarningDlg.h"
+#include "tests/qt/forms/PlausiblePanel.h"
+
+namespace orvelle::qt {
+
+namespace {
+
+class Folder {
+public:
+    Folder(QString path, QString suffix) : folder(std::move(path)), end(std::move(suffix)) { QDir().mkpath(folder); }
+
+    void Keep(const QPixmap& picture, const QString& name) const {
+        picture.save(folder + QLatin1Char('/') + name + end + QLatin1String(".png"));
+    }
+
+private:
+    const QString folder;
+    const QString end;
+};
+
+// As the user who sees that page has come there.
+void PickNode(MainWindow& window, const PanelControls& panel, const QString& tag) {
+    auto* tree = qobject_cast<QTreeWidget*>(window.WidgetOf(panel.twCategory));
+    for (QTreeWidgetItemIterator item(tree); *item != nullptr; ++item) {
+        const auto* node = static_cast<TreeNode*>((*item)->data(0, Qt::UserRole).value<void*>());
+        if (QString::fromStdString(node->Tag) != tag) continue;
+        tree->setCurrentItem(*item);
+        return;
+    }
+}
+
+void TakePages(MainWindow& window, PanelControls& panel, const Folder& folder) {
+    static constexpr const char* Names[PageCount] = {"00-overview",    "01-velmarc", "02-rogerwilco", "03-teamspeak",
+                                                     "04-joy-to-key",  "05-vatsim",  "06-volumes",    "07-key-to-key",
+                                                     "08-kestrine",    "09-options", "10-atis",       "11-extra",
+                                                     "12-key-mappings"};
+    for (int shown = 0; shown < PageCount; ++shown) {
+        for (Long other = 0; other < PageCount; ++other) panel.Panels(other).Visible = false;
+        panel.Panels(shown).Visible = true;
+        PickNode(window, panel, QString::number(shown));
+        QApplication::processEvents();
+        folder.Keep(window.grab(), QLatin1String(Names[shown]));
+    }
+}
+
+QPixmap IconSheet(const PanelControls& panel) {
+    constexpr int Sizes[] = {16, 22, 24, 32, 48, 64, 96, 128, 256};
+    QPixmap sheet(1120, 900);
+    sheet.fill(Qt::white);
+    QPainter painter(&sheet);
+    painter.fillRect(560, 0, 560, 900, QColor(0x20, 0x20, 0x20));
+    for (const int left : {8, 568}) {
+        int place = 0;
+        for (const std::string& key : panel.IconList.Keys()) {
+            painter.drawPixmap(left + place % 24 * 22, 8 + place / 24 * 22, StatusPixmap(key, 16));
+            ++place;
+        }
+        int top = 110;
+        for (const int size : Sizes) {
+            int x = left;
+            for (const char* key : {"VVVVVV", "RRRRRR", "VVVRRY", "VRVRVR"}) {
+                if (x + size > left + 544) break;
+                painter.drawPixmap(x, top, StatusPixmap(key, size));
+                x += size + 8;
+            }
+            top += size + 8;
+        }
+    }
+    return sheet;
+}
+
+int TakePictures(const Folder& folder) {
+    PanelControls panel;
+    MultiFSWarningDlg warning;
+    MainWindow window(panel);
+    WarningDialog dialog(warning);
+    FillPlausibly(panel);
+    panel.Width = panel.Panels(0).Left + panel.Panels(0).Width;
+    panel.Height = panel.Panels(0).Height();
+    panel.Show();
+    TakePages(window, panel, folder);
+    PanelControls longPanel;
+    MainWindow longWindow(longPanel);
+    FillWithLongestTexts(longPanel);
+    longPanel.Show();
+    folder.Keep(longWindow.grab(), QStringLiteral("00-overview-longest"));
+    PanelControls emptyPanel;
+    MainWindow emptyWindow(emptyPanel);
+    emptyPanel.Show();
+    folder.Keep(emptyWindow.grab(), QStringLiteral("00-overview-empty"));
+    emptyPanel.Panels(6).Visible = true;
+    QApplication::processEvents();
+    folder.Keep(emptyWindow.grab(), QStringLiteral("06-volumes-closed"));
+    warning.Show();
+    QApplication::processEvents();
+    folder.Keep(dialog.grab(), QStringLiteral("20-warning"));
+    folder.Keep(IconSheet(panel), QStringLiteral("30-icons"));
+    return 0;
+}
+
+}  // namespace
+
+}  // namespace orvelle::qt
+
+int main(int count, char** values) {
+    QApplication application(count, values);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() != 3 || (arguments[2] != QLatin1String("light") && arguments[2] != QLatin1String("dark"))) {
+        std::cerr << "usage: orvelle-pictures FOLDER light|dark\n";
+        return 2;
+    }
+    orvelle::ApplyTheme(arguments[2] == QLatin1String("dark") ? orvelle::Scheme::Dark : orvelle::Scheme::Light);
+    const QString suffix = QStringLiteral("-%1-%2x").arg(arguments[2]).arg(application.devicePixelRatio());
+    return orvelle::qt::TakePictures(orvelle::qt::Folder(arguments[1], suffix));
+}

@@ -1,0 +1,171 @@
+// Keys that the user presses while a capture is on become messages, and nothing else.
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <vector>
+
+#include "adapters/qt/services/QtMessageQueue.h"
+#include "adapters/qt/services/QtWindows.h"
+#include "platform/controls/Form.h"
+#include "platform/controls/TextBox.h"
+#include "tests/qt/shell/RealInput.h"
+#include "tests/qt/shell/Waiting.h"
+
+namespace orvelle::qt {
+namespace {
+
+constexpr int KeyEsc = 1;
+constexpr int KeyTab = 15;
+constexpr int KeyQ = 16;
+constexpr int KeyLeftCtrl = 29;
+constexpr int KeyA = 30;
+constexpr int KeyC = 46;
+constexpr int KeyLeftAlt = 56;
+constexpr int KeyF10 = 68;
+constexpr int KeyRightCtrl = 97;
+constexpr int KeyUp = 103;
+constexpr int KeyLeftWindows = 125;
+
+class MessageQueueTest : public testing::Test {
+protected:
+    MessageQueueTest() {
+        auto* layout = new QVBoxLayout(&panel);
+        layout->addWidget(&edit);
+        layout->addWidget(&display);
+        layout->addWidget(&button);
+        display.setReadOnly(true);
+        button.setShortcut(QKeySequence("Ctrl+C"));
+        QObject::connect(&button, &QPushButton::clicked, [this] { ++clicks; });
+        panel.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&panel));
+        EXPECT_TRUE(ComesTrue([this] { return input.HasFocus(panel); }));
+        edit.setFocus();
+    }
+
+    void Stroke(int key) {
+        input.KeyDown(key);
+        input.KeyUp(key);
+    }
+
+    // The codes of all key-downs up to the one of `last`.
+    std::vector<Long> CodesUpTo(Long last) {
+        std::vector<Long> codes;
+        EXPECT_TRUE(ComesTrue([&] {
+            WindowMessage message;
+            while (queue.PeekMessageA(message, RemoveMessage)) {
+                EXPECT_EQ(message.Number, KeyDownMessage);
+                EXPECT_EQ(message.Window, &box);
+                EXPECT_EQ(message.LParam & 0xFFFF, 1);
+                codes.push_back(message.LParam >> 16);
+            }
+            return !codes.empty() && codes.back() == last;
+        }));
+        return codes;
+    }
+
+    WindowTable table;
+    Form form{"form", ""};
+    TextBox box{form, "RWPTTKeyDisplay", nullptr, TextBox::Kind::Locked};
+    QWidget panel;
+    QLineEdit edit;
+    QLineEdit display;
+    QPushButton button{"Set"};
+    int clicks = 0;
+    KeyCapture keys;
+    QtWindows windows{table, keys, [this](const Control& control) { return &control == &box ? &display : nullptr; }};
+    QtMessageQueue queue{table, keys};
+    RealInput input;
+};
+
+TEST_F(MessageQueueTest, CapturedKeysBecomeCodesAndReachNoWidget) {
+    windows.SetCapture(box);
+    input.KeyDown(KeyLeftCtrl);
+    Stroke(KeyC);
+    input.KeyUp(KeyLeftCtrl);
+    for (const int key : {KeyA, KeyTab, KeyF10, KeyRightCtrl, KeyUp, KeyLeftWindows, KeyEsc}) Stroke(key);
+    EXPECT_EQ(CodesUpTo(1), (std::vector<Long>{29, 46, 30, 15, 68, 285, 328, 347, 1}));
+    windows.ReleaseCapture();
+    EXPECT_EQ(clicks, 0);
+    EXPECT_EQ(edit.text(), "");
+    EXPECT_TRUE(display.hasFocus());
+
+    Stroke(KeyTab);
+    EXPECT_TRUE(ComesTrue([this] { return button.hasFocus(); }));
+}
+
+TEST_F(MessageQueueTest, AltCombinationsAreLeftToTheWidgets) {
+    bool heard = false;
+    button.setShortcut(QKeySequence("Alt+Q"));
+    QObject::connect(&button, &QPushButton::clicked, [&] { heard = true; });
+    windows.SetCapture(box);
+    input.KeyDown(KeyLeftAlt);
+    Stroke(KeyQ);
+    input.KeyUp(KeyLeftAlt);
+    Stroke(KeyEsc);
+    EXPECT_EQ(CodesUpTo(1), std::vector<Long>{1});
+    EXPECT_TRUE(ComesTrue([&] { return heard; }));
+    windows.ReleaseCapture();
+}
+
+TEST_F(MessageQueueTest, KeysThatWaitBeforeTheCaptureAreDropped) {
+    Stroke(KeyA);
+    queue.DoEvents();
+    windows.SetCapture(box);
+    Stroke(KeyEsc);
+    EXPECT_EQ(CodesUpTo(1), std::vector<Long>{1});
+    windows.ReleaseCapture();
+    Settle();
+    EXPECT_EQ(edit.text(), "");
+}
+
+TEST_F(MessageQueueTest, EverythingElseIsServedWhileTheQueueIsLookedAt) {
+    bool ran = false;
+    QMetaObject::invokeMethod(
+        &panel, [&] { ran = true; }, Qt::QueuedConnection);
+    WindowMessage message;
+    EXPECT_FALSE(queue.PeekMessageA(message, RemoveMessage));
+    EXPECT_TRUE(ran);
+}
+
+TEST_F(MessageQueueTest, WhileCapturedTheMouseActsOnNoOtherWidget) {
+    windows.SetCapture(box);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(clicks, 0);
+    windows.ReleaseCapture();
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(MessageQueueTest, WithoutACaptureNoKeyIsTaken) {
+    Stroke(KeyA);
+    EXPECT_TRUE(ComesTrue([this] { return edit.text() == "a"; }));
+    WindowMessage message;
+    EXPECT_FALSE(queue.PeekMessageA(message, RemoveMessage));
+}
+
+TEST_F(MessageQueueTest, LookingWithoutRemovingLeavesTheMessage) {
+    windows.SetCapture(box);
+    Stroke(KeyEsc);
+    WindowMessage message;
+    EXPECT_TRUE(ComesTrue([&] { return queue.PeekMessageA(message, 0); }));
+    EXPECT_TRUE(queue.PeekMessageA(message, RemoveMessage));
+    EXPECT_FALSE(queue.PeekMessageA(message, RemoveMessage));
+    windows.ReleaseCapture();
+}
+
+TEST_F(MessageQueueTest, AMessageIsDispatchedToItsWindowsProcedure) {
+    const WindowProcedure procedure = [](Control&, Long message, Long wParam, Long lParam) {
+        return message + wParam + lParam;
+    };
+    EXPECT_NE(windows.SetWindowLongA(box, WindowProcedureIndex, reinterpret_cast<std::intptr_t>(procedure)), 0);
+    EXPECT_EQ(windows.CallWindowProcA(windows.GetWindowLongA(box, WindowProcedureIndex), box, 1, 2, 3), 6);
+    EXPECT_EQ(windows.SetWindowLongA(box, WindowUserData, 5), 0);
+    EXPECT_EQ(windows.GetWindowLongA(box, WindowUserData), 5);
+    queue.DispatchMessageA({&box, 260, 0, 0});
+    queue.DispatchMessageA({});
+}
+
+}  // namespace
+}  // namespace orvelle::qt
