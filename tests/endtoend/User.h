@@ -29,7 +29,7 @@ public:
     // Another X client sees that a key, by its Linux number, is down.
     bool SeesDown(int linuxKey) const;
 
-    RealInput Input;
+    qt::RealInput Input;
 
 private:
     KeyWatch keys;
