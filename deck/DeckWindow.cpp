@@ -7,7 +7,7 @@
 #include <QTabWidget>
 #include <algorithm>
 
-#include "adapters/embedded/SetUp.h"
+#include "platform/sides/SimulatorSide.h"
 #include "deck/fields/Section.h"
 #include "deck/pages/FaultsPage.h"
 #include "deck/pages/NetworkPage.h"
@@ -39,21 +39,20 @@ void AddPage(QTabWidget& tabs, QWidget* page, const QString& title) {
     tabs.addTab(area, title);
 }
 
-QWidget* SideBySide(QWidget* left, QWidget* right) {
+QWidget* SideBySide(std::initializer_list<QWidget*> columns) {
     auto* page = new QWidget;
     page->setObjectName("FlightPage");
     auto* row = new QHBoxLayout(page);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(3 * DeckUnit);
-    row->addWidget(left, 1);
-    row->addWidget(right, 1);
+    for (QWidget* column : columns)
+        if (column) row->addWidget(column, 1);
     return page;
 }
 
 }  // namespace
 
-DeckWindow::DeckWindow(EmbeddedSetUp& embedded)
-    : setUp(embedded), simulator(new SimulatorPage(embedded.Velmarc, embedded.VVL)) {
+DeckWindow::DeckWindow(const FarSides& farSides) : sides(farSides) {
     setObjectName("DeckWindow");
     setWindowTitle("OrvelleCP Flight Deck");
     setAttribute(Qt::WA_ShowWithoutActivating);
@@ -62,9 +61,11 @@ DeckWindow::DeckWindow(EmbeddedSetUp& embedded)
     auto* tabs = new QTabWidget;
     tabs->setObjectName("DeckPages");
     tabs->setDocumentMode(true);
-    AddPage(*tabs, SideBySide(simulator, new NetworkPage(setUp.Tessaly)), "Fl&ight");
-    AddPage(*tabs, new VoicePage(setUp.VVL, setUp.Tessaly), "Voice &engine");
-    AddPage(*tabs, new FaultsPage(setUp), "Fa&ults");
+    if (sides.Simulator) simulator = new SimulatorPage(sides);
+    NetworkPage* network = sides.Network ? new NetworkPage(sides) : nullptr;
+    if (simulator || network) AddPage(*tabs, SideBySide({simulator, network}), "Fl&ight");
+    if (sides.VoiceEngine) AddPage(*tabs, new VoicePage(sides), "Voice &engine");
+    AddPage(*tabs, new FaultsPage(sides), "Fa&ults");
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(tabs);
@@ -81,7 +82,7 @@ void DeckWindow::OpenAt(const QPoint& position) {
 }
 
 void DeckWindow::TellOfProgram(const std::string& sentence) {
-    simulator->TellOfProgram(QString::fromStdString(sentence));
+    if (simulator) simulator->TellOfProgram(QString::fromStdString(sentence));
 }
 
 // Hidden it could not be brought back. Minimising hides it too, as far as its events go. Closed by the program, as at
@@ -94,7 +95,7 @@ void DeckWindow::closeEvent(QCloseEvent* event) {
 
 void DeckWindow::hideEvent(QHideEvent* event) {
     QWidget::hideEvent(event);
-    setUp.Velmarc.ReleaseAll();
+    if (sides.Simulator) sides.Simulator->ReleaseAll();
 }
 
 }  // namespace orvelle

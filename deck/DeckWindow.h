@@ -1,15 +1,15 @@
-// The flight deck: the window in which one person plays the simulator, the network session and the other side of an
-// embedded set-up. The program makes it beside the panel and opens it where it wants. It knows nothing of the panel:
-// it works on the set-up's objects and listens to their changes. Closing it minimises it, so that the taskbar brings
-// it back; what is held down there is let go, and the panel lives on.
+// The flight deck: the window in which one person plays the simulator, the network session and the other side of the
+// panel. The program makes it beside the panel and opens it where it wants. It knows nothing of the panel: it works on
+// the far sides that this computer plays, with a part for each that is there, and listens to their changes. Closing it
+// minimises it, so that the taskbar brings it back; what is held down there is let go, and the panel lives on.
 #pragma once
 
 #include <QWidget>
 #include <string>
 
-namespace orvelle {
+#include "platform/sides/FarSides.h"
 
-class EmbeddedSetUp;
+namespace orvelle {
 
 namespace deck {
 class SimulatorPage;
@@ -17,8 +17,8 @@ class SimulatorPage;
 
 class DeckWindow : public QWidget {
 public:
-    // `embedded` outlives the window.
-    explicit DeckWindow(EmbeddedSetUp& embedded);
+    // The far sides outlive the window.
+    explicit DeckWindow(const FarSides& farSides);
 
     // Shows the window with its frame's corner at `position`, logical pixels, or as near to it as the screen allows.
     // It doesn't take the focus.
@@ -32,8 +32,8 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    EmbeddedSetUp& setUp;
-    deck::SimulatorPage* simulator;
+    const FarSides sides;
+    deck::SimulatorPage* simulator = nullptr;  // null where no simulator is played here
 };
 
 }  // namespace orvelle

@@ -4,8 +4,9 @@
 
 namespace orvelle {
 
-class EmbeddedSetUp;
+struct FarSides;
 
-void PrepareFirstFlight(EmbeddedSetUp& setUp);
+// The sides that are there.
+void PrepareFirstFlight(const FarSides& sides);
 
 }  // namespace orvelle

@@ -4,7 +4,7 @@
 
 #include "platform/RuntimeError.h"
 
-namespace orvelle {
+namespace orvelle::embedded {
 
 namespace {
 
@@ -48,14 +48,14 @@ private:
 
 }  // namespace
 
-std::unique_ptr<MediaPlayer> EmbeddedMediaPlayers::New(Long radio) {
+std::unique_ptr<MediaPlayer> MediaPlayers::New(Long radio) {
     if (!playersAvailable) throw RuntimeError(ComponentCannotCreateObject);
     return std::make_unique<EmbeddedMediaPlayer>(players.at(static_cast<std::size_t>(radio)), Changed);
 }
 
-void EmbeddedMediaPlayers::EndRecording(Long radio) {
+void MediaPlayers::EndRecording(Long radio) {
     players.at(static_cast<std::size_t>(radio)).Playing = false;
     Changed.Mark();
 }
 
-}  // namespace orvelle
+}  // namespace orvelle::embedded

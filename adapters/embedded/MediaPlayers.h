@@ -11,7 +11,7 @@
 #include "adapters/shared/Changes.h"
 #include "platform/MediaPlayer.h"
 
-namespace orvelle {
+namespace orvelle::embedded {
 
 struct PlayerState {
     bool Exists = false;
@@ -22,9 +22,9 @@ struct PlayerState {
     std::string Source;
 };
 
-class EmbeddedMediaPlayers : public MediaPlayerFactory {
+class MediaPlayers : public MediaPlayerFactory {
 public:
-    explicit EmbeddedMediaPlayers(EventLoop& loop) : Changed(loop) {}
+    explicit MediaPlayers(EventLoop& loop) : Changed(loop) {}
 
     std::unique_ptr<MediaPlayer> New(Long radio) override;
 
@@ -40,4 +40,4 @@ private:
     bool playersAvailable = true;
 };
 
-}  // namespace orvelle
+}  // namespace orvelle::embedded

@@ -2,11 +2,13 @@
 
 #include <algorithm>
 
-namespace orvelle {
+namespace orvelle::embedded {
 
 namespace {
 
-MixerSide SideOf(MixerLine line) { return line == MixerLine::Microphone ? MixerSide::Input : MixerSide::Output; }
+SoundDirection DirectionOf(MixerLine line) {
+    return line == MixerLine::Microphone ? SoundDirection::Input : SoundDirection::Output;
+}
 
 Integer Within(const MixerLevel& level, Long value) {
     const Long least = std::min(level.Min, level.Max);
@@ -16,56 +18,59 @@ Integer Within(const MixerLevel& level, Long value) {
 
 }  // namespace
 
-EmbeddedMixer::EmbeddedMixer(EventLoop& loop) : Changed(loop), delivery(loop) {}
+Mixer::Mixer(EventLoop& loop) : changes(loop), delivery(loop) {}
 
-void EmbeddedMixer::InputDevice(const std::string& name) { SetDevice(MixerSide::Input, name); }
-void EmbeddedMixer::OutputDevice(const std::string& name) { SetDevice(MixerSide::Output, name); }
+void Mixer::InputDevice(const std::string& name) { SetDevice(SoundDirection::Input, name); }
+void Mixer::OutputDevice(const std::string& name) { SetDevice(SoundDirection::Output, name); }
 
-void EmbeddedMixer::Open() {
+void Mixer::Open() {
     open = true;
-    Follow(MixerSide::Input);
-    Follow(MixerSide::Output);
-    Changed.Mark();
+    Follow(SoundDirection::Input);
+    Follow(SoundDirection::Output);
+    changes.Mark();
 }
 
-void EmbeddedMixer::Close() {
+void Mixer::Close() {
     open = false;
     delivery.Drop();
     for (Side& side : sides) side.Opened = false;
-    Changed.Mark();
+    changes.Mark();
 }
 
-bool EmbeddedMixer::MicUnavailable() { return At(MixerLine::Microphone).Unavailable; }
-Integer EmbeddedMixer::MicMin() { return At(MixerLine::Microphone).Min; }
-Integer EmbeddedMixer::MicMax() { return At(MixerLine::Microphone).Max; }
-Integer EmbeddedMixer::MicStep() { return At(MixerLine::Microphone).Step; }
-Integer EmbeddedMixer::MicVolume() { return At(MixerLine::Microphone).Volume; }
-void EmbeddedMixer::MicVolume(Long value) { Move(MixerLine::Microphone, value); }
-bool EmbeddedMixer::MasterUnavailable() { return At(MixerLine::Master).Unavailable; }
-Integer EmbeddedMixer::MasterMin() { return At(MixerLine::Master).Min; }
-Integer EmbeddedMixer::MasterMax() { return At(MixerLine::Master).Max; }
-Integer EmbeddedMixer::MasterStep() { return At(MixerLine::Master).Step; }
-Integer EmbeddedMixer::MasterVolume() { return At(MixerLine::Master).Volume; }
-void EmbeddedMixer::MasterVolume(Long value) { Move(MixerLine::Master, value); }
-bool EmbeddedMixer::WaveUnavailable() { return At(MixerLine::Wave).Unavailable; }
-Integer EmbeddedMixer::WaveMin() { return At(MixerLine::Wave).Min; }
-Integer EmbeddedMixer::WaveMax() { return At(MixerLine::Wave).Max; }
-Integer EmbeddedMixer::WaveStep() { return At(MixerLine::Wave).Step; }
-Integer EmbeddedMixer::WaveVolume() { return At(MixerLine::Wave).Volume; }
-void EmbeddedMixer::WaveVolume(Long value) { Move(MixerLine::Wave, value); }
+bool Mixer::MicUnavailable() { return At(MixerLine::Microphone).Unavailable; }
+Integer Mixer::MicMin() { return At(MixerLine::Microphone).Min; }
+Integer Mixer::MicMax() { return At(MixerLine::Microphone).Max; }
+Integer Mixer::MicStep() { return At(MixerLine::Microphone).Step; }
+Integer Mixer::MicVolume() { return At(MixerLine::Microphone).Volume; }
+void Mixer::MicVolume(Long value) { SetVolume(MixerLine::Microphone, value); }
+bool Mixer::MasterUnavailable() { return At(MixerLine::Master).Unavailable; }
+Integer Mixer::MasterMin() { return At(MixerLine::Master).Min; }
+Integer Mixer::MasterMax() { return At(MixerLine::Master).Max; }
+Integer Mixer::MasterStep() { return At(MixerLine::Master).Step; }
+Integer Mixer::MasterVolume() { return At(MixerLine::Master).Volume; }
+void Mixer::MasterVolume(Long value) { SetVolume(MixerLine::Master, value); }
+bool Mixer::WaveUnavailable() { return At(MixerLine::Wave).Unavailable; }
+Integer Mixer::WaveMin() { return At(MixerLine::Wave).Min; }
+Integer Mixer::WaveMax() { return At(MixerLine::Wave).Max; }
+Integer Mixer::WaveStep() { return At(MixerLine::Wave).Step; }
+Integer Mixer::WaveVolume() { return At(MixerLine::Wave).Volume; }
+void Mixer::WaveVolume(Long value) { SetVolume(MixerLine::Wave, value); }
 
-void EmbeddedMixer::SetLevel(MixerLine line, const MixerLevel& level) {
+void Mixer::SetLevel(MixerLine line, const MixerLevel& level) {
     At(line) = level;
     At(line).Volume = Within(level, level.Volume);
-    Reopen(SideOf(line));
+    Reopen(DirectionOf(line));
 }
 
-void EmbeddedMixer::Move(MixerLine line, Long value) {
+void Mixer::Move(MixerLine line, Long value) { SetVolume(line, value); }
+
+// Whoever sets it, the panel or somebody else: a level that changes is told.
+void Mixer::SetVolume(MixerLine line, Long value) {
     MixerLevel& level = At(line);
     const Integer volume = Within(level, value);
     if (level.Unavailable || level.Volume == volume) return;
     level.Volume = volume;
-    Changed.Mark();
+    changes.Mark();
     if (!open) return;
     delivery.Raise([this, line] {
         switch (line) {
@@ -79,35 +84,35 @@ void EmbeddedMixer::Move(MixerLine line, Long value) {
     });
 }
 
-void EmbeddedMixer::SetPlugged(MixerSide side, bool plugged) {
-    At(side).Plugged = plugged;
-    Follow(side);
-    Changed.Mark();
+void Mixer::SetPlugged(SoundDirection direction, bool plugged) {
+    At(direction).Plugged = plugged;
+    Follow(direction);
+    changes.Mark();
 }
 
-void EmbeddedMixer::SetDevice(MixerSide side, const std::string& name) {
-    if (At(side).Device == name) return;
-    At(side).Device = name;
-    Reopen(side);
+void Mixer::SetDevice(SoundDirection direction, const std::string& name) {
+    if (At(direction).Device == name) return;
+    At(direction).Device = name;
+    Reopen(direction);
 }
 
-void EmbeddedMixer::Follow(MixerSide side) {
-    if (open) delivery.Raise([this, side] { Tell(side, At(side).Plugged); });
+void Mixer::Follow(SoundDirection direction) {
+    if (open) delivery.Raise([this, direction] { Tell(direction, At(direction).Plugged); });
 }
 
-void EmbeddedMixer::Reopen(MixerSide side) {
-    if (open) delivery.Raise([this, side] { Tell(side, false); });
-    Follow(side);
-    Changed.Mark();
+void Mixer::Reopen(SoundDirection direction) {
+    if (open) delivery.Raise([this, direction] { Tell(direction, false); });
+    Follow(direction);
+    changes.Mark();
 }
 
-void EmbeddedMixer::Tell(MixerSide side, bool opened) {
-    if (At(side).Opened == opened) return;
-    At(side).Opened = opened;
-    if (side == MixerSide::Input)
+void Mixer::Tell(SoundDirection direction, bool opened) {
+    if (At(direction).Opened == opened) return;
+    At(direction).Opened = opened;
+    if (direction == SoundDirection::Input)
         opened ? InputOpened() : InputClosed();
     else
         opened ? OutputOpened() : OutputClosed();
 }
 
-}  // namespace orvelle
+}  // namespace orvelle::embedded

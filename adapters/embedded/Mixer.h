@@ -5,28 +5,20 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <string>
+#include <utility>
 
 #include "adapters/shared/Changes.h"
 #include "adapters/shared/Delivery.h"
 #include "platform/VolumeControl.h"
+#include "platform/sides/MixerSide.h"
 
-namespace orvelle {
+namespace orvelle::embedded {
 
-enum class MixerLine { Microphone, Master, Wave };
-enum class MixerSide { Input, Output };  // the microphone line; the master and wave lines
-
-struct MixerLevel {
-    bool Unavailable = false;
-    Integer Min = 0;
-    Integer Max = 100;
-    Integer Step = 5;
-    Integer Volume = 50;
-};
-
-class EmbeddedMixer : public MixerControl {
+class Mixer : public MixerControl, public MixerSide {
 public:
-    explicit EmbeddedMixer(EventLoop& loop);
+    explicit Mixer(EventLoop& loop);
 
     void InputDevice(const std::string& name) override;
     void OutputDevice(const std::string& name) override;
@@ -52,18 +44,17 @@ public:
     Integer WaveVolume() override;
     void WaveVolume(Long value) override;
 
-    // The deck's side.
-    void SetLevel(MixerLine line, const MixerLevel& level);  // range and all; opens the side anew
-    const MixerLevel& Level(MixerLine line) const { return levels[static_cast<std::size_t>(line)]; }
-    void Move(MixerLine line, Long value);  // somebody else moved it
-    void SetPlugged(MixerSide side, bool plugged);
-    bool Plugged(MixerSide side) const { return sides[static_cast<std::size_t>(side)].Plugged; }
-    std::string DeviceName(MixerSide side) const { return sides[static_cast<std::size_t>(side)].Device; }
-    bool IsOpen() const { return open; }
-    void SetDelay(Long milliseconds) { delivery.SetDelay(milliseconds); }
-    Long Delay() const { return delivery.Delay(); }
-
-    Changes Changed;
+    // The mixer from its far side.
+    void SetLevel(MixerLine line, const MixerLevel& level) override;
+    const MixerLevel& Level(MixerLine line) const override { return levels[static_cast<std::size_t>(line)]; }
+    void Move(MixerLine line, Long value) override;
+    void SetPlugged(SoundDirection direction, bool plugged) override;
+    bool Plugged(SoundDirection direction) const override { return At(direction).Plugged; }
+    std::string DeviceName(SoundDirection direction) const override { return At(direction).Device; }
+    bool IsOpen() const override { return open; }
+    void SetDelay(Long milliseconds) override { delivery.SetDelay(milliseconds); }
+    Long Delay() const override { return delivery.Delay(); }
+    Ticket Observe(std::function<void()> observer) override { return changes.Observe(std::move(observer)); }
 
 private:
     struct Side {
@@ -73,16 +64,19 @@ private:
     };
 
     MixerLevel& At(MixerLine line) { return levels[static_cast<std::size_t>(line)]; }
-    Side& At(MixerSide side) { return sides[static_cast<std::size_t>(side)]; }
-    void SetDevice(MixerSide side, const std::string& name);
-    void Follow(MixerSide side);  // brings the panel to what is plugged
-    void Reopen(MixerSide side);
-    void Tell(MixerSide side, bool opened);
+    Side& At(SoundDirection direction) { return sides[static_cast<std::size_t>(direction)]; }
+    const Side& At(SoundDirection direction) const { return sides[static_cast<std::size_t>(direction)]; }
+    void SetVolume(MixerLine line, Long value);
+    void SetDevice(SoundDirection direction, const std::string& name);
+    void Follow(SoundDirection direction);  // brings the panel to what is plugged
+    void Reopen(SoundDirection direction);
+    void Tell(SoundDirection direction, bool opened);
 
+    Changes changes;
     Delivery delivery;
     bool open = false;
     std::array<MixerLevel, 3> levels;
     std::array<Side, 2> sides;
 };
 
-}  // namespace orvelle
+}  // namespace orvelle::embedded

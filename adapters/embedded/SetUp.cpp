@@ -1,36 +1,26 @@
 #include "adapters/embedded/SetUp.h"
 
-#include <utility>
+namespace orvelle::embedded {
 
-namespace orvelle {
-
-EmbeddedSetUp::EmbeddedSetUp(EventLoop& loop, const std::filesystem::path& storeFile,
-                             std::vector<std::string> thisComputer)
-    : notices(loop),
-      Store(storeFile, [this](const std::string& sentence) { Tell(sentence); }),
-      Velmarc(loop, Store, std::move(thisComputer)),
-      Tessaly(loop, Store),
-      VVL(loop),
+SetUp::SetUp(EventLoop& loop)
+    : SimulatorLink(loop),
+      NetworkLink(loop),
+      VVL(loop, Devices),
       VolumeControl(loop),
       VolumeControlHP(loop),
       TSRemote(loop),
       MediaPlayers(loop) {}
 
-// A store that something else has written to may be full of wrong values; they make one message.
-void EmbeddedSetUp::Tell(const std::string& sentence) {
-    if (untold.empty())
-        notices.Raise([this] { Notice(std::exchange(untold, "")); });
-    else
-        untold += '\n';
-    untold += sentence;
+FarSides SetUp::Sides() {
+    return {.Simulator = &SimulatorLink,
+            .SimulatorLink = &SimulatorLink,
+            .Network = &NetworkLink,
+            .NetworkLink = &NetworkLink,
+            .VoiceEngine = &VVL,
+            .HeadsetMixer = &VolumeControl,
+            .SpeakersMixer = &VolumeControlHP,
+            .TeamSpeak = &TSRemote,
+            .Devices = &Devices};
 }
 
-void EmbeddedSetUp::Stop() {
-    Velmarc.Stop();
-    Tessaly.LinkStop();
-    VVL.Stop();
-    VolumeControl.Close();
-    VolumeControlHP.Close();
-}
-
-}  // namespace orvelle
+}  // namespace orvelle::embedded

@@ -1,50 +1,34 @@
-// A whole set-up inside the panel's process: the store, both links, the voice engine, the mixers and the stand-ins of
-// the voice programs. The program makes one, passes its members into the panel as parts of its Platform, and hands the
-// same object to the flight deck. It must outlive both.
+// A whole set-up inside the panel's process, for practising: the two links, the voice engine, the mixers and the
+// stand-ins of the voice programs. The program makes one, passes its members to the panel as parts of its Platform and
+// as lines of its links, and hands their far sides to whoever plays them. It must outlive all of these.
 #pragma once
 
-#include <filesystem>
-#include <string>
-#include <vector>
-
+#include "adapters/embedded/AudioDevices.h"
 #include "adapters/embedded/MediaPlayers.h"
 #include "adapters/embedded/Mixer.h"
+#include "adapters/embedded/NetworkLink.h"
+#include "adapters/embedded/SimulatorLink.h"
 #include "adapters/embedded/TeamSpeak.h"
-#include "adapters/embedded/Tessaly.h"
-#include "adapters/embedded/Velmarc.h"
 #include "adapters/embedded/VoiceEngine.h"
-#include "adapters/store/SqliteStore.h"
-#include "platform/Event.h"
+#include "platform/sides/FarSides.h"
 
-namespace orvelle {
+namespace orvelle::embedded {
 
-class EmbeddedSetUp {
-    Delivery notices;
-    std::string untold;  // sentences, a line each
-
+class SetUp {
 public:
-    // `storeFile` is the store's file, made with its folder where missing. `thisComputer` lists names and addresses of
-    // this computer beside the loopback ones.
-    EmbeddedSetUp(EventLoop& loop, const std::filesystem::path& storeFile, std::vector<std::string> thisComputer = {});
+    explicit SetUp(EventLoop& loop);
 
-    // Sentences for the user about the settings, for the shell to show: from the loop, all that arose before its turn
-    // in one call, each on a line of its own. What arose while this object was made comes in the loop's first turn.
-    Event<const std::string&> Notice;
+    embedded::SimulatorLink SimulatorLink;
+    embedded::NetworkLink NetworkLink;
+    embedded::AudioDevices Devices;
+    VoiceEngine VVL;
+    Mixer VolumeControl;
+    Mixer VolumeControlHP;
+    TeamSpeak TSRemote;
+    embedded::MediaPlayers MediaPlayers;
 
-    store::SqliteStore Store;  // the settings store and the registry
-    EmbeddedVelmarc Velmarc;
-    EmbeddedTessaly Tessaly;
-    EmbeddedVoiceEngine VVL;
-    EmbeddedMixer VolumeControl;
-    EmbeddedMixer VolumeControlHP;
-    EmbeddedTeamSpeak TSRemote;
-    EmbeddedMediaPlayers MediaPlayers;
-
-    // The panel has ended: no event is raised any more.
-    void Stop();
-
-private:
-    void Tell(const std::string& sentence);
+    // All that are played here; whom the settings' trouble goes to is left for the program to fill in.
+    FarSides Sides();
 };
 
-}  // namespace orvelle
+}  // namespace orvelle::embedded

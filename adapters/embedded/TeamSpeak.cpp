@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace orvelle {
+namespace orvelle::embedded {
 
 namespace {
 
@@ -18,10 +18,10 @@ std::string PartBehind(const std::string& url, const std::string& mark) {
 
 }  // namespace
 
-Integer EmbeddedTeamSpeak::tsrConnect(const std::string& url) {
+Integer TeamSpeak::tsrConnect(const std::string& url) {
     lastUrl = url;
-    Changed.Mark();
-    const Integer result = Answer(Fail.Connect);
+    changes.Mark();
+    const Integer result = Answer(results.Connect);
     if (result != 0) return result;
     address = PartBehind(url, "://");
     if (address.find(':') == std::string::npos) address += ":8767";
@@ -29,14 +29,14 @@ Integer EmbeddedTeamSpeak::tsrConnect(const std::string& url) {
     return 0;
 }
 
-Integer EmbeddedTeamSpeak::tsrDisconnect() {
-    const Integer result = Answer(Fail.Disconnect);
+Integer TeamSpeak::tsrDisconnect() {
+    const Integer result = Answer(results.Disconnect);
     if (result == 0) Leave();
     return result;
 }
 
-Integer EmbeddedTeamSpeak::tsrGetServerInfo(TS_SERVER_INFO& info) {
-    const Integer result = Answer(Fail.ServerInfo);
+Integer TeamSpeak::tsrGetServerInfo(TS_SERVER_INFO& info) {
+    const Integer result = Answer(results.ServerInfo);
     if (result != 0) return result;
     if (address.empty()) return Failed;
     info = {};
@@ -45,9 +45,9 @@ Integer EmbeddedTeamSpeak::tsrGetServerInfo(TS_SERVER_INFO& info) {
     return 0;
 }
 
-Integer EmbeddedTeamSpeak::tsrGetChannelInfoByName(const std::string& name, TS_CHANNEL_INFO& found, TS_PLAYER_INFO&,
+Integer TeamSpeak::tsrGetChannelInfoByName(const std::string& name, TS_CHANNEL_INFO& found, TS_PLAYER_INFO&,
                                                    Long&) {
-    const Integer result = Answer(Fail.ChannelInfo);
+    const Integer result = Answer(results.ChannelInfo);
     if (result != 0) return result;
     const auto entry = channels.find(name);
     if (address.empty() || entry == channels.end()) return Failed;
@@ -56,31 +56,31 @@ Integer EmbeddedTeamSpeak::tsrGetChannelInfoByName(const std::string& name, TS_C
     return 0;
 }
 
-Integer EmbeddedTeamSpeak::tsrSwitchChannelID(Long channelId, const std::string&) {
-    const Integer result = Answer(Fail.SwitchChannel);
+Integer TeamSpeak::tsrSwitchChannelID(Long channelId, const std::string&) {
+    const Integer result = Answer(results.SwitchChannel);
     if (result != 0) return result;
     const auto entry =
         std::ranges::find_if(channels, [channelId](const auto& known) { return known.second == channelId; });
     if (address.empty() || entry == channels.end()) return Failed;
     channel = entry->first;
-    Changed.Mark();
+    changes.Mark();
     return 0;
 }
 
-void EmbeddedTeamSpeak::SetProgram(ProgramState state) {
+void TeamSpeak::SetProgram(ProgramState state) {
     program = state;
     if (state == ProgramState::NotRunning) Leave();
-    Changed.Mark();
+    changes.Mark();
 }
 
-void EmbeddedTeamSpeak::SetChannels(const std::map<std::string, Long>& idsByName) { channels = idsByName; }
+void TeamSpeak::SetChannels(const std::map<std::string, Long>& idsByName) { channels = idsByName; }
 
-Integer EmbeddedTeamSpeak::Answer(Integer failure) const { return program == ProgramState::Running ? failure : Failed; }
+Integer TeamSpeak::Answer(Integer failure) const { return program == ProgramState::Running ? failure : Failed; }
 
-void EmbeddedTeamSpeak::Leave() {
+void TeamSpeak::Leave() {
     address.clear();
     channel.clear();
-    Changed.Mark();
+    changes.Mark();
 }
 
-}  // namespace orvelle
+}  // namespace orvelle::embedded

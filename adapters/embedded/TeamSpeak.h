@@ -1,22 +1,22 @@
-// A stand-in for the remote control of the TeamSpeak program. Until the deck starts the program every call fails with
-// -1; then it connects, tells its server and switches channels, or gives the result that the deck put in. Answers at
+// A stand-in for the remote control of the TeamSpeak program. Until its own side starts the program every call fails with
+// -1; then it connects, tells its server and switches channels, or gives the result that was put in. Answers at
 // once; main thread only.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
+#include <utility>
 
 #include "adapters/shared/Changes.h"
 #include "platform/TSRemote.h"
+#include "platform/sides/TeamSpeakSide.h"
 
-namespace orvelle {
+namespace orvelle::embedded {
 
-enum class ProgramState { NotRunning, Running };
-enum class AddressPadding { Blanks, Zeros };  // what fills the address field behind the address
-
-class EmbeddedTeamSpeak : public TeamSpeakRemote {
+class TeamSpeak : public TeamSpeakRemote, public TeamSpeakSide {
 public:
-    explicit EmbeddedTeamSpeak(EventLoop& loop) : Changed(loop) {}
+    explicit TeamSpeak(EventLoop& loop) : changes(loop) {}
 
     Integer tsrConnect(const std::string& url) override;
     Integer tsrDisconnect() override;
@@ -25,31 +25,23 @@ public:
                                     Long& count) override;
     Integer tsrSwitchChannelID(Long channelId, const std::string& password) override;
 
-    // The deck's side.
-    void SetProgram(ProgramState state);  // a program that ends is connected to nothing
-    ProgramState Program() const { return program; }
-    void SetPadding(AddressPadding newPadding) { padding = newPadding; }
-    void SetChannels(const std::map<std::string, Long>& idsByName);  // none at first
-    const std::string& Address() const { return address; }  // host and port of the server, "" when not connected
-    const std::string& LastUrl() const { return lastUrl; }
-    const std::string& Channel() const { return channel; }
-
-    // Results in place of success, 0 for none
-    struct Results {
-        Integer Connect = 0;
-        Integer Disconnect = 0;
-        Integer ServerInfo = 0;
-        Integer ChannelInfo = 0;
-        Integer SwitchChannel = 0;
-    };
-    Results Fail;
-
-    Changes Changed;
+    // The program from its own side.
+    void SetProgram(ProgramState state) override;
+    ProgramState Program() const override { return program; }
+    void SetPadding(AddressPadding newPadding) override { padding = newPadding; }
+    void SetChannels(const std::map<std::string, Long>& idsByName) override;
+    const std::string& Address() const override { return address; }
+    const std::string& LastUrl() const override { return lastUrl; }
+    const std::string& Channel() const override { return channel; }
+    TeamSpeakResults& Fail() override { return results; }
+    Ticket Observe(std::function<void()> observer) override { return changes.Observe(std::move(observer)); }
 
 private:
     Integer Answer(Integer failure) const;
     void Leave();
 
+    Changes changes;
+    TeamSpeakResults results;
     ProgramState program = ProgramState::NotRunning;
     AddressPadding padding = AddressPadding::Blanks;
     std::map<std::string, Long> channels;
@@ -58,4 +50,4 @@ private:
     std::string lastUrl;
 };
 
-}  // namespace orvelle
+}  // namespace orvelle::embedded

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace orvelle {
+namespace orvelle::embedded {
 
 namespace {
 
@@ -21,76 +21,73 @@ auto* At(Elements& elements, Long index) {
 
 }  // namespace
 
-EmbeddedVoiceEngine::EmbeddedVoiceEngine(EventLoop& loop)
-    : Changed(loop),
-      delivery(loop),
-      inputDevices{"DirectSound - Microphone", "Wave - Headset Microphone"},
-      outputDevices{"DirectSound - Loudspeakers", "DirectSound - Headset", "Wave - Line Out"} {}
+VoiceEngine::VoiceEngine(EventLoop& loop, const AudioDevices& audioDevices)
+    : changes(loop), delivery(loop), devices(audioDevices) {}
 
-bool EmbeddedVoiceEngine::Running() { return running; }
+bool VoiceEngine::Running() { return running; }
 
-bool EmbeddedVoiceEngine::Start(Long) {
+bool VoiceEngine::Start(Long) {
     if (running || startOutcome == StartOutcome::Refused) return false;
     if (!starting) delivery.RaiseAfter(startDelay, [this] { StartDone(); });
     starting = true;
-    Changed.Mark();
+    changes.Mark();
     return true;
 }
 
-void EmbeddedVoiceEngine::Stop() {
+void VoiceEngine::Stop() {
     delivery.Drop();
     ShutDown();
 }
 
-void EmbeddedVoiceEngine::InputSquelch(double value) {
+void VoiceEngine::InputSquelch(double value) {
     inputSquelchValue = value;
-    Changed.Mark();
+    changes.Mark();
 }
 
-void EmbeddedVoiceEngine::OutputSquelch(double value) {
+void VoiceEngine::OutputSquelch(double value) {
     outputSquelchValue = value;
-    Changed.Mark();
+    changes.Mark();
 }
 
-std::string EmbeddedVoiceEngine::InputDevices() { return EachEndedByLineFeed(inputDevices); }
-std::string EmbeddedVoiceEngine::OutputDevices() { return EachEndedByLineFeed(outputDevices); }
+std::string VoiceEngine::InputDevices() { return EachEndedByLineFeed(devices.InputNames()); }
+std::string VoiceEngine::OutputDevices() { return EachEndedByLineFeed(devices.OutputNames()); }
 
-void EmbeddedVoiceEngine::InputDevice(Long device) {
+void VoiceEngine::InputDevice(Long device) {
     inputDevice = device;
-    Changed.Mark();
+    changes.Mark();
 }
 
-void EmbeddedVoiceEngine::OutputDevice(Long output, Long device) { SetOutput(output, &VoiceOutput::Device, device); }
-void EmbeddedVoiceEngine::OutputVolume(Long output, Long value) { SetOutput(output, &VoiceOutput::Volume, value); }
+void VoiceEngine::OutputDevice(Long output, Long device) { SetOutput(output, &VoiceOutput::Device, device); }
+void VoiceEngine::OutputVolume(Long output, Long value) { SetOutput(output, &VoiceOutput::Volume, value); }
 
-void EmbeddedVoiceEngine::SignalVolume(Long output, Long value) {
+void VoiceEngine::SignalVolume(Long output, Long value) {
     SetOutput(output, &VoiceOutput::SignalVolume, value);
 }
 
-void EmbeddedVoiceEngine::OutputFilter(Long output, bool on) { SetOutput(output, &VoiceOutput::Filter, on); }
+void VoiceEngine::OutputFilter(Long output, bool on) { SetOutput(output, &VoiceOutput::Filter, on); }
 
-void EmbeddedVoiceEngine::ChannelOutput(Long room, Long output, bool on) {
+void VoiceEngine::ChannelOutput(Long room, Long output, bool on) {
     VoiceRoom* place = At(rooms, room);
     bool* routed = place ? At(place->Output, output) : nullptr;
     if (!routed) return;
     *routed = on;
-    Changed.Mark();
+    changes.Mark();
 }
 
-bool EmbeddedVoiceEngine::InputStatus() { return running && !inputFailed; }
+bool VoiceEngine::InputStatus() { return running && !inputFailed; }
 
-bool EmbeddedVoiceEngine::OutputStatus(Long output) {
+bool VoiceEngine::OutputStatus(Long output) {
     const VoiceOutput* device = At(outputs, output);
     return running && device && !device->Failed;
 }
 
-bool EmbeddedVoiceEngine::RoomJoin(Long room, const std::string& clientName, const std::string& roomAddress) {
+bool VoiceEngine::RoomJoin(Long room, const std::string& clientName, const std::string& roomAddress) {
     VoiceRoom* place = At(rooms, room);
     if (!running || !place || place->Joins == JoinOutcome::Refused) return false;
     RoomLeave(room);
     place->ClientName = clientName;
     place->Address = roomAddress;
-    SetState(room, RoomState::Joining, "Joining " + roomAddress);
+    SetPresence(room, RoomPresence::Joining, "Joining " + roomAddress);
     delivery.RaiseAfter(joinDelay, [this, room, attempt = attempts[static_cast<std::size_t>(room)]] {
         if (attempt == attempts[static_cast<std::size_t>(room)]) JoinDone(room);
     });
@@ -98,27 +95,28 @@ bool EmbeddedVoiceEngine::RoomJoin(Long room, const std::string& clientName, con
 }
 
 // Who is on the way back in when the event comes has not left: told late, it would pass for the end of the new join.
-void EmbeddedVoiceEngine::RoomLeave(Long room) {
+void VoiceEngine::RoomLeave(Long room) {
     if (!Leave(room)) return;
     delivery.Raise([this, room] {
-        if (Room(room).State == RoomState::Out) VVL_RoomLeft(room);
+        if (Room(room).Presence == RoomPresence::Out) VVL_RoomLeft(room);
     });
 }
 
-void EmbeddedVoiceEngine::RoomMute(Long room, bool mute) {
+void VoiceEngine::RoomMute(Long room, bool mute) {
     VoiceRoom* place = At(rooms, room);
     if (!place) return;
     place->Muted = mute;
-    Changed.Mark();
+    changes.Mark();
 }
 
-std::string EmbeddedVoiceEngine::RoomStatus(Long room) {
+std::string VoiceEngine::RoomStatus(Long room) {
     const VoiceRoom* place = At(rooms, room);
     return place ? place->Status : "";
 }
 
-bool EmbeddedVoiceEngine::Calibrate(Long microphone, Long headset, float& inputSquelch, float& outputSquelch) {
-    const auto squelch = CalibrationDialogue ? CalibrationDialogue(microphone, headset) : std::nullopt;
+bool VoiceEngine::Calibrate(Long microphone, Long headset, float& inputSquelch, float& outputSquelch) {
+    const auto dialogue = calibration.lock();
+    const auto squelch = dialogue ? (*dialogue)(microphone, headset) : std::nullopt;
     if (!squelch) return false;
     inputSquelch = squelch->Input;
     outputSquelch = squelch->Output;
@@ -127,80 +125,77 @@ bool EmbeddedVoiceEngine::Calibrate(Long microphone, Long headset, float& inputS
     return true;
 }
 
-void EmbeddedVoiceEngine::SetStartOutcome(StartOutcome outcome) {
+void VoiceEngine::SetStartOutcome(StartOutcome outcome) {
     startOutcome = outcome;
-    Changed.Mark();
+    changes.Mark();
 }
 
-void EmbeddedVoiceEngine::SetJoinOutcome(Long room, JoinOutcome outcome) {
+void VoiceEngine::SetJoinOutcome(Long room, JoinOutcome outcome) {
     if (VoiceRoom* place = At(rooms, room)) place->Joins = outcome;
-    Changed.Mark();
+    changes.Mark();
 }
 
-void EmbeddedVoiceEngine::Kick(Long room) {
+void VoiceEngine::Kick(Long room) {
     const VoiceRoom* place = At(rooms, room);
-    if (place && place->State == RoomState::In && Leave(room)) RaiseForRoom(VVL_RoomKicked, room);
+    if (place && place->Presence == RoomPresence::In && Leave(room)) RaiseForRoom(VVL_RoomKicked, room);
 }
 
-void EmbeddedVoiceEngine::SetRoomAudio(Long room, bool carries) {
+void VoiceEngine::SetRoomAudio(Long room, bool carries) {
     VoiceRoom* place = At(rooms, room);
-    if (!place || place->State != RoomState::In || place->Audio == carries) return;
+    if (!place || place->Presence != RoomPresence::In || place->Audio == carries) return;
     place->Audio = carries;
     RaiseForRoom(carries ? VVL_RoomAudioStarted : VVL_RoomAudioStopped, room);
 }
 
-void EmbeddedVoiceEngine::SetRoomStatus(Long room, const std::string& status) {
+void VoiceEngine::SetRoomStatus(Long room, const std::string& status) {
     VoiceRoom* place = At(rooms, room);
     if (!place || place->Status == status) return;
     place->Status = status;
     if (running) RaiseForRoom(VVL_RoomStatusChanged, room);
 }
 
-void EmbeddedVoiceEngine::Fail() {
+void VoiceEngine::Fail() {
     if (!running) return;
     delivery.Drop();
     ShutDown();
     delivery.Raise([this] { VVL_Stopped(); });
 }
 
-void EmbeddedVoiceEngine::SetInputDevices(std::vector<std::string> names) {
-    inputDevices = std::move(names);
-    Changed.Mark();
-}
-void EmbeddedVoiceEngine::SetOutputDevices(std::vector<std::string> names) {
-    outputDevices = std::move(names);
-    Changed.Mark();
+Ticket VoiceEngine::AnswerCalibration(CalibrationDialogue dialogue) {
+    auto ticket = std::make_shared<CalibrationDialogue>(std::move(dialogue));
+    calibration = ticket;
+    return ticket;
 }
 
-void EmbeddedVoiceEngine::FailInput(bool failed) {
+void VoiceEngine::FailInput(bool failed) {
     inputFailed = failed;
-    Changed.Mark();
+    changes.Mark();
 }
 
-void EmbeddedVoiceEngine::FailOutput(Long output, bool failed) { SetOutput(output, &VoiceOutput::Failed, failed); }
+void VoiceEngine::FailOutput(Long output, bool failed) { SetOutput(output, &VoiceOutput::Failed, failed); }
 
 template <typename Value>
-void EmbeddedVoiceEngine::SetOutput(Long output, Value VoiceOutput::*member, Value value) {
+void VoiceEngine::SetOutput(Long output, Value VoiceOutput::*member, Value value) {
     VoiceOutput* device = At(outputs, output);
     if (!device) return;
     device->*member = value;
-    Changed.Mark();
+    changes.Mark();
 }
 
-void EmbeddedVoiceEngine::StartDone() {
+void VoiceEngine::StartDone() {
     starting = false;
     running = startOutcome == StartOutcome::Starts;
-    Changed.Mark();
+    changes.Mark();
     if (running)
         VVL_Started();
     else
         VVL_Stopped();
 }
 
-// A join that the deck refuses only after it was accepted has failed.
-void EmbeddedVoiceEngine::JoinDone(Long room) {
+// A join that the far side refuses only after it was accepted has failed.
+void VoiceEngine::JoinDone(Long room) {
     const bool joined = Room(room).Joins == JoinOutcome::Succeeds;
-    SetState(room, joined ? RoomState::In : RoomState::Out, joined ? "In " + Room(room).Address : "Not joined");
+    SetPresence(room, joined ? RoomPresence::In : RoomPresence::Out, joined ? "In " + Room(room).Address : "Not joined");
     FollowAudio();
     if (joined)
         VVL_RoomJoinSucceed(room);
@@ -209,38 +204,38 @@ void EmbeddedVoiceEngine::JoinDone(Long room) {
 }
 
 // Tells whether somebody was in the room. A join under way is given up without an event of its own.
-bool EmbeddedVoiceEngine::Leave(Long room) {
+bool VoiceEngine::Leave(Long room) {
     VoiceRoom* place = At(rooms, room);
-    if (!place || place->State == RoomState::Out) return false;
-    const bool wasIn = place->State == RoomState::In;
+    if (!place || place->Presence == RoomPresence::Out) return false;
+    const bool wasIn = place->Presence == RoomPresence::In;
     ++attempts[static_cast<std::size_t>(room)];
     SetRoomAudio(room, false);
-    SetState(room, RoomState::Out, "");
+    SetPresence(room, RoomPresence::Out, "");
     FollowAudio();
     return wasIn;
 }
 
-void EmbeddedVoiceEngine::SetState(Long room, RoomState state, const std::string& status) {
-    At(rooms, room)->State = state;
+void VoiceEngine::SetPresence(Long room, RoomPresence presence, const std::string& status) {
+    At(rooms, room)->Presence = presence;
     SetRoomStatus(room, status);
-    Changed.Mark();
+    changes.Mark();
 }
 
-void EmbeddedVoiceEngine::ShutDown() {
+void VoiceEngine::ShutDown() {
     starting = false;
     running = false;
     audioRuns = false;
     for (VoiceRoom& room : rooms) {
-        room.State = RoomState::Out;
+        room.Presence = RoomPresence::Out;
         room.Audio = false;
         room.Status = "";
     }
     for (unsigned& attempt : attempts) ++attempt;
-    Changed.Mark();
+    changes.Mark();
 }
 
-void EmbeddedVoiceEngine::FollowAudio() {
-    const bool wanted = std::ranges::any_of(rooms, [](const VoiceRoom& room) { return room.State == RoomState::In; });
+void VoiceEngine::FollowAudio() {
+    const bool wanted = std::ranges::any_of(rooms, [](const VoiceRoom& room) { return room.Presence == RoomPresence::In; });
     if (audioRuns == wanted) return;
     audioRuns = wanted;
     delivery.Raise([this, wanted] {
@@ -251,9 +246,9 @@ void EmbeddedVoiceEngine::FollowAudio() {
     });
 }
 
-void EmbeddedVoiceEngine::RaiseForRoom(const Event<Long>& event, Long room) {
+void VoiceEngine::RaiseForRoom(const Event<Long>& event, Long room) {
     delivery.Raise([&event, room] { event(room); });
-    Changed.Mark();
+    changes.Mark();
 }
 
-}  // namespace orvelle
+}  // namespace orvelle::embedded

@@ -1,18 +1,18 @@
 #include "deck/fields/EngineLight.h"
 
-#include "adapters/embedded/VoiceEngine.h"
+#include "platform/sides/VoiceEngineSide.h"
 
 namespace orvelle::deck {
 
-EngineLight::EngineLight(const QString& name, EmbeddedVoiceEngine& voiceEngine)
-    : SignalLight(name), engine(voiceEngine), watch(engine.Changed.Observe([this] { ShowState(); })) {
+EngineLight::EngineLight(const QString& name, VoiceEngineSide& voiceEngine)
+    : SignalLight(name), engine(voiceEngine), watch(engine.Observe([this] { ShowState(); })) {
     ShowState();
 }
 
 void EngineLight::ShowState() {
-    if (engine.Running())
+    if (engine.IsRunning())
         Show(Signal::On, "Running");
-    else if (engine.Starting())
+    else if (engine.IsStarting())
         Show(Signal::Waiting, "Starting");
     else
         Show(Signal::Off, "Stopped");

@@ -1,25 +1,25 @@
 // The light that tells whether the voice engine runs, is on its way there, or stands still.
 #pragma once
 
-#include <memory>
 
 #include "deck/fields/SignalLight.h"
+#include "platform/Ticket.h"
 
 namespace orvelle {
-class EmbeddedVoiceEngine;
+class VoiceEngineSide;
 }  // namespace orvelle
 
 namespace orvelle::deck {
 
 class EngineLight : public SignalLight {
 public:
-    EngineLight(const QString& name, EmbeddedVoiceEngine& voiceEngine);
+    EngineLight(const QString& name, VoiceEngineSide& voiceEngine);
 
 private:
     void ShowState();
 
-    EmbeddedVoiceEngine& engine;
-    std::shared_ptr<void> watch;
+    VoiceEngineSide& engine;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

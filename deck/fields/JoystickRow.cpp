@@ -3,7 +3,7 @@
 #include <QHBoxLayout>
 #include <QToolButton>
 
-#include "adapters/embedded/Velmarc.h"
+#include "platform/sides/SimulatorSide.h"
 #include "deck/fields/Section.h"
 
 namespace orvelle::deck {
@@ -12,7 +12,7 @@ namespace {
 
 constexpr int Buttons = 8;
 
-QToolButton* NewJoystickButton(EmbeddedVelmarc& velmarc, const std::string& device, int number) {
+QToolButton* NewJoystickButton(SimulatorSide& velmarc, const std::string& device, int number) {
     const std::string text = std::to_string(number);
     const std::string button = "Button " + text;
     auto* widget = new QToolButton;
@@ -32,7 +32,7 @@ QToolButton* NewJoystickButton(EmbeddedVelmarc& velmarc, const std::string& devi
 
 }  // namespace
 
-JoystickRow::JoystickRow(EmbeddedVelmarc& velmarc, const std::string& device) {
+JoystickRow::JoystickRow(SimulatorSide& velmarc, const std::string& device) {
     setObjectName(QString::fromStdString(device));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);

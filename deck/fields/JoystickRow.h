@@ -6,14 +6,14 @@
 #include <string>
 
 namespace orvelle {
-class EmbeddedVelmarc;
+class SimulatorSide;
 }  // namespace orvelle
 
 namespace orvelle::deck {
 
 class JoystickRow : public QWidget {
 public:
-    JoystickRow(EmbeddedVelmarc& velmarc, const std::string& device);
+    JoystickRow(SimulatorSide& velmarc, const std::string& device);
 };
 
 }  // namespace orvelle::deck

@@ -6,7 +6,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "adapters/embedded/Velmarc.h"
+#include "platform/sides/SimulatorSide.h"
 #include "adapters/x11/KeyRepeat.h"
 #include "deck/fields/KeyNames.h"
 #include "deck/fields/Section.h"
@@ -30,11 +30,11 @@ bool LeavesField(const QKeyEvent& event) {
 
 }  // namespace
 
-KeyboardField::KeyboardField(EmbeddedVelmarc& simulator)
+KeyboardField::KeyboardField(SimulatorSide& simulator)
     : velmarc(simulator),
       sequence(new QLabel),
       hint(new QLabel),
-      watch(simulator.Changed.Observe([this] { ShowState(); })) {
+      watch(simulator.Observe([this] { ShowState(); })) {
     TellRepeatsAsPresses();
     setObjectName("KeyboardField");
     setAccessibleName("Keyboard of the simulator's computer");
@@ -114,7 +114,7 @@ void KeyboardField::ReleaseAll() {
 }
 
 void KeyboardField::ShowState() {
-    const bool up = velmarc.Link() == LinkState::Up;
+    const bool up = velmarc.TakesInput();
     const std::string keys = velmarc.HeldSequence();
     sequence->setText(!keys.empty() ? QString::fromStdString(keys) : up && hasFocus() ? "Listening" : "Keys");
     sequence->setForegroundRole(keys.empty() ? QPalette::PlaceholderText : QPalette::Text);

@@ -4,21 +4,22 @@
 #pragma once
 
 #include <QFrame>
-#include <memory>
 #include <string>
 #include <vector>
+
+#include "platform/Ticket.h"
 
 class QLabel;
 
 namespace orvelle {
-class EmbeddedVelmarc;
+class SimulatorSide;
 }  // namespace orvelle
 
 namespace orvelle::deck {
 
 class KeyboardField : public QFrame {
 public:
-    explicit KeyboardField(EmbeddedVelmarc& simulator);
+    explicit KeyboardField(SimulatorSide& simulator);
 
 protected:
     bool event(QEvent* event) override;
@@ -38,11 +39,11 @@ private:
     void ReleaseAll();
     void ShowState();
 
-    EmbeddedVelmarc& velmarc;
+    SimulatorSide& velmarc;
     std::vector<Held> held;  // in the order in which they went down
     QLabel* sequence;
     QLabel* hint;
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

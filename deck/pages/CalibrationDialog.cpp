@@ -45,8 +45,8 @@ void AddRow(QGridLayout& grid, const QString& label, QWidget* field) {
 
 }  // namespace
 
-std::optional<Squelch> AskCalibration(QWidget* parent, const EmbeddedVoiceEngine& engine, Long inputDevice,
-                                      Long outputDevice) {
+std::optional<Squelch> AskCalibration(QWidget* parent, const VoiceEngineSide& engine, const AudioDevices& devices,
+                                      Long inputDevice, Long outputDevice) {
     QDialog dialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     dialog.setObjectName("CalibrationDialog");
     dialog.setWindowTitle(Title);
@@ -60,9 +60,9 @@ std::optional<Squelch> AskCalibration(QWidget* parent, const EmbeddedVoiceEngine
     auto* grid = new QGridLayout;
     grid->setSpacing(DeckUnit);
     grid->setColumnStretch(1, 1);
-    AddRow(*grid, "Microphone", NewReading("CalibratedMicrophone", DeviceName(engine.InputDeviceNames(), inputDevice)));
+    AddRow(*grid, "Microphone", NewReading("CalibratedMicrophone", DeviceName(devices.InputNames(), inputDevice)));
     AddRow(*grid, "&Input squelch", input);
-    AddRow(*grid, "Headset", NewReading("CalibratedHeadset", DeviceName(engine.OutputDeviceNames(), outputDevice)));
+    AddRow(*grid, "Headset", NewReading("CalibratedHeadset", DeviceName(devices.OutputNames(), outputDevice)));
     AddRow(*grid, "Out&put squelch", output);
     auto* column = new QVBoxLayout(&dialog);
     column->setContentsMargins(2 * DeckUnit, 2 * DeckUnit, 2 * DeckUnit, 2 * DeckUnit);

@@ -4,7 +4,8 @@
 
 #include <optional>
 
-#include "adapters/embedded/VoiceEngine.h"
+#include "platform/AudioDevices.h"
+#include "platform/sides/VoiceEngineSide.h"
 
 class QWidget;
 
@@ -12,7 +13,7 @@ namespace orvelle::deck {
 
 // The devices by the engine's numbers, -1 the default device. The values at first are those that the engine has. A null
 // parent leaves the place of the dialogue to the system.
-std::optional<Squelch> AskCalibration(QWidget* parent, const EmbeddedVoiceEngine& engine, Long inputDevice,
-                                      Long outputDevice);
+std::optional<Squelch> AskCalibration(QWidget* parent, const VoiceEngineSide& engine, const AudioDevices& devices,
+                                      Long inputDevice, Long outputDevice);
 
 }  // namespace orvelle::deck

@@ -1,6 +1,6 @@
 #include "deck/pages/ComputerBox.h"
 
-#include "adapters/embedded/Velmarc.h"
+#include "platform/sides/SimulatorSide.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/TextField.h"
 
@@ -8,7 +8,7 @@ namespace orvelle::deck {
 
 namespace {
 
-TextField* NewComputerEdit(EmbeddedVelmarc& velmarc, const QString& name, std::string SimulatorComputer::*text) {
+TextField* NewComputerEdit(SimulatorSide& velmarc, const QString& name, std::string SimulatorComputer::*text) {
     return NewEdit(name, "The panel reads it when the link comes up; Enter applies it",
                    [&velmarc, text](const std::string& value) {
                        SimulatorComputer computer = velmarc.Computer();
@@ -19,13 +19,13 @@ TextField* NewComputerEdit(EmbeddedVelmarc& velmarc, const QString& name, std::s
 
 }  // namespace
 
-ComputerBox::ComputerBox(EmbeddedVelmarc& simulator)
+ComputerBox::ComputerBox(SimulatorSide& simulator)
     : Section("Computer", "The simulator's computer"),
       velmarc(simulator),
       address(NewComputerEdit(velmarc, "ComputerAddress", &SimulatorComputer::IPAddress)),
       name(NewComputerEdit(velmarc, "ComputerName", &SimulatorComputer::ComputerName)),
       desktop(NewComputerEdit(velmarc, "DesktopName", &SimulatorComputer::DesktopName)),
-      watch(velmarc.Changed.Observe([this] { ShowState(); })) {
+      watch(velmarc.Observe([this] { ShowState(); })) {
     AddRow("IP address", {address});
     AddRow("Name", {name});
     AddRow("Desktop", {desktop});

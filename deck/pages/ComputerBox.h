@@ -1,12 +1,12 @@
 // What the panel is told of the simulator's computer.
 #pragma once
 
-#include <memory>
 
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 
 namespace orvelle {
-class EmbeddedVelmarc;
+class SimulatorSide;
 }  // namespace orvelle
 
 namespace orvelle::deck {
@@ -15,16 +15,16 @@ class TextField;
 
 class ComputerBox : public Section {
 public:
-    explicit ComputerBox(EmbeddedVelmarc& simulator);
+    explicit ComputerBox(SimulatorSide& simulator);
 
 private:
     void ShowState();
 
-    EmbeddedVelmarc& velmarc;
+    SimulatorSide& velmarc;
     TextField* address;
     TextField* name;
     TextField* desktop;
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

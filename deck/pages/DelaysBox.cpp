@@ -2,7 +2,9 @@
 
 #include <QSpinBox>
 
-#include "adapters/embedded/SetUp.h"
+#include "platform/sides/FarSides.h"
+#include "platform/sides/LinkSide.h"
+#include "platform/sides/MixerSide.h"
 #include "deck/fields/Fields.h"
 
 namespace orvelle::deck {
@@ -16,14 +18,16 @@ QSpinBox* NewPeerDelay(const QString& name, const QString& toolTip, Peer& peer) 
 
 }  // namespace
 
-DelaysBox::DelaysBox(EmbeddedSetUp& setUp) : Section("Delays", "Delays", 2) {
-    const auto addRow = [this](const QString& label, QSpinBox* box) { AddRow(label, {box, new QWidget}); };
-    addRow("Simulator", NewPeerDelay("SimulatorDelay", "From the simulator's computer to the panel", setUp.Velmarc));
-    addRow("Network", NewPeerDelay("NetworkDelay", "From the network to the panel", setUp.Tessaly));
-    addRow("Headset mixer", NewPeerDelay("HeadsetMixerDelay", "From the mixer of microphone and headset to the panel",
-                                         setUp.VolumeControl));
-    addRow("Speakers mixer",
-           NewPeerDelay("SpeakersMixerDelay", "From the mixer of the speakers to the panel", setUp.VolumeControlHP));
+DelaysBox::DelaysBox(const FarSides& sides) : Section("Delays", "Delays", 2) {
+    const auto addRow = [this](const QString& label, const QString& name, const QString& toolTip, auto* peer) {
+        if (peer) AddRow(label, {NewPeerDelay(name, toolTip, *peer), new QWidget});
+    };
+    addRow("Simulator", "SimulatorDelay", "From the simulator's computer to the panel", sides.SimulatorLink);
+    addRow("Network", "NetworkDelay", "From the network to the panel", sides.NetworkLink);
+    addRow("Headset mixer", "HeadsetMixerDelay", "From the mixer of microphone and headset to the panel",
+           sides.HeadsetMixer);
+    addRow("Speakers mixer", "SpeakersMixerDelay", "From the mixer of the speakers to the panel",
+           sides.SpeakersMixer);
 }
 
 }  // namespace orvelle::deck

@@ -4,14 +4,14 @@
 #include "deck/fields/Section.h"
 
 namespace orvelle {
-class EmbeddedSetUp;
+struct FarSides;
 }  // namespace orvelle
 
 namespace orvelle::deck {
 
 class DelaysBox : public Section {
 public:
-    explicit DelaysBox(EmbeddedSetUp& setUp);
+    explicit DelaysBox(const FarSides& sides);
 };
 
 }  // namespace orvelle::deck

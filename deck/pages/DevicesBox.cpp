@@ -2,7 +2,8 @@
 
 #include <QCheckBox>
 
-#include "adapters/embedded/VoiceEngine.h"
+#include "platform/AudioDevices.h"
+#include "platform/sides/VoiceEngineSide.h"
 #include "deck/fields/DeviceNames.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/Readout.h"
@@ -17,16 +18,17 @@ QCheckBox* NewFailure(const QString& name, std::function<void(bool)> apply) {
 
 }  // namespace
 
-DevicesBox::DevicesBox(EmbeddedVoiceEngine& voiceEngine)
+DevicesBox::DevicesBox(VoiceEngineSide& voiceEngine, const AudioDevices& audioDevices)
     : Section("Devices", "Devices", 4),
       engine(voiceEngine),
+      devices(audioDevices),
       microphoneFails(NewFailure("Microphone", [this](bool failed) { engine.FailInput(failed); })),
       microphone(new Readout("MicrophoneDevice")),
       outputFails{NewFailure("Headset", [this](bool failed) { engine.FailOutput(0, failed); }),
                   NewFailure("Speakers", [this](bool failed) { engine.FailOutput(1, failed); })},
       outputs{new Readout("HeadsetDevice"), new Readout("SpeakersDevice")},
       levels{new Readout("HeadsetLevels"), new Readout("SpeakersLevels")},
-      watch(engine.Changed.Observe([this] { ShowState(); })) {
+      watch(engine.Observe([this] { ShowState(); })) {
     AddRow("Microphone", {microphoneFails, microphone});
     AddRow("Headset", {outputFails[0], outputs[0]});
     AddRow("", {new QWidget, levels[0]});
@@ -37,11 +39,11 @@ DevicesBox::DevicesBox(EmbeddedVoiceEngine& voiceEngine)
 
 void DevicesBox::ShowState() {
     microphoneFails->setChecked(engine.InputFailed());
-    microphone->Show(DeviceName(engine.InputDeviceNames(), engine.Microphone()));
+    microphone->Show(DeviceName(devices.InputNames(), engine.Microphone()));
     for (std::size_t index = 0; index < outputs.size(); ++index) {
         const VoiceOutput& output = engine.Output(static_cast<Long>(index));
         outputFails.at(index)->setChecked(output.Failed);
-        outputs.at(index)->Show(DeviceName(engine.OutputDeviceNames(), output.Device));
+        outputs.at(index)->Show(DeviceName(devices.OutputNames(), output.Device));
         levels.at(index)->Show(QString("Volume %1, signal %2, %3")
                                    .arg(output.Volume)
                                    .arg(output.SignalVolume)

@@ -2,14 +2,15 @@
 #pragma once
 
 #include <array>
-#include <memory>
 
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 
 class QCheckBox;
 
 namespace orvelle {
-class EmbeddedVoiceEngine;
+class AudioDevices;
+class VoiceEngineSide;
 }  // namespace orvelle
 
 namespace orvelle::deck {
@@ -18,18 +19,19 @@ class Readout;
 
 class DevicesBox : public Section {
 public:
-    explicit DevicesBox(EmbeddedVoiceEngine& voiceEngine);
+    DevicesBox(VoiceEngineSide& voiceEngine, const AudioDevices& audioDevices);
 
 private:
     void ShowState();
 
-    EmbeddedVoiceEngine& engine;
+    VoiceEngineSide& engine;
+    const AudioDevices& devices;
     QCheckBox* microphoneFails;
     Readout* microphone;
     std::array<QCheckBox*, 2> outputFails;
     std::array<Readout*, 2> outputs;
     std::array<Readout*, 2> levels;
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

@@ -4,7 +4,7 @@
 #include <QPushButton>
 #include <QSpinBox>
 
-#include "adapters/embedded/VoiceEngine.h"
+#include "platform/sides/VoiceEngineSide.h"
 #include "deck/fields/EngineLight.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/Readout.h"
@@ -18,14 +18,14 @@ constexpr StartOutcome StartOutcomes[] = {StartOutcome::Starts, StartOutcome::Re
 
 }  // namespace
 
-EngineBox::EngineBox(EmbeddedVoiceEngine& voiceEngine)
+EngineBox::EngineBox(VoiceEngineSide& voiceEngine)
     : Section("Engine", "Voice engine", 3),
       engine(voiceEngine),
       audio(new SignalLight("EngineAudio")),
       squelch(new Readout("EngineSquelch")),
       starts(NewChoice("EngineStart", "How starts of the engine go", {"Succeed", "Are refused", "Stop at once"},
                        [this](int index) { engine.SetStartOutcome(StartOutcomes[index]); })),
-      watch(engine.Changed.Observe([this] { ShowState(); })) {
+      watch(engine.Observe([this] { ShowState(); })) {
     AddRow("State", {new EngineLight("EngineState", engine), audio, squelch});
     // A button that its own click disabled would hand the focus on to whatever comes next.
     auto* fail =

@@ -1,14 +1,14 @@
 // The voice engine as a whole: whether it runs, what it was told, and how its starts go.
 #pragma once
 
-#include <memory>
 
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 
 class QComboBox;
 
 namespace orvelle {
-class EmbeddedVoiceEngine;
+class VoiceEngineSide;
 }  // namespace orvelle
 
 namespace orvelle::deck {
@@ -18,16 +18,16 @@ class SignalLight;
 
 class EngineBox : public Section {
 public:
-    explicit EngineBox(EmbeddedVoiceEngine& voiceEngine);
+    explicit EngineBox(VoiceEngineSide& voiceEngine);
 
 private:
     void ShowState();
 
-    EmbeddedVoiceEngine& engine;
+    VoiceEngineSide& engine;
     SignalLight* audio;
     Readout* squelch;
     QComboBox* starts;
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

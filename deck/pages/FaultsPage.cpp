@@ -3,7 +3,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "adapters/embedded/SetUp.h"
+#include "platform/sides/FarSides.h"
 #include "deck/pages/ComputerBox.h"
 #include "deck/pages/DelaysBox.h"
 #include "deck/pages/MixersBox.h"
@@ -14,24 +14,31 @@ namespace orvelle::deck {
 
 namespace {
 
+// Of the sections that are there.
 QVBoxLayout* ColumnOf(std::initializer_list<Section*> sections) {
     auto* column = new QVBoxLayout;
     column->setSpacing(SectionGap);
-    for (Section* section : sections) column->addWidget(section);
+    for (Section* section : sections)
+        if (section) column->addWidget(section);
     column->addStretch();
     return column;
 }
 
 }  // namespace
 
-FaultsPage::FaultsPage(EmbeddedSetUp& setUp) {
+FaultsPage::FaultsPage(const FarSides& sides) {
     setObjectName("FaultsPage");
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(3 * DeckUnit);
-    row->addLayout(ColumnOf({new DelaysBox(setUp), new RefusalsBox(setUp), new ComputerBox(setUp.Velmarc)}), 1);
-    row->addLayout(
-        ColumnOf({new TeamSpeakBox(setUp.TSRemote), new MixersBox(setUp.VolumeControl, setUp.VolumeControlHP)}), 1);
+    row->addLayout(ColumnOf({new DelaysBox(sides), new RefusalsBox(sides),
+                             sides.Simulator ? new ComputerBox(*sides.Simulator) : nullptr}),
+                   1);
+    row->addLayout(ColumnOf({sides.TeamSpeak ? new TeamSpeakBox(*sides.TeamSpeak) : nullptr,
+                             sides.HeadsetMixer && sides.SpeakersMixer
+                                 ? new MixersBox(*sides.HeadsetMixer, *sides.SpeakersMixer)
+                                 : nullptr}),
+                   1);
 }
 
 }  // namespace orvelle::deck

@@ -1,17 +1,17 @@
-// Delays, failures and oddities on demand, for each side of the set-up.
+// Delays, failures and oddities on demand, for each far side that is there.
 #pragma once
 
 #include <QWidget>
 
 namespace orvelle {
-class EmbeddedSetUp;
+struct FarSides;
 }  // namespace orvelle
 
 namespace orvelle::deck {
 
 class FaultsPage : public QWidget {
 public:
-    explicit FaultsPage(EmbeddedSetUp& setUp);
+    explicit FaultsPage(const FarSides& sides);
 };
 
 }  // namespace orvelle::deck

@@ -3,13 +3,13 @@
 #pragma once
 
 #include <array>
-#include <memory>
 
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 
 namespace orvelle {
-class EmbeddedVelmarc;
-class EmbeddedVoiceEngine;
+class SimulatorSide;
+class VoiceEngineSide;
 }  // namespace orvelle
 
 namespace orvelle::deck {
@@ -18,14 +18,15 @@ class SignalLight;
 
 class InputsBox : public Section {
 public:
-    InputsBox(EmbeddedVelmarc& velmarc, EmbeddedVoiceEngine& voiceEngine);
+    // Without a voice engine (null) there are no lights.
+    InputsBox(SimulatorSide& simulator, VoiceEngineSide* voiceEngine);
 
 private:
     void ShowState();
 
-    EmbeddedVoiceEngine& engine;
-    std::array<SignalLight*, 3> talks;  // by room
-    std::shared_ptr<void> watch;
+    VoiceEngineSide* engine;
+    std::array<SignalLight*, 3> talks{};  // by room
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

@@ -3,11 +3,11 @@
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QPushButton>
-#include <utility>
 
 #include "deck/fields/Fields.h"
 #include "deck/fields/Readout.h"
 #include "deck/fields/SignalLight.h"
+#include "platform/sides/LinkSide.h"
 
 namespace orvelle::deck {
 
@@ -21,15 +21,15 @@ QString Joined(const std::vector<std::string>& names) {
 
 }  // namespace
 
-LinkBox::LinkBox(const QString& name, const QString& title, const QString& switchLabel, FarSide farSide)
+LinkBox::LinkBox(const QString& name, const QString& title, const QString& switchLabel, LinkSide& linkSide)
     : Section(name, title, 3),
-      link(std::move(farSide)),
+      link(linkSide),
       up(NewCheck(name + "Link", switchLabel, "The link as this side wants it",
                   [this](bool on) { link.SetLink(on ? LinkState::Up : LinkState::Down); })),
       state(new SignalLight(name + "State")),
       seen(new QLineEdit),
       allSeen(new Readout(name + "ServersSeen")),
-      watch(link.Changed.Observe([this] { ShowState(); })) {
+      watch(link.Observe([this] { ShowState(); })) {
     // A click doesn't take the focus, so that keys stay held while a link goes.
     up->setFocusPolicy(Qt::TabFocus);
     seen->setObjectName(name + "ServerSeen");
@@ -49,7 +49,7 @@ void LinkBox::SeeServer() {
 }
 
 void LinkBox::ShowState() {
-    const bool wanted = link.Wanted() == LinkState::Up;
+    const bool wanted = link.Link() == LinkState::Up;
     const bool isUp = link.IsUp();
     const Signal signal = wanted != isUp ? Signal::Waiting : isUp ? Signal::On : Signal::Off;
     const QString text = wanted == isUp ? (isUp ? "Connected" : "Down") : (wanted ? "Not up yet" : "Not lost yet");

@@ -2,60 +2,37 @@
 // of servers seen on the network.
 #pragma once
 
-#include <functional>
-#include <memory>
-#include <string>
-#include <vector>
-
-#include "adapters/embedded/LinkState.h"
-#include "adapters/shared/Changes.h"
+#include "platform/sides/LinkSide.h"
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 
 class QCheckBox;
 class QLineEdit;
+
+namespace orvelle {
+class LinkSide;
+}  // namespace orvelle
 
 namespace orvelle::deck {
 
 class Readout;
 class SignalLight;
 
-// What both links have alike.
-struct FarSide {
-    std::function<void(LinkState)> SetLink;
-    std::function<LinkState()> Wanted;
-    std::function<bool()> IsUp;
-    std::function<std::string()> Server;
-    std::function<void(const std::string&)> SeeServer;
-    std::function<std::vector<std::string>()> ServersSeen;
-    Changes& Changed;
-};
-
-template <typename Link>
-FarSide FarSideOf(Link& link) {
-    return {[&link](LinkState state) { link.SetLink(state); },
-            [&link] { return link.Link(); },
-            [&link] { return link.LinkUp(); },
-            [&link] { return link.GetServer(); },
-            [&link](const std::string& name) { link.SeeServer(name); },
-            [&link] { return link.ServersSeen(); },
-            link.Changed};
-}
-
 class LinkBox : public Section {
 public:
     // The names of the box and its fields begin with `name`.
-    LinkBox(const QString& name, const QString& title, const QString& switchLabel, FarSide farSide);
+    LinkBox(const QString& name, const QString& title, const QString& switchLabel, LinkSide& linkSide);
 
 private:
     void SeeServer();
     void ShowState();
 
-    FarSide link;
+    LinkSide& link;
     QCheckBox* up;
     SignalLight* state;
     QLineEdit* seen;
     Readout* allSeen;
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

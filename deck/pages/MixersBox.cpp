@@ -12,7 +12,7 @@ namespace orvelle::deck {
 namespace {
 
 constexpr MixerLine Lines[] = {MixerLine::Microphone, MixerLine::Master, MixerLine::Wave};
-constexpr MixerSide Sides[] = {MixerSide::Input, MixerSide::Output};
+constexpr SoundDirection Sides[] = {SoundDirection::Input, SoundDirection::Output};
 
 QWidget* Beside(QWidget* first, QWidget* second) {
     auto* widget = new QWidget;
@@ -26,7 +26,7 @@ QWidget* Beside(QWidget* first, QWidget* second) {
 
 }  // namespace
 
-MixersBox::MixersBox(EmbeddedMixer& headset, EmbeddedMixer& speakers)
+MixersBox::MixersBox(MixerSide& headset, MixerSide& speakers)
     : Section("Mixers", "Mixers", 2), columns{NewColumn(headset, "Headset"), NewColumn(speakers, "Speakers")} {
     AddCaptions({"Microphone and headset", "Speakers"});
     AddRow("Mixer", {columns[0].State, columns[1].State});
@@ -40,21 +40,21 @@ MixersBox::MixersBox(EmbeddedMixer& headset, EmbeddedMixer& speakers)
         ++row;
     }
     for (Column& column : columns) {
-        column.Watch = column.Mixer->Changed.Observe([&column] { ShowState(column); });
+        column.Watch = column.Mixer->Observe([&column] { ShowState(column); });
         ShowState(column);
     }
 }
 
-MixersBox::Column MixersBox::NewColumn(EmbeddedMixer& mixer, const QString& name) {
+MixersBox::Column MixersBox::NewColumn(MixerSide& mixer, const QString& name) {
     return {&mixer,
             new SignalLight(name + "Mixer"),
-            {NewPlug(mixer, MixerSide::Input, name + "Input"), NewPlug(mixer, MixerSide::Output, name + "Output")},
+            {NewPlug(mixer, SoundDirection::Input, name + "Input"), NewPlug(mixer, SoundDirection::Output, name + "Output")},
             {NewLine(mixer, MixerLine::Microphone, name + "Microphone"),
              NewLine(mixer, MixerLine::Master, name + "Master"), NewLine(mixer, MixerLine::Wave, name + "Wave")},
             nullptr};
 }
 
-MixersBox::Line MixersBox::NewLine(EmbeddedMixer& mixer, MixerLine line, const QString& name) {
+MixersBox::Line MixersBox::NewLine(MixerSide& mixer, MixerLine line, const QString& name) {
     const MixerLevel& level = mixer.Level(line);
     return {NewCheck(name + "Line", "Present", "The mixer has this line",
                      [&mixer, line](bool on) {
@@ -66,16 +66,16 @@ MixersBox::Line MixersBox::NewLine(EmbeddedMixer& mixer, MixerLine line, const Q
                       [&mixer, line](int value) { mixer.Move(line, value); })};
 }
 
-QCheckBox* MixersBox::NewPlug(EmbeddedMixer& mixer, MixerSide side, const QString& name) {
+QCheckBox* MixersBox::NewPlug(MixerSide& mixer, SoundDirection side, const QString& name) {
     return NewCheck(name + "Plugged", "Plugged in", "The device is plugged into this computer",
                     [&mixer, side](bool on) { mixer.SetPlugged(side, on); });
 }
 
 void MixersBox::ShowState(const Column& column) {
-    const EmbeddedMixer& mixer = *column.Mixer;
-    const QString device = QString::fromStdString(mixer.DeviceName(MixerSide::Output));
+    const MixerSide& mixer = *column.Mixer;
+    const QString device = QString::fromStdString(mixer.DeviceName(SoundDirection::Output));
     column.State->Show(mixer.IsOpen() ? Signal::On : Signal::Off, (mixer.IsOpen() ? "Open on " : "Closed, ") + device);
-    for (const MixerSide side : Sides)
+    for (const SoundDirection side : Sides)
         column.Plugged.at(static_cast<std::size_t>(side))->setChecked(mixer.Plugged(side));
     for (const MixerLine line : Lines) {
         const auto& [isThere, level] = column.Lines.at(static_cast<std::size_t>(line));

@@ -3,10 +3,10 @@
 #pragma once
 
 #include <array>
-#include <memory>
 
-#include "adapters/embedded/Mixer.h"
+#include "platform/sides/MixerSide.h"
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 
 class QCheckBox;
 class QSpinBox;
@@ -17,7 +17,7 @@ class SignalLight;
 
 class MixersBox : public Section {
 public:
-    MixersBox(EmbeddedMixer& headset, EmbeddedMixer& speakers);
+    MixersBox(MixerSide& headset, MixerSide& speakers);
 
 private:
     struct Line {
@@ -25,16 +25,16 @@ private:
         QSpinBox* Level;
     };
     struct Column {
-        EmbeddedMixer* Mixer;
+        MixerSide* Mixer;
         SignalLight* State;
-        std::array<QCheckBox*, 2> Plugged;  // by MixerSide
+        std::array<QCheckBox*, 2> Plugged;  // by SoundDirection
         std::array<Line, 3> Lines;          // by MixerLine
-        std::shared_ptr<void> Watch;
+        Ticket Watch;
     };
 
-    Column NewColumn(EmbeddedMixer& mixer, const QString& name);
-    Line NewLine(EmbeddedMixer& mixer, MixerLine line, const QString& name);
-    QCheckBox* NewPlug(EmbeddedMixer& mixer, MixerSide side, const QString& name);
+    Column NewColumn(MixerSide& mixer, const QString& name);
+    Line NewLine(MixerSide& mixer, MixerLine line, const QString& name);
+    QCheckBox* NewPlug(MixerSide& mixer, SoundDirection side, const QString& name);
     static void ShowState(const Column& column);
 
     std::array<Column, 2> columns;

@@ -2,7 +2,7 @@
 
 #include <QVBoxLayout>
 
-#include "adapters/embedded/Tessaly.h"
+#include "platform/sides/FarSides.h"
 #include "deck/pages/LinkBox.h"
 #include "deck/pages/RadioBox.h"
 #include "deck/pages/RecordsBox.h"
@@ -10,15 +10,15 @@
 
 namespace orvelle::deck {
 
-NetworkPage::NetworkPage(EmbeddedTessaly& tessaly) {
+NetworkPage::NetworkPage(const FarSides& sides) {
     setObjectName("NetworkPage");
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(SectionGap);
-    column->addWidget(new LinkBox("Network", "Network", "&Network link", FarSideOf(tessaly)));
-    column->addWidget(new SessionBox(tessaly));
-    column->addWidget(new RadioBox(tessaly));
-    column->addWidget(new RecordsBox(tessaly), 1);
+    if (sides.NetworkLink) column->addWidget(new LinkBox("Network", "Network", "&Network link", *sides.NetworkLink));
+    column->addWidget(new SessionBox(*sides.Network));
+    column->addWidget(new RadioBox(*sides.Network));
+    column->addWidget(new RecordsBox(*sides.Network), 1);
 }
 
 }  // namespace orvelle::deck

@@ -4,14 +4,15 @@
 #include <QWidget>
 
 namespace orvelle {
-class EmbeddedTessaly;
+struct FarSides;
 }  // namespace orvelle
 
 namespace orvelle::deck {
 
 class NetworkPage : public QWidget {
 public:
-    explicit NetworkPage(EmbeddedTessaly& tessaly);
+    // The network is there.
+    explicit NetworkPage(const FarSides& sides);
 };
 
 }  // namespace orvelle::deck

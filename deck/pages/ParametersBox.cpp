@@ -8,7 +8,7 @@
 #include <functional>
 #include <utility>
 
-#include "adapters/embedded/Tessaly.h"
+#include "platform/sides/NetworkSide.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/ParameterNames.h"
 #include "deck/fields/Readout.h"
@@ -93,7 +93,7 @@ private:
 
 }  // namespace
 
-ParametersBox::ParametersBox(EmbeddedTessaly& framework)
+ParametersBox::ParametersBox(NetworkSide& framework)
     : Section("ParameterSection", "Parameters of a record"),
       tessaly(framework),
       record(NewChoice("ParameterRecord", "The record whose parameters are shown", {},
@@ -104,7 +104,7 @@ ParametersBox::ParametersBox(EmbeddedTessaly& framework)
       table(NewTable("Parameters", "The parameters of the record; editing a value is another party's write",
                      {"", "No.", "Meaning", "Value", "Written by"}, Meaning)),
       note(new Readout("ParameterNote")),
-      watch(tessaly.Changed.Observe([this] { ShowState(); })) {
+      watch(tessaly.Observe([this] { ShowState(); })) {
     clock.start();
     late.Forget(tessaly.Writes());
     table->horizontalHeader()->setSectionResizeMode(Value, QHeaderView::Interactive);

@@ -3,17 +3,17 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <memory>
 
 #include "deck/fields/LateWrites.h"
 #include "deck/fields/Section.h"
 #include "platform/Types.h"
+#include "platform/Ticket.h"
 
 class QComboBox;
 class QTableWidget;
 
 namespace orvelle {
-class EmbeddedTessaly;
+class NetworkSide;
 }  // namespace orvelle
 
 namespace orvelle::deck {
@@ -22,7 +22,7 @@ class Readout;
 
 class ParametersBox : public Section {
 public:
-    explicit ParametersBox(EmbeddedTessaly& framework);
+    explicit ParametersBox(NetworkSide& framework);
 
 private:
     Long ShownId() const;  // 0 for none
@@ -31,7 +31,7 @@ private:
     void ShowParameters();
     void Write(int row, const QString& text);
 
-    EmbeddedTessaly& tessaly;
+    NetworkSide& tessaly;
     QComboBox* record;
     QStringList shownRecords;
     QTableWidget* table;
@@ -39,7 +39,7 @@ private:
     LateWrites late;
     QElapsedTimer clock;
     bool picked = false;  // by the user
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

@@ -5,7 +5,7 @@
 #include <QLabel>
 #include <utility>
 
-#include "adapters/embedded/Tessaly.h"
+#include "platform/sides/NetworkSide.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/TextField.h"
 
@@ -41,7 +41,7 @@ QWidget* Labelled(const QString& label, QWidget* field) {
 
 }  // namespace
 
-RadioBox::RadioBox(EmbeddedTessaly& framework)
+RadioBox::RadioBox(NetworkSide& framework)
     : Section("Radios", "Radios", 2),
       tessaly(framework),
       radios{NewRadio(0), NewRadio(1)},
@@ -49,7 +49,7 @@ RadioBox::RadioBox(EmbeddedTessaly& framework)
                            [this](const std::string& text) { tessaly.SetReceive(text); })),
       transmit(NewSelection("Transmit", "The radio that transmits",
                             [this](const std::string& text) { tessaly.SetTransmit(text); })),
-      watch(tessaly.Changed.Observe([this] { ShowState(); })) {
+      watch(tessaly.Observe([this] { ShowState(); })) {
     AddCaptions({RadioName(0), RadioName(1)});
     AddRow("&Frequency", {radios[0].Frequency, radios[1].Frequency});
     AddRow("Soft&ware", {radios[0].Software, radios[1].Software});

@@ -4,15 +4,15 @@
 
 #include <array>
 #include <functional>
-#include <memory>
 #include <string>
 
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 
 class QComboBox;
 
 namespace orvelle {
-class EmbeddedTessaly;
+class NetworkSide;
 struct RadioVoiceSetting;
 }  // namespace orvelle
 
@@ -22,7 +22,7 @@ class TextField;
 
 class RadioBox : public Section {
 public:
-    explicit RadioBox(EmbeddedTessaly& framework);
+    explicit RadioBox(NetworkSide& framework);
 
 private:
     using VoiceText = std::string RadioVoiceSetting::*;
@@ -37,11 +37,11 @@ private:
     QComboBox* NewSelection(const QString& name, const QString& toolTip, std::function<void(const std::string&)> apply);
     void ShowState();
 
-    EmbeddedTessaly& tessaly;
+    NetworkSide& tessaly;
     std::array<Radio, 2> radios;
     QComboBox* receive;
     QComboBox* transmit;
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

@@ -7,7 +7,7 @@
 #include <QPushButton>
 #include <algorithm>
 
-#include "adapters/embedded/Tessaly.h"
+#include "platform/sides/NetworkSide.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/Tables.h"
 
@@ -37,13 +37,13 @@ QWidget* RowOf(const QList<QWidget*>& widgets) {
 
 }  // namespace
 
-RecordsBox::RecordsBox(EmbeddedTessaly& framework)
+RecordsBox::RecordsBox(NetworkSide& framework)
     : Section("RecordSection", "Interface records", 2),
       tessaly(framework),
       table(NewTable("Records", "The interface records of all computers", {"Id", "Type", "Role", "Owner", "Parameters"},
                      Parameters)),
       computer(new QLineEdit("COCKPIT2")),
-      watch(tessaly.Changed.Observe([this] { ShowState(); })) {
+      watch(tessaly.Observe([this] { ShowState(); })) {
     table->setEditTriggers(QTableWidget::NoEditTriggers);
     AddWide(table, 1);
 

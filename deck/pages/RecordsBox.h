@@ -3,25 +3,25 @@
 #pragma once
 
 #include <map>
-#include <memory>
 #include <string>
 
 #include "deck/fields/Section.h"
 #include "platform/Types.h"
+#include "platform/Ticket.h"
 
 class QCheckBox;
 class QLineEdit;
 class QTableWidget;
 
 namespace orvelle {
-class EmbeddedTessaly;
+class NetworkSide;
 }  // namespace orvelle
 
 namespace orvelle::deck {
 
 class RecordsBox : public Section {
 public:
-    explicit RecordsBox(EmbeddedTessaly& framework);
+    explicit RecordsBox(NetworkSide& framework);
 
 private:
     Long ClaimOf(const std::string& role) const;  // the other computer's record of the role, 0 for none
@@ -30,11 +30,11 @@ private:
     void ShowState();
     void ShowClaims();
 
-    EmbeddedTessaly& tessaly;
+    NetworkSide& tessaly;
     QTableWidget* table;
     QLineEdit* computer;
     std::map<std::string, QCheckBox*> claims;  // by role
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

@@ -4,7 +4,9 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "adapters/embedded/SetUp.h"
+#include "platform/Notices.h"
+#include "platform/sides/FarSides.h"
+#include "platform/sides/NetworkSide.h"
 #include "deck/fields/Fields.h"
 
 namespace orvelle::deck {
@@ -30,24 +32,31 @@ QLineEdit* NewPlainEdit(const QString& name, const QString& text, const QString&
 
 }  // namespace
 
-RefusalsBox::RefusalsBox(EmbeddedSetUp& embedded)
-    : Section("Refusals", "Refusals and notices", 3),
-      setUp(embedded),
-      type(NewPlainEdit("OddType", "VOICE", "The record's type")),
-      role(NewPlainEdit("OddRole", "RWCom3", "The record's role")),
-      notice(NewPlainEdit("Notice", ReadOnlyNotice, "A sentence about the settings for the user")) {
-    EmbeddedTessaly::Refusals& refuse = setUp.Tessaly.Refuse;
-    notice->setCursorPosition(0);
+RefusalsBox::RefusalsBox(const FarSides& sides)
+    : Section("Refusals", "Refusals and notices", 3) {
+    if (sides.Network) AddNetwork(*sides.Network);
+    if (sides.Notices) AddNotices(*sides.Notices);
+}
+
+void RefusalsBox::AddNetwork(NetworkSide& network) {
+    NetworkRefusals& refuse = network.Refuse();
     AddRow("Refused", {NewRefusal("RefuseSession", "Open session", refuse.OpenSession),
                        NewRefusal("RefuseCreate", "Create record", refuse.CreateInterface),
                        NewRefusal("RefuseOpen", "Open record", refuse.OpenInterface)});
-    AddRow("Odd record", {type, role, NewButton("OddClaim", "Claim", "Another computer makes this record", [this] {
-                              setUp.Tessaly.Claim(RecordOwner, role->text().toStdString(), type->text().toStdString());
-                          })});
-    AddRow("Settings notice",
-           {notice, nullptr, NewButton("TellNotice", "Tell the user", "As the settings store tells it", [this] {
-                setUp.Notice(notice->text().toStdString());
+    auto* type = NewPlainEdit("OddType", "VOICE", "The record's type");
+    auto* role = NewPlainEdit("OddRole", "RWCom3", "The record's role");
+    AddRow("Odd record",
+           {type, role, NewButton("OddClaim", "Claim", "Another computer makes this record", [=, &network] {
+                network.Claim(RecordOwner, role->text().toStdString(), type->text().toStdString());
             })});
+}
+
+void RefusalsBox::AddNotices(Notices& notices) {
+    auto* notice = NewPlainEdit("Notice", ReadOnlyNotice, "A sentence about the settings for the user");
+    notice->setCursorPosition(0);
+    AddRow("Settings notice", {notice, nullptr,
+                               NewButton("TellNotice", "Tell the user", "As the settings store tells it",
+                                         [notice, &notices] { notices.Tell(notice->text().toStdString()); })});
 }
 
 }  // namespace orvelle::deck

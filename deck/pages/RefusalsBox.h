@@ -4,23 +4,21 @@
 
 #include "deck/fields/Section.h"
 
-class QLineEdit;
-
 namespace orvelle {
-class EmbeddedSetUp;
+class NetworkSide;
+class Notices;
+struct FarSides;
 }  // namespace orvelle
 
 namespace orvelle::deck {
 
 class RefusalsBox : public Section {
 public:
-    explicit RefusalsBox(EmbeddedSetUp& embedded);
+    explicit RefusalsBox(const FarSides& sides);
 
 private:
-    EmbeddedSetUp& setUp;
-    QLineEdit* type;
-    QLineEdit* role;
-    QLineEdit* notice;
+    void AddNetwork(NetworkSide& network);
+    void AddNotices(Notices& notices);
 };
 
 }  // namespace orvelle::deck

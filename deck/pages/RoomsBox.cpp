@@ -4,7 +4,7 @@
 #include <QComboBox>
 #include <QPushButton>
 
-#include "adapters/embedded/VoiceEngine.h"
+#include "platform/sides/VoiceEngineSide.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/Readout.h"
 #include "deck/fields/SignalLight.h"
@@ -17,13 +17,13 @@ namespace {
 // In the order of the entries
 constexpr JoinOutcome JoinOutcomes[] = {JoinOutcome::Succeeds, JoinOutcome::Refused, JoinOutcome::Fails};
 
-void ShowRoomState(SignalLight& light, RoomState state) {
-    switch (state) {
-        case RoomState::Out:
+void ShowRoomState(SignalLight& light, RoomPresence presence) {
+    switch (presence) {
+        case RoomPresence::Out:
             return light.Show(Signal::Off, "Out");
-        case RoomState::Joining:
+        case RoomPresence::Joining:
             return light.Show(Signal::Waiting, "Joining");
-        case RoomState::In:
+        case RoomPresence::In:
             return light.Show(Signal::On, "In");
     }
 }
@@ -34,11 +34,11 @@ void ShowSwitch(SignalLight& light, bool on, const QString& whenOn, const QStrin
 
 }  // namespace
 
-RoomsBox::RoomsBox(EmbeddedVoiceEngine& voiceEngine)
+RoomsBox::RoomsBox(VoiceEngineSide& voiceEngine)
     : Section("Rooms", "Rooms", 3),
       engine(voiceEngine),
       rooms{NewRoom(0), NewRoom(1), NewRoom(2)},
-      watch(engine.Changed.Observe([this] { ShowState(); })) {
+      watch(engine.Observe([this] { ShowState(); })) {
     const auto addRow = [this](const QString& label, const auto field) {
         AddRow(label, {rooms[0].*field, rooms[1].*field, rooms[2].*field});
     };
@@ -78,8 +78,8 @@ RoomsBox::Room RoomsBox::NewRoom(int number) {
 
 // An engine that stands still has nobody in its rooms, and nothing is open there.
 void RoomsBox::ShowPanelsDoing(const Room& shown, const VoiceRoom& room) const {
-    ShowRoomState(*shown.State, room.State);
-    if (!engine.Running()) {
+    ShowRoomState(*shown.State, room.Presence);
+    if (!engine.IsRunning()) {
         for (SignalLight* light : {shown.Microphone, shown.Headset, shown.Speakers, shown.Audio})
             light->Show(Signal::Off, "");
         for (Readout* text : {shown.Client, shown.Address}) text->Show(QString());
@@ -99,7 +99,7 @@ void RoomsBox::ShowState() {
         const VoiceRoom& room = engine.Room(number);
         ShowPanelsDoing(shown, room);
         shown.CarriesAudio->setChecked(room.Audio);
-        shown.CarriesAudio->setEnabled(room.State == RoomState::In);
+        shown.CarriesAudio->setEnabled(room.Presence == RoomPresence::In);
         shown.Joins->setCurrentIndex(static_cast<int>(room.Joins));
         shown.Status->Show(room.Status);
     }

@@ -2,16 +2,16 @@
 #pragma once
 
 #include <array>
-#include <memory>
 
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 
 class QCheckBox;
 class QComboBox;
 class QPushButton;
 
 namespace orvelle {
-class EmbeddedVoiceEngine;
+class VoiceEngineSide;
 struct VoiceRoom;
 }  // namespace orvelle
 
@@ -23,7 +23,7 @@ class TextField;
 
 class RoomsBox : public Section {
 public:
-    explicit RoomsBox(EmbeddedVoiceEngine& voiceEngine);
+    explicit RoomsBox(VoiceEngineSide& voiceEngine);
 
 private:
     struct Room {
@@ -44,9 +44,9 @@ private:
     void ShowPanelsDoing(const Room& shown, const VoiceRoom& room) const;
     void ShowState();
 
-    EmbeddedVoiceEngine& engine;
+    VoiceEngineSide& engine;
     std::array<Room, 3> rooms;
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

@@ -2,13 +2,13 @@
 
 #include <QCheckBox>
 
-#include "adapters/embedded/Tessaly.h"
+#include "platform/sides/NetworkSide.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/TextField.h"
 
 namespace orvelle::deck {
 
-SessionBox::SessionBox(EmbeddedTessaly& framework)
+SessionBox::SessionBox(NetworkSide& framework)
     : Section("Session", "Session", 2),
       tessaly(framework),
       open(NewCheck("SessionOpen", "Session &open", "The user has a session on the network",
@@ -18,7 +18,7 @@ SessionBox::SessionBox(EmbeddedTessaly& framework)
                          [this](bool on) { tessaly.SetStatus(on ? 1 : 0); })),
       callsign(NewEdit("Callsign", "The user's callsign; Enter applies it",
                        [this](const std::string& text) { tessaly.SetCallsign(text); })),
-      watch(tessaly.Changed.Observe([this] { ShowState(); })) {
+      watch(tessaly.Observe([this] { ShowState(); })) {
     // A click doesn't take the focus, so that keys stay held meanwhile.
     open->setFocusPolicy(Qt::TabFocus);
     connected->setFocusPolicy(Qt::TabFocus);

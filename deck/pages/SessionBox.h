@@ -1,14 +1,14 @@
 // The user's session on the network: whether there is one, its status and the callsign.
 #pragma once
 
-#include <memory>
 
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 
 class QCheckBox;
 
 namespace orvelle {
-class EmbeddedTessaly;
+class NetworkSide;
 }  // namespace orvelle
 
 namespace orvelle::deck {
@@ -17,16 +17,16 @@ class TextField;
 
 class SessionBox : public Section {
 public:
-    explicit SessionBox(EmbeddedTessaly& framework);
+    explicit SessionBox(NetworkSide& framework);
 
 private:
     void ShowState();
 
-    EmbeddedTessaly& tessaly;
+    NetworkSide& tessaly;
     QCheckBox* open;
     QCheckBox* connected;
     TextField* callsign;
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

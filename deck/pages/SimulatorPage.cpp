@@ -4,7 +4,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "adapters/embedded/Velmarc.h"
+#include "platform/sides/FarSides.h"
+#include "platform/sides/SimulatorSide.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/TimedLog.h"
 #include "deck/pages/InputsBox.h"
@@ -12,18 +13,20 @@
 
 namespace orvelle::deck {
 
-SimulatorPage::SimulatorPage(EmbeddedVelmarc& simulator, EmbeddedVoiceEngine& engine)
-    : velmarc(simulator),
+SimulatorPage::SimulatorPage(const FarSides& sides)
+    : velmarc(*sides.Simulator),
       active(NewCheck("SimulatorActive", "The simulator is the &active application",
                       "Keys pressed while it is not start no voice program's push-to-talk",
                       [this](bool on) { velmarc.SetSimulatorActive(on); })),
       sounds(new TimedLog("Sounds", "Sounds that the simulator was asked to play")),
       programs(new TimedLog("Programs", "Voice programs that the panel started, or could not start")),
-      watch(velmarc.Changed.Observe([this] { ShowState(); })) {
+      watch(velmarc.Observe([this] { ShowState(); })) {
     setObjectName("SimulatorPage");
     active->setFocusPolicy(Qt::TabFocus);
 
-    auto* link = new LinkBox("Simulator", "Simulator", "&Simulator link", FarSideOf(velmarc));
+    Section* link = sides.SimulatorLink
+                        ? new LinkBox("Simulator", "Simulator", "&Simulator link", *sides.SimulatorLink)
+                        : new Section("Simulator", "Simulator", 3);
     link->AddRow("Application", {active});
 
     auto* soundSection = new Section("SoundSection", "Sounds asked for");
@@ -35,7 +38,7 @@ SimulatorPage::SimulatorPage(EmbeddedVelmarc& simulator, EmbeddedVoiceEngine& en
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(SectionGap);
     column->addWidget(link);
-    column->addWidget(new InputsBox(velmarc, engine));
+    column->addWidget(new InputsBox(velmarc, sides.VoiceEngine));
     column->addWidget(soundSection, 1);
     column->addWidget(programSection, 1);
     ShowState();

@@ -4,13 +4,14 @@
 
 #include <QWidget>
 #include <cstddef>
-#include <memory>
+
+#include "platform/Ticket.h"
 
 class QCheckBox;
 
 namespace orvelle {
-class EmbeddedVelmarc;
-class EmbeddedVoiceEngine;
+class SimulatorSide;
+struct FarSides;
 }  // namespace orvelle
 
 namespace orvelle::deck {
@@ -19,19 +20,20 @@ class TimedLog;
 
 class SimulatorPage : public QWidget {
 public:
-    SimulatorPage(EmbeddedVelmarc& simulator, EmbeddedVoiceEngine& engine);
+    // The simulator is there.
+    explicit SimulatorPage(const FarSides& sides);
 
     void TellOfProgram(const QString& sentence);
 
 private:
     void ShowState();
 
-    EmbeddedVelmarc& velmarc;
+    SimulatorSide& velmarc;
     QCheckBox* active;
     TimedLog* sounds;
     TimedLog* programs;
     std::size_t soundsShown = 0;
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

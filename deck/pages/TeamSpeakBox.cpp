@@ -5,7 +5,7 @@
 #include <QSpinBox>
 #include <limits>
 
-#include "adapters/embedded/TeamSpeak.h"
+#include "platform/sides/TeamSpeakSide.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/Readout.h"
 #include "deck/fields/TextField.h"
@@ -33,7 +33,7 @@ QSpinBox* NewResult(const QString& name, Integer& result) {
 
 }  // namespace
 
-TeamSpeakBox::TeamSpeakBox(EmbeddedTeamSpeak& program)
+TeamSpeakBox::TeamSpeakBox(TeamSpeakSide& program)
     : Section("TeamSpeak", "TeamSpeak program", 2),
       teamSpeak(program),
       running(
@@ -41,14 +41,14 @@ TeamSpeakBox::TeamSpeakBox(EmbeddedTeamSpeak& program)
                    [this](bool on) { teamSpeak.SetProgram(on ? ProgramState::Running : ProgramState::NotRunning); })),
       place(new Readout("TeamSpeakPlace")),
       url(new Readout("TeamSpeakUrl")),
-      watch(teamSpeak.Changed.Observe([this] { ShowState(); })) {
+      watch(teamSpeak.Observe([this] { ShowState(); })) {
     auto* channels = NewEdit("TeamSpeakChannels", "The channels of every server, with commas between; Enter applies",
                              [this](const std::string& text) { teamSpeak.SetChannels(ChannelsOf(text)); });
     channels->setPlaceholderText("Lobby, Tower");
     auto* padding = NewChoice(
         "TeamSpeakPadding", "What fills the field of the server's address behind it", {"Blanks", "Zeros"},
         [this](int index) { teamSpeak.SetPadding(index == 0 ? AddressPadding::Blanks : AddressPadding::Zeros); });
-    EmbeddedTeamSpeak::Results& results = teamSpeak.Fail;
+    TeamSpeakResults& results = teamSpeak.Fail();
 
     AddRow("Program", {running});
     AddRow("Server", {place});

@@ -1,15 +1,15 @@
 // The TeamSpeak program that the panel controls: whether it runs, where it is, and the results in place of success.
 #pragma once
 
-#include <memory>
 
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 
 class QCheckBox;
 class QSpinBox;
 
 namespace orvelle {
-class EmbeddedTeamSpeak;
+class TeamSpeakSide;
 }  // namespace orvelle
 
 namespace orvelle::deck {
@@ -18,16 +18,16 @@ class Readout;
 
 class TeamSpeakBox : public Section {
 public:
-    explicit TeamSpeakBox(EmbeddedTeamSpeak& program);
+    explicit TeamSpeakBox(TeamSpeakSide& program);
 
 private:
     void ShowState();
 
-    EmbeddedTeamSpeak& teamSpeak;
+    TeamSpeakSide& teamSpeak;
     QCheckBox* running;
     Readout* place;
     Readout* url;
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

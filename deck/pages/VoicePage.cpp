@@ -4,7 +4,8 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "adapters/embedded/VoiceEngine.h"
+#include "platform/sides/FarSides.h"
+#include "platform/sides/VoiceEngineSide.h"
 #include "deck/pages/CalibrationDialog.h"
 #include "deck/pages/DevicesBox.h"
 #include "deck/pages/EngineBox.h"
@@ -13,26 +14,26 @@
 
 namespace orvelle::deck {
 
-VoicePage::VoicePage(EmbeddedVoiceEngine& voiceEngine, EmbeddedTessaly& tessaly) : engine(voiceEngine) {
+VoicePage::VoicePage(const FarSides& sides) {
     setObjectName("VoicePage");
+    VoiceEngineSide& engine = *sides.VoiceEngine;
+    const AudioDevices& devices = *sides.Devices;
     // In front of the window in which the user asked for it.
-    engine.CalibrationDialogue = [this](Long inputDevice, Long outputDevice) {
-        return AskCalibration(QApplication::activeWindow(), engine, inputDevice, outputDevice);
-    };
+    calibration = engine.AnswerCalibration([&engine, &devices](Long inputDevice, Long outputDevice) {
+        return AskCalibration(QApplication::activeWindow(), engine, devices, inputDevice, outputDevice);
+    });
 
     auto* column = new QVBoxLayout;
     column->setSpacing(SectionGap);
     column->addWidget(new EngineBox(engine));
     column->addWidget(new RoomsBox(engine));
-    column->addWidget(new DevicesBox(engine));
+    column->addWidget(new DevicesBox(engine, devices));
     column->addStretch();
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(3 * DeckUnit);
     row->addLayout(column, 1);
-    row->addWidget(new ParametersBox(tessaly), 1);
+    if (sides.Network) row->addWidget(new ParametersBox(*sides.Network), 1);
 }
-
-VoicePage::~VoicePage() { engine.CalibrationDialogue = nullptr; }
 
 }  // namespace orvelle::deck

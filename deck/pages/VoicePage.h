@@ -4,22 +4,21 @@
 
 #include <QWidget>
 
+#include "platform/Ticket.h"
+
 namespace orvelle {
-class EmbeddedTessaly;
-class EmbeddedVoiceEngine;
+struct FarSides;
 }  // namespace orvelle
 
 namespace orvelle::deck {
 
 class VoicePage : public QWidget {
 public:
-    VoicePage(EmbeddedVoiceEngine& voiceEngine, EmbeddedTessaly& tessaly);
-    VoicePage(const VoicePage&) = delete;
-    VoicePage& operator=(const VoicePage&) = delete;
-    ~VoicePage() override;
+    // The voice engine is there, with the devices.
+    explicit VoicePage(const FarSides& sides);
 
 private:
-    EmbeddedVoiceEngine& engine;
+    Ticket calibration;
 };
 
 }  // namespace orvelle::deck

@@ -1,0 +1,100 @@
+// The framework link inside this process: the panel's near end opens it as its line; whoever plays the network acts on
+// its far side, the session with its radio set, and the interface records of other computers. What is done there
+// reaches the panel after the delay, while the link stands. Main thread only; a refusal shows as the result that the
+// interfaces tell.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "adapters/shared/Changes.h"
+#include "adapters/shared/Delivery.h"
+#include "platform/FrameworkLine.h"
+#include "platform/sides/LinkSide.h"
+#include "platform/sides/NetworkSide.h"
+
+namespace orvelle::embedded {
+
+class NetworkLink : public FrameworkLine, public NetworkSide, public LinkSide {
+public:
+    explicit NetworkLink(EventLoop& loop);
+
+    // The line.
+    void Open(const std::string& server) override;
+    void Close() override;
+    bool LetsOpenSession() override { return !refuse.OpenSession; }
+    bool LetsOpenRecord() override { return !refuse.OpenInterface; }
+    Long NewRecordId() override;  // the least that is free; 0 before Open
+    void SayRecord(Long id, const RecordContent& record, const RecordParameters& written) override;
+    void SayRecordEnded(Long id) override;
+    void SayWrite(Long id, const RecordParameters& written) override;
+
+    // The link from its far side.
+    void SetLink(LinkState state) override;
+    LinkState Link() const override { return link; }
+    bool IsUp() const override { return isUp; }
+    std::string Server() const override { return server; }
+    void SeeServer(const std::string& name) override;
+    const std::vector<std::string>& ServersSeen() const override { return serversSeen; }
+    void SetDelay(Long milliseconds) override { delivery.SetDelay(milliseconds); }
+    Long Delay() const override { return delivery.Delay(); }
+
+    // The session.
+    void StartSession() override;
+    void EndSession() override;
+    const SessionSetting& Session() const override { return session; }
+    void SetStatus(Long status) override;
+    void SetCallsign(const std::string& callsign) override;
+    void SetFrequency(Long radio, const std::string& frequency) override;
+    void SetReceive(const std::string& selection) override;
+    void SetTransmit(const std::string& selection) override;
+    void SetVoice(Long radio, const RadioVoiceSetting& voice) override;
+
+    // The records.
+    Long Claim(const std::string& owner, const std::string& role, const std::string& type) override;
+    bool DropClaim(Long id) override;
+    bool AnnounceChange(Long id) override;
+    bool WriteParameter(Long id, Long index, Long value) override;
+    bool WriteText(Long id, Long index, const std::string& text) override;
+    std::map<Long, InterfaceRecord> Records() const override;
+    std::size_t Writes() const override { return writes; }
+    NetworkRefusals& Refuse() override { return refuse; }
+
+    Ticket Observe(std::function<void()> observer) override { return changes.Observe(std::move(observer)); }
+
+private:
+    // A record keeps its id until the panel was told that it is gone: a new one would be taken for the old one.
+    struct Entry {
+        InterfaceRecord Record;
+        bool Said = false;  // the panel knows of it
+        bool Dropped = false;
+    };
+
+    void ComeUp();
+    void SayWhileUp(std::function<void()> event);  // brought only if the link stands then
+    void SaySession();
+    void ChangeText(std::string& text, const std::string& value);
+
+    Entry* Find(Long id);
+    Entry* Reachable(Long id);  // by other parties
+    void Enter(InterfaceRecord& record, const RecordParameters& written, ParameterWriter writer);
+    bool Write(Long id, const RecordParameters& written);
+    void SayForeignRecord(Long id);
+
+    Changes changes;
+    Delivery delivery;
+    LinkState link = LinkState::Down;
+    bool isOpen = false;
+    bool isUp = false;
+    std::string server;
+    std::vector<std::string> serversSeen;
+    SessionSetting session;
+    Long lastHandle = 0;
+    std::map<Long, Entry> records;
+    std::size_t writes = 0;
+    NetworkRefusals refuse;
+};
+
+}  // namespace orvelle::embedded

@@ -1,0 +1,79 @@
+// The simulator link inside this process: the panel's near end opens it as its line, and whoever plays the simulator's
+// computer acts on its far side. Every server name leads there. What is done on the far side takes effect at once over
+// there and reaches the panel after the delay. Main thread only; nothing fails towards the caller.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "adapters/shared/Changes.h"
+#include "adapters/shared/Delivery.h"
+#include "adapters/shared/HeldInputs.h"
+#include "platform/SimulatorLine.h"
+#include "platform/sides/LinkSide.h"
+#include "platform/sides/SimulatorSide.h"
+
+namespace orvelle::embedded {
+
+class SimulatorLink : public SimulatorLine, public SimulatorSide, public LinkSide {
+public:
+    explicit SimulatorLink(EventLoop& loop);
+
+    // The line.
+    void Open(const std::string& server) override;
+    void Close() override;
+    void SayReady() override;
+    void SaySound(const std::string& path) override;
+    SimulatorComputer FarComputer() override { return computer; }
+
+    // The link from its far side.
+    void SetLink(LinkState state) override;
+    LinkState Link() const override { return link; }
+    bool IsUp() const override { return isUp; }
+    std::string Server() const override { return server; }
+    void SeeServer(const std::string& name) override;
+    const std::vector<std::string>& ServersSeen() const override { return serversSeen; }
+    void SetDelay(Long milliseconds) override { delivery.SetDelay(milliseconds); }
+    Long Delay() const override { return delivery.Delay(); }
+
+    // The simulator's computer.
+    void SetComputer(const SimulatorComputer& computer) override;
+    const SimulatorComputer& Computer() const override { return computer; }
+    bool TakesInput() const override { return link == LinkState::Up; }
+    bool PressKey(const std::string& key) override;
+    void RepeatKey(const std::string& key) override;
+    void ReleaseKey(const std::string& key) override;
+    bool PressButton(const std::string& device, const std::string& button) override;
+    void ReleaseButton(const std::string& device, const std::string& button) override;
+    void ReleaseAll() override;
+    std::string HeldSequence() const override;
+    std::vector<std::string> HeldButtons() const override;
+    void SetSimulatorActive(bool active) override;
+    bool SimulatorActive() const override { return simulatorActive; }
+    const std::vector<std::string>& Sounds() const override { return sounds; }
+    std::size_t SoundsPlayed() const override { return soundsPlayed; }
+    std::size_t TimesReady() const override { return timesReady; }
+
+    Ticket Observe(std::function<void()> observer) override { return changes.Observe(std::move(observer)); }
+
+private:
+    void ComeUp();
+    void SayInput(const std::string& repeat = "");
+
+    Changes changes;
+    Delivery delivery;
+    SimulatorComputer computer;
+    LinkState link = LinkState::Down;
+    bool isOpen = false;
+    bool isUp = false;
+    std::string server;
+    bool simulatorActive = true;
+    HeldInputs held;
+    std::vector<std::string> serversSeen;
+    std::vector<std::string> sounds;
+    std::size_t soundsPlayed = 0;
+    std::size_t timesReady = 0;
+};
+
+}  // namespace orvelle::embedded
