@@ -119,9 +119,9 @@ bool Road::Play() {
             [&] {
                 network.SetLink(LinkState::Up);
                 network.SetCallsign("ABC123");
-                network.SetStatus(1);
-                network.SetReceive("1");
-                network.SetTransmit("1");
+                network.SetStatus(ConnectedToMultiplayer);
+                network.SetReceive(SelectsCom1);
+                network.SetTransmit(SelectsCom1);
                 network.StartSession();
             },
             [&] { return panel.StatusMainUser.Caption == "You are connected multiplayer"; }) &&

@@ -1,7 +1,6 @@
 // The three device lamps, the calibration, the distortion filter and the private channel's own mapping.
 #include "panel/FrmOrvelle.h"
 #include "panel/Texts.h"
-#include "voice/RoomParameters.h"
 
 namespace orvelle {
 

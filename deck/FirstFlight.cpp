@@ -9,9 +9,9 @@ void PrepareFirstFlight(EmbeddedSetUp& setUp) {
     tessaly.SetCallsign("ORV123");
     tessaly.SetFrequency(0, "122.800");
     tessaly.SetFrequency(1, "121.500");
-    tessaly.SetReceive("1");
-    tessaly.SetTransmit("1");
-    tessaly.SetStatus(1);
+    tessaly.SetReceive(SelectsCom1);
+    tessaly.SetTransmit(SelectsCom1);
+    tessaly.SetStatus(ConnectedToMultiplayer);
     tessaly.StartSession();
     tessaly.SetLink(LinkState::Up);
     setUp.Velmarc.SetLink(LinkState::Up);

@@ -33,7 +33,7 @@ QLineEdit* NewPlainEdit(const QString& name, const QString& text, const QString&
 RefusalsBox::RefusalsBox(EmbeddedSetUp& embedded)
     : Section("Refusals", "Refusals and notices", 3),
       setUp(embedded),
-      type(NewPlainEdit("OddType", "VOICE", "The record's type")),
+      type(NewPlainEdit("OddType", VoiceRecordType, "The record's type")),
       role(NewPlainEdit("OddRole", "RWCom3", "The record's role")),
       notice(NewPlainEdit("Notice", ReadOnlyNotice, "A sentence about the settings for the user")) {
     EmbeddedTessaly::Refusals& refuse = setUp.Tessaly.Refuse;

@@ -1,9 +1,11 @@
 // Push-to-talk of the voice engine: the microphone goes to the rooms of the selected radios, and the engine's record
 // says which rooms transmit. Also the start and stop of the engine for the routing.
 #include "panel/FrmOrvelle.h"
-#include "voice/RoomParameters.h"
+#include "platform/EngineRecord.h"
 
 namespace orvelle {
+
+using namespace engine_record;
 
 namespace {
 
@@ -67,7 +69,7 @@ void FrmOrvelle::VVLPrivStopTransmitting() {
 }
 
 void FrmOrvelle::TransmitToRoom(Long room) {
-    const bool off = RoomFlag(TransmitOff, room);
+    const bool off = TransmitOff[room];
     Tessaly.SetParam(RoomTransmits + room, off ? 0 : 1);
     VVL.RoomMute(room, off);
 }

@@ -9,7 +9,7 @@ void FrmOrvelle::optVelmarc_Click() {
     VelmarcServer.Enabled = !automatic;
     lblVelmarcServer.Enabled = !automatic;
     lblVelmarcServerMulti.Enabled = automatic;
-    Velmarc.SetServer(automatic ? "AUTOMATIC" : VelmarcServer.Text());
+    Velmarc.SetServer(automatic ? AutomaticServer : VelmarcServer.Text());
 }
 
 void FrmOrvelle::VelmarcServer_Click() {
@@ -48,8 +48,8 @@ void FrmOrvelle::Velmarc_Disconnected() {
 // The loopback address is listed as "localhost" alone, this computer's other addresses never.
 void FrmOrvelle::Velmarc_ServerFound(const std::string& name) {
     std::string server = Trimmed(name);
-    if (server == "127.0.0.1") server = "localhost";
-    if (VelmarcServer.IndexOf(server) < 0 && (server == "localhost" || !Velmarc.IsLocalAddress(server))) {
+    if (server == LoopbackAddress) server = LocalHost;
+    if (VelmarcServer.IndexOf(server) < 0 && (server == LocalHost || !Velmarc.IsLocalAddress(server))) {
         VelmarcServer.AddItem(server);
         if (VelmarcServer.Text == "") VelmarcServer.Select(0);
     }

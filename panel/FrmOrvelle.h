@@ -15,6 +15,7 @@
 #include "panel/MultiFSWarningDlg.h"
 #include "panel/Stub.h"
 #include "panel/SysTray.h"
+#include "platform/CheckedArray.h"
 #include "platform/MediaPlayer.h"
 #include "platform/Platform.h"
 #include "voice/VoiceRecord.h"
@@ -56,14 +57,14 @@ public:
     bool MultiplayerConnected = false;
     Long SessionHandle = 0;
     std::string Callsign;
-    std::string ReceiveSelect;   // "1", "2", "B"; else none
+    std::string ReceiveSelect;   // of RadioSelection.h
     std::string TransmitSelect;  // the same
-    std::array<VoiceRecord, 2> RadioVoice;
+    CheckedArray<VoiceRecord, 2> RadioVoice;
 
     // Rooms of the voice engine: 0 COM1, 1 COM2, 2 private
-    std::array<bool, 3> TransmitOff{};
-    std::array<bool, 3> ReceiveOff{};
-    std::array<bool, 3> RoomPriority{};
+    CheckedArray<bool, Rooms> TransmitOff;
+    CheckedArray<bool, Rooms> ReceiveOff;
+    CheckedArray<bool, Rooms> RoomPriority;
     bool PriorityActive = false;
     Long PriorityStamp = 0;  // GetTickCount at the last mark of priority traffic
     bool VVLRunning = false;
@@ -76,7 +77,7 @@ public:
     std::string RWChannel;
     std::string TSServer;
     std::string TSChannel;
-    std::array<std::string, 2> ATISSource;
+    CheckedArray<std::string, 2> ATISSource;
 
     // Ids of the voice roles, 0 for none
     Long RWCom1 = 0;
@@ -295,8 +296,8 @@ private:
 
     // voice/VoiceAtis.cpp
     void PlayVoiceAtis();
-    void PlayRecording(MediaPlayer& player, std::size_t radio, const std::string& receive);
-    void StopRecording(MediaPlayer& player, std::size_t radio);
+    void PlayRecording(MediaPlayer& player, Long radio, const std::string& receive);
+    void StopRecording(MediaPlayer& player, Long radio);
     void SetPlayerVolumes();
     void Timer1_Timer();
     void VoiceATISEnable_Click();

@@ -86,7 +86,7 @@ void FrmOrvelle::CreateMediaPlayers() {
 }
 
 void FrmOrvelle::LoadVelmarcServer() {
-    if (UpperCase(Velmarc.GetServer()) == "AUTOMATIC") {
+    if (UpperCase(Velmarc.GetServer()) == AutomaticServer) {
         VelmarcServer.Text = "";
         optVelmarc(0).Value = true;
         optVelmarc(1).Value = false;
@@ -100,9 +100,9 @@ void FrmOrvelle::LoadVelmarcServer() {
 void FrmOrvelle::LoadTessalyServer() {
     const std::string server = UpperCase(Tessaly.GetServer());
     Long option = 1;
-    if (server == "AUTOMATIC")
+    if (server == AutomaticServer)
         option = 0;
-    else if (server == "<LOCAL>")
+    else if (server == OwnServer)
         option = 2;
     else
         TessalyServer.Text = Tessaly.GetServer();

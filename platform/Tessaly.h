@@ -6,15 +6,20 @@
 #include <string>
 
 #include "platform/Event.h"
+#include "platform/RadioSelection.h"
+#include "platform/ServerNames.h"
 #include "platform/Types.h"
+#include "platform/VoiceSoftware.h"
 
 namespace orvelle {
+
+constexpr Long ConnectedToMultiplayer = 1;  // a session's status
 
 class FrameworkLink {
 public:
     virtual ~FrameworkLink() = default;
 
-    // A host, an address, "AUTOMATIC" or "<LOCAL>"; the control keeps it between runs, as it keeps Embedded.
+    // A host, an address, AutomaticServer or OwnServer; the control keeps it between runs, as it keeps Embedded.
     virtual void SetServer(const std::string& name) = 0;
     virtual std::string GetServer() = 0;
     virtual bool Embedded() = 0;
@@ -41,14 +46,14 @@ public:
     // Selects a session for reading, 0 the current one. Each True is followed by one CloseSession.
     virtual bool OpenSession(Long handle) = 0;
     virtual void CloseSession() = 0;
-    virtual Long SessionStatus() = 0;  // 1: connected to the multiplayer network
+    virtual Long SessionStatus() = 0;  // ConnectedToMultiplayer, or another
     virtual std::string SessionCallsign() = 0;
-    virtual std::string ReceiveRadio() = 0;   // "1", "2", "B" for both; else none
+    virtual std::string ReceiveRadio() = 0;   // of RadioSelection.h
     virtual std::string TransmitRadio() = 0;  // the same
     virtual std::string FreqCOM1() = 0;       // ready to show
     virtual std::string FreqCOM2() = 0;
     // The voice record of radio 0 (COM1) or 1 (COM2).
-    virtual Long VoiceSoftware(Long radio) = 0;
+    virtual Long VoiceSoftware(Long radio) = 0;  // a code of VoiceSoftware.h
     virtual std::string VoiceServer(Long radio) = 0;
     virtual std::string VoiceChannel(Long radio) = 0;
     virtual std::string VoiceLogin(Long radio) = 0;

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/Event.h"
+#include "platform/ServerNames.h"
 #include "platform/Types.h"
 
 namespace orvelle {
@@ -14,7 +15,7 @@ class VelmarcControl {
 public:
     virtual ~VelmarcControl() = default;
 
-    // A host name, an address or "AUTOMATIC"; the control keeps it between runs.
+    // A host name, an address or AutomaticServer; the control keeps it between runs.
     virtual void SetServer(const std::string& name) = 0;
     virtual std::string GetServer() = 0;
     virtual bool LinkUp() = 0;

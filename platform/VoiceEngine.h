@@ -10,6 +10,12 @@
 
 namespace orvelle {
 
+constexpr Long Rooms = 3;
+constexpr Long PrivateRoom = 2;  // the rooms before it are those of the two radios
+
+constexpr Long Headset = 0;
+constexpr Long Speakers = 1;
+
 class VoiceEngineControl {
 public:
     virtual ~VoiceEngineControl() = default;

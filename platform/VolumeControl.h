@@ -10,11 +10,13 @@
 
 namespace orvelle {
 
+constexpr const char* DefaultMixerDevice = "<DEFAULT>";
+
 class MixerControl {
 public:
     virtual ~MixerControl() = default;
 
-    // A device name, or "<DEFAULT>".
+    // A device name, or DefaultMixerDevice.
     virtual void InputDevice(const std::string& name) = 0;
     virtual void OutputDevice(const std::string& name) = 0;
     virtual void Open() = 0;

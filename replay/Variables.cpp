@@ -1,4 +1,3 @@
-#include <array>
 #include <functional>
 #include <memory>
 
@@ -32,9 +31,9 @@ std::optional<std::string> PrintedAt(const VoiceRecord& record, const Path& path
     return std::nullopt;
 }
 
-template <typename T, std::size_t Size>
-std::optional<std::string> PrintedAt(const std::array<T, Size>& values, const Path& path) {
-    for (std::size_t index = 0; index < Size; ++index) {
+template <typename T, Long Size>
+std::optional<std::string> PrintedAt(const CheckedArray<T, Size>& values, const Path& path) {
+    for (Long index = 0; index < Size; ++index) {
         const Path element = "(" + std::to_string(index) + ")";
         if (path.starts_with(element)) return PrintedAt(values[index], path.substr(element.size()));
     }

@@ -2,9 +2,11 @@
 // of the role says so.
 #include "panel/FrmOrvelle.h"
 #include "panel/Texts.h"
-#include "voice/RoomParameters.h"
+#include "platform/EngineRecord.h"
 
 namespace orvelle {
+
+using namespace engine_record;
 
 void FrmOrvelle::VVL_Started() {
     VVLCalibrate.Enabled = false;

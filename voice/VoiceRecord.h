@@ -1,20 +1,12 @@
-// What a radio is tuned to, and the codes of the voice software.
+// What a radio is tuned to, and the sounds that tell of a change.
 #pragma once
 
 #include <string>
 
 #include "platform/Types.h"
+#include "platform/VoiceSoftware.h"
 
 namespace orvelle {
-
-enum VoiceSoftware : Long {
-    NoVoice = 0,
-    RogerWilco = 1,
-    TeamSpeakHost = 2,  // the server is a host
-    VatsimVoice = 3,
-    TeamSpeakUrl = 4,  // the server is the head of a URL
-    VoiceAtis = 5,     // never a candidate
-};
 
 struct VoiceRecord {
     Long Software = NoVoice;

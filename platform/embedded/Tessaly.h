@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "platform/Tessaly.h"
+#include "platform/VoiceRoles.h"
 #include "platform/embedded/Changes.h"
 #include "platform/embedded/Delivery.h"
 #include "platform/embedded/LinkState.h"
@@ -20,7 +21,7 @@ namespace orvelle {
 class ControlValues;
 
 struct RadioVoiceSetting {
-    Long Software = 0;  // 0 none, 1 RogerWilco, 2 TeamSpeak, 3 VATSIM, 4 TeamSpeak by URL, 5 Voice ATIS
+    Long Software = NoVoice;
     std::string Server;
     std::string Channel;
     std::string Login;
@@ -31,9 +32,9 @@ struct RadioVoiceSetting {
 // The session as the network has it. It outlives a loss of the link.
 struct SessionSetting {
     Long Handle = 0;  // 0: no session
-    Long Status = 0;  // 1: connected to the multiplayer network
+    Long Status = 0;  // ConnectedToMultiplayer, or another
     std::string Callsign;
-    std::string Receive;   // "1", "2", "B"; else none
+    std::string Receive;   // of RadioSelection.h
     std::string Transmit;  // the same
     std::array<std::string, 2> Frequency;
     std::array<RadioVoiceSetting, 2> Voice;
@@ -67,7 +68,7 @@ public:
 
     // The link. The records of this panel live as long as the link is started, whether it stands or not.
     void SetServer(const std::string& name) override;
-    std::string GetServer() override;  // "AUTOMATIC" until one was set
+    std::string GetServer() override;  // AutomaticServer until one was set
     bool Embedded() override;
     void Embedded(Long value) override;
     bool LinkUp() override;
@@ -130,9 +131,10 @@ public:
     void SetVoice(Long radio, const RadioVoiceSetting& voice);
 
     // The deck's side of the records: other computers and other parties. Writes reach a record while the link stands.
-    Long Claim(const std::string& owner, const std::string& role, const std::string& type = "VOICE");  // the new id
-    bool DropClaim(Long id);       // False for a record of this panel or none
-    bool AnnounceChange(Long id);  // raises InterfaceChanged
+    Long Claim(const std::string& owner, const std::string& role,
+               const std::string& type = VoiceRecordType);  // the new id
+    bool DropClaim(Long id);                                // False for a record of this panel or none
+    bool AnnounceChange(Long id);                           // raises InterfaceChanged
     bool WriteParameter(Long id, Long index, Long value);
     bool WriteText(Long id, Long index, const std::string& text);
     std::map<Long, InterfaceRecord> Records() const;  // those that are there, by id

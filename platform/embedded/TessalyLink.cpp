@@ -21,7 +21,7 @@ void EmbeddedTessaly::SetServer(const std::string& name) {
     Changed.Mark();
 }
 
-std::string EmbeddedTessaly::GetServer() { return values.GetControlValue(ServerValue, "AUTOMATIC"); }
+std::string EmbeddedTessaly::GetServer() { return values.GetControlValue(ServerValue, AutomaticServer); }
 bool EmbeddedTessaly::Embedded() { return values.GetControlValue(EmbeddedValue, "0") != "0"; }
 
 void EmbeddedTessaly::Embedded(Long value) {

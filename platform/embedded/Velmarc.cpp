@@ -24,7 +24,7 @@ std::string ButtonText(const std::string& device, const std::string& button) { r
 
 EmbeddedVelmarc::EmbeddedVelmarc(EventLoop& loop, ControlValues& controlValues, std::vector<std::string> thisComputer)
     : Changed(loop), delivery(loop), values(controlValues), localNames(std::move(thisComputer)) {
-    localNames.insert(localNames.end(), {"localhost", "127.0.0.1", "::1"});
+    localNames.insert(localNames.end(), {LocalHost, LoopbackAddress, "::1"});
 }
 
 void EmbeddedVelmarc::SetServer(const std::string& name) {
@@ -32,7 +32,7 @@ void EmbeddedVelmarc::SetServer(const std::string& name) {
     Changed.Mark();
 }
 
-std::string EmbeddedVelmarc::GetServer() { return values.GetControlValue(ServerValue, "AUTOMATIC"); }
+std::string EmbeddedVelmarc::GetServer() { return values.GetControlValue(ServerValue, AutomaticServer); }
 bool EmbeddedVelmarc::LinkUp() { return linkUp; }
 
 void EmbeddedVelmarc::ClientReady() {

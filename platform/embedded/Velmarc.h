@@ -18,7 +18,7 @@ class ControlValues;
 
 // What the panel is told of the computer at the other end while the link is up.
 struct SimulatorComputer {
-    std::string IPAddress = "127.0.0.1";
+    std::string IPAddress = LoopbackAddress;
     std::string ComputerName = "FLIGHTDECK";
     std::string DesktopName = "Simulator";
 };
@@ -29,7 +29,7 @@ public:
     EmbeddedVelmarc(EventLoop& loop, ControlValues& controlValues, std::vector<std::string> thisComputer);
 
     void SetServer(const std::string& name) override;
-    std::string GetServer() override;  // "AUTOMATIC" until one was set
+    std::string GetServer() override;  // AutomaticServer until one was set
     bool LinkUp() override;
     void ClientReady() override;
     std::string IPAddress() override;
