@@ -30,8 +30,8 @@ void FrmOrvelle::Velmarc_Connected() {
     const std::string computer = Velmarc.ComputerName();
     const std::string desktop = Velmarc.DesktopName();
     VelmarcStatus.SetPanelText(2, "IP: " + address + "  Computer: " + computer + "  Desktop: " + desktop);
-    Panels(4).Enabled = true;
-    Panels(7).Enabled = true;
+    Panels(JoyToKeyPanel).Enabled = true;
+    Panels(KeyToKeyPanel).Enabled = true;
     TessalyServer.Clear();
     RefreshStatus();
 }
@@ -40,8 +40,8 @@ void FrmOrvelle::Velmarc_Disconnected() {
     RefreshStatus();
     VelmarcStatus.SetPanelText(1, "Not Connected");
     VelmarcStatus.SetPanelText(2, "");
-    Panels(4).Enabled = false;
-    Panels(7).Enabled = false;
+    Panels(JoyToKeyPanel).Enabled = false;
+    Panels(KeyToKeyPanel).Enabled = false;
     TessalyServer.Clear();
 }
 
