@@ -47,9 +47,27 @@ PanelProgram::PanelProgram(ProcessProgram& endingProgram, TerminationSignals& te
       Processes(""),
       registry(SetUp.Store, AutostartFolder()),
       tray(Table, [](const Picture& picture) { return StatusIcon(picture.Name); }),
-      Panel({SetUp.Velmarc, SetUp.Store, registry, SetUp.Tessaly, SetUp.VVL, SetUp.VolumeControl, SetUp.VolumeControlHP,
-             RemoteControl(teamSpeak, SetUp.TSRemote), SetUp.MediaPlayers, dialog, messages, Keyboard, queue, windows,
-             clock, Processes, program, tray, urls}) {
+      Panel(Platform{
+          .Velmarc = SetUp.Velmarc,
+          .Settings = SetUp.Store,
+          .Registry = registry,
+          .Tessaly = SetUp.Tessaly,
+          .VVL = SetUp.VVL,
+          .VolumeControl = SetUp.VolumeControl,
+          .VolumeControlHP = SetUp.VolumeControlHP,
+          .TSRemote = RemoteControl(teamSpeak, SetUp.TSRemote),
+          .MediaPlayers = SetUp.MediaPlayers,
+          .Dialog = dialog,
+          .Messages = messages,
+          .Keyboard = Keyboard,
+          .Queue = queue,
+          .Windows = windows,
+          .Clock = clock,
+          .Processes = Processes,
+          .Program = program,
+          .Tray = tray,
+          .Urls = urls,
+      }) {
     // The main window's icon tells the state; the other windows have the one with all lamps on.
     QApplication::setWindowIcon(StatusIcon("VVVVVV"));
     program.AtEnd([this] { Keyboard.ReleaseAll(); });

@@ -275,8 +275,27 @@ struct SilentPeers {
     Platform Outside() { return Outside(Settings, Registry); }
     // With a real store in the place of the silent one.
     Platform Outside(SettingsStore& settings, orvelle::Registry& registry) {
-        return {Velmarc,  settings, registry, Tessaly, Engine, Mixer,     MixerHP, Remote, Players, Dialog,
-                Messages, Keyboard, Queue,    Windows, Clock,  Processes, Program, Tray,   Urls};
+        return {
+            .Velmarc = Velmarc,
+            .Settings = settings,
+            .Registry = registry,
+            .Tessaly = Tessaly,
+            .VVL = Engine,
+            .VolumeControl = Mixer,
+            .VolumeControlHP = MixerHP,
+            .TSRemote = Remote,
+            .MediaPlayers = Players,
+            .Dialog = Dialog,
+            .Messages = Messages,
+            .Keyboard = Keyboard,
+            .Queue = Queue,
+            .Windows = Windows,
+            .Clock = Clock,
+            .Processes = Processes,
+            .Program = Program,
+            .Tray = Tray,
+            .Urls = Urls,
+        };
     }
 };
 

@@ -26,9 +26,9 @@ Long KeyMessage(Long code) {
 void FrmOrvelle::SendKeyStrokes(bool release, const std::string& keys) {
     for (ScanCodeReader codes(keys); !codes.AtEnd();) {
         const Long code = codes.Next();
-        const Long virtualKey = platform.Keyboard.MapVirtualKeyA(code, MapScanCodeToVirtualKeyExtended);
+        const Long virtualKey = Keyboard.MapVirtualKeyA(code, MapScanCodeToVirtualKeyExtended);
         const Long flags = (code > 0 ? KeyEventExtended : 0) + (release ? KeyEventUp : 0);
-        platform.Keyboard.keybd_event(virtualKey, code % CodesPerByte, flags, 0);
+        Keyboard.keybd_event(virtualKey, code % CodesPerByte, flags, 0);
     }
 }
 
@@ -36,7 +36,7 @@ std::string FrmOrvelle::KeyDisplayName(const std::string& keys) {
     if (keys.empty()) return "";
     std::string name;
     for (ScanCodeReader codes(keys); !codes.AtEnd();) {
-        const std::string key = platform.Keyboard.GetKeyNameTextA(KeyMessage(codes.Next()), NameBuffer);
+        const std::string key = Keyboard.GetKeyNameTextA(KeyMessage(codes.Next()), NameBuffer);
         if (!name.empty()) name += '+';
         name += key;
     }

@@ -1,6 +1,7 @@
-// The one controller: a single window object that owns every control and every variable of the panel. All logic is a
-// method of this object, defined over the folders panel, links, voice, input and audio, and runs on one thread, driven
-// by the events that Wiring.cpp joins to their handlers. The program starts by showing it.
+// The one controller: a single window object that owns every control and every variable of the panel, and names what is
+// outside by the members of Platform. All logic is a method of this object, defined over the folders panel, links,
+// voice, input and audio, and runs on one thread, driven by the events that Wiring.cpp joins to their handlers. The
+// program starts by showing it.
 #pragma once
 
 #include <array>
@@ -15,29 +16,17 @@
 #include "panel/MultiFSWarningDlg.h"
 #include "panel/Stub.h"
 #include "panel/SysTray.h"
-#include "platform/CheckedArray.h"
-#include "platform/MediaPlayer.h"
+#include "panel/Variables.h"
 #include "platform/Platform.h"
-#include "voice/VoiceRecord.h"
 #include "voice/VoiceRole.h"
 
 namespace orvelle {
 
-class FrmOrvelle : public PanelControls {
+class FrmOrvelle : public PanelControls, private Platform, private PanelVariables {
 public:
     explicit FrmOrvelle(const Platform& outside);
 
 private:
-    const Platform platform;
-    VelmarcControl& Velmarc;
-    SettingsStore& Settings;
-    orvelle::Registry& Registry;
-    TessalyControl& Tessaly;
-    VoiceEngineControl& VVL;
-    MixerControl& VolumeControl;
-    MixerControl& VolumeControlHP;
-    TeamSpeakRemote& TSRemote;
-    FileDialog& Dialog;
     HandlerDepth handlers;
     mSysTray trayModule;
 
@@ -46,68 +35,11 @@ public:
     Stub Stub1;
     orvelle::MultiFSWarningDlg MultiFSWarningDlg;
 
-    // Two media players, none after start-up
+    // Two media players; start-up leaves none, a scenario may put some
     std::unique_ptr<MediaPlayer> WMPCOM1;
     std::unique_ptr<MediaPlayer> WMPCOM2;
 
-    // Navigation
-    Long CurrentPanel = 0;  // shown over Panels(0); 0 is Panels(0) itself
-
-    // Session and radio set
-    bool MultiplayerConnected = false;
-    Long SessionHandle = 0;
-    std::string Callsign;
-    std::string ReceiveSelect;   // of RadioSelection.h
-    std::string TransmitSelect;  // the same
-    CheckedArray<VoiceRecord, 2> RadioVoice;
-
-    // Rooms of the voice engine: 0 COM1, 1 COM2, 2 private
-    CheckedArray<bool, Rooms> TransmitOff;
-    CheckedArray<bool, Rooms> ReceiveOff;
-    CheckedArray<bool, Rooms> RoomPriority;
-    bool PriorityActive = false;
-    Long PriorityStamp = 0;  // GetTickCount at the last mark of priority traffic
-    bool VVLRunning = false;
-    bool VVLTransmitting = false;
-    bool VVLPrivTransmitting = false;
-
-    // Voice routing
-    Long ActiveVoiceSoftware = NoVoice;
-    std::string RWServer;
-    std::string RWChannel;
-    std::string TSServer;
-    std::string TSChannel;
-    CheckedArray<std::string, 2> ATISSource;
-
-    // Ids of the voice roles, 0 for none
-    Long RWCom1 = 0;
-    Long RWCom2 = 0;
-    Long TSCom1 = 0;
-    Long TSCom2 = 0;
-    Long OwnVVL = 0;
-    Long ForeignRWCom1 = 0;
-    Long ForeignRWCom2 = 0;
-    Long ForeignTSCom1 = 0;
-    Long ForeignTSCom2 = 0;
-    Long ForeignVVL = 0;
-
-    // Key mappings: FS texts are the simulator's, the others scan-code sequences of this computer ("29+46")
-    std::string TSFSJoy;
-    std::string TSFSKey;
-    std::string TSPTTKey;
-    std::string TSPTTKeyState;  // "DOWN" while this program holds the sequence down
-    std::string RWFSJoy;
-    std::string RWFSKey;
-    std::string RWPTTKey;
-    std::string RWPTTKeyState;
-    std::string VVLFSJoy;
-    std::string VVLFSKey;
-    std::string VVLPrivFSJoy;
-    std::string VVLPrivFSKey;
-    std::string J2KJoy;
-    std::string J2KKey;
-    std::string K2KFSKey;
-    std::string K2KKey;
+    const PanelVariables& Variables() const { return *this; }
 
     // Entry points that other components may call at any time
     void RefreshStatus();

@@ -20,7 +20,7 @@ Long WholeTwips(double twips) {
 
 }  // namespace
 
-std::string FrmOrvelle::AutostartCommand() { return '"' + platform.Processes.GetModuleFileNameA() + "\" -MIN"; }
+std::string FrmOrvelle::AutostartCommand() { return '"' + Processes.GetModuleFileNameA() + "\" -MIN"; }
 
 void FrmOrvelle::Autostart_Click() {
     if (Autostart.Value == 0)
@@ -31,8 +31,7 @@ void FrmOrvelle::Autostart_Click() {
 
 void FrmOrvelle::Topmost_Click() {
     SaveSettingLong("Topmost", Topmost.Value);
-    platform.Windows.SetWindowPos(*this, Topmost.Value == 1 ? InsertTopmost : InsertNotTopmost, 0, 0, 0, 0,
-                                  NoMoveNoSize);
+    Windows.SetWindowPos(*this, Topmost.Value == 1 ? InsertTopmost : InsertNotTopmost, 0, 0, 0, 0, NoMoveNoSize);
 }
 
 void FrmOrvelle::FS2004DPCompatible_Click() {

@@ -21,12 +21,14 @@ void FrmOrvelle::WireWindow() {
     QueryUnload = Handler([this](Long& cancel, Long mode) { Form_QueryUnload(cancel, mode); });
     Unloading = Handler(&FrmOrvelle::Form_Unload);
     Terminate = Handler(&FrmOrvelle::Form_Terminate);
-    Stub1.Terminate = [this] { Unload(); };
     ST.MouseDown = Handler([this](Integer& button, Long& id) { ST_MouseDown(button, id); });
     mnuTrayShow.Click = Handler(&FrmOrvelle::mnuTrayShow_Click);
     mnuTrayVisible.Click = Handler(&FrmOrvelle::mnuTrayVisible_Click);
+    // An unload is no handler of its own: it raises the form's events above, each of which is one, and the last of them
+    // ends the process, so that a scope around them would never close.
     mnuTrayQuit.Click = [this] { Unload(); };
     Shutdown.Click = [this] { Unload(); };
+    Stub1.Terminate = [this] { Unload(); };
     twCategory.NodeClick = Handler([this](TreeNode& node) { twCategory_NodeClick(node); });
 
     Timer1.Tick = Handler(&FrmOrvelle::Timer1_Timer);

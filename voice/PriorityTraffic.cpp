@@ -32,12 +32,12 @@ bool FrmOrvelle::AnyPriorityRoomOnAir() {
 }
 
 void FrmOrvelle::MarkPriorityTraffic() {
-    PriorityStamp = platform.Clock.GetTickCount();
+    PriorityStamp = Clock.GetTickCount();
     VVLPriorityTraffic.Enabled = true;
 }
 
 void FrmOrvelle::VVLPriorityTraffic_Timer() {
-    if (TickDifference(platform.Clock.GetTickCount(), PriorityStamp) <= HoldTime) return;
+    if (TickDifference(Clock.GetTickCount(), PriorityStamp) <= HoldTime) return;
     if (PriorityActive && Tessaly.OpenInterface(OwnVVL)) {
         PriorityActive = AnyPriorityRoomOnAir();
         Tessaly.CloseInterface();

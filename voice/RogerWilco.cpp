@@ -6,15 +6,15 @@
 namespace orvelle {
 
 void FrmOrvelle::RWLeave() {
-    platform.Processes.WinExec(RWPath.Text() + " /leave ", ShowMinimisedInactive);
+    Processes.WinExec(RWPath.Text() + " /leave ", ShowMinimisedInactive);
     RWServer = "";
     RWChannel = "";
 }
 
 void FrmOrvelle::RWJoin(const VoiceRecord& candidate) {
-    platform.Processes.WinExec(RWPath.Text() + " /join1 " + candidate.Server + "/" + candidate.Channel +
-                                   " /priority high /netspeed 2 /callsign " + Callsign,
-                               ShowMinimisedInactive);
+    Processes.WinExec(RWPath.Text() + " /join1 " + candidate.Server + "/" + candidate.Channel +
+                          " /priority high /netspeed 2 /callsign " + Callsign,
+                      ShowMinimisedInactive);
     RWServer = candidate.Server;
     RWChannel = candidate.Channel;
     PlayTuningSound(OnChannelSound);

@@ -34,7 +34,7 @@ void PanelTest::Connect() {
     network.SetReceive("1");
     network.SetTransmit("1");
     network.StartSession();
-    ASSERT_TRUE(ComesTrue([this] { return panel.SessionHandle != 0 && panel.Panels(4).Enabled; }));
+    ASSERT_TRUE(ComesTrue([this] { return panel.Variables().SessionHandle != 0 && panel.Panels(4).Enabled; }));
 }
 
 void PanelTest::ShowPage(const char* node) { panel.twCategory.UserClick(*panel.twCategory.Find(node)); }
