@@ -63,7 +63,7 @@ void FrmOrvelle::Tessaly_SessionClosed() {
     FreqCOM2.Caption = "";
     ReceiveSelect = SelectsNone;
     TransmitSelect = SelectsNone;
-    RadioVoice.fill(VoiceRecord{});
+    RadioVoice.Fill(VoiceRecord{});
     MultiplayerConnected = false;
     RefreshStatus();
     ApplyVoiceRouting();

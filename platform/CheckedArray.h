@@ -17,9 +17,7 @@ public:
 
     T& operator[](Long index) { return held[Checked(index)]; }
     const T& operator[](Long index) const { return held[Checked(index)]; }
-    void fill(const T& value) { held.fill(value); }
-    auto begin() const { return held.begin(); }
-    auto end() const { return held.end(); }
+    void Fill(const T& value) { held.fill(value); }
 
 private:
     static std::size_t Checked(Long index) {
