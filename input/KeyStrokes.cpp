@@ -1,5 +1,4 @@
-// Keys on this computer: sending a sequence, naming it, and the press-or-release logic of one table row.
-#include "input/Matching.h"
+// Sequences of keys on this computer, sent and named.
 #include "input/ScanCodes.h"
 #include "panel/FrmOrvelle.h"
 #include "platform/RuntimeError.h"
@@ -41,21 +40,6 @@ std::string FrmOrvelle::KeyDisplayName(const std::string& keys) {
         name += key;
     }
     return name;
-}
-
-// A push row holds its keys while the input is down; a toggled row presses on one press and releases on the next.
-void FrmOrvelle::ApplyKeyMapping(bool released, ListView& list, Long row) {
-    const bool isToggle = list.SubItem(row, ToggleColumn) == "Toggle";
-    const std::string& state = list.SubItem(row, KeyStateColumn);
-    bool release = released;
-    if (isToggle) {
-        if (released || (!state.empty() && state != Down)) return;
-        release = state == Down;
-    } else if (released && state != Down) {
-        return;
-    }
-    SendKeyStrokes(release, list.SubItem(row, KeyScanColumn));
-    list.SetSubItem(row, KeyStateColumn, release ? "" : Down);
 }
 
 }  // namespace orvelle

@@ -1,39 +1,11 @@
 // Push-to-talk of the voice engine: the microphone goes to the rooms of the selected radios, and the engine's record
-// says which rooms transmit. Also the start and stop of the engine for the routing.
+// says which rooms transmit.
 #include "panel/FrmOrvelle.h"
 #include "platform/EngineRecord.h"
 
 namespace orvelle {
 
 using namespace engine_record;
-
-namespace {
-
-constexpr Long EngineMode = 3;
-
-}  // namespace
-
-void FrmOrvelle::VVLStart(bool& result) {
-    result = true;
-    if (VVLRunning) return;
-    if (VVL.Running()) {
-        // The control does not report a start again.
-        VVLRunning = true;
-        VVL_Started();
-        return;
-    }
-    result = VVL.Start(EngineMode);
-    VVLRunning = result;
-}
-
-// The engine itself stays up, without rooms, until the panel ends.
-void FrmOrvelle::VVLStop() {
-    if (!VVLRunning) return;
-    if (VVL.Running())
-        for (Long room = 0; room < Rooms; ++room) VVL.RoomLeave(room);
-    VVL_Stopped();
-    VVLRunning = false;
-}
 
 void FrmOrvelle::VVLStartTransmitting() {
     if (!VVLRunning || !Tessaly.OpenInterface(OwnVVL)) return;

@@ -104,15 +104,16 @@ private:
     void twCategory_NodeClick(TreeNode& node);
 
     // panel/Window.cpp
-    std::string AutostartCommand();
     void SavePosition();
-    void Autostart_Click();
-    void Topmost_Click();
-    void FS2004DPCompatible_Click();
     void Form_QueryUnload(Long& cancel, Long mode);
     void mnuTrayShow_Click();
     void mnuTrayVisible_Click();
     void ST_MouseDown(Integer& button, Long& id);
+
+    // panel/Options.cpp
+    std::string AutostartCommand();
+    void Autostart_Click();
+    void Topmost_Click();
 
     // panel/Shutdown.cpp
     void Form_Unload();
@@ -133,6 +134,10 @@ private:
     void Tessaly_Connected();
     void Tessaly_Disconnected();
     void Tessaly_ServerFound(const std::string& name);
+
+    // links/FrameworkSettings.cpp
+    void KestrineEmbedded_Click();
+    void FS2004DPCompatible_Click();
 
     // links/SeveralServers.cpp
     void CheckSeveralVelmarcServers();
@@ -183,6 +188,10 @@ private:
     void Tessaly_InterfaceAppeared(Long id);
     void Tessaly_InterfaceChanged(Long id);
     void Tessaly_InterfaceRemoved(Long id);
+
+    // voice/EngineStart.cpp
+    void VVLStart(bool& result);
+    void VVLStop();
 
     // voice/VatsimEngine.cpp
     void VVL_Started();
@@ -246,8 +255,6 @@ private:
     void ReleaseVoiceKeys(bool teamSpeakMatches, bool rogerWilcoMatches);
 
     // input/PushToTalk.cpp
-    void VVLStart(bool& result);
-    void VVLStop();
     void VVLStartTransmitting();
     void VVLPrivStartTransmitting();
     void VVLStopTransmitting();
@@ -259,7 +266,6 @@ private:
     // input/KeyStrokes.cpp
     void SendKeyStrokes(bool release, const std::string& keys);
     std::string KeyDisplayName(const std::string& keys);
-    void ApplyKeyMapping(bool released, ListView& list, Long row);
 
     // input/RemoteCapture.cpp
     void RemoteSet_Click(const RemoteSlot& slot);
@@ -281,9 +287,15 @@ private:
     void TableDelete_Click(const MappingTable& table);
     void TableItem_Click(const MappingTable& table, Long row);
     void RewriteTable(const MappingTable& table, const std::string& textKey);
+
+    // input/FiredRows.cpp
     void FireJoyRows(bool released, const std::string& button);
     void FireKeyRows(bool repeat, bool fsActive, const std::string& key, const std::string& keySequence);
     void ReleaseKeyRows(const std::string& key);
+    void ApplyKeyMapping(bool released, ListView& list, Long row);
+
+    // input/PrivateMapping.cpp
+    void VVLPrivEnable_Click();
 
     // audio/DeviceLists.cpp
     void FillDeviceLists();
@@ -310,9 +322,12 @@ private:
 
     // audio/DeviceStatus.cpp
     void TimerDeviceStatus_Timer();
+
+    // audio/Calibration.cpp
     void VVLCalibrate_Click();
+
+    // audio/Distortion.cpp
     void VVLFilter_Click();
-    void VVLPrivEnable_Click();
 };
 
 }  // namespace orvelle

@@ -46,7 +46,7 @@ void FrmOrvelle::WirePages() {
         optTessaly(index).Click = Handler(&FrmOrvelle::optTessaly_Click);
     TessalyServer.Click = Handler(&FrmOrvelle::TessalyServer_Click);
     TessalyServer.KeyPress = Handler([this](Long characterCode) { TessalyServer_KeyPress(characterCode); });
-    KestrineEmbedded.Click = Handler([this] { Tessaly.Embedded(KestrineEmbedded.Value); });
+    KestrineEmbedded.Click = Handler(&FrmOrvelle::KestrineEmbedded_Click);
     FS2004DPCompatible.Click = Handler(&FrmOrvelle::FS2004DPCompatible_Click);
 
     RWEnable.Click = Handler(&FrmOrvelle::RWEnable_Click);

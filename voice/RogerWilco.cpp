@@ -2,6 +2,7 @@
 // command succeeded is never learnt.
 #include "panel/FrmOrvelle.h"
 #include "platform/RegistryPaths.h"
+#include "voice/TuningSounds.h"
 
 namespace orvelle {
 

@@ -1,6 +1,7 @@
 // The rooms of the voice engine follow the radios, and the engine's reports go into the record of the role.
 #include "panel/FrmOrvelle.h"
 #include "platform/EngineRecord.h"
+#include "voice/TuningSounds.h"
 
 namespace orvelle {
 

@@ -1,5 +1,6 @@
 // Which voice software this computer runs at this moment, and the step from what ran to what shall run.
 #include "panel/FrmOrvelle.h"
+#include "voice/TuningSounds.h"
 
 namespace orvelle {
 

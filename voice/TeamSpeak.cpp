@@ -3,6 +3,7 @@
 #include "panel/FrmOrvelle.h"
 #include "panel/Texts.h"
 #include "platform/RegistryPaths.h"
+#include "voice/TuningSounds.h"
 
 namespace orvelle {
 

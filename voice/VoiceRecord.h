@@ -1,4 +1,4 @@
-// What a radio is tuned to, and the sounds that tell of a change.
+// What a radio is tuned to.
 #pragma once
 
 #include <string>
@@ -15,8 +15,5 @@ struct VoiceRecord {
     std::string LoginName;
     std::string Password;
 };
-
-constexpr const char* OnChannelSound = "Tessaly\\RADIO_ONCHANNEL.wav";
-constexpr const char* NoChannelSound = "Tessaly\\RADIO_NOCHANNEL.wav";
 
 }  // namespace orvelle
