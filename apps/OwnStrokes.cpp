@@ -4,12 +4,12 @@
 #include <QKeyEvent>
 #include <QWidget>
 
-#include "adapters/linux/X11Keyboard.h"
+#include "apps/ThisComputer.h"
 
 namespace orvelle {
 
-OwnStrokes::OwnStrokes(const linux::X11Keyboard& strikingKeyboard, const QWidget& window)
-    : keyboard(strikingKeyboard), shielded(window) {
+OwnStrokes::OwnStrokes(const ThisComputer& thisComputer, const QWidget& window)
+    : computer(thisComputer), shielded(window) {
     QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -17,7 +17,7 @@ OwnStrokes::OwnStrokes(const linux::X11Keyboard& strikingKeyboard, const QWidget
 bool OwnStrokes::eventFilter(QObject* receiver, QEvent* event) {
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride) return false;
     if (!receiver->isWidgetType() || static_cast<QWidget*>(receiver)->window() != &shielded) return false;
-    return keyboard.Holds(static_cast<int>(static_cast<QKeyEvent*>(event)->nativeScanCode()));
+    return computer.HoldsKey(static_cast<int>(static_cast<QKeyEvent*>(event)->nativeScanCode()));
 }
 
 }  // namespace orvelle

@@ -1,5 +1,5 @@
-// Keeps what the panel itself strikes on this computer's keyboard out of a window: it comes back from the X server as
-// every stroke does, and the flight deck would take it for the user's, pressed on the simulator's computer. Keys that
+// Keeps what the panel itself strikes on this computer's keyboard out of a window: it comes back from the window system
+// as every stroke does, and the flight deck would take it for the user's, pressed on the simulator's computer. Keys that
 // the panel holds go down for that window only once they have been let go. Both outlive this object.
 #pragma once
 
@@ -9,18 +9,16 @@ class QWidget;
 
 namespace orvelle {
 
-namespace linux {
-class X11Keyboard;
-}
+class ThisComputer;
 
 class OwnStrokes : public QObject {
 public:
-    OwnStrokes(const linux::X11Keyboard& strikingKeyboard, const QWidget& window);
+    OwnStrokes(const ThisComputer& thisComputer, const QWidget& window);
 
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
-    const linux::X11Keyboard& keyboard;
+    const ThisComputer& computer;
     const QWidget& shielded;
 };
 

@@ -27,24 +27,24 @@ constexpr Long TalkKey = 88;  // F12
 constexpr const char* RoadKey = "F8";
 
 struct Page {
+    PanelNumber Panel;
     const char* Node;  // of the tree; null where none leads to the page
     const char* Picture;
 };
 
-// By panel
-constexpr std::array<Page, 13> Pages{{{"Config", "overview"},
-                                      {"Velmarc", "simulator-link"},
-                                      {"RogerWilco", "rogerwilco"},
-                                      {"Teamspeak", "teamspeak"},
-                                      {"Joy to Key", "joy-to-key"},
-                                      {"VATSIM", "vatsim-voice"},
-                                      {"Volumes", "volumes"},
-                                      {"Key to Key", "key-to-key"},
-                                      {"Kestrine", "framework-link"},
-                                      {"Options", "options"},
-                                      {nullptr, "voice-atis"},
-                                      {"Extra", "extra"},
-                                      {"Key mappings", "vatsim-keys"}}};
+constexpr std::array<Page, PanelCount> Pages{{{OverviewPanel, "Config", "overview"},
+                                              {SimulatorLinkPanel, "Velmarc", "simulator-link"},
+                                              {RogerWilcoPanel, "RogerWilco", "rogerwilco"},
+                                              {TeamSpeakPanel, "Teamspeak", "teamspeak"},
+                                              {JoyToKeyPanel, "Joy to Key", "joy-to-key"},
+                                              {VatsimVoicePanel, "VATSIM", "vatsim-voice"},
+                                              {VolumesPanel, "Volumes", "volumes"},
+                                              {KeyToKeyPanel, "Key to Key", "key-to-key"},
+                                              {FrameworkLinkPanel, "Kestrine", "framework-link"},
+                                              {OptionsPanel, "Options", "options"},
+                                              {VoiceAtisPanel, nullptr, "voice-atis"},
+                                              {ExtraPanel, "Extra", "extra"},
+                                              {VatsimKeysPanel, "Key mappings", "vatsim-keys"}}};
 
 // Serves the loop until `isTrue`, or until the time is up.
 bool WaitUntil(const std::function<bool()>& isTrue) {
@@ -78,10 +78,10 @@ void Road::Prepare() {
     program.close();
     program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 
-    house.SetUp.Store.SaveSettingString("OrvelleCP", "RWPath", program.fileName().toStdString());
-    house.SetUp.Store.SaveSettingString("OrvelleCP", "RWPTTKey", std::to_string(TalkKey));
-    house.SetUp.Store.SaveSettingLong("OrvelleCP", "VoiceTuningSound", 1);
-    house.SetUp.Store.HandlerEnded();
+    house.Settings.Store.SaveSettingString("OrvelleCP", "RWPath", program.fileName().toStdString());
+    house.Settings.Store.SaveSettingString("OrvelleCP", "RWPTTKey", std::to_string(TalkKey));
+    house.Settings.Store.SaveSettingLong("OrvelleCP", "VoiceTuningSound", 1);
+    house.Settings.Store.HandlerEnded();
 }
 
 bool Road::Step(const std::string& told, const std::function<void()>& act, const std::function<bool()>& isDone) {
@@ -98,9 +98,9 @@ std::string Road::VoiceCommands() const {
 
 bool Road::Play() {
     FrmOrvelle& panel = house.Panel;
-    EmbeddedVelmarc& simulator = house.SetUp.Velmarc;
-    EmbeddedTessaly& network = house.SetUp.Tessaly;
-    const auto click = [this](const char* name) { house.Window->findChild<QAbstractButton*>(name)->click(); };
+    embedded::SimulatorLink& simulator = house.Outside.Practice.SimulatorLink;
+    embedded::NetworkLink& network = house.Outside.Practice.NetworkLink;
+    const auto click = [this](const char* name) { house.Desktop.Window().findChild<QAbstractButton*>(name)->click(); };
     const auto keyIsDown = [this] { return keys.KeysDown() == std::vector<int>{LinuxKeyOfScanCode(TalkKey)}; };
     const std::string place = folder.path().toStdString() + "/";
     const std::string join =
@@ -109,7 +109,7 @@ bool Road::Play() {
     const bool played =
         Step(
             "The panel's window and its tray icon are there, and the flight deck beside them.", [] {},
-            [this] { return house.Window->isVisible() && house.Deck && house.Deck->isVisible(); }) &&
+            [this] { return house.Desktop.Window().isVisible() && house.Deck && house.Deck->isVisible(); }) &&
         Step(
             "The simulator link is up: \"FS with Velmarc is up and running\"",
             [&] { simulator.SetLink(LinkState::Up); },
@@ -119,9 +119,9 @@ bool Road::Play() {
             [&] {
                 network.SetLink(LinkState::Up);
                 network.SetCallsign("ABC123");
-                network.SetStatus(1);
-                network.SetReceive("1");
-                network.SetTransmit("1");
+                network.SetStatus(ConnectedToMultiplayer);
+                network.SetReceive(SelectsCom1);
+                network.SetTransmit(SelectsCom1);
                 network.StartSession();
             },
             [&] { return panel.StatusMainUser.Caption == "You are connected multiplayer"; }) &&
@@ -131,7 +131,7 @@ bool Road::Play() {
                 panel.twCategory.UserClick(*panel.twCategory.Find("RogerWilco"));
                 click("RWEnable");
             },
-            [&] { return panel.RWCom1 != 0 && panel.RWCom2 != 0; }) &&
+            [&] { return panel.Variables().RWCom1 != 0 && panel.Variables().RWCom2 != 0; }) &&
         Step(
             "The key F8 of the simulator's computer is mapped to push-to-talk.",
             [&] {
@@ -139,7 +139,7 @@ bool Road::Play() {
                 simulator.PressKey(RoadKey);
                 simulator.ReleaseKey(RoadKey);
             },
-            [&] { return panel.RWFSKey == RoadKey; }) &&
+            [&] { return panel.Variables().RWFSKey == RoadKey; }) &&
         Step(
             "COM1 is tuned to a RogerWilco channel, and the voice program was started: " + join,
             [&] {
@@ -163,7 +163,7 @@ bool Road::Play() {
             [&] {
                 network.SetVoice(0, {RogerWilco, "voice.example", "tower", "", ""});
             },
-            [&] { return panel.ActiveVoiceSoftware == RogerWilco; });
+            [&] { return panel.Variables().ActiveVoiceSoftware == RogerWilco; });
     TakePictures();
     folder.removeRecursively();
     return played;
@@ -179,23 +179,22 @@ void Road::TakePictures() {
     desktop.copy(QRect(QPoint(desktop.width() - TrayCorner.width(), 0), TrayCorner))
         .scaled(TrayCorner * 8)
         .save(pictures.filePath("tray-icon.png"));
-    auto& tree = *house.Window->findChild<QTreeWidget*>("twCategory");
+    auto& tree = *house.Desktop.Window().findChild<QTreeWidget*>("twCategory");
     tree.expandAll();
-    for (std::size_t index = 0; index < Pages.size(); ++index) {
-        const Frame& page = panel.Panels(static_cast<Long>(index));
-        if (Pages[index].Node != nullptr) {
-            tree.setCurrentItem(tree.findItems(Pages[index].Node, Qt::MatchExactly | Qt::MatchRecursive).value(0));
-            panel.twCategory.UserClick(*panel.twCategory.Find(Pages[index].Node));
+    for (const Page& page : Pages) {
+        if (page.Node != nullptr) {
+            tree.setCurrentItem(tree.findItems(page.Node, Qt::MatchExactly | Qt::MatchRecursive).value(0));
+            panel.twCategory.UserClick(*panel.twCategory.Find(page.Node));
         } else {
-            // No node leads there while the media players are away.
-            panel.Panels(panel.CurrentPanel).Visible = false;
-            panel.CurrentPanel = static_cast<Long>(index);
-            panel.Panels(panel.CurrentPanel).Visible = true;
+            // The tree has no node for it while the media players are away; the panel takes one from beside the tree.
+            TreeNode beside;
+            beside.Tag = std::to_string(page.Panel);
+            panel.twCategory.UserClick(beside);
         }
-        WaitUntil([&] { return page.Visible(); });
+        WaitUntil([&] { return panel.Panels(page.Panel).Visible(); });
         Settle();
-        const QString name = QStringLiteral("panel-%1-%2.png").arg(index, 2, 10, QChar('0')).arg(Pages[index].Picture);
-        house.Window->grab().save(pictures.filePath(name));
+        const QString name = QStringLiteral("panel-%1-%2.png").arg(page.Panel, 2, 10, QChar('0')).arg(page.Picture);
+        house.Desktop.Window().grab().save(pictures.filePath(name));
     }
     house.Deck->grab().save(pictures.filePath("flight-deck.png"));
     std::cout << "  Pictures: " << pictures.absolutePath().toStdString() << std::endl;

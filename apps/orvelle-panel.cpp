@@ -4,27 +4,27 @@
 
 #include "adapters/looks/Theme.h"
 #include "adapters/qt/services/Application.h"
-#include "adapters/x11/Display.h"
 #include "apps/PanelProgram.h"
+#include "apps/ThisProcess.h"
 #include "deck/FirstFlight.h"
 
 int main() {
     using namespace orvelle;
-    linux::TerminationSignals endings;
-    if (const std::string missing = MissingDisplay(); !missing.empty()) {
+    ThisProcess process;
+    if (const std::string missing = process.MissingDisplay(); !missing.empty()) {
         std::cerr << "OrvelleCP: " << missing << "\n";
         return EXIT_FAILURE;
     }
-    linux::ProcessProgram program(linux::InstanceLock::OfThisSession());
     // The settings belong to the first instance.
-    if (program.PrevInstance()) program.End();
+    if (process.Program().PrevInstance()) process.Program().End();
 
-    qt::Application application("orvelle-panel", [&](const std::exception& error) { EndByError(program, error); });
+    qt::Application application("orvelle-panel", process.WindowSystem(),
+                                [&](const std::exception& error) { process.EndByError(error); });
     qt::Application::setDesktopFileName("net.orvelle.OrvelleCP");
     ApplyTheme(SystemScheme());
-    PanelProgram panel(program, endings, SettingsFile());
+    PanelProgram panel(process, UserSettings::File());
     return application.Run([&] {
         panel.Open();
-        PrepareFirstFlight(panel.SetUp);
+        PrepareFirstFlight(panel.Outside.Practice.Sides());
     });
 }

@@ -4,31 +4,30 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "adapters/looks/Text.h"
 #include "adapters/looks/Theme.h"
 #include "adapters/qt/services/Application.h"
-#include "adapters/x11/Display.h"
 #include "apps/Road.h"
+#include "apps/ThisProcess.h"
 
 int main() {
     using namespace orvelle;
-    linux::TerminationSignals endings;
-    if (const std::string missing = MissingDisplay(); !missing.empty()) {
+    ThisProcess process;
+    if (const std::string missing = process.MissingDisplay(); !missing.empty()) {
         std::cerr << "OrvelleCP: " << missing << "\n";
         return EXIT_FAILURE;
     }
-    linux::ProcessProgram program(linux::InstanceLock::OfThisSession());
-    qt::Application application("orvelle-road", [&](const std::exception& error) { EndByError(program, error); });
+    qt::Application application("orvelle-road", process.WindowSystem(),
+                                [&](const std::exception& error) { process.EndByError(error); });
     ApplyTheme(SystemScheme());
     QTemporaryDir settings;
-    program.AtEnd([&] { settings.remove(); });
-    PanelProgram panel(program, endings, settings.filePath("settings.sqlite").toStdString());
+    const Ticket settingsGo = process.AtEnd([&] { settings.remove(); });
+    PanelProgram panel(process, FromQt(settings.filePath("settings.sqlite")));
     Road road(panel, "build/pictures");
     return application.Run([&] {
         road.Prepare();
         panel.Open();
-        const bool played = road.Play();
-        // Out by the door; it does not return.
-        if (played) panel.Table.Deliver(panel.Panel.Stub1, Stub::TerminationMessage, 0, 0);
-        program.Fail("the road is not passable");
+        if (road.Play()) panel.End();
+        process.EndByError("the road is not passable");
     });
 }

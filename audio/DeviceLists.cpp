@@ -4,7 +4,7 @@
 
 #include "panel/FrmOrvelle.h"
 #include "panel/Texts.h"
-#include "voice/RoomParameters.h"
+#include "platform/EngineRecord.h"
 
 namespace orvelle {
 
@@ -22,7 +22,7 @@ void SelectSaved(ComboBox& box, const std::string& name) {
 std::string MixerName(const std::string& device) {
     for (const std::string prefix : {"DIRECTSOUND - ", "WAVE - "})
         if (UpperCase(device.substr(0, prefix.size())) == prefix) return device.substr(prefix.size());
-    return device == DefaultMapper ? "<DEFAULT>" : device;
+    return device == DefaultMapper ? DefaultMixerDevice : device;
 }
 
 }  // namespace
@@ -60,7 +60,7 @@ void FrmOrvelle::VVLSpeakers_Click() {
     if (VVLRunning) {
         const bool own = VVLSpeakers.ListIndex() != 0;
         if (Tessaly.OpenInterface(OwnVVL)) {
-            Tessaly.SetParam(SpeakersHaveDevice, own ? 1 : 0);
+            Tessaly.SetParam(engine_record::SpeakersHaveDevice, own ? 1 : 0);
             Tessaly.CloseInterface();
         }
         VVL.OutputDevice(Speakers, own ? VVLSpeakers.ListIndex() - 2 : VVLHeadset.ListIndex() - 1);

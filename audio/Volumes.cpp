@@ -1,7 +1,6 @@
 // The eight sliders. Five mirror lines of the mixers and show only while their line is there; three set the engine's
 // own levels. A mixer's slider listens to the user's moves alone, so a value that comes from the mixer goes nowhere.
 #include "panel/FrmOrvelle.h"
-#include "voice/RoomParameters.h"
 
 namespace orvelle {
 

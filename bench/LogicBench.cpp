@@ -39,7 +39,8 @@ void RadioChanged(benchmark::State& state) {
         tessaly.TransmitSelection[0] = tessaly.TransmitSelection[0] == '1' ? '2' : '1';
         tessaly.RadioChanged();
     }
-    if (running.Panel.TransmitSelect != tessaly.TransmitSelection) state.SkipWithError("the panel didn't follow");
+    if (running.Panel.Variables().TransmitSelect != tessaly.TransmitSelection)
+        state.SkipWithError("the panel didn't follow");
 }
 BENCHMARK(RadioChanged);
 

@@ -13,7 +13,7 @@ namespace orvelle {
 class SilentVelmarc : public VelmarcControl {
 public:
     void SetServer(const std::string&) override {}
-    std::string GetServer() override { return "AUTOMATIC"; }
+    std::string GetServer() override { return AutomaticServer; }
     bool LinkUp() override { return false; }
     void ClientReady() override {}
     std::string IPAddress() override { return ""; }
@@ -58,10 +58,10 @@ public:
 
 class SilentTessaly : public TessalyControl {
 public:
-    std::string TransmitSelection = "1";  // a benchmark turns the selector
+    std::string TransmitSelection = SelectsCom1;  // a benchmark turns the selector
 
     void SetServer(const std::string&) override {}
-    std::string GetServer() override { return "AUTOMATIC"; }
+    std::string GetServer() override { return AutomaticServer; }
     bool Embedded() override { return false; }
     void Embedded(Long) override {}
     bool LinkUp() override { return false; }
@@ -76,11 +76,11 @@ public:
     void CloseSession() override {}
     Long SessionStatus() override { return 1; }
     std::string SessionCallsign() override { return ""; }
-    std::string ReceiveRadio() override { return "B"; }
+    std::string ReceiveRadio() override { return SelectsBoth; }
     std::string TransmitRadio() override { return TransmitSelection; }
     std::string FreqCOM1() override { return ""; }
     std::string FreqCOM2() override { return ""; }
-    Long VoiceSoftware(Long) override { return 0; }
+    Long VoiceSoftware(Long) override { return NoVoice; }
     std::string VoiceServer(Long) override { return ""; }
     std::string VoiceChannel(Long) override { return ""; }
     std::string VoiceLogin(Long) override { return ""; }
@@ -275,8 +275,27 @@ struct SilentPeers {
     Platform Outside() { return Outside(Settings, Registry); }
     // With a real store in the place of the silent one.
     Platform Outside(SettingsStore& settings, orvelle::Registry& registry) {
-        return {Velmarc,  settings, registry, Tessaly, Engine, Mixer,     MixerHP, Remote, Players, Dialog,
-                Messages, Keyboard, Queue,    Windows, Clock,  Processes, Program, Tray,   Urls};
+        return {
+            .Velmarc = Velmarc,
+            .Settings = settings,
+            .Registry = registry,
+            .Tessaly = Tessaly,
+            .VVL = Engine,
+            .VolumeControl = Mixer,
+            .VolumeControlHP = MixerHP,
+            .TSRemote = Remote,
+            .MediaPlayers = Players,
+            .Dialog = Dialog,
+            .Messages = Messages,
+            .Keyboard = Keyboard,
+            .Queue = Queue,
+            .Windows = Windows,
+            .Clock = Clock,
+            .Processes = Processes,
+            .Program = Program,
+            .Tray = Tray,
+            .Urls = Urls,
+        };
     }
 };
 

@@ -1,5 +1,7 @@
 #include "deck/FirstFlight.h"
 
+#include "platform/RadioSelection.h"
+#include "platform/Tessaly.h"
 #include "platform/sides/FarSides.h"
 #include "platform/sides/LinkSide.h"
 #include "platform/sides/NetworkSide.h"
@@ -11,9 +13,9 @@ void PrepareFirstFlight(const FarSides& sides) {
         network->SetCallsign("ORV123");
         network->SetFrequency(0, "122.800");
         network->SetFrequency(1, "121.500");
-        network->SetReceive("1");
-        network->SetTransmit("1");
-        network->SetStatus(1);
+        network->SetReceive(SelectsCom1);
+        network->SetTransmit(SelectsCom1);
+        network->SetStatus(ConnectedToMultiplayer);
         network->StartSession();
     }
     for (LinkSide* link : {sides.NetworkLink, sides.SimulatorLink})

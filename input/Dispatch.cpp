@@ -65,7 +65,7 @@ void FrmOrvelle::StopPushToTalk(bool radioMatches, bool privateMatches) {
 
 void FrmOrvelle::PressVoiceKeys(bool teamSpeakMatches, bool rogerWilcoMatches) {
     const auto holdsRole = [this](Long com1, Long com2) {
-        return (TransmitSelect == "2" && com2 != 0) || (TransmitSelect == "1" && com1 != 0);
+        return (TransmitSelect == SelectsCom2 && com2 != 0) || (TransmitSelect == SelectsCom1 && com1 != 0);
     };
     if (teamSpeakMatches && TSEnable.Value == 1 &&
         (ActiveVoiceSoftware == TeamSpeakHost || ActiveVoiceSoftware == TeamSpeakUrl) && TSPTTKeyState != Down &&

@@ -1,5 +1,4 @@
-// Keys on this computer: sending a sequence, naming it, and the press-or-release logic of one table row.
-#include "input/Matching.h"
+// Sequences of keys on this computer, sent and named.
 #include "input/ScanCodes.h"
 #include "panel/FrmOrvelle.h"
 #include "platform/RuntimeError.h"
@@ -26,9 +25,9 @@ Long KeyMessage(Long code) {
 void FrmOrvelle::SendKeyStrokes(bool release, const std::string& keys) {
     for (ScanCodeReader codes(keys); !codes.AtEnd();) {
         const Long code = codes.Next();
-        const Long virtualKey = platform.Keyboard.MapVirtualKeyA(code, MapScanCodeToVirtualKeyExtended);
+        const Long virtualKey = Keyboard.MapVirtualKeyA(code, MapScanCodeToVirtualKeyExtended);
         const Long flags = (code > 0 ? KeyEventExtended : 0) + (release ? KeyEventUp : 0);
-        platform.Keyboard.keybd_event(virtualKey, code % CodesPerByte, flags, 0);
+        Keyboard.keybd_event(virtualKey, code % CodesPerByte, flags, 0);
     }
 }
 
@@ -36,26 +35,11 @@ std::string FrmOrvelle::KeyDisplayName(const std::string& keys) {
     if (keys.empty()) return "";
     std::string name;
     for (ScanCodeReader codes(keys); !codes.AtEnd();) {
-        const std::string key = platform.Keyboard.GetKeyNameTextA(KeyMessage(codes.Next()), NameBuffer);
+        const std::string key = Keyboard.GetKeyNameTextA(KeyMessage(codes.Next()), NameBuffer);
         if (!name.empty()) name += '+';
         name += key;
     }
     return name;
-}
-
-// A push row holds its keys while the input is down; a toggled row presses on one press and releases on the next.
-void FrmOrvelle::ApplyKeyMapping(bool released, ListView& list, Long row) {
-    const bool isToggle = list.SubItem(row, ToggleColumn) == "Toggle";
-    const std::string& state = list.SubItem(row, KeyStateColumn);
-    bool release = released;
-    if (isToggle) {
-        if (released || (!state.empty() && state != Down)) return;
-        release = state == Down;
-    } else if (released && state != Down) {
-        return;
-    }
-    SendKeyStrokes(release, list.SubItem(row, KeyScanColumn));
-    list.SetSubItem(row, KeyStateColumn, release ? "" : Down);
 }
 
 }  // namespace orvelle

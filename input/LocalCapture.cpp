@@ -20,23 +20,23 @@ void FrmOrvelle::LocalSet_Click(const LocalSlot& slot) {
     slot.Set.Enabled = false;
     slot.Clear.Enabled = false;
     const HandlerDepth::Suspension suspension(handlers);
-    platform.Queue.DoEvents();
-    platform.Windows.SetCapture(slot.Display);
-    const Long start = platform.Clock.GetTickCount();
+    Queue.DoEvents();
+    Windows.SetCapture(slot.Display);
+    const Long start = Clock.GetTickCount();
     slot.Field = "";
-    while (TickDifference(platform.Clock.GetTickCount(), CaptureTime) < start) {
+    while (TickDifference(Clock.GetTickCount(), CaptureTime) < start) {
         WindowMessage message;
-        while (platform.Queue.PeekMessageA(message, RemoveMessage)) {
+        while (Queue.PeekMessageA(message, RemoveMessage)) {
             if (message.Number == KeyDownMessage) {
                 CollectKey(slot, message);
             } else {
-                platform.Queue.TranslateMessage(message);
-                platform.Queue.DispatchMessageA(message);
+                Queue.TranslateMessage(message);
+                Queue.DispatchMessageA(message);
             }
         }
-        platform.Clock.Sleep(PollWait);
+        Clock.Sleep(PollWait);
     }
-    platform.Windows.ReleaseCapture();
+    Windows.ReleaseCapture();
     slot.Set.Enabled = true;
     slot.Clear.Enabled = true;
 }

@@ -1,8 +1,5 @@
-// The two tables, Joy-to-Key and Key-to-Key: edited, kept and fired. The rows of the list are the working copy; each
+// The two tables, Joy-to-Key and Key-to-Key: edited and kept. The rows of the list are the working copy; each
 // change rewrites the whole section, which numbers the rows without a gap.
-#include <algorithm>
-
-#include "input/Matching.h"
 #include "panel/FrmOrvelle.h"
 
 namespace orvelle {
@@ -57,34 +54,6 @@ void FrmOrvelle::RewriteTable(const MappingTable& table, const std::string& text
         Settings.SaveSettingString(section, table.KeysKey, table.List.SubItem(row, KeyScanColumn));
         Settings.SaveSettingString(section, "Toggle", table.List.SubItem(row, ToggleColumn));
     }
-}
-
-void FrmOrvelle::FireJoyRows(bool released, const std::string& button) {
-    if (button.empty()) return;
-    for (const Long row : ListJoyToKey.RowsWithText(button)) ApplyKeyMapping(released, ListJoyToKey, row);
-}
-
-// The rows of that sequence, and those held down, as pressing any single key of a toggled-on row turns it off. No other
-// row is concerned, so no other is looked at.
-void FrmOrvelle::FireKeyRows(bool repeat, bool fsActive, const std::string& key, const std::string& keySequence) {
-    std::set<Long> concerned = ListKeyToKey.MarkedRows();
-    if (!keySequence.empty()) {
-        const std::vector<Long>& equal = ListKeyToKey.RowsWithText(keySequence);
-        concerned.insert(equal.begin(), equal.end());
-    }
-    for (const Long row : concerned) {
-        const std::string& text = ListKeyToKey.Row(row).Text;
-        const bool isOn =
-            ListKeyToKey.SubItem(row, KeyStateColumn) == Down && ListKeyToKey.SubItem(row, ToggleColumn) == "Toggle";
-        const bool fires = Equals(keySequence, text) ? isOn || (!repeat && fsActive) : isOn && Contains(text, key);
-        if (fires) ApplyKeyMapping(false, ListKeyToKey, row);
-    }
-}
-
-void FrmOrvelle::ReleaseKeyRows(const std::string& key) {
-    const std::set<Long> held = ListKeyToKey.MarkedRows();
-    for (const Long row : held)
-        if (Contains(ListKeyToKey.Row(row).Text, key)) ApplyKeyMapping(true, ListKeyToKey, row);
 }
 
 }  // namespace orvelle

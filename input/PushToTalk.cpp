@@ -1,37 +1,11 @@
 // Push-to-talk of the voice engine: the microphone goes to the rooms of the selected radios, and the engine's record
-// says which rooms transmit. Also the start and stop of the engine for the routing.
+// says which rooms transmit.
 #include "panel/FrmOrvelle.h"
-#include "voice/RoomParameters.h"
+#include "platform/EngineRecord.h"
 
 namespace orvelle {
 
-namespace {
-
-constexpr Long EngineMode = 3;
-
-}  // namespace
-
-void FrmOrvelle::VVLStart(bool& result) {
-    result = true;
-    if (VVLRunning) return;
-    if (VVL.Running()) {
-        // The control does not report a start again.
-        VVLRunning = true;
-        VVL_Started();
-        return;
-    }
-    result = VVL.Start(EngineMode);
-    VVLRunning = result;
-}
-
-// The engine itself stays up, without rooms, until the panel ends.
-void FrmOrvelle::VVLStop() {
-    if (!VVLRunning) return;
-    if (VVL.Running())
-        for (Long room = 0; room < Rooms; ++room) VVL.RoomLeave(room);
-    VVL_Stopped();
-    VVLRunning = false;
-}
+using namespace engine_record;
 
 void FrmOrvelle::VVLStartTransmitting() {
     if (!VVLRunning || !Tessaly.OpenInterface(OwnVVL)) return;
@@ -67,7 +41,7 @@ void FrmOrvelle::VVLPrivStopTransmitting() {
 }
 
 void FrmOrvelle::TransmitToRoom(Long room) {
-    const bool off = RoomFlag(TransmitOff, room);
+    const bool off = TransmitOff[room];
     Tessaly.SetParam(RoomTransmits + room, off ? 0 : 1);
     VVL.RoomMute(room, off);
 }

@@ -12,13 +12,13 @@ void FrmOrvelle::optTessaly_Click() {
     };
     if (optTessaly(0).Value) {
         enable(false, true);
-        Tessaly.SetServer("AUTOMATIC");
+        Tessaly.SetServer(AutomaticServer);
     } else if (optTessaly(1).Value) {
         enable(true, false);
         Tessaly.SetServer(TessalyServer.Text);
     } else if (optTessaly(2).Value) {
         enable(false, false);
-        Tessaly.SetServer("<LOCAL>");
+        Tessaly.SetServer(OwnServer);
     }
 }
 
@@ -33,7 +33,7 @@ void FrmOrvelle::TessalyServer_KeyPress(Long characterCode) {
     const std::string text = TessalyServer.Text;
     const std::string name = LowerCase(Trimmed(text));
     const bool isLocal = Velmarc.IsLocalAddress(text);
-    if (name == "localhost" || name == "127.0.0.1" || isLocal) TessalyServer.Text = "";
+    if (name == LocalHost || name == LoopbackAddress || isLocal) TessalyServer.Text = "";
     if (optTessaly(1).Value && TessalyServer.Text() != Tessaly.GetServer()) Tessaly.SetServer(TessalyServer.Text);
 }
 
@@ -49,7 +49,7 @@ void FrmOrvelle::Tessaly_Disconnected() {
 
 void FrmOrvelle::Tessaly_ServerFound(const std::string& name) {
     const std::string server = Trimmed(name);
-    if (server == "127.0.0.1" || server == "localhost") return;
+    if (server == LoopbackAddress || server == LocalHost) return;
     if (TessalyServer.IndexOf(server) < 0 && !Velmarc.IsLocalAddress(server)) {
         TessalyServer.AddItem(server);
         if (TessalyServer.Text == "") TessalyServer.Select(0);

@@ -1,21 +1,17 @@
 // The panel's copy of the session and its radio set: read afresh at the framework's events, shown on the overview, and
 // handed to the voice routing.
 #include "panel/FrmOrvelle.h"
+#include "platform/EngineRecord.h"
 
 namespace orvelle {
 
 namespace {
 
 constexpr Long CurrentSession = 0;
-constexpr Long Multiplayer = 1;
-
-// Parameters of the voice engine's record
-constexpr std::array<Long, 2> NotReceivedParameter{13, 14};
-constexpr std::array<Long, 2> NotTransmittingParameter{16, 17};
 
 // Whether a selection leaves a radio out.
-bool LeavesOut(const std::string& selection, std::size_t radio) {
-    return selection != "B" && selection != (radio == 0 ? "1" : "2");
+bool LeavesOut(const std::string& selection, Long radio) {
+    return selection != SelectsBoth && selection != (radio == 0 ? SelectsCom1 : SelectsCom2);
 }
 
 void ShowSoftware(Label& label, Long software) {
@@ -50,7 +46,7 @@ std::string Comment(const VoiceRecord& record) {
 void FrmOrvelle::Tessaly_SessionOpened() {
     SessionHandle = Tessaly.SessionHandle();
     if (!Tessaly.OpenSession(SessionHandle)) return;
-    MultiplayerConnected = Tessaly.SessionStatus() == Multiplayer;
+    MultiplayerConnected = Tessaly.SessionStatus() == ConnectedToMultiplayer;
     Callsign = Tessaly.SessionCallsign();
     ReadVoiceRecord(0);
     ReadVoiceRecord(1);
@@ -65,9 +61,9 @@ void FrmOrvelle::Tessaly_SessionClosed() {
     SessionHandle = 0;
     FreqCOM1.Caption = "";
     FreqCOM2.Caption = "";
-    ReceiveSelect = "";
-    TransmitSelect = "";
-    RadioVoice.fill(VoiceRecord{});
+    ReceiveSelect = SelectsNone;
+    TransmitSelect = SelectsNone;
+    RadioVoice.Fill(VoiceRecord{});
     MultiplayerConnected = false;
     RefreshStatus();
     ApplyVoiceRouting();
@@ -75,7 +71,7 @@ void FrmOrvelle::Tessaly_SessionClosed() {
 
 void FrmOrvelle::Tessaly_SessionStatusChanged() {
     if (!Tessaly.OpenSession(CurrentSession)) return;
-    MultiplayerConnected = Tessaly.SessionStatus() == Multiplayer;
+    MultiplayerConnected = Tessaly.SessionStatus() == ConnectedToMultiplayer;
     Tessaly.CloseSession();
     RefreshStatus();
     ApplyVoiceRouting();
@@ -97,7 +93,7 @@ void FrmOrvelle::Tessaly_RadioVoiceChanged(Long radio) {
 }
 
 void FrmOrvelle::ReadVoiceRecord(Long radio) {
-    VoiceRecord& record = RadioVoice[static_cast<std::size_t>(radio)];
+    VoiceRecord& record = RadioVoice[radio];
     record.Software = Tessaly.VoiceSoftware(radio);
     record.Server = Tessaly.VoiceServer(radio);
     record.Channel = Tessaly.VoiceChannel(radio);
@@ -109,15 +105,15 @@ void FrmOrvelle::RadioChanged() {
     ReadRadioSelections();
     ShowRadios();
     ApplyVoiceRouting();
-    Tessaly_InterfaceParamChanged(OwnVVL, 10);
-    Tessaly_InterfaceParamChanged(OwnVVL, 11);
+    Tessaly_InterfaceParamChanged(OwnVVL, engine_record::RoomOnSpeakers + 0);
+    Tessaly_InterfaceParamChanged(OwnVVL, engine_record::RoomOnSpeakers + 1);
     ReapplyPushToTalk();
 }
 
 // Without a session no radio is received and none transmits; frequencies and selections keep their values.
 void FrmOrvelle::ReadRadioSelections() {
     if (!Tessaly.OpenSession(CurrentSession)) {
-        for (const std::size_t radio : {0, 1}) ReceiveOff[radio] = TransmitOff[radio] = true;
+        for (const Long radio : {0, 1}) ReceiveOff[radio] = TransmitOff[radio] = true;
         return;
     }
     FreqCOM1.Caption = Tessaly.FreqCOM1();
@@ -128,10 +124,10 @@ void FrmOrvelle::ReadRadioSelections() {
 
     const bool isOpen = Tessaly.OpenInterface(OwnVVL);
     const auto flag = [this, isOpen](Long parameter) { return isOpen && Tessaly.GetParam(parameter) != 0; };
-    for (const std::size_t radio : {0, 1})
-        ReceiveOff[radio] = LeavesOut(ReceiveSelect, radio) || flag(NotReceivedParameter[radio]);
-    for (const std::size_t radio : {0, 1})
-        TransmitOff[radio] = LeavesOut(TransmitSelect, radio) || flag(NotTransmittingParameter[radio]);
+    for (const Long radio : {0, 1})
+        ReceiveOff[radio] = LeavesOut(ReceiveSelect, radio) || flag(engine_record::RoomNotReceived + radio);
+    for (const Long radio : {0, 1})
+        TransmitOff[radio] = LeavesOut(TransmitSelect, radio) || flag(engine_record::RoomNotTransmitting + radio);
     if (isOpen) Tessaly.CloseInterface();
 }
 

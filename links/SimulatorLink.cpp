@@ -9,7 +9,7 @@ void FrmOrvelle::optVelmarc_Click() {
     VelmarcServer.Enabled = !automatic;
     lblVelmarcServer.Enabled = !automatic;
     lblVelmarcServerMulti.Enabled = automatic;
-    Velmarc.SetServer(automatic ? "AUTOMATIC" : VelmarcServer.Text());
+    Velmarc.SetServer(automatic ? AutomaticServer : VelmarcServer.Text());
 }
 
 void FrmOrvelle::VelmarcServer_Click() {
@@ -30,8 +30,8 @@ void FrmOrvelle::Velmarc_Connected() {
     const std::string computer = Velmarc.ComputerName();
     const std::string desktop = Velmarc.DesktopName();
     VelmarcStatus.SetPanelText(2, "IP: " + address + "  Computer: " + computer + "  Desktop: " + desktop);
-    Panels(4).Enabled = true;
-    Panels(7).Enabled = true;
+    Panels(JoyToKeyPanel).Enabled = true;
+    Panels(KeyToKeyPanel).Enabled = true;
     TessalyServer.Clear();
     RefreshStatus();
 }
@@ -40,16 +40,16 @@ void FrmOrvelle::Velmarc_Disconnected() {
     RefreshStatus();
     VelmarcStatus.SetPanelText(1, "Not Connected");
     VelmarcStatus.SetPanelText(2, "");
-    Panels(4).Enabled = false;
-    Panels(7).Enabled = false;
+    Panels(JoyToKeyPanel).Enabled = false;
+    Panels(KeyToKeyPanel).Enabled = false;
     TessalyServer.Clear();
 }
 
 // The loopback address is listed as "localhost" alone, this computer's other addresses never.
 void FrmOrvelle::Velmarc_ServerFound(const std::string& name) {
     std::string server = Trimmed(name);
-    if (server == "127.0.0.1") server = "localhost";
-    if (VelmarcServer.IndexOf(server) < 0 && (server == "localhost" || !Velmarc.IsLocalAddress(server))) {
+    if (server == LoopbackAddress) server = LocalHost;
+    if (VelmarcServer.IndexOf(server) < 0 && (server == LocalHost || !Velmarc.IsLocalAddress(server))) {
         VelmarcServer.AddItem(server);
         if (VelmarcServer.Text == "") VelmarcServer.Select(0);
     }

@@ -7,30 +7,30 @@ namespace orvelle {
 
 void FrmOrvelle::BuildCategoryTree() {
     twCategory.Clear();
-    CurrentPanel = 0;
+    CurrentPanel = OverviewPanel;
 
     TreeNode* top = nullptr;
     TreeNode* last = nullptr;
-    AddCategoryNode(0, top, last, "Config", 1);
+    AddCategoryNode(OverviewPanel, top, last, "Config", 1);
     TreeNode* const config = top;
-    AddCategoryNode(1, top, last, "Velmarc", 2);
-    AddCategoryNode(8, top, last, "Kestrine", 2);
+    AddCategoryNode(SimulatorLinkPanel, top, last, "Velmarc", 2);
+    AddCategoryNode(FrameworkLinkPanel, top, last, "Kestrine", 2);
     TreeNode* kestrine = last;
-    AddCategoryNode(11, kestrine, last, "Extra", 2);
-    AddCategoryNode(9, top, last, "Options", 2);
+    AddCategoryNode(ExtraPanel, kestrine, last, "Extra", 2);
+    AddCategoryNode(OptionsPanel, top, last, "Options", 2);
 
-    AddCategoryNode(0, top, last, "Voice", 1);
-    AddCategoryNode(3, top, last, "Teamspeak", 2);
-    AddCategoryNode(2, top, last, "RogerWilco", 2);
-    AddCategoryNode(5, top, last, "VATSIM", 2);
+    AddCategoryNode(OverviewPanel, top, last, "Voice", 1);
+    AddCategoryNode(TeamSpeakPanel, top, last, "Teamspeak", 2);
+    AddCategoryNode(RogerWilcoPanel, top, last, "RogerWilco", 2);
+    AddCategoryNode(VatsimVoicePanel, top, last, "VATSIM", 2);
     TreeNode* vatsim = last;
-    AddCategoryNode(6, vatsim, last, "Volumes", 2);
-    AddCategoryNode(12, vatsim, last, "Key mappings", 2);
-    if (WMPCOM1 && WMPCOM2) AddCategoryNode(10, top, last, "ATIS", 2);
+    AddCategoryNode(VolumesPanel, vatsim, last, "Volumes", 2);
+    AddCategoryNode(VatsimKeysPanel, vatsim, last, "Key mappings", 2);
+    if (WMPCOM1 && WMPCOM2) AddCategoryNode(VoiceAtisPanel, top, last, "ATIS", 2);
 
-    AddCategoryNode(0, top, last, "Key Management", 1);
-    AddCategoryNode(4, top, last, "Joy to Key", 2);
-    AddCategoryNode(7, top, last, "Key to Key", 2);
+    AddCategoryNode(OverviewPanel, top, last, "Key Management", 1);
+    AddCategoryNode(JoyToKeyPanel, top, last, "Joy to Key", 2);
+    AddCategoryNode(KeyToKeyPanel, top, last, "Key to Key", 2);
 
     twCategory.Expand(*config);
 }
@@ -49,17 +49,17 @@ void FrmOrvelle::twCategory_NodeClick(TreeNode& node) {
     const auto panel = static_cast<Long>(LeadingNumber(node.Tag));
     if (panel == CurrentPanel) return;
     Panels(CurrentPanel).Visible = false;
-    if (panel == 0) {
-        CurrentPanel = 0;
-        Panels(0).Visible = true;
+    if (panel == OverviewPanel) {
+        CurrentPanel = OverviewPanel;
+        Panels(OverviewPanel).Visible = true;
         return;
     }
     try {
         Frame& page = Panels(panel);
-        page.Top = Panels(0).Top;
-        page.Left = Panels(0).Left;
-        page.Height = Panels(0).Height;
-        page.Width = Panels(0).Width;
+        page.Top = Panels(OverviewPanel).Top;
+        page.Left = Panels(OverviewPanel).Left;
+        page.Height = Panels(OverviewPanel).Height;
+        page.Width = Panels(OverviewPanel).Width;
         page.Visible = true;
         CurrentPanel = panel;
     } catch (const RuntimeError&) {

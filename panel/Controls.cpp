@@ -8,8 +8,6 @@ namespace orvelle {
 
 namespace {
 
-constexpr Long PanelCount = 13;
-
 // The design size of the overview, twips; the shell replaces it by that of its layout before the load.
 constexpr double DesignLeft = 2700;
 constexpr double DesignWidth = 7800;
@@ -35,23 +33,23 @@ PanelFrames::PanelFrames(Form& form) {
 
 PanelControls::PanelControls()
     : Form("FrmOrvelle", "Orvelle Control Panel"), IconList(*this, "IconList", StatusKeys()) {
-    Panels(0).Left = DesignLeft;
-    Panels(0).Width = DesignWidth;
-    Panels(0).Height = DesignHeight;
+    Panels(OverviewPanel).Left = DesignLeft;
+    Panels(OverviewPanel).Width = DesignWidth;
+    Panels(OverviewPanel).Height = DesignHeight;
     for (Long panel = 1; panel < Panels.Count(); ++panel) Panels(panel).Visible = false;
 
     for (const char* caption : {"Autodetect", "Specific"})
-        optVelmarc.Add(*this, "optVelmarc", &Panels(1), optVelmarc, caption);
+        optVelmarc.Add(*this, "optVelmarc", &Panels(SimulatorLinkPanel), optVelmarc, caption);
     for (const char* caption :
          {"RogerWilco is driven by COMM transmit selector", "RogerWilco is driven on this computer by COMM 1",
           "RogerWilco is driven on this computer by COMM 2"})
-        optRWDriver.Add(*this, "optRWDriver", &Panels(2), optRWDriver, caption);
+        optRWDriver.Add(*this, "optRWDriver", &Panels(RogerWilcoPanel), optRWDriver, caption);
     for (const char* caption :
          {"Teamspeak is driven by COMM transmit selector", "Teamspeak is driven on this computer by COMM 1",
           "Teamspeak is driven on this computer by COMM 2"})
-        optTSDriver.Add(*this, "optTSDriver", &Panels(3), optTSDriver, caption);
+        optTSDriver.Add(*this, "optTSDriver", &Panels(TeamSpeakPanel), optTSDriver, caption);
     for (const char* caption : {"Autodetect", "Remote", "Connect Framework on local computer only"})
-        optTessaly.Add(*this, "optTessaly", &Panels(8), optTessaly, caption);
+        optTessaly.Add(*this, "optTessaly", &Panels(FrameworkLinkPanel), optTessaly, caption);
 
     for (Control* hidden :
          std::initializer_list<Control*>{&lblVelmarcServerMulti, &lblTessalyServerMulti, &WaveIn, &LblWaveIn, &WaveOut,

@@ -3,16 +3,7 @@
 namespace orvelle {
 
 FrmOrvelle::FrmOrvelle(const Platform& outside)
-    : platform(outside),
-      Velmarc(outside.Velmarc),
-      Settings(outside.Settings),
-      Registry(outside.Registry),
-      Tessaly(outside.Tessaly),
-      VVL(outside.VVL),
-      VolumeControl(outside.VolumeControl),
-      VolumeControlHP(outside.VolumeControlHP),
-      TSRemote(outside.TSRemote),
-      Dialog(outside.Dialog),
+    : Platform(outside),
       handlers(outside.Settings),
       ST(*this, "ST", outside.Windows, outside.Tray, trayModule, cSysTray::Mode::Run),
       Stub1(*this, "Stub1", outside.Windows, trayModule),

@@ -1,6 +1,7 @@
-// The one controller: a single window object that owns every control and every variable of the panel. All logic is a
-// method of this object, defined over the folders panel, links, voice, input and audio, and runs on one thread, driven
-// by the events that Wiring.cpp joins to their handlers. The program starts by showing it.
+// The one controller: a single window object that owns every control and every variable of the panel, and names what is
+// outside by the members of Platform. All logic is a method of this object, defined over the folders panel, links,
+// voice, input and audio, and runs on one thread, driven by the events that Wiring.cpp joins to their handlers. The
+// program starts by showing it.
 #pragma once
 
 #include <array>
@@ -15,28 +16,17 @@
 #include "panel/MultiFSWarningDlg.h"
 #include "panel/Stub.h"
 #include "panel/SysTray.h"
-#include "platform/MediaPlayer.h"
+#include "panel/Variables.h"
 #include "platform/Platform.h"
-#include "voice/VoiceRecord.h"
 #include "voice/VoiceRole.h"
 
 namespace orvelle {
 
-class FrmOrvelle : public PanelControls {
+class FrmOrvelle : public PanelControls, private Platform, private PanelVariables {
 public:
     explicit FrmOrvelle(const Platform& outside);
 
 private:
-    const Platform platform;
-    VelmarcControl& Velmarc;
-    SettingsStore& Settings;
-    orvelle::Registry& Registry;
-    TessalyControl& Tessaly;
-    VoiceEngineControl& VVL;
-    MixerControl& VolumeControl;
-    MixerControl& VolumeControlHP;
-    TeamSpeakRemote& TSRemote;
-    FileDialog& Dialog;
     HandlerDepth handlers;
     mSysTray trayModule;
 
@@ -45,68 +35,11 @@ public:
     Stub Stub1;
     orvelle::MultiFSWarningDlg MultiFSWarningDlg;
 
-    // Two media players, none after start-up
+    // Two media players; start-up leaves none, a scenario may put some
     std::unique_ptr<MediaPlayer> WMPCOM1;
     std::unique_ptr<MediaPlayer> WMPCOM2;
 
-    // Navigation
-    Long CurrentPanel = 0;  // shown over Panels(0); 0 is Panels(0) itself
-
-    // Session and radio set
-    bool MultiplayerConnected = false;
-    Long SessionHandle = 0;
-    std::string Callsign;
-    std::string ReceiveSelect;   // "1", "2", "B"; else none
-    std::string TransmitSelect;  // the same
-    std::array<VoiceRecord, 2> RadioVoice;
-
-    // Rooms of the voice engine: 0 COM1, 1 COM2, 2 private
-    std::array<bool, 3> TransmitOff{};
-    std::array<bool, 3> ReceiveOff{};
-    std::array<bool, 3> RoomPriority{};
-    bool PriorityActive = false;
-    Long PriorityStamp = 0;  // GetTickCount at the last mark of priority traffic
-    bool VVLRunning = false;
-    bool VVLTransmitting = false;
-    bool VVLPrivTransmitting = false;
-
-    // Voice routing
-    Long ActiveVoiceSoftware = NoVoice;
-    std::string RWServer;
-    std::string RWChannel;
-    std::string TSServer;
-    std::string TSChannel;
-    std::array<std::string, 2> ATISSource;
-
-    // Ids of the voice roles, 0 for none
-    Long RWCom1 = 0;
-    Long RWCom2 = 0;
-    Long TSCom1 = 0;
-    Long TSCom2 = 0;
-    Long OwnVVL = 0;
-    Long ForeignRWCom1 = 0;
-    Long ForeignRWCom2 = 0;
-    Long ForeignTSCom1 = 0;
-    Long ForeignTSCom2 = 0;
-    Long ForeignVVL = 0;
-
-    // Key mappings: FS texts are the simulator's, the others scan-code sequences of this computer ("29+46")
-    std::string TSFSJoy;
-    std::string TSFSKey;
-    std::string TSPTTKey;
-    std::string TSPTTKeyState;  // "DOWN" while this program holds the sequence down
-    std::string RWFSJoy;
-    std::string RWFSKey;
-    std::string RWPTTKey;
-    std::string RWPTTKeyState;
-    std::string VVLFSJoy;
-    std::string VVLFSKey;
-    std::string VVLPrivFSJoy;
-    std::string VVLPrivFSKey;
-    std::string J2KJoy;
-    std::string J2KKey;
-    std::string K2KFSKey;
-    std::string K2KKey;
+    const PanelVariables& Variables() const { return *this; }
 
     // Entry points that other components may call at any time
     void RefreshStatus();
@@ -171,15 +104,16 @@ private:
     void twCategory_NodeClick(TreeNode& node);
 
     // panel/Window.cpp
-    std::string AutostartCommand();
     void SavePosition();
-    void Autostart_Click();
-    void Topmost_Click();
-    void FS2004DPCompatible_Click();
     void Form_QueryUnload(Long& cancel, Long mode);
     void mnuTrayShow_Click();
     void mnuTrayVisible_Click();
     void ST_MouseDown(Integer& button, Long& id);
+
+    // panel/Options.cpp
+    std::string AutostartCommand();
+    void Autostart_Click();
+    void Topmost_Click();
 
     // panel/Shutdown.cpp
     void Form_Unload();
@@ -200,6 +134,10 @@ private:
     void Tessaly_Connected();
     void Tessaly_Disconnected();
     void Tessaly_ServerFound(const std::string& name);
+
+    // links/FrameworkSettings.cpp
+    void KestrineEmbedded_Click();
+    void FS2004DPCompatible_Click();
 
     // links/SeveralServers.cpp
     void CheckSeveralVelmarcServers();
@@ -251,6 +189,10 @@ private:
     void Tessaly_InterfaceChanged(Long id);
     void Tessaly_InterfaceRemoved(Long id);
 
+    // voice/EngineStart.cpp
+    void VVLStart(bool& result);
+    void VVLStop();
+
     // voice/VatsimEngine.cpp
     void VVL_Started();
     void VVL_Stopped();
@@ -295,8 +237,8 @@ private:
 
     // voice/VoiceAtis.cpp
     void PlayVoiceAtis();
-    void PlayRecording(MediaPlayer& player, std::size_t radio, const std::string& receive);
-    void StopRecording(MediaPlayer& player, std::size_t radio);
+    void PlayRecording(MediaPlayer& player, Long radio, const std::string& receive);
+    void StopRecording(MediaPlayer& player, Long radio);
     void SetPlayerVolumes();
     void Timer1_Timer();
     void VoiceATISEnable_Click();
@@ -313,8 +255,6 @@ private:
     void ReleaseVoiceKeys(bool teamSpeakMatches, bool rogerWilcoMatches);
 
     // input/PushToTalk.cpp
-    void VVLStart(bool& result);
-    void VVLStop();
     void VVLStartTransmitting();
     void VVLPrivStartTransmitting();
     void VVLStopTransmitting();
@@ -326,7 +266,6 @@ private:
     // input/KeyStrokes.cpp
     void SendKeyStrokes(bool release, const std::string& keys);
     std::string KeyDisplayName(const std::string& keys);
-    void ApplyKeyMapping(bool released, ListView& list, Long row);
 
     // input/RemoteCapture.cpp
     void RemoteSet_Click(const RemoteSlot& slot);
@@ -348,9 +287,15 @@ private:
     void TableDelete_Click(const MappingTable& table);
     void TableItem_Click(const MappingTable& table, Long row);
     void RewriteTable(const MappingTable& table, const std::string& textKey);
+
+    // input/FiredRows.cpp
     void FireJoyRows(bool released, const std::string& button);
     void FireKeyRows(bool repeat, bool fsActive, const std::string& key, const std::string& keySequence);
     void ReleaseKeyRows(const std::string& key);
+    void ApplyKeyMapping(bool released, ListView& list, Long row);
+
+    // input/PrivateMapping.cpp
+    void VVLPrivEnable_Click();
 
     // audio/DeviceLists.cpp
     void FillDeviceLists();
@@ -377,9 +322,12 @@ private:
 
     // audio/DeviceStatus.cpp
     void TimerDeviceStatus_Timer();
+
+    // audio/Calibration.cpp
     void VVLCalibrate_Click();
+
+    // audio/Distortion.cpp
     void VVLFilter_Click();
-    void VVLPrivEnable_Click();
 };
 
 }  // namespace orvelle

@@ -8,7 +8,7 @@
 namespace orvelle {
 
 void FrmOrvelle::Form_Load() {
-    if (platform.Program.PrevInstance()) platform.Program.End();
+    if (Program.PrevInstance()) Program.End();
     Stub1.EStart();
 
     VVLRunning = false;
@@ -74,8 +74,8 @@ void FrmOrvelle::Form_Load() {
 // are always gone afterwards, and Voice ATIS stays out of action.
 void FrmOrvelle::CreateMediaPlayers() {
     try {
-        WMPCOM1 = platform.MediaPlayers.New(0);
-        WMPCOM2 = platform.MediaPlayers.New(1);
+        WMPCOM1 = MediaPlayers.New(0);
+        WMPCOM2 = MediaPlayers.New(1);
         Timer1.Enabled = true;
     } catch (const RuntimeError&) {
         // Falls into the same branch as a success.
@@ -86,7 +86,7 @@ void FrmOrvelle::CreateMediaPlayers() {
 }
 
 void FrmOrvelle::LoadVelmarcServer() {
-    if (UpperCase(Velmarc.GetServer()) == "AUTOMATIC") {
+    if (UpperCase(Velmarc.GetServer()) == AutomaticServer) {
         VelmarcServer.Text = "";
         optVelmarc(0).Value = true;
         optVelmarc(1).Value = false;
@@ -100,9 +100,9 @@ void FrmOrvelle::LoadVelmarcServer() {
 void FrmOrvelle::LoadTessalyServer() {
     const std::string server = UpperCase(Tessaly.GetServer());
     Long option = 1;
-    if (server == "AUTOMATIC")
+    if (server == AutomaticServer)
         option = 0;
-    else if (server == "<LOCAL>")
+    else if (server == OwnServer)
         option = 2;
     else
         TessalyServer.Text = Tessaly.GetServer();
@@ -114,11 +114,11 @@ void FrmOrvelle::LoadTessalyServer() {
 
 // Makes the window exactly so large that its client area ends at the right and bottom edges of the overview.
 void FrmOrvelle::FitToOverview() {
-    const Rectangle window = platform.Windows.GetWindowRect(*this);
-    const Rectangle client = platform.Windows.GetClientRect(*this);
+    const Rectangle window = Windows.GetWindowRect(*this);
+    const Rectangle client = Windows.GetClientRect(*this);
     const Long borderWidth = client.Left - client.Right - window.Left + window.Right;
     const Long borderHeight = client.Top - client.Bottom - window.Top + window.Bottom;
-    const Frame& overview = Panels(0);
+    const Frame& overview = Panels(OverviewPanel);
     Width = borderWidth * TwipsPerPixel + overview.Left() + overview.Width();
     Height = borderHeight * TwipsPerPixel + overview.Top() + overview.Height();
 }

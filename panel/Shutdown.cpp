@@ -18,7 +18,7 @@ void FrmOrvelle::Form_Unload() {
 void FrmOrvelle::Form_Terminate() {
     MultiFSWarningDlg.Unload();
     Settings.HandlerEnded();
-    platform.Program.End();
+    Program.End();
 }
 
 }  // namespace orvelle

@@ -129,7 +129,7 @@ void FrmOrvelle::ShowStatusPicture(const std::string& key) {
         StatusIcon.Picture = ST.TrayIcon();
     } catch (const RuntimeError&) {
         const HandlerDepth::Suspension suspension(handlers);
-        platform.Messages.MsgBox("Missing icon " + key);
+        Messages.MsgBox("Missing icon " + key);
     }
 }
 

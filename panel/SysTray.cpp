@@ -9,16 +9,6 @@ namespace {
 constexpr std::size_t TipField = 64;
 constexpr const char* DefaultTip = "Notification area icon";
 
-enum MouseMessage : Long {
-    MouseMoved = 512,
-    LeftDown = 513,
-    LeftUp = 514,
-    LeftDoubleClick = 515,
-    RightDown = 516,
-    RightUp = 517,
-    RightDoubleClick = 518,
-};
-
 std::string TipText(const std::string& tip) { return (tip + '\0').substr(0, TipField); }
 
 }  // namespace

@@ -1,10 +1,8 @@
-// Where the window opens, what its close box does, how it comes back from the notification area, and the small
-// handlers of the pages "Options" and "Extra".
+// Where the window opens, what its close box does, and how it comes back from the notification area.
 #include <cmath>
 #include <limits>
 
 #include "panel/FrmOrvelle.h"
-#include "platform/RegistryPaths.h"
 #include "platform/RuntimeError.h"
 
 namespace orvelle {
@@ -19,25 +17,6 @@ Long WholeTwips(double twips) {
 }
 
 }  // namespace
-
-std::string FrmOrvelle::AutostartCommand() { return '"' + platform.Processes.GetModuleFileNameA() + "\" -MIN"; }
-
-void FrmOrvelle::Autostart_Click() {
-    if (Autostart.Value == 0)
-        Registry.DeleteRegistryValue(LocalMachine, RunPath, "OrvelleCP");
-    else
-        Registry.WriteRegistryString(LocalMachine, RunPath, "OrvelleCP", AutostartCommand());
-}
-
-void FrmOrvelle::Topmost_Click() {
-    SaveSettingLong("Topmost", Topmost.Value);
-    platform.Windows.SetWindowPos(*this, Topmost.Value == 1 ? InsertTopmost : InsertNotTopmost, 0, 0, 0, 0,
-                                  NoMoveNoSize);
-}
-
-void FrmOrvelle::FS2004DPCompatible_Click() {
-    Registry.WriteRegistryLong(LocalMachine, FrameworkPath, "FS2004Compatible", FS2004DPCompatible.Value);
-}
 
 // A minimised or maximised window saves nothing.
 void FrmOrvelle::SavePosition() {

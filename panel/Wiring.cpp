@@ -21,12 +21,14 @@ void FrmOrvelle::WireWindow() {
     QueryUnload = Handler([this](Long& cancel, Long mode) { Form_QueryUnload(cancel, mode); });
     Unloading = Handler(&FrmOrvelle::Form_Unload);
     Terminate = Handler(&FrmOrvelle::Form_Terminate);
-    Stub1.Terminate = [this] { Unload(); };
     ST.MouseDown = Handler([this](Integer& button, Long& id) { ST_MouseDown(button, id); });
     mnuTrayShow.Click = Handler(&FrmOrvelle::mnuTrayShow_Click);
     mnuTrayVisible.Click = Handler(&FrmOrvelle::mnuTrayVisible_Click);
+    // An unload is no handler of its own: it raises the form's events above, each of which is one, and the last of them
+    // ends the process, so that a scope around them would never close.
     mnuTrayQuit.Click = [this] { Unload(); };
     Shutdown.Click = [this] { Unload(); };
+    Stub1.Terminate = [this] { Unload(); };
     twCategory.NodeClick = Handler([this](TreeNode& node) { twCategory_NodeClick(node); });
 
     Timer1.Tick = Handler(&FrmOrvelle::Timer1_Timer);
@@ -44,7 +46,7 @@ void FrmOrvelle::WirePages() {
         optTessaly(index).Click = Handler(&FrmOrvelle::optTessaly_Click);
     TessalyServer.Click = Handler(&FrmOrvelle::TessalyServer_Click);
     TessalyServer.KeyPress = Handler([this](Long characterCode) { TessalyServer_KeyPress(characterCode); });
-    KestrineEmbedded.Click = Handler([this] { Tessaly.Embedded(KestrineEmbedded.Value); });
+    KestrineEmbedded.Click = Handler(&FrmOrvelle::KestrineEmbedded_Click);
     FS2004DPCompatible.Click = Handler(&FrmOrvelle::FS2004DPCompatible_Click);
 
     RWEnable.Click = Handler(&FrmOrvelle::RWEnable_Click);

@@ -16,6 +16,7 @@ public:
     virtual void FileName(const std::string& name) = 0;
     // The file picked; after a cancel the name that was put in.
     virtual std::string FileName() = 0;
+    // Returns when the dialog is closed; the loop is served meanwhile.
     virtual void ShowOpen() = 0;
 };
 
@@ -23,6 +24,7 @@ class MessageBox {
 public:
     virtual ~MessageBox() = default;
 
+    // Returns when the user closed it; the loop is served meanwhile.
     virtual void MsgBox(const std::string& text) = 0;
 };
 

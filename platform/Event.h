@@ -20,6 +20,8 @@ public:
         if (handler) handler(arguments...);
     }
 
+    bool IsHandled() const { return static_cast<bool>(handler); }
+
 private:
     std::function<void(Arguments...)> handler;
 };

@@ -16,10 +16,13 @@ class Keyboard {
 public:
     virtual ~Keyboard() = default;
 
-    // Synthesises one key event; a key that does not exist does nothing.
+    // Synthesises one key event, by its virtual key; `flags` are a sum of the constants above, and `extra` is not used.
+    // A key that does not exist does nothing.
     virtual void keybd_event(Long virtualKey, Long scanByte, Long flags, Long extra) = 0;
+    // The virtual key of a key code, 0 where it has none.
     virtual Long MapVirtualKeyA(Long code, Long mapType) = 0;
-    // The key's name; `keyMessage` is the key code shifted left by 16 bits. "" where it has none.
+    // The key's name, or a stand-in where it has none; `keyMessage` is the key code shifted left by 16 bits. What does
+    // not fit into `size`, with its closing zero, is cut.
     virtual std::string GetKeyNameTextA(Long keyMessage, Long size) = 0;
 };
 

@@ -13,12 +13,13 @@ class MediaPlayer {
 public:
     virtual ~MediaPlayer() = default;
 
-    virtual void AutoRewind(bool on) = 0;
-    virtual void Open(const std::string& source) = 0;  // opens and plays; not waited for
-    virtual void Stop() = 0;
+    virtual void AutoRewind(bool on) = 0;  // back to the beginning at the end
+    // Opens an address or a file and plays it; not waited for. One that cannot be played is stopped at once.
+    virtual void Open(const std::string& source) = 0;
+    virtual void Stop() = 0;  // harmless while stopped
     virtual void Mute(bool on) = 0;
-    virtual void Volume(Long value) = 0;  // -5000 to 0
-    virtual Long PlayState() = 0;         // 0: stopped
+    virtual void Volume(Long value) = 0;  // hundredths of a decibel, -5000 to 0, which is as recorded
+    virtual Long PlayState() = 0;         // 0: stopped, by Stop, by its end or by a failure
 };
 
 class MediaPlayerFactory {

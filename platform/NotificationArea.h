@@ -13,6 +13,17 @@ class Control;
 enum NotifyIconCommand : Long { NotifyIconAdd = 0, NotifyIconModify = 1, NotifyIconDelete = 2 };
 enum NotifyIconFlag : Long { NotifyIconMessage = 1, NotifyIconPicture = 2, NotifyIconTip = 4 };
 
+// What the mouse did over the icon. The record's message comes to its window with the icon's id and one of these.
+enum NotifyIconMouse : Long {
+    MouseMoved = 512,
+    LeftDown = 513,
+    LeftUp = 514,
+    LeftDoubleClick = 515,
+    RightDown = 516,
+    RightUp = 517,
+    RightDoubleClick = 518,
+};
+
 // The shell's record; only the fields that its flags mark are valid.
 struct NotifyIconData {
     Long Size = 88;

@@ -1,4 +1,5 @@
-// Everything outside the logic, by reference. `main` builds the objects and passes them in; they outlive the panel.
+// Everything outside the logic, by reference: the names by which the controller, whose base this is, says what is
+// outside. `main` builds the objects and passes them in, each by its name; they outlive the panel.
 #pragma once
 
 #include "platform/Clock.h"

@@ -17,7 +17,9 @@ public:
     // taking the focus. More than 31 means started; 2 means no such file.
     virtual Long WinExec(const std::string& commandLine, Long show) = 0;
     virtual std::string GetModuleFileNameA() = 0;  // full path of the running program
+    // "" if the path, with its closing zero, does not fit into `size`.
     virtual std::string GetCurrentDirectoryA(Long size) = 0;
+    // A directory that cannot be entered leaves the working directory as it is.
     virtual void SetCurrentDirectoryA(const std::string& path) = 0;
 };
 

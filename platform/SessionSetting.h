@@ -5,12 +5,13 @@
 #include <string>
 
 #include "platform/Types.h"
+#include "platform/VoiceSoftware.h"
 
 namespace orvelle {
 
 // What one radio is tuned to.
 struct RadioVoiceSetting {
-    Long Software = 0;  // a voice software code
+    Long Software = NoVoice;
     std::string Server;
     std::string Channel;
     std::string Login;
@@ -20,9 +21,9 @@ struct RadioVoiceSetting {
 
 struct SessionSetting {
     Long Handle = 0;  // of each session another one, from 1; 0: no session
-    Long Status = 0;  // 1: connected to the multiplayer network
+    Long Status = 0;  // ConnectedToMultiplayer of Tessaly.h, or another
     std::string Callsign;
-    std::string Receive;   // a radio selection
+    std::string Receive;   // of RadioSelection.h
     std::string Transmit;  // the same
     std::array<std::string, 2> Frequency;  // of COM1 and COM2, ready to show
     std::array<RadioVoiceSetting, 2> Voice;

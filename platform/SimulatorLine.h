@@ -6,13 +6,14 @@
 #include <string>
 
 #include "platform/Event.h"
+#include "platform/ServerNames.h"
 #include "platform/SimulatorInput.h"
 
 namespace orvelle {
 
 // The computer at the other end, as it tells of itself.
 struct SimulatorComputer {
-    std::string IPAddress = "127.0.0.1";
+    std::string IPAddress = LoopbackAddress;
     std::string ComputerName = "FLIGHTDECK";
     std::string DesktopName = "Simulator";
 };
@@ -21,7 +22,7 @@ class SimulatorLine {
 public:
     virtual ~SimulatorLine() = default;
 
-    // Goes to a server: a host name, an address or "AUTOMATIC". It keeps trying until Close. A line that is open goes
+    // Goes to a server: a host name, an address or AutomaticServer. It keeps trying until Close. A line that is open goes
     // over to the new server, which it may be at already.
     virtual void Open(const std::string& server) = 0;
     virtual void Close() = 0;

@@ -57,8 +57,8 @@ public:
     virtual void ReleaseCapture() = 0;
     virtual void SetWindowPos(Control& window, Long insertAfter, Long left, Long top, Long width, Long height,
                               Long flags) = 0;
-    virtual Rectangle GetWindowRect(Control& window) = 0;
-    virtual Rectangle GetClientRect(Control& window) = 0;
+    virtual Rectangle GetWindowRect(Control& window) = 0;  // with its borders, on the screen
+    virtual Rectangle GetClientRect(Control& window) = 0;  // within them, from 0, 0
     // Index -4 is the window's procedure, -21 its user data. Returns the value before.
     virtual std::intptr_t SetWindowLongA(Control& window, Long index, std::intptr_t value) = 0;
     virtual std::intptr_t GetWindowLongA(Control& window, Long index) = 0;

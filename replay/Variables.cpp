@@ -1,4 +1,3 @@
-#include <array>
 #include <functional>
 #include <memory>
 
@@ -32,18 +31,28 @@ std::optional<std::string> PrintedAt(const VoiceRecord& record, const Path& path
     return std::nullopt;
 }
 
-template <typename T, std::size_t Size>
-std::optional<std::string> PrintedAt(const std::array<T, Size>& values, const Path& path) {
-    for (std::size_t index = 0; index < Size; ++index) {
+template <typename T, Long Size>
+std::optional<std::string> PrintedAt(const CheckedArray<T, Size>& values, const Path& path) {
+    for (Long index = 0; index < Size; ++index) {
         const Path element = "(" + std::to_string(index) + ")";
         if (path.starts_with(element)) return PrintedAt(values[index], path.substr(element.size()));
     }
     return std::nullopt;
 }
 
+template <typename T>
+const T& Held(const FrmOrvelle& panel, T FrmOrvelle::*member) {
+    return panel.*member;
+}
+
+template <typename T>
+const T& Held(const FrmOrvelle& panel, T PanelVariables::*member) {
+    return panel.Variables().*member;
+}
+
 template <auto Member>
 std::optional<std::string> Read(const FrmOrvelle& panel, const Path& path) {
-    return PrintedAt(panel.*Member, path);
+    return PrintedAt(Held(panel, Member), path);
 }
 
 struct Variable {
@@ -54,53 +63,53 @@ struct Variable {
 constexpr Variable Variables[] = {
     {"WMPCOM1", Read<&FrmOrvelle::WMPCOM1>},
     {"WMPCOM2", Read<&FrmOrvelle::WMPCOM2>},
-    {"CurrentPanel", Read<&FrmOrvelle::CurrentPanel>},
-    {"MultiplayerConnected", Read<&FrmOrvelle::MultiplayerConnected>},
-    {"SessionHandle", Read<&FrmOrvelle::SessionHandle>},
-    {"Callsign", Read<&FrmOrvelle::Callsign>},
-    {"ReceiveSelect", Read<&FrmOrvelle::ReceiveSelect>},
-    {"TransmitSelect", Read<&FrmOrvelle::TransmitSelect>},
-    {"RadioVoice", Read<&FrmOrvelle::RadioVoice>},
-    {"TransmitOff", Read<&FrmOrvelle::TransmitOff>},
-    {"ReceiveOff", Read<&FrmOrvelle::ReceiveOff>},
-    {"RoomPriority", Read<&FrmOrvelle::RoomPriority>},
-    {"PriorityActive", Read<&FrmOrvelle::PriorityActive>},
-    {"PriorityStamp", Read<&FrmOrvelle::PriorityStamp>},
-    {"VVLRunning", Read<&FrmOrvelle::VVLRunning>},
-    {"VVLTransmitting", Read<&FrmOrvelle::VVLTransmitting>},
-    {"VVLPrivTransmitting", Read<&FrmOrvelle::VVLPrivTransmitting>},
-    {"ActiveVoiceSoftware", Read<&FrmOrvelle::ActiveVoiceSoftware>},
-    {"RWServer", Read<&FrmOrvelle::RWServer>},
-    {"RWChannel", Read<&FrmOrvelle::RWChannel>},
-    {"TSServer", Read<&FrmOrvelle::TSServer>},
-    {"TSChannel", Read<&FrmOrvelle::TSChannel>},
-    {"ATISSource", Read<&FrmOrvelle::ATISSource>},
-    {"RWCom1", Read<&FrmOrvelle::RWCom1>},
-    {"RWCom2", Read<&FrmOrvelle::RWCom2>},
-    {"TSCom1", Read<&FrmOrvelle::TSCom1>},
-    {"TSCom2", Read<&FrmOrvelle::TSCom2>},
-    {"OwnVVL", Read<&FrmOrvelle::OwnVVL>},
-    {"ForeignRWCom1", Read<&FrmOrvelle::ForeignRWCom1>},
-    {"ForeignRWCom2", Read<&FrmOrvelle::ForeignRWCom2>},
-    {"ForeignTSCom1", Read<&FrmOrvelle::ForeignTSCom1>},
-    {"ForeignTSCom2", Read<&FrmOrvelle::ForeignTSCom2>},
-    {"ForeignVVL", Read<&FrmOrvelle::ForeignVVL>},
-    {"TSFSJoy", Read<&FrmOrvelle::TSFSJoy>},
-    {"TSFSKey", Read<&FrmOrvelle::TSFSKey>},
-    {"TSPTTKey", Read<&FrmOrvelle::TSPTTKey>},
-    {"TSPTTKeyState", Read<&FrmOrvelle::TSPTTKeyState>},
-    {"RWFSJoy", Read<&FrmOrvelle::RWFSJoy>},
-    {"RWFSKey", Read<&FrmOrvelle::RWFSKey>},
-    {"RWPTTKey", Read<&FrmOrvelle::RWPTTKey>},
-    {"RWPTTKeyState", Read<&FrmOrvelle::RWPTTKeyState>},
-    {"VVLFSJoy", Read<&FrmOrvelle::VVLFSJoy>},
-    {"VVLFSKey", Read<&FrmOrvelle::VVLFSKey>},
-    {"VVLPrivFSJoy", Read<&FrmOrvelle::VVLPrivFSJoy>},
-    {"VVLPrivFSKey", Read<&FrmOrvelle::VVLPrivFSKey>},
-    {"J2KJoy", Read<&FrmOrvelle::J2KJoy>},
-    {"J2KKey", Read<&FrmOrvelle::J2KKey>},
-    {"K2KFSKey", Read<&FrmOrvelle::K2KFSKey>},
-    {"K2KKey", Read<&FrmOrvelle::K2KKey>},
+    {"CurrentPanel", Read<&PanelVariables::CurrentPanel>},
+    {"MultiplayerConnected", Read<&PanelVariables::MultiplayerConnected>},
+    {"SessionHandle", Read<&PanelVariables::SessionHandle>},
+    {"Callsign", Read<&PanelVariables::Callsign>},
+    {"ReceiveSelect", Read<&PanelVariables::ReceiveSelect>},
+    {"TransmitSelect", Read<&PanelVariables::TransmitSelect>},
+    {"RadioVoice", Read<&PanelVariables::RadioVoice>},
+    {"TransmitOff", Read<&PanelVariables::TransmitOff>},
+    {"ReceiveOff", Read<&PanelVariables::ReceiveOff>},
+    {"RoomPriority", Read<&PanelVariables::RoomPriority>},
+    {"PriorityActive", Read<&PanelVariables::PriorityActive>},
+    {"PriorityStamp", Read<&PanelVariables::PriorityStamp>},
+    {"VVLRunning", Read<&PanelVariables::VVLRunning>},
+    {"VVLTransmitting", Read<&PanelVariables::VVLTransmitting>},
+    {"VVLPrivTransmitting", Read<&PanelVariables::VVLPrivTransmitting>},
+    {"ActiveVoiceSoftware", Read<&PanelVariables::ActiveVoiceSoftware>},
+    {"RWServer", Read<&PanelVariables::RWServer>},
+    {"RWChannel", Read<&PanelVariables::RWChannel>},
+    {"TSServer", Read<&PanelVariables::TSServer>},
+    {"TSChannel", Read<&PanelVariables::TSChannel>},
+    {"ATISSource", Read<&PanelVariables::ATISSource>},
+    {"RWCom1", Read<&PanelVariables::RWCom1>},
+    {"RWCom2", Read<&PanelVariables::RWCom2>},
+    {"TSCom1", Read<&PanelVariables::TSCom1>},
+    {"TSCom2", Read<&PanelVariables::TSCom2>},
+    {"OwnVVL", Read<&PanelVariables::OwnVVL>},
+    {"ForeignRWCom1", Read<&PanelVariables::ForeignRWCom1>},
+    {"ForeignRWCom2", Read<&PanelVariables::ForeignRWCom2>},
+    {"ForeignTSCom1", Read<&PanelVariables::ForeignTSCom1>},
+    {"ForeignTSCom2", Read<&PanelVariables::ForeignTSCom2>},
+    {"ForeignVVL", Read<&PanelVariables::ForeignVVL>},
+    {"TSFSJoy", Read<&PanelVariables::TSFSJoy>},
+    {"TSFSKey", Read<&PanelVariables::TSFSKey>},
+    {"TSPTTKey", Read<&PanelVariables::TSPTTKey>},
+    {"TSPTTKeyState", Read<&PanelVariables::TSPTTKeyState>},
+    {"RWFSJoy", Read<&PanelVariables::RWFSJoy>},
+    {"RWFSKey", Read<&PanelVariables::RWFSKey>},
+    {"RWPTTKey", Read<&PanelVariables::RWPTTKey>},
+    {"RWPTTKeyState", Read<&PanelVariables::RWPTTKeyState>},
+    {"VVLFSJoy", Read<&PanelVariables::VVLFSJoy>},
+    {"VVLFSKey", Read<&PanelVariables::VVLFSKey>},
+    {"VVLPrivFSJoy", Read<&PanelVariables::VVLPrivFSJoy>},
+    {"VVLPrivFSKey", Read<&PanelVariables::VVLPrivFSKey>},
+    {"J2KJoy", Read<&PanelVariables::J2KJoy>},
+    {"J2KKey", Read<&PanelVariables::J2KKey>},
+    {"K2KFSKey", Read<&PanelVariables::K2KFSKey>},
+    {"K2KKey", Read<&PanelVariables::K2KKey>},
 };
 
 }  // namespace

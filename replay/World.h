@@ -31,9 +31,27 @@ struct World {
     explicit World(std::ostream& output) : Output(output) {}
 
     Platform Outside() {
-        return {Velmarc,  Store,   Registry, Tessaly,  VVL,      VolumeControl, VolumeControlHP,
-                TSRemote, Players, Dialog,   Messages, Keyboard, Queue,         Windows,
-                Kernel,   Kernel,  App,      Tray,     Urls};
+        return {
+            .Velmarc = Velmarc,
+            .Settings = Store,
+            .Registry = Registry,
+            .Tessaly = Tessaly,
+            .VVL = VVL,
+            .VolumeControl = VolumeControl,
+            .VolumeControlHP = VolumeControlHP,
+            .TSRemote = TSRemote,
+            .MediaPlayers = Players,
+            .Dialog = Dialog,
+            .Messages = Messages,
+            .Keyboard = Keyboard,
+            .Queue = Queue,
+            .Windows = Windows,
+            .Clock = Kernel,
+            .Processes = Kernel,
+            .Program = App,
+            .Tray = Tray,
+            .Urls = Urls,
+        };
     }
 
     Transcript Output;

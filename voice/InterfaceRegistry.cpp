@@ -1,15 +1,19 @@
 // The voice duties that the panels of several computers share: each is one record, and whoever holds it answers.
 #include "panel/FrmOrvelle.h"
+#include "platform/EngineRecord.h"
+#include "platform/VoiceRoles.h"
 
 namespace orvelle {
 
+using namespace engine_record;
+
 std::array<VoiceRole, 5> FrmOrvelle::VoiceRoles() {
     return {{
-        {"RWCom1", RWCom1, ForeignRWCom1, RWEnable, &optRWDriver, 1},
-        {"RWCom2", RWCom2, ForeignRWCom2, RWEnable, &optRWDriver, 2},
-        {"TSCom1", TSCom1, ForeignTSCom1, TSEnable, &optTSDriver, 1},
-        {"TSCom2", TSCom2, ForeignTSCom2, TSEnable, &optTSDriver, 2},
-        {"VVL", OwnVVL, ForeignVVL, VVLEnable, nullptr, 0},
+        {RogerWilcoCom1Role, RWCom1, ForeignRWCom1, RWEnable, &optRWDriver, 1},
+        {RogerWilcoCom2Role, RWCom2, ForeignRWCom2, RWEnable, &optRWDriver, 2},
+        {TeamSpeakCom1Role, TSCom1, ForeignTSCom1, TSEnable, &optTSDriver, 1},
+        {TeamSpeakCom2Role, TSCom2, ForeignTSCom2, TSEnable, &optTSDriver, 2},
+        {EngineRole, OwnVVL, ForeignVVL, VVLEnable, nullptr, 0},
     }};
 }
 
@@ -19,12 +23,12 @@ void FrmOrvelle::UpdateVoiceInterfaces() {
     for (const VoiceRole& role : VoiceRoles()) {
         if (role.Wanted()) {
             if (role.Foreign != 0 || role.Own != 0) continue;
-            role.Own = Tessaly.CreateInterface("VOICE", role.Name);
+            role.Own = Tessaly.CreateInterface(VoiceRecordType, role.Name);
             if (role.Own == 0) continue;
             if (&role.Own == &OwnVVL) {
-                Tessaly.SetParam(0, 3);
-                Tessaly.SetParam(1, 7);
-                Tessaly.SetParam(2, 0);
+                Tessaly.SetParam(FirstConstant, FirstConstantValue);
+                Tessaly.SetParam(SecondConstant, SecondConstantValue);
+                Tessaly.SetParam(EngineRuns, 0);
             }
             Tessaly.CloseInterface();
         } else if (role.Own != 0) {
@@ -42,7 +46,7 @@ void FrmOrvelle::Tessaly_InterfaceAppeared(Long id) {
     const std::string name = Tessaly.InterfaceRole();
     const bool isLocal = Tessaly.InterfaceIsLocal();
     Tessaly.CloseInterface();
-    if (type != "VOICE") return;
+    if (type != VoiceRecordType) return;
     for (const VoiceRole& role : VoiceRoles())
         if (name == role.Name) (isLocal ? role.Own : role.Foreign) = id;
     UpdateVoiceInterfaces();

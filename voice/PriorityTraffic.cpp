@@ -1,9 +1,11 @@
 // Priority traffic: while a room marked as priority carries audio, the other rooms fall silent. The mode begins at once
 // and ends by the timer alone, more than three seconds after the last mark.
 #include "panel/FrmOrvelle.h"
-#include "voice/RoomParameters.h"
+#include "platform/EngineRecord.h"
 
 namespace orvelle {
+
+using namespace engine_record;
 
 namespace {
 
@@ -14,7 +16,7 @@ constexpr Long HoldTime = 3000;  // ms
 // For a room whose flags changed, with the interface open, which it closes; then the outputs are worked out again, of
 // all rooms if this one is on the air, else of this room alone.
 void FrmOrvelle::EvaluatePriority(Long room) {
-    const bool onAir = !RoomFlag(ReceiveOff, room) && Tessaly.GetParam(RoomCarriesAudio + room) != 0;
+    const bool onAir = !ReceiveOff[room] && Tessaly.GetParam(RoomCarriesAudio + room) != 0;
     if (onAir && !PriorityActive)
         PriorityActive = AnyPriorityRoomOnAir();
     else
@@ -25,19 +27,17 @@ void FrmOrvelle::EvaluatePriority(Long room) {
 
 bool FrmOrvelle::AnyPriorityRoomOnAir() {
     for (Long room = 0; room < Rooms; ++room)
-        if (Tessaly.GetParam(RoomCarriesAudio + room) != 0 && RoomFlag(RoomPriority, room) &&
-            !RoomFlag(ReceiveOff, room))
-            return true;
+        if (Tessaly.GetParam(RoomCarriesAudio + room) != 0 && RoomPriority[room] && !ReceiveOff[room]) return true;
     return false;
 }
 
 void FrmOrvelle::MarkPriorityTraffic() {
-    PriorityStamp = platform.Clock.GetTickCount();
+    PriorityStamp = Clock.GetTickCount();
     VVLPriorityTraffic.Enabled = true;
 }
 
 void FrmOrvelle::VVLPriorityTraffic_Timer() {
-    if (TickDifference(platform.Clock.GetTickCount(), PriorityStamp) <= HoldTime) return;
+    if (TickDifference(Clock.GetTickCount(), PriorityStamp) <= HoldTime) return;
     if (PriorityActive && Tessaly.OpenInterface(OwnVVL)) {
         PriorityActive = AnyPriorityRoomOnAir();
         Tessaly.CloseInterface();
@@ -50,7 +50,7 @@ void FrmOrvelle::VVL_RoomAudioStarted(Long room) {
     if (!Tessaly.OpenInterface(OwnVVL)) return;
     Tessaly.SetParam(RoomCarriesAudio + room, 1);
     // Only the room that reports is looked at here.
-    if (!PriorityActive && RoomFlag(RoomPriority, room) && !RoomFlag(ReceiveOff, room)) PriorityActive = true;
+    if (!PriorityActive && RoomPriority[room] && !ReceiveOff[room]) PriorityActive = true;
     Tessaly.CloseInterface();
     Tessaly_InterfaceParamChanged(OwnVVL, AllRoomsOnSpeakers);
 }

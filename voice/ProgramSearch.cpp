@@ -12,7 +12,7 @@ constexpr Long HideReadOnly = 4;
 }  // namespace
 
 void FrmOrvelle::SearchProgram(const std::string& title, TextBox& path) {
-    const std::string directory = platform.Processes.GetCurrentDirectoryA(DirectoryBuffer);
+    const std::string directory = Processes.GetCurrentDirectoryA(DirectoryBuffer);
     Dialog.DialogTitle(title);
     Dialog.Flags(FileMustExist + HideReadOnly);
     Dialog.FileName(path.Text);
@@ -22,7 +22,7 @@ void FrmOrvelle::SearchProgram(const std::string& title, TextBox& path) {
     }
     const std::string name = Dialog.FileName();
     if (!name.empty()) path.Text = name;
-    platform.Processes.SetCurrentDirectoryA(directory);
+    Processes.SetCurrentDirectoryA(directory);
 }
 
 }  // namespace orvelle

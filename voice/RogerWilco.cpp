@@ -2,19 +2,20 @@
 // command succeeded is never learnt.
 #include "panel/FrmOrvelle.h"
 #include "platform/RegistryPaths.h"
+#include "voice/TuningSounds.h"
 
 namespace orvelle {
 
 void FrmOrvelle::RWLeave() {
-    platform.Processes.WinExec(RWPath.Text() + " /leave ", ShowMinimisedInactive);
+    Processes.WinExec(RWPath.Text() + " /leave ", ShowMinimisedInactive);
     RWServer = "";
     RWChannel = "";
 }
 
 void FrmOrvelle::RWJoin(const VoiceRecord& candidate) {
-    platform.Processes.WinExec(RWPath.Text() + " /join1 " + candidate.Server + "/" + candidate.Channel +
-                                   " /priority high /netspeed 2 /callsign " + Callsign,
-                               ShowMinimisedInactive);
+    Processes.WinExec(RWPath.Text() + " /join1 " + candidate.Server + "/" + candidate.Channel +
+                          " /priority high /netspeed 2 /callsign " + Callsign,
+                      ShowMinimisedInactive);
     RWServer = candidate.Server;
     RWChannel = candidate.Channel;
     PlayTuningSound(OnChannelSound);

@@ -1,10 +1,11 @@
 // What a change of a parameter of the engine's record does: rooms are entered and left, outputs switched, flags read.
 // The handler is also called directly, to have the outputs worked out again.
-#include "voice/RoomParameters.h"
-
 #include "panel/FrmOrvelle.h"
+#include "platform/EngineRecord.h"
 
 namespace orvelle {
+
+using namespace engine_record;
 
 namespace {
 
@@ -65,9 +66,7 @@ void FrmOrvelle::RoomStateChanged(Long room) {
     if (!accepted) Tessaly.SetParam(RoomState + room, RoomJoinFailed);
 }
 
-bool FrmOrvelle::Heard(Long room) const {
-    return !RoomFlag(ReceiveOff, room) && (!PriorityActive || RoomFlag(RoomPriority, room));
-}
+bool FrmOrvelle::Heard(Long room) const { return !ReceiveOff[room] && (!PriorityActive || RoomPriority[room]); }
 
 void FrmOrvelle::SetRoomOutputs(Long room) {
     VVL.ChannelOutput(room, Headset, Heard(room));
@@ -91,7 +90,7 @@ void FrmOrvelle::PrivateTransmissionChanged() {
 
 void FrmOrvelle::RoomPriorityChanged(Long room) {
     if (!Tessaly.OpenInterface(OwnVVL)) return;
-    RoomPriority[static_cast<std::size_t>(room)] = Tessaly.GetParam(RoomHasPriority + room) != 0;
+    RoomPriority[room] = Tessaly.GetParam(RoomHasPriority + room) != 0;
     EvaluatePriority(room);
 }
 

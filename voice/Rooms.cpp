@@ -1,22 +1,25 @@
 // The rooms of the voice engine follow the radios, and the engine's reports go into the record of the role.
 #include "panel/FrmOrvelle.h"
-#include "voice/RoomParameters.h"
+#include "platform/EngineRecord.h"
+#include "voice/TuningSounds.h"
 
 namespace orvelle {
 
+using namespace engine_record;
+
 bool FrmOrvelle::RadioIsVatsimReady(Long room) const {
-    const VoiceRecord& record = RadioVoice[static_cast<std::size_t>(room)];
+    const VoiceRecord& record = RadioVoice[room];
     return !record.Server.empty() && record.Software == VatsimVoice;
 }
 
 std::string FrmOrvelle::RoomAddress(Long room) const {
-    const VoiceRecord& record = RadioVoice[static_cast<std::size_t>(room)];
+    const VoiceRecord& record = RadioVoice[room];
     return record.Server + "/" + record.Channel;
 }
 
 bool FrmOrvelle::EnterRadioRoom(Long room) {
     const std::string address = RoomAddress(room);
-    const std::string name = Callsign + " (" + RadioVoice[static_cast<std::size_t>(room)].LoginName + ")";
+    const std::string name = Callsign + " (" + RadioVoice[room].LoginName + ")";
     VVL.RoomLeave(room);
     const bool accepted = VVL.RoomJoin(room, name, address);
     Tessaly.SetParamText(RoomAddressText + room, address);

@@ -1,5 +1,6 @@
 // Which voice software this computer runs at this moment, and the step from what ran to what shall run.
 #include "panel/FrmOrvelle.h"
+#include "voice/TuningSounds.h"
 
 namespace orvelle {
 
@@ -25,25 +26,25 @@ void FrmOrvelle::ApplyVoiceRouting() {
 VoiceRecord FrmOrvelle::ChooseCandidate() {
     VoiceRecord candidate;
     if (VVLEnable.Value == 1 && OwnVVL != 0 && MultiplayerConnected) candidate.Software = VatsimVoice;
-    if (TransmitSelect != "1" && TransmitSelect != "2") return candidate;
+    if (TransmitSelect != SelectsCom1 && TransmitSelect != SelectsCom2) return candidate;
 
     const auto consider = [this, &candidate](Long radio, RadioTest test) {
         if (!RadioWins(radio, test)) return;
-        const VoiceRecord& record = RadioVoice[static_cast<std::size_t>(radio)];
+        const VoiceRecord& record = RadioVoice[radio];
         if (record.Software == VatsimVoice)
             candidate.Software = VatsimVoice;
         else
             candidate = record;
     };
-    const Long leading = TransmitSelect == "1" ? 0 : 1;
+    const Long leading = TransmitSelect == SelectsCom1 ? 0 : 1;
     consider(leading, RadioTest::Leading);
-    if (ReceiveSelect == "B" && candidate.Software == NoVoice) consider(1 - leading, RadioTest::Other);
+    if (ReceiveSelect == SelectsBoth && candidate.Software == NoVoice) consider(1 - leading, RadioTest::Other);
     return candidate;
 }
 
 // The transmit selector counts for the leading radio alone, as the other one is not selected for transmission.
 bool FrmOrvelle::RadioWins(Long radio, RadioTest test) {
-    const VoiceRecord& record = RadioVoice[static_cast<std::size_t>(radio)];
+    const VoiceRecord& record = RadioVoice[radio];
     const auto driven = [radio, test](const OptionButton::Group& driver) {
         return (test == RadioTest::Leading && driver(0).Value) || driver(radio + 1).Value;
     };

@@ -3,6 +3,7 @@
 #include "panel/FrmOrvelle.h"
 #include "panel/Texts.h"
 #include "platform/RegistryPaths.h"
+#include "voice/TuningSounds.h"
 
 namespace orvelle {
 
@@ -22,8 +23,8 @@ void FrmOrvelle::TSDisconnect() {
 
 // The program is started also if it runs already, and counts as active whether or not it could be reached.
 void FrmOrvelle::TSConnectFresh(const VoiceRecord& candidate) {
-    platform.Processes.WinExec(TSPath.Text, ShowMinimisedInactive);
-    platform.Clock.Sleep(StartWait);
+    Processes.WinExec(TSPath.Text, ShowMinimisedInactive);
+    Clock.Sleep(StartWait);
     TSConnect(candidate);
     ActiveVoiceSoftware = candidate.Software;
 }
@@ -43,7 +44,7 @@ bool FrmOrvelle::TSSwitchChannel(const VoiceRecord& candidate) {
     int polls = 0;
     while (TSRemote.tsrGetServerInfo(server) != 0) {
         if (polls >= Polls) return false;
-        platform.Clock.Sleep(PollWait);
+        Clock.Sleep(PollWait);
         ++polls;
     }
     if (polls >= Polls) return false;
@@ -62,7 +63,7 @@ bool FrmOrvelle::TSSwitchChannel(const VoiceRecord& candidate) {
 }
 
 void FrmOrvelle::TSConnect(const VoiceRecord& candidate) {
-    WinInetURL helper(platform.Urls);
+    WinInetURL helper(Urls);
     if (TSRemote.tsrConnect(helper.CanonicalizeUrl(TSConnectionUrl(candidate), 0)) != 0) return;
     TSServer = candidate.Server;
     TSChannel = candidate.Channel;

@@ -2,9 +2,11 @@
 // of the role says so.
 #include "panel/FrmOrvelle.h"
 #include "panel/Texts.h"
-#include "voice/RoomParameters.h"
+#include "platform/EngineRecord.h"
 
 namespace orvelle {
+
+using namespace engine_record;
 
 void FrmOrvelle::VVL_Started() {
     VVLCalibrate.Enabled = false;
@@ -22,9 +24,9 @@ void FrmOrvelle::VVL_Started() {
     SetEngineDevices();
 
     PriorityActive = false;
-    TransmitOff.fill(false);
-    ReceiveOff.fill(false);
-    RoomPriority.fill(false);
+    TransmitOff.Fill(false);
+    ReceiveOff.Fill(false);
+    RoomPriority.Fill(false);
     // Nothing is heard until the flags are evaluated at the end.
     for (Long room = 0; room < Rooms; ++room)
         for (const Long output : {Headset, Speakers}) VVL.ChannelOutput(room, output, false);

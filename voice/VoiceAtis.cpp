@@ -13,29 +13,29 @@ constexpr Long Stopped = 0;
 // One source never plays twice: it is COM1's.
 void FrmOrvelle::PlayVoiceAtis() {
     if (!WMPCOM1 || !WMPCOM2) return;
-    const auto isDue = [this](std::size_t radio) {
+    const auto isDue = [this](Long radio) {
         return VoiceATISEnable.Value != 0 && RadioVoice[radio].Software == VoiceAtis;
     };
     if (isDue(0))
-        PlayRecording(*WMPCOM1, 0, "1");
+        PlayRecording(*WMPCOM1, 0, SelectsCom1);
     else
         StopRecording(*WMPCOM1, 0);
     if (RadioVoice[1].Server != RadioVoice[0].Server && isDue(1))
-        PlayRecording(*WMPCOM2, 1, "2");
+        PlayRecording(*WMPCOM2, 1, SelectsCom2);
     else
         StopRecording(*WMPCOM2, 1);
 }
 
-void FrmOrvelle::PlayRecording(MediaPlayer& player, std::size_t radio, const std::string& receive) {
+void FrmOrvelle::PlayRecording(MediaPlayer& player, Long radio, const std::string& receive) {
     if (RadioVoice[radio].Server != ATISSource[radio]) {
         ATISSource[radio] = RadioVoice[radio].Server;
         player.AutoRewind(true);
         player.Open(ATISSource[radio]);
     }
-    player.Mute(ReceiveSelect != receive && ReceiveSelect != "B");
+    player.Mute(ReceiveSelect != receive && ReceiveSelect != SelectsBoth);
 }
 
-void FrmOrvelle::StopRecording(MediaPlayer& player, std::size_t radio) {
+void FrmOrvelle::StopRecording(MediaPlayer& player, Long radio) {
     ATISSource[radio] = "";
     player.Stop();
 }
@@ -43,9 +43,9 @@ void FrmOrvelle::StopRecording(MediaPlayer& player, std::size_t radio) {
 // A recording that ended is opened again by the routing, once its source is forgotten.
 void FrmOrvelle::Timer1_Timer() {
     if (!WMPCOM1 || !WMPCOM2) return;
-    const std::array<MediaPlayer*, 2> players{WMPCOM1.get(), WMPCOM2.get()};
-    for (std::size_t radio = 0; radio < players.size(); ++radio) {
-        if (players[radio]->PlayState() != Stopped || ATISSource[radio].empty()) continue;
+    for (const Long radio : {0, 1}) {
+        MediaPlayer& player = radio == 0 ? *WMPCOM1 : *WMPCOM2;
+        if (player.PlayState() != Stopped || ATISSource[radio].empty()) continue;
         ATISSource[radio] = "";
         ApplyVoiceRouting();
     }

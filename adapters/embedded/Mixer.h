@@ -58,7 +58,7 @@ public:
 
 private:
     struct Side {
-        std::string Device = "<DEFAULT>";
+        std::string Device = DefaultMixerDevice;
         bool Plugged = true;
         bool Opened = false;  // the panel was told
     };

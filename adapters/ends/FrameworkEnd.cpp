@@ -2,6 +2,7 @@
 #include "adapters/ends/FrameworkEnd.h"
 
 #include "platform/ControlValues.h"
+#include "platform/ServerNames.h"
 
 namespace orvelle::ends {
 
@@ -23,7 +24,7 @@ void FrameworkEnd::SetServer(const std::string& name) {
     ChooseLine();
 }
 
-std::string FrameworkEnd::GetServer() { return values.GetControlValue(ServerValue, "AUTOMATIC"); }
+std::string FrameworkEnd::GetServer() { return values.GetControlValue(ServerValue, AutomaticServer); }
 bool FrameworkEnd::Embedded() { return values.GetControlValue(EmbeddedValue, "0") != "0"; }
 void FrameworkEnd::Embedded(Long value) { values.SetControlValue(EmbeddedValue, value != 0 ? "1" : "0"); }
 

@@ -31,7 +31,7 @@ public:
     // The link. The records of this panel live as long as the link is started, whether it stands or not; a change to
     // another line removes them, and all others, for the panel to make its own anew.
     void SetServer(const std::string& name) override;
-    std::string GetServer() override;  // "AUTOMATIC" until one was set
+    std::string GetServer() override;  // AutomaticServer until one was set
     bool Embedded() override;
     void Embedded(Long value) override;
     bool LinkUp() override { return isUp; }

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/ControlValues.h"
+#include "platform/ServerNames.h"
 
 namespace orvelle::ends {
 
@@ -28,7 +29,7 @@ std::string SequenceOf(const std::vector<std::string>& keys) {
 SimulatorEnd::SimulatorEnd(EventLoop& loop, ControlValues& controlValues, const LineTable<SimulatorLine>& lineTable,
                            std::vector<std::string> thisComputer)
     : delivery(loop), values(controlValues), lines(lineTable), localNames(std::move(thisComputer)) {
-    localNames.insert(localNames.end(), {"localhost", "127.0.0.1", "::1"});
+    localNames.insert(localNames.end(), {LocalHost, LoopbackAddress, "::1"});
     OpenLine();
 }
 
@@ -39,7 +40,7 @@ void SimulatorEnd::SetServer(const std::string& name) {
     ChooseLine();
 }
 
-std::string SimulatorEnd::GetServer() { return values.GetControlValue(ServerValue, "AUTOMATIC"); }
+std::string SimulatorEnd::GetServer() { return values.GetControlValue(ServerValue, AutomaticServer); }
 
 bool SimulatorEnd::IsLocalAddress(const std::string& name) {
     return std::ranges::any_of(localNames, [&](const std::string& local) { return SameHost(local, name); });

@@ -32,7 +32,7 @@ public:
     ~SimulatorEnd() override;
 
     void SetServer(const std::string& name) override;
-    std::string GetServer() override;  // "AUTOMATIC" until one was set
+    std::string GetServer() override;  // AutomaticServer until one was set
     bool LinkUp() override { return isUp; }
     void ClientReady() override { line->SayReady(); }
     std::string IPAddress() override { return FarComputer().IPAddress; }

@@ -8,11 +8,14 @@
 #include <functional>
 #include <utility>
 
-#include "platform/sides/NetworkSide.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/ParameterNames.h"
 #include "deck/fields/Readout.h"
 #include "deck/fields/Tables.h"
+#include "platform/EngineRecord.h"
+#include "platform/VoiceEngine.h"
+#include "platform/VoiceRoles.h"
+#include "platform/sides/NetworkSide.h"
 
 namespace orvelle::deck {
 
@@ -21,9 +24,6 @@ namespace {
 enum Column { Late, Number, Meaning, Value, Writer };
 constexpr const char* LateMark = "●";
 constexpr int ValueLetters = 18;
-constexpr const char* RoomStates[] = {"out", "joining", "in the room", "join failed", "kicked"};
-constexpr Long FirstRoomState = 7;
-constexpr Long LastRoomState = 9;
 
 QString NameOf(Long id, const InterfaceRecord& record) {
     const QString owner = record.IsLocal ? "this panel" : QString::fromStdString(record.Owner);
@@ -55,13 +55,32 @@ Shown ShownOf(const InterfaceRecord& record, const ParameterName& name, const La
                                             : ShownOf(record.Parameters, name.Index, late);
 }
 
-QString MeaningOf(const ParameterName& name, const QString& value) {
-    const bool isState =
-        name.Kind == ParameterKind::Number && name.Index >= FirstRoomState && name.Index <= LastRoomState;
+// "" for a text that is no state.
+QString RoomStateWord(const QString& value) {
     bool isNumber = false;
-    const unsigned state = value.toUInt(&isNumber);
-    const bool isKnown = isState && isNumber && state < std::size(RoomStates);
-    return isKnown ? QString("%1: %2").arg(name.Meaning, RoomStates[state]) : name.Meaning;
+    const Long state = value.toInt(&isNumber);
+    if (!isNumber) return {};
+    switch (state) {
+        case engine_record::NotInRoom:
+            return "out";
+        case engine_record::JoiningRoom:
+            return "joining";
+        case engine_record::InRoom:
+            return "in the room";
+        case engine_record::RoomJoinFailed:
+            return "join failed";
+        case engine_record::KickedFromRoom:
+            return "kicked";
+        default:
+            return {};
+    }
+}
+
+QString MeaningOf(const ParameterName& name, const QString& value) {
+    const bool isState = name.Kind == ParameterKind::Number && name.Index >= engine_record::RoomState &&
+                         name.Index < engine_record::RoomState + Rooms;
+    const QString word = isState ? RoomStateWord(value) : QString();
+    return word.isEmpty() ? QString(name.Meaning) : QString("%1: %2").arg(name.Meaning, word);
 }
 
 // What the user edits goes to the record and comes back from there; the table itself is never written. What the user is
@@ -140,7 +159,7 @@ void ParametersBox::ShowRecords() {
     if (!records.contains(wanted)) picked = false;
     if (!picked)
         for (const auto& [id, entry] : records)
-            if (entry.IsLocal && entry.Role == "VVL") wanted = id;
+            if (entry.IsLocal && entry.Role == EngineRole) wanted = id;
 
     // Filled anew the list would lose what is marked in it while it is open.
     QStringList names;

@@ -16,8 +16,29 @@ namespace {
 constexpr std::string RadioVoiceSetting::*VoiceTexts[] = {&RadioVoiceSetting::Server, &RadioVoiceSetting::Channel,
                                                           &RadioVoiceSetting::Login, &RadioVoiceSetting::Password};
 // In the order of the entries "1", "2", "Both", "None"
-constexpr const char* Selections[] = {"1", "2", "B", ""};
+constexpr const char* Selections[] = {SelectsCom1, SelectsCom2, SelectsBoth, SelectsNone};
 constexpr int NoSelection = 3;
+
+struct SoftwareEntry {
+    VoiceSoftware Code;
+    const char* Name;
+};
+constexpr SoftwareEntry SoftwareEntries[] = {
+    {NoVoice, "None"},       {RogerWilco, "RogerWilco"},         {TeamSpeakHost, "TeamSpeak"},
+    {VatsimVoice, "VATSIM"}, {TeamSpeakUrl, "TeamSpeak by URL"}, {VoiceAtis, "Voice ATIS"}};
+
+QStringList SoftwareNames() {
+    QStringList names;
+    for (const SoftwareEntry& entry : SoftwareEntries) names << entry.Name;
+    return names;
+}
+
+// -1 for a code that is none of them.
+int EntryOf(Long software) {
+    for (std::size_t index = 0; index < std::size(SoftwareEntries); ++index)
+        if (software == SoftwareEntries[index].Code) return static_cast<int>(index);
+    return -1;
+}
 
 QString RadioName(int radio) { return radio == 0 ? "COM1" : "COM2"; }
 
@@ -68,10 +89,9 @@ RadioBox::Radio RadioBox::NewRadio(int radio) {
                               [this, radio](const std::string& text) { tessaly.SetFrequency(radio, text); });
     frequency->setPlaceholderText(radio == 0 ? "122.800" : "121.500");
     auto* software = NewChoice(
-        "Software" + name, "The voice software that serves " + name,
-        {"None", "RogerWilco", "TeamSpeak", "VATSIM", "TeamSpeak by URL", "Voice ATIS"}, [this, radio](int index) {
+        "Software" + name, "The voice software that serves " + name, SoftwareNames(), [this, radio](int index) {
             RadioVoiceSetting voice = tessaly.Session().Voice.at(static_cast<std::size_t>(radio));
-            voice.Software = index;
+            voice.Software = SoftwareEntries[index].Code;
             tessaly.SetVoice(radio, voice);
         });
     return {frequency,
@@ -102,7 +122,7 @@ void RadioBox::ShowState() {
     for (std::size_t radio = 0; radio < radios.size(); ++radio) {
         const RadioVoiceSetting& voice = session.Voice.at(radio);
         radios.at(radio).Frequency->Show(session.Frequency.at(radio));
-        radios.at(radio).Software->setCurrentIndex(voice.Software);
+        radios.at(radio).Software->setCurrentIndex(EntryOf(voice.Software));
         for (std::size_t row = 0; row < std::size(VoiceTexts); ++row)
             radios.at(radio).Texts.at(row)->Show(voice.*VoiceTexts[row]);
     }

@@ -15,7 +15,6 @@ namespace orvelle::deck {
 
 namespace {
 
-constexpr const char* Roles[] = {"RWCom1", "RWCom2", "TSCom1", "TSCom2", "VVL"};
 enum Column { Id, Type, Role, Owner, Parameters };
 
 QString ParametersOf(const InterfaceRecord& record) {
@@ -58,7 +57,7 @@ RecordsBox::RecordsBox(NetworkSide& framework)
     AddRow("Other computer", {computer});
 
     QList<QWidget*> boxes = {new QLabel("holds")};
-    for (const std::string role : Roles) {
+    for (const std::string role : AllVoiceRoles) {
         const QString name = QString::fromStdString(role);
         auto* box = NewCheck("Claim" + name, name, "The other computer holds the role " + name,
                              [this, role](bool on) { Claim(role, on); });

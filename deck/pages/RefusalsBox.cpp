@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "platform/Notices.h"
+#include "platform/VoiceRoles.h"
 #include "platform/sides/FarSides.h"
 #include "platform/sides/NetworkSide.h"
 #include "deck/fields/Fields.h"
@@ -43,7 +44,7 @@ void RefusalsBox::AddNetwork(NetworkSide& network) {
     AddRow("Refused", {NewRefusal("RefuseSession", "Open session", refuse.OpenSession),
                        NewRefusal("RefuseCreate", "Create record", refuse.CreateInterface),
                        NewRefusal("RefuseOpen", "Open record", refuse.OpenInterface)});
-    auto* type = NewPlainEdit("OddType", "VOICE", "The record's type");
+    auto* type = NewPlainEdit("OddType", VoiceRecordType, "The record's type");
     auto* role = NewPlainEdit("OddRole", "RWCom3", "The record's role");
     AddRow("Odd record",
            {type, role, NewButton("OddClaim", "Claim", "Another computer makes this record", [=, &network] {

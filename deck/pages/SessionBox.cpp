@@ -15,7 +15,7 @@ SessionBox::SessionBox(NetworkSide& framework)
                     [this](bool on) { on ? tessaly.StartSession() : tessaly.EndSession(); })),
       connected(NewCheck("SessionConnected", "Connected to &multiplayer",
                          "The session's status: connected to the multiplayer network",
-                         [this](bool on) { tessaly.SetStatus(on ? 1 : 0); })),
+                         [this](bool on) { tessaly.SetStatus(on ? ConnectedToMultiplayer : 0); })),
       callsign(NewEdit("Callsign", "The user's callsign; Enter applies it",
                        [this](const std::string& text) { tessaly.SetCallsign(text); })),
       watch(tessaly.Observe([this] { ShowState(); })) {
@@ -30,7 +30,7 @@ SessionBox::SessionBox(NetworkSide& framework)
 void SessionBox::ShowState() {
     const SessionSetting& session = tessaly.Session();
     open->setChecked(session.Handle != 0);
-    connected->setChecked(session.Status == 1);
+    connected->setChecked(session.Status == ConnectedToMultiplayer);
     callsign->Show(session.Callsign);
 }
 

@@ -1,4 +1,4 @@
-// Images by key.
+// Images by key. The shell knows the picture by the key; a key that was removed is missing from here on.
 #pragma once
 
 #include <set>
@@ -18,7 +18,7 @@ public:
 
     const std::set<std::string>& Keys() const { return keys; }
     void Remove(const std::string& key) { keys.erase(key); }
-    // The icon of that key; none is a run-time error.
+    // The icon of that key; none is run-time error 9.
     Picture Image(const std::string& key) const {
         if (!keys.contains(key)) throw RuntimeError(RuntimeError::SubscriptOutOfRange);
         return {Picture::Icon, key};

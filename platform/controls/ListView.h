@@ -1,6 +1,6 @@
 // A list of rows, numbered from 1, each of a text and four sub-items, with headings for the columns that show.
-// Rows are found by their text, and those whose last sub-item is not empty ("marked") without a walk, so that an event
-// costs what the rows that it concerns cost.
+// A row or a sub-item that is not there is run-time error 9. Rows are found by their text, and those whose last
+// sub-item is not empty ("marked") without a walk, so that an event costs what the rows that it concerns cost.
 #pragma once
 
 #include <array>

@@ -1,4 +1,4 @@
-// A status bar of text panels, numbered from 1, each with a hover text.
+// A status bar of text panels, numbered from 1, each with a hover text. A panel that is not there is run-time error 9.
 #pragma once
 
 #include <initializer_list>

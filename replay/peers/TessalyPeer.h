@@ -61,7 +61,7 @@ public:
 private:
     const InterfaceRecord* OpenRecord() const;
 
-    Kept<std::string> server{"AUTOMATIC"};
+    Kept<std::string> server{AutomaticServer};
     Kept<bool> embedded{false};
     InterfaceRecordTable table;
     std::optional<Long> openId;

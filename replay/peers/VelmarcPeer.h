@@ -21,7 +21,7 @@ public:
     void PlaySound(const std::string& path) override;
 
 private:
-    Kept<std::string> server{"AUTOMATIC"};
+    Kept<std::string> server{AutomaticServer};
 };
 
 }  // namespace orvelle::replay

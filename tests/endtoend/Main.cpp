@@ -5,7 +5,7 @@
 
 int main(int argumentCount, char** arguments) {
     testing::InitGoogleTest(&argumentCount, arguments);
-    orvelle::qt::Application application("endtoend-tests", [](const std::exception& error) {
+    orvelle::qt::Application application("endtoend-tests", "xcb", [](const std::exception& error) {
         ADD_FAILURE() << "an error left a handler: " << error.what();
     });
     orvelle::ApplyTheme(orvelle::Scheme::Light);

@@ -12,7 +12,7 @@ PanelTest::PanelTest() {
         "#!/bin/sh\n{ printf '|'; for word; do printf '%s|' \"$word\"; done; echo; } >>\"${0%/*}/commands\"\n");
     script.close();
     script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    store::SqliteStore& store = house.SetUp.Store;
+    store::SqliteStore& store = house.Settings.Store;
     store.SaveSettingString("OrvelleCP", "RWPath", '"' + VoiceProgram() + '"');
     store.SaveSettingString("OrvelleCP", "RWPTTKey", std::to_string(TalkKeyCode));
     store.HandlerEnded();
@@ -20,26 +20,26 @@ PanelTest::PanelTest() {
 
 void PanelTest::Open() {
     house.Open();
-    ASSERT_TRUE(ComesTrue([this] { return house.Deck && house.Deck->isVisible() && house.Window->isVisible(); }));
+    ASSERT_TRUE(ComesTrue([this] { return house.Deck && house.Deck->isVisible() && house.Desktop.Window().isVisible(); }));
     // Side by side, so that nothing hides what is clicked.
-    house.Deck->move(0, house.Window->frameGeometry().bottom() + 1);
+    house.Deck->move(0, house.Desktop.Window().frameGeometry().bottom() + 1);
 }
 
 void PanelTest::Connect() {
-    EmbeddedTessaly& network = house.SetUp.Tessaly;
-    house.SetUp.Velmarc.SetLink(LinkState::Up);
+    embedded::NetworkLink& network = house.Outside.Practice.NetworkLink;
+    house.Outside.Practice.SimulatorLink.SetLink(LinkState::Up);
     network.SetLink(LinkState::Up);
     network.SetCallsign("ABC123");
     network.SetStatus(1);
     network.SetReceive("1");
     network.SetTransmit("1");
     network.StartSession();
-    ASSERT_TRUE(ComesTrue([this] { return panel.SessionHandle != 0 && panel.Panels(4).Enabled; }));
+    ASSERT_TRUE(ComesTrue([this] { return panel.Variables().SessionHandle != 0 && panel.Panels(4).Enabled; }));
 }
 
 void PanelTest::ShowPage(const char* node) { panel.twCategory.UserClick(*panel.twCategory.Find(node)); }
 
-QWidget& PanelTest::OfPanel(const char* name) { return Find(*house.Window, name); }
+QWidget& PanelTest::OfPanel(const char* name) { return Find(house.Desktop.Window(), name); }
 
 QWidget& PanelTest::OfDeck(const char* name) { return Find(*house.Deck, name); }
 

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "apps/PanelProgram.h"
+#include "apps/ThisProcess.h"
 #include "tests/endtoend/User.h"
 
 namespace orvelle {
@@ -35,9 +36,8 @@ protected:
     std::string VoiceCommands() const;
 
     QTemporaryDir folder;
-    linux::TerminationSignals endings;
-    linux::ProcessProgram program{linux::InstanceLock::OfThisSession()};
-    PanelProgram house{program, endings, folder.filePath("settings.sqlite").toStdString()};
+    ThisProcess process;
+    PanelProgram house{process, folder.filePath("settings.sqlite").toStdString()};
     FrmOrvelle& panel = house.Panel;
     User user;
 

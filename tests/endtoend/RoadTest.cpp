@@ -21,11 +21,11 @@ protected:
         ASSERT_TRUE(ComesTrue([this] { return panel.RWKeySet.Caption == "Cancel"; }));
         user.Click(OfDeck("KeyboardField"));
         user.Do({"key", "F8"});
-        ASSERT_TRUE(ComesTrue([this] { return panel.RWFSKey == "F8"; }));
+        ASSERT_TRUE(ComesTrue([this] { return panel.Variables().RWFSKey == "F8"; }));
     }
     void TuneCom1() {
-        house.SetUp.Tessaly.SetVoice(0, {RogerWilco, "srv1", "ops", "", ""});
-        ASSERT_TRUE(ComesTrue([this] { return panel.ActiveVoiceSoftware == RogerWilco; }));
+        house.Outside.Practice.NetworkLink.SetVoice(0, {RogerWilco, "srv1", "ops", "", ""});
+        ASSERT_TRUE(ComesTrue([this] { return panel.Variables().ActiveVoiceSoftware == RogerWilco; }));
     }
     // From the start to the mapped key held over there and the talk key held here.
     void HoldTheTalkKey() {
@@ -63,8 +63,8 @@ TEST_F(RoadTest, ATunedRadioStartsTheVoiceProgramAndAKeyOverThereHoldsItsTalkKey
 TEST_F(RoadTest, WhatThePanelStrikesHereIsNotTypedOverThere) {
     ASSERT_NO_FATAL_FAILURE(HoldTheTalkKey());
     user.KeyDown("a");
-    EXPECT_TRUE(ComesTrue([this] { return house.SetUp.Velmarc.HeldSequence() == "F8+A"; }))
-        << house.SetUp.Velmarc.HeldSequence();
+    EXPECT_TRUE(ComesTrue([this] { return house.Outside.Practice.SimulatorLink.HeldSequence() == "F8+A"; }))
+        << house.Outside.Practice.SimulatorLink.HeldSequence();
     user.KeyUp("a");
     user.KeyUp("F8");
     EXPECT_TRUE(ComesTrue([this] { return !user.SeesDown(TalkKey); }));
@@ -75,7 +75,7 @@ TEST_F(RoadTest, ALostLinkReleasesTheTalkKeyThatIsHeld) {
 
     user.Click(OfDeck("SimulatorLink"));
     EXPECT_TRUE(ComesTrue([this] { return !user.SeesDown(TalkKey) && !panel.Panels(4).Enabled; }));
-    EXPECT_EQ(panel.RWPTTKeyState, "");
+    EXPECT_EQ(panel.Variables().RWPTTKeyState, "");
     user.KeyUp("F8");
 }
 
@@ -83,16 +83,16 @@ TEST_F(RoadTest, ARoleThatAnotherComputerHoldsIsNotServedHereUntilItIsDropped) {
     ASSERT_NO_FATAL_FAILURE(Open());
     ASSERT_NO_FATAL_FAILURE(Connect());
     user.Click(OfDeck("ClaimRWCom1"));
-    ASSERT_TRUE(ComesTrue([this] { return panel.ForeignRWCom1 != 0; }));
+    ASSERT_TRUE(ComesTrue([this] { return panel.Variables().ForeignRWCom1 != 0; }));
     ASSERT_NO_FATAL_FAILURE(TickRogerWilco());
-    house.SetUp.Tessaly.SetVoice(0, {RogerWilco, "srv1", "ops", "", ""});
+    house.Outside.Practice.NetworkLink.SetVoice(0, {RogerWilco, "srv1", "ops", "", ""});
     ASSERT_TRUE(ComesTrue([this] { return panel.CommentCOM1.Caption == "srv1/ops"; }));
-    EXPECT_EQ(panel.ActiveVoiceSoftware, NoVoice);
+    EXPECT_EQ(panel.Variables().ActiveVoiceSoftware, NoVoice);
     EXPECT_EQ(VoiceCommands(), "");
 
     user.Click(OfDeck("ClaimRWCom1"));
     EXPECT_TRUE(ComesTrue([this] { return VoiceCommands() == Join; })) << VoiceCommands();
-    EXPECT_NE(panel.RWCom1, 0);
+    EXPECT_NE(panel.Variables().RWCom1, 0);
 }
 
 TEST_F(RoadTest, AVoiceProgramThatIsNotThereIsToldOnTheDeckAlone) {

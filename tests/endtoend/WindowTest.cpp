@@ -32,14 +32,14 @@ protected:
 TEST_F(WindowTest, TheCloseBoxHidesAndALeftPressOnTheIconBringsBack) {
     ASSERT_NO_FATAL_FAILURE(Open());
     ASSERT_TRUE(ComesTrue([this] { return TrayIcon() != nullptr; }));
-    ToFront(*house.Window);
+    ToFront(house.Desktop.Window());
     user.Do({"key", "alt+F4"});
-    ASSERT_TRUE(ComesTrue([this] { return !house.Window->isVisible(); }));
+    ASSERT_TRUE(ComesTrue([this] { return !house.Desktop.Window().isVisible(); }));
     EXPECT_FALSE(panel.Visible);
     EXPECT_TRUE(panel.IsLoaded());
 
     user.Click(*TrayIcon());
-    EXPECT_TRUE(ComesTrue([this] { return house.Window->isVisible(); }));
+    EXPECT_TRUE(ComesTrue([this] { return house.Desktop.Window().isVisible(); }));
     EXPECT_TRUE(panel.Visible);
 }
 
@@ -56,14 +56,14 @@ TEST_F(WindowTest, ARightPressOnTheIconPopsUpTheMenu) {
 TEST_F(WindowTest, AHiddenWindowMadeVisibleStandsWithItsWholeFrameOnTheScreen) {
     ASSERT_NO_FATAL_FAILURE(Open());
     ASSERT_TRUE(ComesTrue([this] { return TrayIcon() != nullptr; }));
-    ToFront(*house.Window);
+    ToFront(house.Desktop.Window());
     user.Do({"key", "alt+F4"});
-    ASSERT_TRUE(ComesTrue([this] { return !house.Window->isVisible(); }));
+    ASSERT_TRUE(ComesTrue([this] { return !house.Desktop.Window().isVisible(); }));
     ASSERT_NO_FATAL_FAILURE(PopUpTheMenu());
     user.Do({"key", "Down", "Return"});
     EXPECT_TRUE(ComesTrue([this] {
-        const QRect inside = house.Window->geometry();
-        return house.Window->frameGeometry().topLeft() == QPoint(1, 1) && inside.top() > 1;
+        const QRect inside = house.Desktop.Window().geometry();
+        return house.Desktop.Window().frameGeometry().topLeft() == QPoint(1, 1) && inside.top() > 1;
     }));
     EXPECT_EQ(panel.Top, 10.0);
 }

@@ -33,15 +33,16 @@ std::string Strokes(const std::string& sequence, int flags) {
 
 std::optional<std::string> Invariants::Check(const replay::Stage& stage, const std::string& calls) {
     const FrmOrvelle& panel = stage.Panel.Panel();
+    const PanelVariables& known = panel.Variables();
     const std::vector<std::string> lines = LinesOf(calls);
     if (auto breach = CheckBrackets(lines)) return breach;
     if (auto breach = CheckRogerWilco(panel, lines)) return breach;
     const bool teamSpeakActive =
-        panel.ActiveVoiceSoftware == TeamSpeakHost || panel.ActiveVoiceSoftware == TeamSpeakUrl;
-    if (!teamSpeakActive && !(panel.TSServer.empty() && panel.TSChannel.empty()))
+        known.ActiveVoiceSoftware == TeamSpeakHost || known.ActiveVoiceSoftware == TeamSpeakUrl;
+    if (!teamSpeakActive && !(known.TSServer.empty() && known.TSChannel.empty()))
         return "TeamSpeak is not active, and its server or channel is still remembered";
-    const TalkKey rogerWilcoNow{panel.RWPTTKey, panel.RWPTTKeyState};
-    const TalkKey teamSpeakNow{panel.TSPTTKey, panel.TSPTTKeyState};
+    const TalkKey rogerWilcoNow{known.RWPTTKey, known.RWPTTKeyState};
+    const TalkKey teamSpeakNow{known.TSPTTKey, known.TSPTTKeyState};
     if (auto breach = CheckTalkKey(rogerWilco, rogerWilcoNow, calls)) return "RogerWilco's talk key: " + *breach;
     if (auto breach = CheckTalkKey(teamSpeak, teamSpeakNow, calls)) return "TeamSpeak's talk key: " + *breach;
     rogerWilco = rogerWilcoNow;
@@ -82,7 +83,8 @@ std::optional<std::string> Invariants::CheckRogerWilco(const FrmOrvelle& panel, 
         if (line.find(" /join1 ") != std::string::npos) rogerWilcoJoined = true;
         if (line.find(" /leave ") != std::string::npos) rogerWilcoJoined = false;
     }
-    if (panel.ActiveVoiceSoftware != RogerWilco && rogerWilcoJoined) return "RogerWilco was not told to leave";
+    if (panel.Variables().ActiveVoiceSoftware != RogerWilco && rogerWilcoJoined)
+        return "RogerWilco was not told to leave";
     return std::nullopt;
 }
 

@@ -32,9 +32,27 @@ TEST_P(MediaPlayersTest, AMissingPlayerChangesNothingInTheOutcome) {
     std::ostringstream out;
     replay::World world{out};
     FewMediaPlayers players(world, GetParam());
-    FrmOrvelle panel({world.Velmarc, world.Store, world.Registry, world.Tessaly, world.VVL, world.VolumeControl,
-                      world.VolumeControlHP, world.TSRemote, players, world.Dialog, world.Messages, world.Keyboard,
-                      world.Queue, world.Windows, world.Kernel, world.Kernel, world.App, world.Tray, world.Urls});
+    FrmOrvelle panel(Platform{
+        .Velmarc = world.Velmarc,
+        .Settings = world.Store,
+        .Registry = world.Registry,
+        .Tessaly = world.Tessaly,
+        .VVL = world.VVL,
+        .VolumeControl = world.VolumeControl,
+        .VolumeControlHP = world.VolumeControlHP,
+        .TSRemote = world.TSRemote,
+        .MediaPlayers = players,
+        .Dialog = world.Dialog,
+        .Messages = world.Messages,
+        .Keyboard = world.Keyboard,
+        .Queue = world.Queue,
+        .Windows = world.Windows,
+        .Clock = world.Kernel,
+        .Processes = world.Kernel,
+        .Program = world.App,
+        .Tray = world.Tray,
+        .Urls = world.Urls,
+    });
     panel.Show();
     EXPECT_TRUE(panel.Visible);
     EXPECT_EQ(panel.WMPCOM1, nullptr);

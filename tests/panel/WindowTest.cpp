@@ -19,25 +19,27 @@ using testing::Return;
 class WindowTest : public testing::Test {
 protected:
     Platform Outside() {
-        return {world.Velmarc,
-                world.Store,
-                world.Registry,
-                world.Tessaly,
-                world.VVL,
-                world.VolumeControl,
-                world.VolumeControlHP,
-                world.TSRemote,
-                world.Players,
-                world.Dialog,
-                world.Messages,
-                world.Keyboard,
-                world.Queue,
-                windows,
-                world.Kernel,
-                world.Kernel,
-                world.App,
-                world.Tray,
-                world.Urls};
+        return {
+            .Velmarc = world.Velmarc,
+            .Settings = world.Store,
+            .Registry = world.Registry,
+            .Tessaly = world.Tessaly,
+            .VVL = world.VVL,
+            .VolumeControl = world.VolumeControl,
+            .VolumeControlHP = world.VolumeControlHP,
+            .TSRemote = world.TSRemote,
+            .MediaPlayers = world.Players,
+            .Dialog = world.Dialog,
+            .Messages = world.Messages,
+            .Keyboard = world.Keyboard,
+            .Queue = world.Queue,
+            .Windows = windows,
+            .Clock = world.Kernel,
+            .Processes = world.Kernel,
+            .Program = world.App,
+            .Tray = world.Tray,
+            .Urls = world.Urls,
+        };
     }
 
     std::ostringstream out;
@@ -78,9 +80,9 @@ TEST_F(WindowTest, ANodeWhosePageCannotBeReachedEndsQuietly) {
     panel.Show();
     TreeNode& stray = panel.twCategory.AddNode(nullptr, "Stray", "13");
     panel.twCategory.UserClick(stray);
-    EXPECT_EQ(panel.CurrentPanel, 0);
+    EXPECT_EQ(panel.Variables().CurrentPanel, 0);
     panel.twCategory.UserClick(*panel.twCategory.Find("Options"));
-    EXPECT_EQ(panel.CurrentPanel, 9);
+    EXPECT_EQ(panel.Variables().CurrentPanel, 9);
     EXPECT_TRUE(panel.Panels(9).Visible);
 }
 

@@ -42,7 +42,7 @@ protected:
         played.Address = "10.0.0.1:8767" + std::string(17, ' ');
         panel.Show();
         world.Tessaly.SessionOpened();
-        EXPECT_EQ(panel.TSChannel, "one");
+        EXPECT_EQ(panel.Variables().TSChannel, "one");
         played.Calls.clear();
         Give("Tessaly.VoiceChannel(0)", "two");
     }
@@ -61,10 +61,26 @@ protected:
     Platform Outside() {
         const Platform scripted = world.Outside();
         return {
-            scripted.Velmarc,       scripted.Settings,        scripted.Registry, scripted.Tessaly,      scripted.VVL,
-            scripted.VolumeControl, scripted.VolumeControlHP, teamSpeak,         scripted.MediaPlayers, scripted.Dialog,
-            scripted.Messages,      scripted.Keyboard,        scripted.Queue,    scripted.Windows,      scripted.Clock,
-            scripted.Processes,     scripted.Program,         scripted.Tray,     scripted.Urls};
+            .Velmarc = scripted.Velmarc,
+            .Settings = scripted.Settings,
+            .Registry = scripted.Registry,
+            .Tessaly = scripted.Tessaly,
+            .VVL = scripted.VVL,
+            .VolumeControl = scripted.VolumeControl,
+            .VolumeControlHP = scripted.VolumeControlHP,
+            .TSRemote = teamSpeak,
+            .MediaPlayers = scripted.MediaPlayers,
+            .Dialog = scripted.Dialog,
+            .Messages = scripted.Messages,
+            .Keyboard = scripted.Keyboard,
+            .Queue = scripted.Queue,
+            .Windows = scripted.Windows,
+            .Clock = scripted.Clock,
+            .Processes = scripted.Processes,
+            .Program = scripted.Program,
+            .Tray = scripted.Tray,
+            .Urls = scripted.Urls,
+        };
     }
 
     PlayedTeamSpeak& played = Played();
@@ -76,7 +92,7 @@ protected:
 
 TEST_F(RetuneTest, TheChannelIsSwitchedOnTheRunningConnection) {
     EXPECT_EQ(Retune(), (Calls{"server", "channel two 0", "switch 42 []"}));
-    EXPECT_EQ(panel.TSChannel, "two");
+    EXPECT_EQ(panel.Variables().TSChannel, "two");
 }
 
 TEST_F(RetuneTest, AnAnswerAfterTenWaitsIsUsedUnlessItCameAtTheEleventhCall) {
@@ -98,7 +114,7 @@ TEST_F(RetuneTest, WithoutAnAnswerItConnects) {
     Calls expected(11, "server");
     expected.push_back(Reconnect);
     EXPECT_EQ(Retune(), expected);
-    EXPECT_EQ(panel.TSChannel, "two");
+    EXPECT_EQ(panel.Variables().TSChannel, "two");
 }
 
 TEST_F(RetuneTest, OnAnotherServerItConnects) {
@@ -125,13 +141,13 @@ TEST_F(RetuneTest, AFailedConnectKeepsTheOldTargetAndIsTriedAtTheNextRun) {
     played.ServerInfoFailures = 1000;
     played.Connect = 1;
     Retune();
-    EXPECT_EQ(panel.TSChannel, "one");
-    EXPECT_EQ(panel.ActiveVoiceSoftware, TeamSpeakHost);
+    EXPECT_EQ(panel.Variables().TSChannel, "one");
+    EXPECT_EQ(panel.Variables().ActiveVoiceSoftware, TeamSpeakHost);
     played.Calls.clear();
     played.Connect = 0;
     world.Tessaly.SessionStatusChanged();
     EXPECT_EQ(played.Calls.back(), Reconnect);
-    EXPECT_EQ(panel.TSChannel, "two");
+    EXPECT_EQ(panel.Variables().TSChannel, "two");
 }
 
 }  // namespace

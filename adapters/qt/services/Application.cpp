@@ -11,16 +11,18 @@ constexpr const char* OpenGlSetting = "QT_XCB_GL_INTEGRATION";
 
 }  // namespace
 
-ApplicationSetUp::ApplicationSetUp(std::string programName)
+ApplicationSetUp::ApplicationSetUp(std::string programName, std::string windowSystem)
     : name(std::move(programName)),
+      platform(std::move(windowSystem)),
       isOurSetting(!qEnvironmentVariableIsSet(OpenGlSetting) && qputenv(OpenGlSetting, "none")) {}
 
 void ApplicationSetUp::Done() {
     if (isOurSetting) qunsetenv(OpenGlSetting);
 }
 
-Application::Application(std::string programName, FailureHandler failureHandler)
-    : ApplicationSetUp(std::move(programName)), QApplication(count, values), failed(std::move(failureHandler)) {
+Application::Application(std::string programName, std::string windowSystem, FailureHandler failureHandler)
+    : ApplicationSetUp(std::move(programName), std::move(windowSystem)),
+      QApplication(count, values), failed(std::move(failureHandler)) {
     Done();
     // The panel lives on without a window, and ends by its own doors only.
     setQuitOnLastWindowClosed(false);

@@ -14,13 +14,13 @@ namespace orvelle::qt {
 // draws by OpenGL, and the library for it would cost more memory than the panel.
 class ApplicationSetUp {
 protected:
-    explicit ApplicationSetUp(std::string programName);
+    ApplicationSetUp(std::string programName, std::string windowSystem);
     // Programs that the panel starts must not inherit the setting.
     void Done();
 
     std::string name;
     std::string platformOption = "-platform";
-    std::string platform = "xcb";
+    std::string platform;
     char* values[4] = {name.data(), platformOption.data(), platform.data(), nullptr};
     int count = 3;
 
@@ -32,7 +32,8 @@ class Application : private ApplicationSetUp, public QApplication {
 public:
     using FailureHandler = std::function<void(const std::exception&)>;
 
-    Application(std::string programName, FailureHandler failureHandler);
+    // `windowSystem` as Qt calls it.
+    Application(std::string programName, std::string windowSystem, FailureHandler failureHandler);
 
     // Runs `start`, whose errors are handled like those of the loop, then the loop.
     int Run(const std::function<void()>& start);

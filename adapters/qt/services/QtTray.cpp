@@ -77,13 +77,13 @@ void QtTray::Dress() {
 void QtTray::Activated(QSystemTrayIcon::ActivationReason reason) {
     switch (reason) {
         case QSystemTrayIcon::Trigger:
-            Send(LeftPress);
+            Send(LeftDown);
             break;
         case QSystemTrayIcon::Context:
-            Send(RightPress);
+            Send(RightDown);
             break;
         case QSystemTrayIcon::DoubleClick:
-            Send(DoubleClick);
+            Send(LeftDoubleClick);
             break;
         default:
             break;
@@ -93,18 +93,18 @@ void QtTray::Activated(QSystemTrayIcon::ActivationReason reason) {
 void QtTray::Clicked(StandInIcon::Mouse mouse) {
     switch (mouse) {
         case StandInIcon::Mouse::LeftPress:
-            Send(LeftPress);
+            Send(LeftDown);
             break;
         case StandInIcon::Mouse::RightPress:
-            Send(RightPress);
+            Send(RightDown);
             break;
         case StandInIcon::Mouse::DoubleClick:
-            Send(DoubleClick);
+            Send(LeftDoubleClick);
             break;
     }
 }
 
-void QtTray::Send(MouseMessage message) {
+void QtTray::Send(NotifyIconMouse message) {
     if (isAdded && held.Window != nullptr) table.Deliver(*held.Window, held.CallbackMessage, held.Id, message);
 }
 

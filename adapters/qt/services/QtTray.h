@@ -1,7 +1,6 @@
 // The notification area: one icon with a tip in the desktop's tray, or in a small window of its own while the desktop
-// has no tray. Presses on it come as messages to the window that the record names: wParam the icon's id, lParam 513 for
-// a left press, 516 for a right one, 515 for a double click. The icon appears from the loop, after the windows that the
-// program showed.
+// has no tray. Presses on it come as messages to the window that the record names: wParam the icon's id, lParam
+// LeftDown, RightDown or LeftDoubleClick. The icon appears from the loop, after the windows that the program showed.
 #pragma once
 
 #include <QIcon>
@@ -26,8 +25,6 @@ public:
     void Shell_NotifyIconA(Long command, const NotifyIconData& data) override;
 
 private:
-    enum MouseMessage : Long { LeftPress = 513, DoubleClick = 515, RightPress = 516 };
-
     void Take(const NotifyIconData& data);
     void Remove();
     // Into the tray or the stand-in, whichever the desktop needs now.
@@ -35,7 +32,7 @@ private:
     void Dress();
     void Activated(QSystemTrayIcon::ActivationReason reason);
     void Clicked(StandInIcon::Mouse mouse);
-    void Send(MouseMessage message);
+    void Send(NotifyIconMouse message);
 
     const WindowTable& table;
     const IconSource iconOf;

@@ -12,7 +12,6 @@ namespace orvelle::qt {
 
 namespace {
 
-constexpr int Overview = 0;
 // The room that the tree needs: its widest name at its deepest level.
 constexpr char WidestNode[] = "Key Management";
 constexpr int TreeLevels = 3;
@@ -45,12 +44,12 @@ MainWindow::MainWindow(Form& panelForm) : FormWindow(panelForm) {
     binder.Bind(*this);
     for (int panel = 0; panel < PageCount; ++panel)
         frames[static_cast<std::size_t>(panel)] = form.Find("Panels(" + std::to_string(panel) + ")");
-    pages->setCurrentWidget(&Page(Overview));
+    pages->setCurrentWidget(&Page(OverviewPanel));
     TellSize();
 }
 
 void MainWindow::TellSize() {
-    auto* overview = dynamic_cast<Frame*>(frames[Overview]);
+    auto* overview = dynamic_cast<Frame*>(frames[OverviewPanel]);
     if (overview == nullptr) return;
     const QSize needed = layout()->totalSizeHint();
     const int left = needed.width() - std::max(pages->sizeHint().width(), pages->minimumWidth());
@@ -67,7 +66,7 @@ int MainWindow::PanelOf(const Control& frame) const {
 QWidget& MainWindow::Page(int panel) {
     QWidget*& page = made.at(static_cast<std::size_t>(panel));
     if (page == nullptr) {
-        page = MakePage(panel, pages);
+        page = MakePage(static_cast<PanelNumber>(panel), pages);
         pages->addWidget(page);
         binder.Bind(*page);
     }

@@ -5,7 +5,6 @@
 #include <QStyle>
 #include <QWidget>
 #include <algorithm>
-#include <array>
 
 #include "adapters/looks/Theme.h"
 #include "adapters/qt/widgets/Readout.h"
@@ -79,13 +78,36 @@ QWidget* Make(QWidget* parent) {
 
 }  // namespace
 
-QWidget* MakePage(int panel, QWidget* parent) {
-    static constexpr std::array<QWidget* (*)(QWidget*), PageCount> Makers{
-        Make<Ui::Overview>,      Make<Ui::SimulatorLink>, Make<Ui::RogerWilco>, Make<Ui::TeamSpeak>,
-        Make<Ui::JoyToKey>,      Make<Ui::VatsimVoice>,   Make<Ui::Volumes>,    Make<Ui::KeyToKey>,
-        Make<Ui::FrameworkLink>, Make<Ui::Options>,       Make<Ui::VoiceAtis>,  Make<Ui::Extra>,
-        Make<Ui::VatsimKeys>};
-    return Makers.at(static_cast<std::size_t>(panel))(parent);
+QWidget* MakePage(PanelNumber panel, QWidget* parent) {
+    switch (panel) {
+        case OverviewPanel:
+            return Make<Ui::Overview>(parent);
+        case SimulatorLinkPanel:
+            return Make<Ui::SimulatorLink>(parent);
+        case RogerWilcoPanel:
+            return Make<Ui::RogerWilco>(parent);
+        case TeamSpeakPanel:
+            return Make<Ui::TeamSpeak>(parent);
+        case JoyToKeyPanel:
+            return Make<Ui::JoyToKey>(parent);
+        case VatsimVoicePanel:
+            return Make<Ui::VatsimVoice>(parent);
+        case VolumesPanel:
+            return Make<Ui::Volumes>(parent);
+        case KeyToKeyPanel:
+            return Make<Ui::KeyToKey>(parent);
+        case FrameworkLinkPanel:
+            return Make<Ui::FrameworkLink>(parent);
+        case OptionsPanel:
+            return Make<Ui::Options>(parent);
+        case VoiceAtisPanel:
+            return Make<Ui::VoiceAtis>(parent);
+        case ExtraPanel:
+            return Make<Ui::Extra>(parent);
+        case VatsimKeysPanel:
+            return Make<Ui::VatsimKeys>(parent);
+    }
+    return nullptr;  // for no panel
 }
 
 QSize PageSize(const QWidget& window) {

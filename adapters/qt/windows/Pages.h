@@ -4,14 +4,16 @@
 
 #include <QSize>
 
+#include "platform/PanelNumber.h"
+
 class QWidget;
 
 namespace orvelle::qt {
 
-constexpr int PageCount = 13;
+constexpr int PageCount = PanelCount;
 
-// `panel` is 0 to 12. The page is named as its frame; its widgets show nothing yet.
-QWidget* MakePage(int panel, QWidget* parent);
+// The page is named as its frame; its widgets show nothing yet.
+QWidget* MakePage(PanelNumber panel, QWidget* parent);
 // What every page has room in, whichever is there already.
 QSize PageSize(const QWidget& window);
 

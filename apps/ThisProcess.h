@@ -1,0 +1,44 @@
+// This process on this computer: whether it may begin, and its ends. Each system has its own source file for it, which
+// the build picks. Made first in main, before anything that starts a thread.
+#pragma once
+
+#include <exception>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "platform/Ticket.h"
+
+namespace orvelle {
+
+class EventLoop;
+class Program;
+
+class ThisProcess {
+public:
+    ThisProcess();
+    ThisProcess(const ThisProcess&) = delete;
+    ThisProcess& operator=(const ThisProcess&) = delete;
+    ~ThisProcess();
+
+    // One sentence on what is missing for a window to be shown, "" if nothing is; and how Qt calls the window system.
+    std::string MissingDisplay() const;
+    std::string WindowSystem() const;
+
+    orvelle::Program& Program();
+    // Ends the program for an error that left a handler: one line on standard error.
+    [[noreturn]] void EndByError(const std::exception& error);
+    [[noreturn]] void EndByError(const std::string& reason);
+    // Run at each end of the program that can be attended, the last one first.
+    [[nodiscard]] Ticket AtEnd(std::function<void()> cleanUp);
+    // Calls `end` from the loop when the user or the system asks for the end. If that doesn't end the program, the
+    // request does.
+    [[nodiscard]] Ticket WhenEndIsAsked(EventLoop& loop, std::function<void()> end);
+
+private:
+    struct Parts;
+
+    std::unique_ptr<Parts> parts;
+};
+
+}  // namespace orvelle

@@ -1,0 +1,59 @@
+// This computer where it runs Linux with an X server.
+#include "apps/ThisComputer.h"
+
+#include <QStandardPaths>
+#include <QSysInfo>
+#include <optional>
+
+#include "adapters/linux/DesktopAutostart.h"
+#include "adapters/linux/DynamicTeamSpeak.h"
+#include "adapters/linux/LinuxProcesses.h"
+#include "adapters/linux/OwnFile.h"
+#include "adapters/linux/X11Keyboard.h"
+#include "adapters/looks/Text.h"
+#include "adapters/x11/Door.h"
+#include "apps/ThisProcess.h"
+#include "platform/EventLoop.h"
+
+namespace orvelle {
+
+namespace {
+
+// Whose entries the desktop starts with the session.
+std::string AutostartFolder() {
+    return FromQt(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)) + "/autostart";
+}
+
+}  // namespace
+
+struct ThisComputer::Parts {
+    explicit Parts(orvelle::Registry& keptRegistry) : Autostart(keptRegistry, AutostartFolder()) {}
+
+    linux::X11Keyboard Keyboard{"", linux::BesideOwnFile("orvelle-key-guard")};
+    linux::LinuxProcesses Processes{""};
+    linux::DesktopAutostart Autostart;
+    linux::DynamicTeamSpeak TeamSpeak;
+    std::optional<orvelle::Door> Door;
+    Ticket ReleaseAtEnd;
+    Ticket ProcessesReady;
+};
+
+ThisComputer::ThisComputer(ThisProcess& process, EventLoop& loop, orvelle::Registry& keptRegistry)
+    : parts(std::make_unique<Parts>(keptRegistry)) {
+    parts->ReleaseAtEnd = process.AtEnd([this] { parts->Keyboard.ReleaseAll(); });
+    parts->Processes.Told = [this](const std::string& sentence) { ProgramTold(sentence); };
+    parts->ProcessesReady =
+        loop.WhenReadable(parts->Processes.Descriptor(), [this] { parts->Processes.Serve(); });
+}
+
+ThisComputer::~ThisComputer() = default;
+
+orvelle::Keyboard& ThisComputer::Keyboard() { return parts->Keyboard; }
+bool ThisComputer::HoldsKey(int nativeScanCode) const { return parts->Keyboard.Holds(nativeScanCode); }
+orvelle::Processes& ThisComputer::Processes() { return parts->Processes; }
+orvelle::Registry& ThisComputer::Registry() { return parts->Autostart; }
+TeamSpeakRemote* ThisComputer::TeamSpeak() { return parts->TeamSpeak.IsThere() ? &parts->TeamSpeak : nullptr; }
+std::string ThisComputer::Name() const { return FromQt(QSysInfo::machineHostName()); }
+void ThisComputer::OpenDoor(const WindowTable& table, Control& control) { parts->Door.emplace(table, control); }
+
+}  // namespace orvelle
