@@ -115,8 +115,8 @@ std::string VoiceEngine::RoomStatus(Long room) {
 }
 
 bool VoiceEngine::Calibrate(Long microphone, Long headset, float& inputSquelch, float& outputSquelch) {
-    const auto dialogue = calibration.lock();
-    const auto squelch = dialogue ? (*dialogue)(microphone, headset) : std::nullopt;
+    std::optional<Squelch> squelch;
+    calibration(microphone, headset, squelch);
     if (!squelch) return false;
     inputSquelch = squelch->Input;
     outputSquelch = squelch->Output;
@@ -162,9 +162,10 @@ void VoiceEngine::Fail() {
 }
 
 Ticket VoiceEngine::AnswerCalibration(CalibrationDialogue dialogue) {
-    auto ticket = std::make_shared<CalibrationDialogue>(std::move(dialogue));
-    calibration = ticket;
-    return ticket;
+    return calibration.Begin([dialogue = std::move(dialogue)](Long microphone, Long headset,
+                                                              std::optional<Squelch>& squelch) {
+        squelch = dialogue(microphone, headset);
+    });
 }
 
 void VoiceEngine::FailInput(bool failed) {

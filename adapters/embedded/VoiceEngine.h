@@ -7,7 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <functional>
-#include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -100,7 +100,7 @@ private:
     double inputSquelchValue = FirstSquelch;
     double outputSquelchValue = FirstSquelch;
     bool inputFailed = false;
-    std::weak_ptr<CalibrationDialogue> calibration;
+    Attachment<Long, Long, std::optional<Squelch>&> calibration;
 };
 
 }  // namespace orvelle::embedded
