@@ -21,7 +21,7 @@ auto* At(Elements& elements, Long index) {
 
 }  // namespace
 
-VoiceEngine::VoiceEngine(EventLoop& loop, const AudioDevices& audioDevices)
+VoiceEngine::VoiceEngine(EventLoop& loop, const orvelle::AudioDevices& audioDevices)
     : changes(loop), delivery(loop), devices(audioDevices) {}
 
 bool VoiceEngine::Running() { return running; }

@@ -51,7 +51,7 @@ MixersBox::Column MixersBox::NewColumn(MixerSide& mixer, const QString& name) {
             {NewPlug(mixer, SoundDirection::Input, name + "Input"), NewPlug(mixer, SoundDirection::Output, name + "Output")},
             {NewLine(mixer, MixerLine::Microphone, name + "Microphone"),
              NewLine(mixer, MixerLine::Master, name + "Master"), NewLine(mixer, MixerLine::Wave, name + "Wave")},
-            nullptr};
+            {}};
 }
 
 MixersBox::Line MixersBox::NewLine(MixerSide& mixer, MixerLine line, const QString& name) {

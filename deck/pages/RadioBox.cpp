@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <utility>
 
+#include "platform/RadioSelection.h"
 #include "platform/sides/NetworkSide.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/TextField.h"

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 
+#include "platform/Tessaly.h"
 #include "platform/sides/NetworkSide.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/TextField.h"
