@@ -1,5 +1,5 @@
-// The panel on this computer: the user's settings, the computer, the outside, the desktop, the panel and the flight deck
-// beside it, each made once and joined. A program makes one, with its application made before it, and opens it. An
+// The panel on this computer: the user's settings, the computer, the outside, the desktop, the panel and the flight
+// deck beside it, each made once and joined. A program makes one, with its application made before it, and opens it. An
 // object stands below those that it uses, so that it goes before them.
 #pragma once
 

@@ -1,5 +1,5 @@
-// What this computer is to the panel: its keyboard, its programs, its registry and its TeamSpeak. Each system has its own
-// source file for it, which the build picks.
+// What this computer is to the panel: its keyboard, its programs, its registry and its TeamSpeak. Each system has its
+// own source file for it, which the build picks.
 #pragma once
 
 #include <memory>

@@ -7,8 +7,7 @@
 namespace orvelle {
 
 std::string UserSettings::File() {
-    return FromQt(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) +
-           "/OrvelleCP/settings.sqlite";
+    return FromQt(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) + "/OrvelleCP/settings.sqlite";
 }
 
 }  // namespace orvelle

@@ -7,12 +7,12 @@
 #include <QTabWidget>
 #include <algorithm>
 
-#include "platform/sides/SimulatorSide.h"
 #include "deck/fields/Section.h"
 #include "deck/pages/FaultsPage.h"
 #include "deck/pages/NetworkPage.h"
 #include "deck/pages/SimulatorPage.h"
 #include "deck/pages/VoicePage.h"
+#include "platform/sides/SimulatorSide.h"
 
 namespace orvelle {
 

@@ -30,8 +30,8 @@ class FrameworkLine {
 public:
     virtual ~FrameworkLine() = default;
 
-    // Goes to a server: a host name, an address, AutomaticServer or OwnServer. It keeps trying until Close. A line that is
-    // open goes over to the new server, which it may be at already. Close ends all records of this panel.
+    // Goes to a server: a host name, an address, AutomaticServer or OwnServer. It keeps trying until Close. A line that
+    // is open goes over to the new server, which it may be at already. Close ends all records of this panel.
     virtual void Open(const std::string& server) = 0;
     virtual void Close() = 0;
 

@@ -23,8 +23,8 @@ struct SessionSetting {
     Long Handle = 0;  // of each session another one, from 1; 0: no session
     Long Status = 0;  // ConnectedToMultiplayer of Tessaly.h, or another
     std::string Callsign;
-    std::string Receive;   // of RadioSelection.h
-    std::string Transmit;  // the same
+    std::string Receive;                   // of RadioSelection.h
+    std::string Transmit;                  // the same
     std::array<std::string, 2> Frequency;  // of COM1 and COM2, ready to show
     std::array<RadioVoiceSetting, 2> Voice;
     bool operator==(const SessionSetting&) const = default;

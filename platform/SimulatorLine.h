@@ -1,6 +1,6 @@
 // One medium of the simulator link: a way from the panel to the simulator's computer. The near end of the link opens
-// one line at a time, says to it what the panel wants said, and hears its events; nobody else does. All events come from
-// the loop, never from inside a call, and none between Close and the next Open.
+// one line at a time, says to it what the panel wants said, and hears its events; nobody else does. All events come
+// from the loop, never from inside a call, and none between Close and the next Open.
 #pragma once
 
 #include <string>
@@ -22,8 +22,8 @@ class SimulatorLine {
 public:
     virtual ~SimulatorLine() = default;
 
-    // Goes to a server: a host name, an address or AutomaticServer. It keeps trying until Close. A line that is open goes
-    // over to the new server, which it may be at already.
+    // Goes to a server: a host name, an address or AutomaticServer. It keeps trying until Close. A line that is open
+    // goes over to the new server, which it may be at already.
     virtual void Open(const std::string& server) = 0;
     virtual void Close() = 0;
     // What the panel says; lost where the line is not up.

@@ -85,9 +85,7 @@ NetworkLink::Entry* NetworkLink::Find(Long id) {
     return found != records.end() && !found->second.Dropped ? &found->second : nullptr;
 }
 
-NetworkLink::Entry* NetworkLink::Reachable(Long id) {
-    return isUp && link == LinkState::Up ? Find(id) : nullptr;
-}
+NetworkLink::Entry* NetworkLink::Reachable(Long id) { return isUp && link == LinkState::Up ? Find(id) : nullptr; }
 
 void NetworkLink::Enter(InterfaceRecord& record, const RecordParameters& written, ParameterWriter writer) {
     for (const auto& [index, number] : written.Numbers) record.Parameters[index] = {number, ++writes, writer};

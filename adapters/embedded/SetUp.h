@@ -3,7 +3,7 @@
 // as lines of its links, and hands their far sides to whoever plays them. It must outlive all of these.
 #pragma once
 
-#include "adapters/embedded/AudioDevices.h"
+#include "adapters/embedded/SoundDevices.h"
 #include "adapters/embedded/MediaPlayers.h"
 #include "adapters/embedded/Mixer.h"
 #include "adapters/embedded/NetworkLink.h"
@@ -20,7 +20,7 @@ public:
 
     embedded::SimulatorLink SimulatorLink;
     embedded::NetworkLink NetworkLink;
-    embedded::AudioDevices Devices;
+    SoundDevices Devices;
     VoiceEngine VVL;
     Mixer VolumeControl;
     Mixer VolumeControlHP;

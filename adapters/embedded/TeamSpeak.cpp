@@ -45,8 +45,7 @@ Integer TeamSpeak::tsrGetServerInfo(TS_SERVER_INFO& info) {
     return 0;
 }
 
-Integer TeamSpeak::tsrGetChannelInfoByName(const std::string& name, TS_CHANNEL_INFO& found, TS_PLAYER_INFO&,
-                                                   Long&) {
+Integer TeamSpeak::tsrGetChannelInfoByName(const std::string& name, TS_CHANNEL_INFO& found, TS_PLAYER_INFO&, Long&) {
     const Integer result = Answer(results.ChannelInfo);
     if (result != 0) return result;
     const auto entry = channels.find(name);

@@ -1,5 +1,5 @@
-// A stand-in for the remote control of the TeamSpeak program. Until its own side starts the program every call fails with
-// -1; then it connects, tells its server and switches channels, or gives the result that was put in. Answers at
+// A stand-in for the remote control of the TeamSpeak program. Until its own side starts the program every call fails
+// with -1; then it connects, tells its server and switches channels, or gives the result that was put in. Answers at
 // once; main thread only.
 #pragma once
 

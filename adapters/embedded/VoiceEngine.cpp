@@ -21,7 +21,7 @@ auto* At(Elements& elements, Long index) {
 
 }  // namespace
 
-VoiceEngine::VoiceEngine(EventLoop& loop, const orvelle::AudioDevices& audioDevices)
+VoiceEngine::VoiceEngine(EventLoop& loop, const AudioDevices& audioDevices)
     : changes(loop), delivery(loop), devices(audioDevices) {}
 
 bool VoiceEngine::Running() { return running; }
@@ -60,9 +60,7 @@ void VoiceEngine::InputDevice(Long device) {
 void VoiceEngine::OutputDevice(Long output, Long device) { SetOutput(output, &VoiceOutput::Device, device); }
 void VoiceEngine::OutputVolume(Long output, Long value) { SetOutput(output, &VoiceOutput::Volume, value); }
 
-void VoiceEngine::SignalVolume(Long output, Long value) {
-    SetOutput(output, &VoiceOutput::SignalVolume, value);
-}
+void VoiceEngine::SignalVolume(Long output, Long value) { SetOutput(output, &VoiceOutput::SignalVolume, value); }
 
 void VoiceEngine::OutputFilter(Long output, bool on) { SetOutput(output, &VoiceOutput::Filter, on); }
 
@@ -162,10 +160,10 @@ void VoiceEngine::Fail() {
 }
 
 Ticket VoiceEngine::AnswerCalibration(CalibrationDialogue dialogue) {
-    return calibration.Begin([dialogue = std::move(dialogue)](Long microphone, Long headset,
-                                                              std::optional<Squelch>& squelch) {
-        squelch = dialogue(microphone, headset);
-    });
+    return calibration.Begin(
+        [dialogue = std::move(dialogue)](Long microphone, Long headset, std::optional<Squelch>& squelch) {
+            squelch = dialogue(microphone, headset);
+        });
 }
 
 void VoiceEngine::FailInput(bool failed) {
@@ -196,7 +194,8 @@ void VoiceEngine::StartDone() {
 // A join that the far side refuses only after it was accepted has failed.
 void VoiceEngine::JoinDone(Long room) {
     const bool joined = Room(room).Joins == JoinOutcome::Succeeds;
-    SetPresence(room, joined ? RoomPresence::In : RoomPresence::Out, joined ? "In " + Room(room).Address : "Not joined");
+    SetPresence(room, joined ? RoomPresence::In : RoomPresence::Out,
+                joined ? "In " + Room(room).Address : "Not joined");
     FollowAudio();
     if (joined)
         VVL_RoomJoinSucceed(room);
@@ -236,7 +235,8 @@ void VoiceEngine::ShutDown() {
 }
 
 void VoiceEngine::FollowAudio() {
-    const bool wanted = std::ranges::any_of(rooms, [](const VoiceRoom& room) { return room.Presence == RoomPresence::In; });
+    const bool wanted =
+        std::ranges::any_of(rooms, [](const VoiceRoom& room) { return room.Presence == RoomPresence::In; });
     if (audioRuns == wanted) return;
     audioRuns = wanted;
     delivery.Raise([this, wanted] {

@@ -22,7 +22,7 @@ namespace orvelle::embedded {
 class VoiceEngine : public VoiceEngineControl, public VoiceEngineSide {
 public:
     // The devices outlive it.
-    VoiceEngine(EventLoop& loop, const orvelle::AudioDevices& audioDevices);
+    VoiceEngine(EventLoop& loop, const AudioDevices& audioDevices);
 
     bool Running() override;
     bool Start(Long mode) override;
@@ -86,7 +86,7 @@ private:
 
     Changes changes;
     Delivery delivery;
-    const orvelle::AudioDevices& devices;
+    const AudioDevices& devices;
     bool starting = false;
     bool running = false;
     bool audioRuns = false;

@@ -30,8 +30,8 @@ public:
 
 private:
     static bool IsSame(const std::string& one, const std::string& other) {
-        return std::ranges::equal(
-            one, other, [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); });
+        return std::ranges::equal(one, other,
+                                  [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); });
     }
 
     Line* others;

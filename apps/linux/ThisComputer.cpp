@@ -42,8 +42,7 @@ ThisComputer::ThisComputer(ThisProcess& process, EventLoop& loop, orvelle::Regis
     : parts(std::make_unique<Parts>(keptRegistry)) {
     parts->ReleaseAtEnd = process.AtEnd([this] { parts->Keyboard.ReleaseAll(); });
     parts->Processes.Told = [this](const std::string& sentence) { ProgramTold(sentence); };
-    parts->ProcessesReady =
-        loop.WhenReadable(parts->Processes.Descriptor(), [this] { parts->Processes.Serve(); });
+    parts->ProcessesReady = loop.WhenReadable(parts->Processes.Descriptor(), [this] { parts->Processes.Serve(); });
 }
 
 ThisComputer::~ThisComputer() = default;

@@ -1,7 +1,6 @@
 // The light that tells whether the voice engine runs, is on its way there, or stands still.
 #pragma once
 
-
 #include "deck/fields/SignalLight.h"
 #include "platform/Ticket.h"
 

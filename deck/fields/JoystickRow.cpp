@@ -3,8 +3,8 @@
 #include <QHBoxLayout>
 #include <QToolButton>
 
-#include "platform/sides/SimulatorSide.h"
 #include "deck/fields/Section.h"
+#include "platform/sides/SimulatorSide.h"
 
 namespace orvelle::deck {
 

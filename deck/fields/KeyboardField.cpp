@@ -6,10 +6,10 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "platform/sides/SimulatorSide.h"
 #include "adapters/x11/KeyRepeat.h"
 #include "deck/fields/KeyNames.h"
 #include "deck/fields/Section.h"
+#include "platform/sides/SimulatorSide.h"
 
 namespace orvelle::deck {
 
@@ -31,10 +31,7 @@ bool LeavesField(const QKeyEvent& event) {
 }  // namespace
 
 KeyboardField::KeyboardField(SimulatorSide& simulator)
-    : velmarc(simulator),
-      sequence(new QLabel),
-      hint(new QLabel),
-      watch(simulator.Observe([this] { ShowState(); })) {
+    : velmarc(simulator), sequence(new QLabel), hint(new QLabel), watch(simulator.Observe([this] { ShowState(); })) {
     TellRepeatsAsPresses();
     setObjectName("KeyboardField");
     setAccessibleName("Keyboard of the simulator's computer");

@@ -1,8 +1,8 @@
 #include "deck/pages/ComputerBox.h"
 
-#include "platform/sides/SimulatorSide.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/TextField.h"
+#include "platform/sides/SimulatorSide.h"
 
 namespace orvelle::deck {
 

@@ -1,7 +1,6 @@
 // What the panel is told of the simulator's computer.
 #pragma once
 
-
 #include "deck/fields/Section.h"
 #include "platform/Ticket.h"
 

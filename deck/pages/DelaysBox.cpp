@@ -2,10 +2,10 @@
 
 #include <QSpinBox>
 
+#include "deck/fields/Fields.h"
 #include "platform/sides/FarSides.h"
 #include "platform/sides/LinkSide.h"
 #include "platform/sides/MixerSide.h"
-#include "deck/fields/Fields.h"
 
 namespace orvelle::deck {
 
@@ -26,8 +26,7 @@ DelaysBox::DelaysBox(const FarSides& sides) : Section("Delays", "Delays", 2) {
     addRow("Network", "NetworkDelay", "From the network to the panel", sides.NetworkLink);
     addRow("Headset mixer", "HeadsetMixerDelay", "From the mixer of microphone and headset to the panel",
            sides.HeadsetMixer);
-    addRow("Speakers mixer", "SpeakersMixerDelay", "From the mixer of the speakers to the panel",
-           sides.SpeakersMixer);
+    addRow("Speakers mixer", "SpeakersMixerDelay", "From the mixer of the speakers to the panel", sides.SpeakersMixer);
 }
 
 }  // namespace orvelle::deck

@@ -2,11 +2,11 @@
 
 #include <QCheckBox>
 
-#include "platform/AudioDevices.h"
-#include "platform/sides/VoiceEngineSide.h"
 #include "deck/fields/DeviceNames.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/Readout.h"
+#include "platform/AudioDevices.h"
+#include "platform/sides/VoiceEngineSide.h"
 
 namespace orvelle::deck {
 

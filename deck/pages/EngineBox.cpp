@@ -4,10 +4,10 @@
 #include <QPushButton>
 #include <QSpinBox>
 
-#include "platform/sides/VoiceEngineSide.h"
 #include "deck/fields/EngineLight.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/Readout.h"
+#include "platform/sides/VoiceEngineSide.h"
 
 namespace orvelle::deck {
 

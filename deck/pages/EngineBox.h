@@ -1,7 +1,6 @@
 // The voice engine as a whole: whether it runs, what it was told, and how its starts go.
 #pragma once
 
-
 #include "deck/fields/Section.h"
 #include "platform/Ticket.h"
 

@@ -3,12 +3,12 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "platform/sides/FarSides.h"
 #include "deck/pages/ComputerBox.h"
 #include "deck/pages/DelaysBox.h"
 #include "deck/pages/MixersBox.h"
 #include "deck/pages/RefusalsBox.h"
 #include "deck/pages/TeamSpeakBox.h"
+#include "platform/sides/FarSides.h"
 
 namespace orvelle::deck {
 
@@ -34,11 +34,11 @@ FaultsPage::FaultsPage(const FarSides& sides) {
     row->addLayout(ColumnOf({new DelaysBox(sides), new RefusalsBox(sides),
                              sides.Simulator ? new ComputerBox(*sides.Simulator) : nullptr}),
                    1);
-    row->addLayout(ColumnOf({sides.TeamSpeak ? new TeamSpeakBox(*sides.TeamSpeak) : nullptr,
-                             sides.HeadsetMixer && sides.SpeakersMixer
-                                 ? new MixersBox(*sides.HeadsetMixer, *sides.SpeakersMixer)
-                                 : nullptr}),
-                   1);
+    row->addLayout(
+        ColumnOf({sides.TeamSpeak ? new TeamSpeakBox(*sides.TeamSpeak) : nullptr,
+                  sides.HeadsetMixer&& sides.SpeakersMixer ? new MixersBox(*sides.HeadsetMixer, *sides.SpeakersMixer)
+                                                           : nullptr}),
+        1);
 }
 
 }  // namespace orvelle::deck

@@ -1,9 +1,9 @@
 #include "deck/pages/InputsBox.h"
 
-#include "platform/sides/VoiceEngineSide.h"
 #include "deck/fields/EngineLight.h"
 #include "deck/fields/JoystickRow.h"
 #include "deck/fields/KeyboardField.h"
+#include "platform/sides/VoiceEngineSide.h"
 
 namespace orvelle::deck {
 

@@ -2,9 +2,9 @@
 // of servers seen on the network.
 #pragma once
 
-#include "platform/sides/LinkSide.h"
 #include "deck/fields/Section.h"
 #include "platform/Ticket.h"
+#include "platform/sides/LinkSide.h"
 
 class QCheckBox;
 class QLineEdit;

@@ -48,7 +48,8 @@ MixersBox::MixersBox(MixerSide& headset, MixerSide& speakers)
 MixersBox::Column MixersBox::NewColumn(MixerSide& mixer, const QString& name) {
     return {&mixer,
             new SignalLight(name + "Mixer"),
-            {NewPlug(mixer, SoundDirection::Input, name + "Input"), NewPlug(mixer, SoundDirection::Output, name + "Output")},
+            {NewPlug(mixer, SoundDirection::Input, name + "Input"),
+             NewPlug(mixer, SoundDirection::Output, name + "Output")},
             {NewLine(mixer, MixerLine::Microphone, name + "Microphone"),
              NewLine(mixer, MixerLine::Master, name + "Master"), NewLine(mixer, MixerLine::Wave, name + "Wave")},
             {}};

@@ -4,9 +4,9 @@
 
 #include <array>
 
-#include "platform/sides/MixerSide.h"
 #include "deck/fields/Section.h"
 #include "platform/Ticket.h"
+#include "platform/sides/MixerSide.h"
 
 class QCheckBox;
 class QSpinBox;

@@ -2,11 +2,11 @@
 
 #include <QVBoxLayout>
 
-#include "platform/sides/FarSides.h"
 #include "deck/pages/LinkBox.h"
 #include "deck/pages/RadioBox.h"
 #include "deck/pages/RecordsBox.h"
 #include "deck/pages/SessionBox.h"
+#include "platform/sides/FarSides.h"
 
 namespace orvelle::deck {
 

@@ -6,8 +6,8 @@
 
 #include "deck/fields/LateWrites.h"
 #include "deck/fields/Section.h"
-#include "platform/Types.h"
 #include "platform/Ticket.h"
+#include "platform/Types.h"
 
 class QComboBox;
 class QTableWidget;

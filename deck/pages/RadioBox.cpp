@@ -5,10 +5,10 @@
 #include <QLabel>
 #include <utility>
 
-#include "platform/RadioSelection.h"
-#include "platform/sides/NetworkSide.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/TextField.h"
+#include "platform/RadioSelection.h"
+#include "platform/sides/NetworkSide.h"
 
 namespace orvelle::deck {
 

@@ -7,9 +7,9 @@
 #include <QPushButton>
 #include <algorithm>
 
-#include "platform/sides/NetworkSide.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/Tables.h"
+#include "platform/sides/NetworkSide.h"
 
 namespace orvelle::deck {
 

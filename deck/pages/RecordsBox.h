@@ -6,8 +6,8 @@
 #include <string>
 
 #include "deck/fields/Section.h"
-#include "platform/Types.h"
 #include "platform/Ticket.h"
+#include "platform/Types.h"
 
 class QCheckBox;
 class QLineEdit;

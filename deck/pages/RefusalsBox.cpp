@@ -4,11 +4,11 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "deck/fields/Fields.h"
 #include "platform/Notices.h"
 #include "platform/VoiceRoles.h"
 #include "platform/sides/FarSides.h"
 #include "platform/sides/NetworkSide.h"
-#include "deck/fields/Fields.h"
 
 namespace orvelle::deck {
 
@@ -33,8 +33,7 @@ QLineEdit* NewPlainEdit(const QString& name, const QString& text, const QString&
 
 }  // namespace
 
-RefusalsBox::RefusalsBox(const FarSides& sides)
-    : Section("Refusals", "Refusals and notices", 3) {
+RefusalsBox::RefusalsBox(const FarSides& sides) : Section("Refusals", "Refusals and notices", 3) {
     if (sides.Network) AddNetwork(*sides.Network);
     if (sides.Notices) AddNotices(*sides.Notices);
 }

@@ -4,11 +4,11 @@
 #include <QComboBox>
 #include <QPushButton>
 
-#include "platform/sides/VoiceEngineSide.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/Readout.h"
 #include "deck/fields/SignalLight.h"
 #include "deck/fields/TextField.h"
+#include "platform/sides/VoiceEngineSide.h"
 
 namespace orvelle::deck {
 

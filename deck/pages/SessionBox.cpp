@@ -2,10 +2,10 @@
 
 #include <QCheckBox>
 
-#include "platform/Tessaly.h"
-#include "platform/sides/NetworkSide.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/TextField.h"
+#include "platform/Tessaly.h"
+#include "platform/sides/NetworkSide.h"
 
 namespace orvelle::deck {
 

@@ -1,7 +1,6 @@
 // The user's session on the network: whether there is one, its status and the callsign.
 #pragma once
 
-
 #include "deck/fields/Section.h"
 #include "platform/Ticket.h"
 

@@ -4,12 +4,12 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "platform/sides/FarSides.h"
-#include "platform/sides/SimulatorSide.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/TimedLog.h"
 #include "deck/pages/InputsBox.h"
 #include "deck/pages/LinkBox.h"
+#include "platform/sides/FarSides.h"
+#include "platform/sides/SimulatorSide.h"
 
 namespace orvelle::deck {
 
@@ -24,9 +24,8 @@ SimulatorPage::SimulatorPage(const FarSides& sides)
     setObjectName("SimulatorPage");
     active->setFocusPolicy(Qt::TabFocus);
 
-    Section* link = sides.SimulatorLink
-                        ? new LinkBox("Simulator", "Simulator", "&Simulator link", *sides.SimulatorLink)
-                        : new Section("Simulator", "Simulator", 3);
+    Section* link = sides.SimulatorLink ? new LinkBox("Simulator", "Simulator", "&Simulator link", *sides.SimulatorLink)
+                                        : new Section("Simulator", "Simulator", 3);
     link->AddRow("Application", {active});
 
     auto* soundSection = new Section("SoundSection", "Sounds asked for");

@@ -5,10 +5,10 @@
 #include <QSpinBox>
 #include <limits>
 
-#include "platform/sides/TeamSpeakSide.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/Readout.h"
 #include "deck/fields/TextField.h"
+#include "platform/sides/TeamSpeakSide.h"
 
 namespace orvelle::deck {
 

@@ -1,7 +1,6 @@
 // The TeamSpeak program that the panel controls: whether it runs, where it is, and the results in place of success.
 #pragma once
 
-
 #include "deck/fields/Section.h"
 #include "platform/Ticket.h"
 

@@ -4,13 +4,13 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "platform/sides/FarSides.h"
-#include "platform/sides/VoiceEngineSide.h"
 #include "deck/pages/CalibrationDialog.h"
 #include "deck/pages/DevicesBox.h"
 #include "deck/pages/EngineBox.h"
 #include "deck/pages/ParametersBox.h"
 #include "deck/pages/RoomsBox.h"
+#include "platform/sides/FarSides.h"
+#include "platform/sides/VoiceEngineSide.h"
 
 namespace orvelle::deck {
 

@@ -57,7 +57,8 @@ public:
 
     // The records. Another computer makes one and ends it; another party announces a change or writes, which reaches a
     // record while the link stands.
-    virtual Long Claim(const std::string& owner, const std::string& role, const std::string& type = VoiceRecordType) = 0;
+    virtual Long Claim(const std::string& owner, const std::string& role,
+                       const std::string& type = VoiceRecordType) = 0;
     virtual bool DropClaim(Long id) = 0;  // False for a record of the panel or none
     virtual bool AnnounceChange(Long id) = 0;
     virtual bool WriteParameter(Long id, Long index, Long value) = 0;

@@ -21,8 +21,8 @@ public:
 
     // Whether there is a link to be pressed into. While not, nothing is held.
     virtual bool TakesInput() const = 0;
-    // Keys by the names that the panel shows ("Ctrl", "A", "F8"). A key that is held already repeats. False, and nothing
-    // is held, while no input is taken.
+    // Keys by the names that the panel shows ("Ctrl", "A", "F8"). A key that is held already repeats. False, and
+    // nothing is held, while no input is taken.
     virtual bool PressKey(const std::string& key) = 0;
     virtual void RepeatKey(const std::string& key) = 0;  // nothing unless it is held
     virtual void ReleaseKey(const std::string& key) = 0;

@@ -16,11 +16,17 @@ constexpr int Rounds = 20;
 
 }  // namespace
 
-DeckRig::DeckRig() : setUp(loop, folder.filePath("store").toStdString()), window(setUp) {
+DeckRig::DeckRig() {
     WriteDownEvents();
     window.OpenAt({0, 0});
     window.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+}
+
+FarSides DeckRig::Sides() {
+    FarSides sides = setUp.Sides();
+    sides.Notices = &notices;
+    return sides;
 }
 
 void DeckRig::Settle() {
@@ -37,10 +43,10 @@ void DeckRig::CloseByHand() {
 }
 
 void DeckRig::ConnectAll() {
-    setUp.Tessaly.LinkStart();
-    setUp.Velmarc.SetLink(LinkState::Up);
-    setUp.Tessaly.SetLink(LinkState::Up);
-    setUp.Tessaly.StartSession();
+    tessaly.LinkStart();
+    setUp.SimulatorLink.SetLink(LinkState::Up);
+    setUp.NetworkLink.SetLink(LinkState::Up);
+    setUp.NetworkLink.StartSession();
     Settle();
     events.clear();
 }
@@ -94,7 +100,6 @@ void DeckRig::WriteDownEvents() {
             events.push_back(name + " " + input);
         };
     };
-    auto& velmarc = setUp.Velmarc;
     velmarc.Connected = note("simulator connected");
     velmarc.Disconnected = note("simulator disconnected");
     velmarc.ServerFound = [this](const std::string& name) { events.push_back("simulator found " + name); };
@@ -106,7 +111,6 @@ void DeckRig::WriteDownEvents() {
     velmarc.FSJoyDown = noteInput("button down");
     velmarc.FSJoyUp = noteInput("button up");
 
-    auto& tessaly = setUp.Tessaly;
     tessaly.Connected = note("network connected");
     tessaly.Disconnected = note("network disconnected");
     tessaly.ServerFound = [this](const std::string& name) { events.push_back("network found " + name); };
@@ -139,7 +143,7 @@ void DeckRig::WriteDownEvents() {
     setUp.VolumeControl.OutputOpened = note("output opened");
     setUp.VolumeControl.OutputClosed = note("output closed");
     setUp.VolumeControl.MasterVolumeChanged = note("master moved");
-    setUp.Notice = [this](const std::string& sentence) { events.push_back("notice " + sentence); };
+    notices.Told = [this](const std::string& sentence) { events.push_back("notice " + sentence); };
 }
 
 }  // namespace orvelle

@@ -4,14 +4,17 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
 #include <QTest>
 #include <string>
 #include <vector>
 
 #include "adapters/embedded/SetUp.h"
+#include "adapters/ends/FrameworkEnd.h"
+#include "adapters/ends/SimulatorEnd.h"
 #include "adapters/qt/services/QtEventLoop.h"
+#include "adapters/shared/NoticeBoard.h"
 #include "deck/DeckWindow.h"
+#include "tests/shared/MemoryValues.h"
 
 namespace orvelle {
 
@@ -39,14 +42,20 @@ protected:
     void TurnTo(QWidget& widget);
     QString TextOf(const char* name);
 
-    QTemporaryDir folder;
     qt::QtEventLoop loop;
-    EmbeddedSetUp setUp;
-    DeckWindow window;
+    MemoryValues values;
+    NoticeBoard notices{loop};
+    embedded::SetUp setUp{loop};
+    const ends::LineTable<SimulatorLine> simulatorLines{setUp.SimulatorLink};
+    const ends::LineTable<FrameworkLine> frameworkLines{setUp.NetworkLink};
+    ends::SimulatorEnd velmarc{loop, values, simulatorLines, {}};
+    ends::FrameworkEnd tessaly{loop, values, frameworkLines};
+    DeckWindow window{Sides()};
     std::vector<std::string> events;  // raised since they were read last
     std::vector<std::string> TakeEvents();
 
 private:
+    FarSides Sides();
     void WriteDownEvents();
 };
 

@@ -30,8 +30,8 @@ TEST_F(DeckFaults, EachSideIsDelayed) {
     TypeNumber("JoinDelay", 400);
     TypeNumber("HeadsetMixerDelay", 500);
     TypeNumber("SpeakersMixerDelay", 600);
-    EXPECT_EQ(setUp.Velmarc.Delay(), 100);
-    EXPECT_EQ(setUp.Tessaly.Delay(), 200);
+    EXPECT_EQ(setUp.SimulatorLink.Delay(), 100);
+    EXPECT_EQ(setUp.NetworkLink.Delay(), 200);
     EXPECT_EQ(setUp.VVL.StartDelay(), 300);
     EXPECT_EQ(setUp.VVL.JoinDelay(), 400);
     EXPECT_EQ(setUp.VolumeControl.Delay(), 500);
@@ -41,20 +41,20 @@ TEST_F(DeckFaults, EachSideIsDelayed) {
 TEST_F(DeckFaults, TheNetworkRefuses) {
     ConnectAll();
     Click("RefuseSession");
-    EXPECT_FALSE(setUp.Tessaly.OpenSession(0));
+    EXPECT_FALSE(tessaly.OpenSession(0));
     Click("RefuseSession");
-    EXPECT_TRUE(setUp.Tessaly.OpenSession(0));
-    setUp.Tessaly.CloseSession();
+    EXPECT_TRUE(tessaly.OpenSession(0));
+    tessaly.CloseSession();
 
     Click("RefuseCreate");
-    EXPECT_EQ(setUp.Tessaly.CreateInterface("VOICE", "VVL"), 0);
+    EXPECT_EQ(tessaly.CreateInterface("VOICE", "VVL"), 0);
     Click("RefuseCreate");
-    const Long id = setUp.Tessaly.CreateInterface("VOICE", "VVL");
+    const Long id = tessaly.CreateInterface("VOICE", "VVL");
     EXPECT_NE(id, 0);
-    setUp.Tessaly.CloseInterface();
+    tessaly.CloseInterface();
 
     Click("RefuseOpen");
-    EXPECT_FALSE(setUp.Tessaly.OpenInterface(id));
+    EXPECT_FALSE(tessaly.OpenInterface(id));
 }
 
 TEST_F(DeckFaults, AnotherComputerMakesAnOddRecord) {
@@ -63,8 +63,8 @@ TEST_F(DeckFaults, AnotherComputerMakesAnOddRecord) {
     Type("OddRole", "Station");
     Click("OddClaim");
     EXPECT_THAT(TakeEvents(), ElementsAre("record appeared 1"));
-    EXPECT_EQ(setUp.Tessaly.Records().at(1).Type, "WEATHER");
-    EXPECT_EQ(setUp.Tessaly.Records().at(1).Role, "Station");
+    EXPECT_EQ(setUp.NetworkLink.Records().at(1).Type, "WEATHER");
+    EXPECT_EQ(setUp.NetworkLink.Records().at(1).Role, "Station");
 }
 
 TEST_F(DeckFaults, TheUserIsToldANotice) {
@@ -78,9 +78,9 @@ TEST_F(DeckFaults, TheSimulatorsComputerHasOtherNames) {
     Type("ComputerName", "SIMPC");
     Type("DesktopName", "Left seat");
     ConnectAll();
-    EXPECT_EQ(setUp.Velmarc.IPAddress(), "10.0.0.7");
-    EXPECT_EQ(setUp.Velmarc.ComputerName(), "SIMPC");
-    EXPECT_EQ(setUp.Velmarc.DesktopName(), "Left seat");
+    EXPECT_EQ(velmarc.IPAddress(), "10.0.0.7");
+    EXPECT_EQ(velmarc.ComputerName(), "SIMPC");
+    EXPECT_EQ(velmarc.DesktopName(), "Left seat");
 }
 
 TEST_F(DeckFaults, TeamSpeakRunsAndFailsOnDemand) {

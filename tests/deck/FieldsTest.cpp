@@ -29,7 +29,7 @@ TEST_F(DeckFields, TheWheelLeavesAChoiceAloneUntilItHasTheFocus) {
     EXPECT_FALSE(box.hasFocus());
     box.setFocus();
     TurnWheelOver(box);
-    EXPECT_EQ(setUp.Tessaly.Session().Voice[0].Software, 1);
+    EXPECT_EQ(setUp.NetworkLink.Session().Voice[0].Software, 1);
 }
 
 TEST_F(DeckFields, TheWheelLeavesANumberAloneUntilItHasTheFocus) {
@@ -57,7 +57,7 @@ TEST_F(DeckFields, EscapeTakesBackATextThatIsNotAppliedYet) {
     QTest::keyClick(&edit, Qt::Key_Return);
     Settle();
     EXPECT_THAT(TakeEvents(), IsEmpty());
-    EXPECT_EQ(setUp.Tessaly.Session().Callsign, "ORV123");
+    EXPECT_EQ(setUp.NetworkLink.Session().Callsign, "ORV123");
 }
 
 TEST_F(DeckFields, EscapeGoesBackToWhatHoldsByNow) {
@@ -65,7 +65,7 @@ TEST_F(DeckFields, EscapeGoesBackToWhatHoldsByNow) {
     auto& edit = At<QLineEdit>("Callsign");
     edit.setFocus();
     QTest::keyClicks(&edit, "mine");
-    setUp.Tessaly.SetCallsign("THEIRS");
+    setUp.NetworkLink.SetCallsign("THEIRS");
     Settle();
     EXPECT_EQ(edit.text(), "mine");
     QTest::keyClick(&edit, Qt::Key_Escape);

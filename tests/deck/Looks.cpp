@@ -31,22 +31,22 @@ protected:
 
 void DeckLooks::PlayFlight() {
     ConnectAll();
-    auto& tessaly = setUp.Tessaly;
-    setUp.Velmarc.SeeServer("127.0.0.1");
-    setUp.Velmarc.SeeServer("TOWERPC");
-    tessaly.SetStatus(1);
-    tessaly.SetCallsign("ORV123");
-    tessaly.SetFrequency(0, "122.800");
-    tessaly.SetFrequency(1, "121.500");
-    tessaly.SetVoice(0, {1, "rw.example.net", "Innsbruck Tower", "pilot", "secret"});
-    tessaly.SetVoice(1, {3, "voice.example.net", "lowi_app", "1234567", "secret"});
-    tessaly.SetReceive("B");
-    tessaly.SetTransmit("1");
+    auto& network = setUp.NetworkLink;
+    setUp.SimulatorLink.SeeServer("127.0.0.1");
+    setUp.SimulatorLink.SeeServer("TOWERPC");
+    network.SetStatus(1);
+    network.SetCallsign("ORV123");
+    network.SetFrequency(0, "122.800");
+    network.SetFrequency(1, "121.500");
+    network.SetVoice(0, {1, "rw.example.net", "Innsbruck Tower", "pilot", "secret"});
+    network.SetVoice(1, {3, "voice.example.net", "lowi_app", "1234567", "secret"});
+    network.SetReceive("B");
+    network.SetTransmit("1");
     for (const char* role : {"RWCom1", "VVL"}) {
         tessaly.CreateInterface("VOICE", role);
         tessaly.CloseInterface();
     }
-    tessaly.Claim("COCKPIT2", "TSCom1");
+    network.Claim("COCKPIT2", "TSCom1", VoiceRecordType);
     tessaly.OpenInterface(2);
     for (Long index = 0; index < 28; ++index) tessaly.SetParam(index, index < 2 ? 3 + 4 * index : 0);
     tessaly.SetParam(8, 2);
@@ -63,12 +63,12 @@ void DeckLooks::PlayFlight() {
     setUp.VVL.SetRoomAudio(1, true);
     setUp.VVL.SetJoinDelay(60'000);
     setUp.VVL.RoomJoin(0, "ORV123 (pilot)", "voice.example.net/tower");
-    setUp.Velmarc.PlaySound("Tessaly\\RADIO_ONCHANNEL.wav");
-    setUp.Velmarc.PlaySound("Tessaly\\RADIO_NOCHANNEL.wav");
+    velmarc.PlaySound("Tessaly\\RADIO_ONCHANNEL.wav");
+    velmarc.PlaySound("Tessaly\\RADIO_NOCHANNEL.wav");
     window.TellOfProgram("No program was started, because there is no file \"/home/pilot/RogerWilco/roger.exe\".");
-    tessaly.WriteParameter(2, 13, 1);
-    setUp.Velmarc.PressKey("Ctrl");
-    setUp.Velmarc.PressKey("F8");
+    network.WriteParameter(2, 13, 1);
+    setUp.SimulatorLink.PressKey("Ctrl");
+    setUp.SimulatorLink.PressKey("F8");
     Settle();
 }
 

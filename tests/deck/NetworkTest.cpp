@@ -15,7 +15,7 @@ using testing::IsEmpty;
 class DeckNetwork : public DeckRig {};
 
 TEST_F(DeckNetwork, TheSwitchTakesTheLinkUpAndDown) {
-    setUp.Tessaly.LinkStart();
+    tessaly.LinkStart();
     Click("NetworkLink");
     EXPECT_THAT(TakeEvents(), ElementsAre("network connected"));
     EXPECT_EQ(TextOf("NetworkStateText"), "Connected, server AUTOMATIC");
@@ -24,7 +24,7 @@ TEST_F(DeckNetwork, TheSwitchTakesTheLinkUpAndDown) {
 }
 
 TEST_F(DeckNetwork, AServerIsSeen) {
-    setUp.Tessaly.LinkStart();
+    tessaly.LinkStart();
     Type("NetworkServerSeen", "SERVERPC");
     EXPECT_THAT(TakeEvents(), ElementsAre("network found SERVERPC"));
     EXPECT_EQ(TextOf("NetworkServersSeen"), "SERVERPC");
@@ -42,11 +42,11 @@ TEST_F(DeckNetwork, TheSessionEndsAndOpensAgain) {
 TEST_F(DeckNetwork, StatusAndCallsignAreTold) {
     ConnectAll();
     Click("SessionConnected");
-    EXPECT_EQ(setUp.Tessaly.Session().Status, 1);
+    EXPECT_EQ(setUp.NetworkLink.Session().Status, 1);
     Type("Callsign", "ORV123");
-    EXPECT_EQ(setUp.Tessaly.Session().Callsign, "ORV123");
+    EXPECT_EQ(setUp.NetworkLink.Session().Callsign, "ORV123");
     Click("SessionConnected");
-    EXPECT_EQ(setUp.Tessaly.Session().Status, 0);
+    EXPECT_EQ(setUp.NetworkLink.Session().Status, 0);
     EXPECT_THAT(TakeEvents(), ElementsAre("session status changed", "callsign changed", "session status changed"));
 }
 
@@ -56,7 +56,7 @@ TEST_F(DeckNetwork, FrequencyAndSelectionsRaiseRadioChanged) {
     Type("FrequencyCOM2", "121.500");
     Pick("Receive", 2);
     Pick("Transmit", 0);
-    const SessionSetting& session = setUp.Tessaly.Session();
+    const SessionSetting& session = setUp.NetworkLink.Session();
     EXPECT_EQ(session.Frequency[0], "122.800");
     EXPECT_EQ(session.Frequency[1], "121.500");
     EXPECT_EQ(session.Receive, "B");
@@ -70,29 +70,30 @@ TEST_F(DeckNetwork, EachSelectionHasItsText) {
     for (int index = 0; index < 4; ++index) {
         Pick("Receive", index);
         Pick("Transmit", index);
-        EXPECT_EQ(setUp.Tessaly.Session().Receive, texts[index]);
-        EXPECT_EQ(setUp.Tessaly.Session().Transmit, texts[index]);
+        EXPECT_EQ(setUp.NetworkLink.Session().Receive, texts[index]);
+        EXPECT_EQ(setUp.NetworkLink.Session().Transmit, texts[index]);
     }
 }
 
 TEST_F(DeckNetwork, EachPartOfAVoiceRecordReachesItsRadioAlone) {
     ConnectAll();
-    const RadioVoiceSetting other = setUp.Tessaly.Session().Voice[0];
+    const RadioVoiceSetting other = setUp.NetworkLink.Session().Voice[0];
     Pick("SoftwareCOM2", 1);
     Type("ServerCOM2", "rw.example.net");
     Type("ChannelCOM2", "Tower");
     Type("LoginCOM2", "pilot");
     Type("PasswordCOM2", "secret");
     EXPECT_THAT(TakeEvents(), testing::AllOf(testing::SizeIs(5), testing::Each("radio voice changed 1")));
-    EXPECT_EQ(setUp.Tessaly.Session().Voice[1], (RadioVoiceSetting{1, "rw.example.net", "Tower", "pilot", "secret"}));
-    EXPECT_EQ(setUp.Tessaly.Session().Voice[0], other);
+    EXPECT_EQ(setUp.NetworkLink.Session().Voice[1],
+              (RadioVoiceSetting{1, "rw.example.net", "Tower", "pilot", "secret"}));
+    EXPECT_EQ(setUp.NetworkLink.Session().Voice[0], other);
 }
 
 TEST_F(DeckNetwork, EachSoftwareHasItsCode) {
     ConnectAll();
     for (int code = 5; code >= 0; --code) {
         Pick("SoftwareCOM1", code);
-        EXPECT_EQ(setUp.Tessaly.Session().Voice[0].Software, code);
+        EXPECT_EQ(setUp.NetworkLink.Session().Voice[0].Software, code);
     }
 }
 
@@ -101,10 +102,10 @@ TEST_F(DeckNetwork, AFieldIsAppliedWhenItIsLeft) {
     auto& edit = At<QLineEdit>("ServerCOM1");
     QTest::mouseClick(&edit, Qt::LeftButton);
     QTest::keyClicks(&edit, "rw.example.net");
-    EXPECT_EQ(setUp.Tessaly.Session().Voice[0].Server, "");
+    EXPECT_EQ(setUp.NetworkLink.Session().Voice[0].Server, "");
     QTest::mouseClick(&At<QLineEdit>("ChannelCOM1"), Qt::LeftButton);
     Settle();
-    EXPECT_EQ(setUp.Tessaly.Session().Voice[0].Server, "rw.example.net");
+    EXPECT_EQ(setUp.NetworkLink.Session().Voice[0].Server, "rw.example.net");
     EXPECT_THAT(TakeEvents(), ElementsAre("radio voice changed 0"));
 }
 
@@ -121,7 +122,7 @@ TEST_F(DeckNetwork, AChangeElsewhereLeavesAloneWhatTheUserTypes) {
     auto& edit = At<QLineEdit>("ServerCOM1");
     QTest::mouseClick(&edit, Qt::LeftButton);
     QTest::keyClicks(&edit, "rw.exa");
-    setUp.Tessaly.SetVoice(0, {2, "ts.example.net", "Lobby", "", ""});
+    setUp.NetworkLink.SetVoice(0, {2, "ts.example.net", "Lobby", "", ""});
     Settle();
     EXPECT_EQ(edit.text(), "rw.exa");
     EXPECT_EQ(At<QLineEdit>("ChannelCOM1").text(), "Lobby");
@@ -130,7 +131,7 @@ TEST_F(DeckNetwork, AChangeElsewhereLeavesAloneWhatTheUserTypes) {
 
 TEST_F(DeckNetwork, AFirstFlightIsReadyToBeTuned) {
     PrepareFirstFlight(setUp);
-    setUp.Tessaly.LinkStart();
+    tessaly.LinkStart();
     Settle();
     EXPECT_THAT(TakeEvents(),
                 testing::UnorderedElementsAre("simulator connected", "network connected", "session opened"));

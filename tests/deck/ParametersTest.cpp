@@ -26,16 +26,16 @@ protected:
     }
 
     Long CreateOwn(const char* role) {
-        const Long id = setUp.Tessaly.CreateInterface("VOICE", role);
-        setUp.Tessaly.CloseInterface();
+        const Long id = tessaly.CreateInterface("VOICE", role);
+        tessaly.CloseInterface();
         Settle();
         events.clear();
         return id;
     }
     void PanelWrites(Long id, Long index, Long value) {
-        setUp.Tessaly.OpenInterface(id);
-        setUp.Tessaly.SetParam(index, value);
-        setUp.Tessaly.CloseInterface();
+        tessaly.OpenInterface(id);
+        tessaly.SetParam(index, value);
+        tessaly.CloseInterface();
         Settle();
     }
     QString Cell(int row, Column column) { return table.item(row, column)->text(); }
@@ -77,13 +77,13 @@ TEST_F(DeckParameters, ThePanelsOwnVoiceRecordIsShownFirst) {
 
 TEST_F(DeckParameters, TheUsersPickStaysUntilItsRecordGoes) {
     CreateOwn("VVL");
-    const Long other = setUp.Tessaly.Claim("COCKPIT2", "VVL");
+    const Long other = setUp.NetworkLink.Claim("COCKPIT2", "VVL", VoiceRecordType);
     Settle();
     Pick("ParameterRecord", 1);
     PanelWrites(1, 2, 1);
     EXPECT_EQ(At<QComboBox>("ParameterRecord").currentText(), "2  VVL of COCKPIT2");
     EXPECT_EQ(Cell(2, Value), "");
-    setUp.Tessaly.DropClaim(other);
+    setUp.NetworkLink.DropClaim(other);
     Settle();
     EXPECT_EQ(At<QComboBox>("ParameterRecord").currentText(), "1  VVL of this panel");
     EXPECT_EQ(Cell(2, Value), "1");
@@ -93,7 +93,7 @@ TEST_F(DeckParameters, EditingANumberIsAnotherPartysWrite) {
     const Long id = CreateOwn("VVL");
     Edit(13, "1");
     EXPECT_THAT(TakeEvents(), ElementsAre("parameter changed 1/13"));
-    EXPECT_EQ(setUp.Tessaly.Records().at(id).Parameters.at(13).Content, 1);
+    EXPECT_EQ(setUp.NetworkLink.Records().at(id).Parameters.at(13).Content, 1);
     EXPECT_EQ(Cell(13, Value), "1");
     EXPECT_EQ(Cell(13, Writer), "other");
 }
@@ -102,9 +102,9 @@ TEST_F(DeckParameters, EditingATextIsAnotherPartysWrite) {
     const Long id = CreateOwn("VVL");
     Edit(FirstText + 2, "voice.example.net/private");
     EXPECT_THAT(TakeEvents(), ElementsAre("parameter changed 1/9"));
-    EXPECT_EQ(setUp.Tessaly.Records().at(id).Texts.at(9).Content, "voice.example.net/private");
+    EXPECT_EQ(setUp.NetworkLink.Records().at(id).Texts.at(9).Content, "voice.example.net/private");
     Edit(FirstText + 2, "");
-    EXPECT_EQ(setUp.Tessaly.Records().at(id).Texts.at(9).Content, "");
+    EXPECT_EQ(setUp.NetworkLink.Records().at(id).Texts.at(9).Content, "");
 }
 
 TEST_F(DeckParameters, WhatIsNoNumberIsToldAndNotWritten) {
@@ -121,7 +121,7 @@ TEST_F(DeckParameters, WhatIsNoNumberIsToldAndNotWritten) {
 
 TEST_F(DeckParameters, AWriteWithoutTheLinkIsTold) {
     CreateOwn("VVL");
-    setUp.Tessaly.SetLink(LinkState::Down);
+    setUp.NetworkLink.SetLink(LinkState::Down);
     Settle();
     TakeEvents();
     Edit(13, "1");
@@ -141,7 +141,7 @@ TEST_F(DeckParameters, WhatIsBeingTypedOutlivesWhatOthersWrite) {
     const Long id = CreateOwn("VVL");
     auto& editor = BeginToEdit(13, "12");
     PanelWrites(id, 13, 7);
-    setUp.Tessaly.SetCallsign("ORV124");
+    setUp.NetworkLink.SetCallsign("ORV124");
     Settle();
     EXPECT_EQ(editor.text(), "12");
     QTest::keyClicks(&editor, "3");
@@ -161,7 +161,7 @@ TEST_F(DeckParameters, AnEditorInWhichNothingWasTypedFollows) {
 
 TEST_F(DeckParameters, TheOpenListOfRecordsKeepsItsMarkWhileOthersWrite) {
     const Long id = CreateOwn("VVL");
-    setUp.Tessaly.Claim("COCKPIT2", "VVL");
+    setUp.NetworkLink.Claim("COCKPIT2", "VVL", VoiceRecordType);
     Settle();
     auto& box = At<QComboBox>("ParameterRecord");
     box.showPopup();

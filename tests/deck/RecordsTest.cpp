@@ -15,8 +15,8 @@ protected:
     DeckRecords() { ConnectAll(); }
 
     void CreateOwn(const char* role) {
-        setUp.Tessaly.CreateInterface("VOICE", role);
-        setUp.Tessaly.CloseInterface();
+        tessaly.CreateInterface("VOICE", role);
+        tessaly.CloseInterface();
         Settle();
     }
     QStringList Row(int row) {
@@ -33,7 +33,7 @@ TEST_F(DeckRecords, EachRoleIsClaimedAndDropped) {
     for (const char* button : {"ClaimRWCom1", "ClaimRWCom2", "ClaimTSCom1", "ClaimTSCom2", "ClaimVVL"}) {
         Click(button);
         EXPECT_THAT(TakeEvents(), ElementsAre("record appeared " + std::to_string(id)));
-        EXPECT_EQ(setUp.Tessaly.Records().at(id).Role, std::string(button).substr(std::string("Claim").size()));
+        EXPECT_EQ(setUp.NetworkLink.Records().at(id).Role, std::string(button).substr(std::string("Claim").size()));
         EXPECT_TRUE(At<QCheckBox>(button).isChecked());
         ++id;
     }
@@ -45,10 +45,10 @@ TEST_F(DeckRecords, EachRoleIsClaimedAndDropped) {
 
 TEST_F(DeckRecords, TheTableTellsOwnersAndParameters) {
     CreateOwn("VVL");
-    setUp.Tessaly.OpenInterface(1);
-    setUp.Tessaly.SetParam(0, 3);
-    setUp.Tessaly.SetParamText(7, "server/room");
-    setUp.Tessaly.CloseInterface();
+    tessaly.OpenInterface(1);
+    tessaly.SetParam(0, 3);
+    tessaly.SetParamText(7, "server/room");
+    tessaly.CloseInterface();
     Click("ClaimRWCom1");
     EXPECT_EQ(Row(0), QStringList({"1", "VOICE", "VVL", "this panel", "0=3  7=\"server/room\""}));
     EXPECT_EQ(Row(1), QStringList({"2", "VOICE", "RWCom1", "COCKPIT2", ""}));

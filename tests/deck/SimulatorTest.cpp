@@ -24,17 +24,17 @@ TEST_F(DeckSimulator, TheSwitchTakesTheLinkUpAndDown) {
 }
 
 TEST_F(DeckSimulator, ALinkOnItsWaySaysSo) {
-    setUp.Velmarc.SetDelay(60'000);
+    setUp.SimulatorLink.SetDelay(60'000);
     Click("SimulatorLink");
     EXPECT_EQ(TextOf("SimulatorStateText"), "Not up yet, server AUTOMATIC");
     EXPECT_TRUE(At<QCheckBox>("SimulatorLink").isChecked());
 }
 
 TEST_F(DeckSimulator, TheServerInUseFollowsThePanel) {
-    setUp.Velmarc.SetServer("TOWERPC");
+    velmarc.SetServer("TOWERPC");
     Settle();
     EXPECT_EQ(TextOf("SimulatorStateText"), "Down, server TOWERPC");
-    setUp.Velmarc.SetServer("");
+    velmarc.SetServer("");
     Settle();
     EXPECT_EQ(TextOf("SimulatorStateText"), "Down, server (empty)");
 }
@@ -60,7 +60,7 @@ TEST_F(DeckSimulator, AJoystickButtonIsDownAsLongAsTheMouseHoldsIt) {
     QTest::mousePress(&button, Qt::LeftButton);
     Settle();
     EXPECT_THAT(TakeEvents(), ElementsAre("button down Stick.Button 3"));
-    EXPECT_THAT(setUp.Velmarc.HeldButtons(), ElementsAre("Stick.Button 3"));
+    EXPECT_THAT(setUp.SimulatorLink.HeldButtons(), ElementsAre("Stick.Button 3"));
     QTest::mouseRelease(&button, Qt::LeftButton);
     Settle();
     EXPECT_THAT(TakeEvents(), ElementsAre("button up Stick.Button 3"));
@@ -81,7 +81,7 @@ TEST_F(DeckSimulator, TheSpaceBarHoldsAJoystickButtonToo) {
 TEST_F(DeckSimulator, AHeldButtonIsReportedUpBeforeItsLinkIsLost) {
     ConnectAll();
     QTest::mousePress(&At<QWidget>("Stick1"), Qt::LeftButton);
-    setUp.Velmarc.SetLink(LinkState::Down);
+    setUp.SimulatorLink.SetLink(LinkState::Down);
     Settle();
     QTest::mouseRelease(&At<QWidget>("Stick1"), Qt::LeftButton);
     Settle();
@@ -100,10 +100,10 @@ TEST_F(DeckSimulator, ClosingTheWindowLetsGoWhatIsHeld) {
 
 TEST_F(DeckSimulator, SoundsAreListedInTheirOrderWithTheirTime) {
     ConnectAll();
-    setUp.Velmarc.PlaySound("Tessaly\\RADIO_ONCHANNEL.wav");
-    setUp.Velmarc.PlaySound("Tessaly\\RADIO_NOCHANNEL.wav");
+    velmarc.PlaySound("Tessaly\\RADIO_ONCHANNEL.wav");
+    velmarc.PlaySound("Tessaly\\RADIO_NOCHANNEL.wav");
     Settle();
-    setUp.Velmarc.PlaySound("Tessaly\\RADIO_ONCHANNEL.wav");
+    velmarc.PlaySound("Tessaly\\RADIO_ONCHANNEL.wav");
     Settle();
     const auto& list = At<QListWidget>("Sounds");
     ASSERT_EQ(list.count(), 3);
@@ -114,7 +114,7 @@ TEST_F(DeckSimulator, SoundsAreListedInTheirOrderWithTheirTime) {
 
 TEST_F(DeckSimulator, TheLatestSoundStaysInSightWhenTheListChangesItsSize) {
     ConnectAll();
-    for (int sound = 1; sound <= 50; ++sound) setUp.Velmarc.PlaySound(std::to_string(sound));
+    for (int sound = 1; sound <= 50; ++sound) velmarc.PlaySound(std::to_string(sound));
     Settle();
     auto& list = At<QListWidget>("Sounds");
     const auto lastIsSeen = [&list] {
@@ -134,9 +134,9 @@ TEST_F(DeckSimulator, TheLatestSoundStaysInSightWhenTheListChangesItsSize) {
 
 TEST_F(DeckSimulator, TheListOfSoundsKeepsTheLast200) {
     ConnectAll();
-    for (int sound = 1; sound <= 250; ++sound) setUp.Velmarc.PlaySound(std::to_string(sound));
+    for (int sound = 1; sound <= 250; ++sound) velmarc.PlaySound(std::to_string(sound));
     Settle();
-    setUp.Velmarc.PlaySound("last");
+    velmarc.PlaySound("last");
     Settle();
     const auto& list = At<QListWidget>("Sounds");
     EXPECT_EQ(list.count(), 200);

@@ -115,7 +115,7 @@ TEST_F(DeckWindowTest, NothingRunsWhileNothingHappens) {
 TEST_F(DeckWindowTest, ADeckThatGoesLeavesTheSetUpAlone) {
     {
         DeckWindow other(setUp);
-        setUp.Velmarc.SetLink(LinkState::Up);
+        setUp.SimulatorLink.SetLink(LinkState::Up);
     }
     Settle();
     float value = 0;

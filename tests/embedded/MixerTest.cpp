@@ -6,7 +6,7 @@
 
 #include "tests/shared/HandLoop.h"
 
-namespace orvelle {
+namespace orvelle::embedded {
 namespace {
 
 using Texts = std::vector<std::string>;
@@ -33,7 +33,7 @@ protected:
     }
 
     HandLoop loop;
-    EmbeddedMixer mixer{loop};
+    Mixer mixer{loop};
     Texts events;
 };
 
@@ -94,12 +94,12 @@ TEST_F(MixerTest, AnUnavailableLineKeepsItsLevel) {
 }
 
 TEST_F(MixerTest, APluggedDeviceOpensAndAnUnpluggedOneCloses) {
-    mixer.SetPlugged(MixerSide::Output, false);
+    mixer.SetPlugged(SoundDirection::Output, false);
     mixer.Open();
     EXPECT_EQ(Run(), Texts{"InputOpened"});
-    mixer.SetPlugged(MixerSide::Output, true);
+    mixer.SetPlugged(SoundDirection::Output, true);
     EXPECT_EQ(Run(), Texts{"OutputOpened"});
-    mixer.SetPlugged(MixerSide::Input, false);
+    mixer.SetPlugged(SoundDirection::Input, false);
     EXPECT_EQ(Run(), Texts{"InputClosed"});
 }
 
@@ -111,8 +111,8 @@ TEST_F(MixerTest, AnotherDeviceIsOpenedInPlaceOfTheOld) {
     EXPECT_TRUE(Run().empty());
     mixer.OutputDevice("Headset");
     EXPECT_EQ(Run(), (Texts{"OutputClosed", "OutputOpened"}));
-    EXPECT_EQ(mixer.DeviceName(MixerSide::Input), "Headset Microphone");
-    EXPECT_EQ(mixer.DeviceName(MixerSide::Output), "Headset");
+    EXPECT_EQ(mixer.DeviceName(SoundDirection::Input), "Headset Microphone");
+    EXPECT_EQ(mixer.DeviceName(SoundDirection::Output), "Headset");
 }
 
 TEST_F(MixerTest, NothingIsToldAfterClose) {
@@ -121,7 +121,7 @@ TEST_F(MixerTest, NothingIsToldAfterClose) {
     mixer.OutputDevice("Headset");
     mixer.Close();
     mixer.WaveVolume(70);
-    mixer.SetPlugged(MixerSide::Input, false);
+    mixer.SetPlugged(SoundDirection::Input, false);
     EXPECT_TRUE(Run(1000).empty());
     EXPECT_FALSE(mixer.IsOpen());
     EXPECT_EQ(mixer.WaveVolume(), 70);
@@ -130,4 +130,4 @@ TEST_F(MixerTest, NothingIsToldAfterClose) {
 }
 
 }  // namespace
-}  // namespace orvelle
+}  // namespace orvelle::embedded

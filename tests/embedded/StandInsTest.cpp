@@ -5,7 +5,7 @@
 #include "platform/RuntimeError.h"
 #include "tests/shared/HandLoop.h"
 
-namespace orvelle {
+namespace orvelle::embedded {
 namespace {
 
 class TeamSpeakTest : public testing::Test {
@@ -17,7 +17,7 @@ protected:
     }
 
     HandLoop loop;
-    EmbeddedTeamSpeak teamSpeak{loop};
+    TeamSpeak teamSpeak{loop};
     TS_SERVER_INFO server{};
     TS_CHANNEL_INFO channel{};
     TS_PLAYER_INFO player{};
@@ -67,7 +67,7 @@ TEST_F(TeamSpeakTest, SwitchesBetweenTheChannelsItKnows) {
 
 TEST_F(TeamSpeakTest, GivesTheResultsItIsTold) {
     teamSpeak.SetProgram(ProgramState::Running);
-    teamSpeak.Fail = {1, 2, 3, 4, 5};
+    teamSpeak.Fail() = {1, 2, 3, 4, 5};
     EXPECT_EQ(teamSpeak.tsrConnect("teamspeak://srv1"), 1);
     EXPECT_EQ(teamSpeak.tsrDisconnect(), 2);
     EXPECT_EQ(teamSpeak.tsrGetServerInfo(server), 3);
@@ -77,7 +77,7 @@ TEST_F(TeamSpeakTest, GivesTheResultsItIsTold) {
 
 TEST(MediaPlayersTest, APlayerPlaysUntilItIsStoppedOrItsRecordingEnds) {
     HandLoop loop;
-    EmbeddedMediaPlayers players(loop);
+    MediaPlayers players(loop);
     EXPECT_FALSE(players.Player(1).Exists);
     auto player = players.New(1);
     EXPECT_TRUE(players.Player(1).Exists);
@@ -102,7 +102,7 @@ TEST(MediaPlayersTest, APlayerPlaysUntilItIsStoppedOrItsRecordingEnds) {
 
 TEST(MediaPlayersTest, CreatingOneFailsOnDemand) {
     HandLoop loop;
-    EmbeddedMediaPlayers players(loop);
+    MediaPlayers players(loop);
     players.SetAvailable(false);
     try {
         players.New(0);
@@ -113,4 +113,4 @@ TEST(MediaPlayersTest, CreatingOneFailsOnDemand) {
 }
 
 }  // namespace
-}  // namespace orvelle
+}  // namespace orvelle::embedded

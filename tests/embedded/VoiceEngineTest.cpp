@@ -1,3 +1,4 @@
+#include "adapters/embedded/SoundDevices.h"
 #include "adapters/embedded/VoiceEngine.h"
 
 #include <gtest/gtest.h>
@@ -6,7 +7,7 @@
 
 #include "tests/shared/HandLoop.h"
 
-namespace orvelle {
+namespace orvelle::embedded {
 namespace {
 
 using Texts = std::vector<std::string>;
@@ -42,22 +43,23 @@ protected:
     }
 
     HandLoop loop;
-    EmbeddedVoiceEngine engine{loop};
+    SoundDevices devices;
+    VoiceEngine engine{loop, devices};
     Texts events;
     Texts statuses;
 };
 
 TEST_F(VoiceEngineTest, StartIsAnsweredFromTheLoopAfterItsDelay) {
     engine.SetStartDelay(300);
-    EXPECT_FALSE(engine.Starting());
+    EXPECT_FALSE(engine.IsStarting());
     EXPECT_TRUE(engine.Start(3));
-    EXPECT_TRUE(engine.Starting());
+    EXPECT_TRUE(engine.IsStarting());
     EXPECT_TRUE(engine.Start(3));
     EXPECT_FALSE(engine.Running());
     EXPECT_TRUE(Run(299).empty());
     EXPECT_EQ(Run(1), Texts{"Started"});
     EXPECT_TRUE(engine.Running());
-    EXPECT_FALSE(engine.Starting());
+    EXPECT_FALSE(engine.IsStarting());
     EXPECT_FALSE(engine.Start(3));
     EXPECT_TRUE(Run(1000).empty());
 }
@@ -76,12 +78,12 @@ TEST_F(VoiceEngineTest, AJoinSucceedsAfterItsDelay) {
     StartEngine();
     engine.SetJoinDelay(300);
     EXPECT_TRUE(engine.RoomJoin(1, "ABC123 (me)", "srv1/ops"));
-    EXPECT_EQ(engine.Room(1).State, RoomState::Joining);
+    EXPECT_EQ(engine.Room(1).Presence, RoomPresence::Joining);
     EXPECT_EQ(engine.Room(1).ClientName, "ABC123 (me)");
     EXPECT_EQ(engine.Room(1).Address, "srv1/ops");
     EXPECT_TRUE(Run(299).empty());
     EXPECT_EQ(Run(1), (Texts{"JoinSucceed 1", "AudioStarted"}));
-    EXPECT_EQ(engine.Room(1).State, RoomState::In);
+    EXPECT_EQ(engine.Room(1).Presence, RoomPresence::In);
     EXPECT_TRUE(engine.AudioRuns());
     EXPECT_EQ(statuses, (Texts{"Joining srv1/ops", "In srv1/ops"}));
 }
@@ -97,7 +99,7 @@ TEST_F(VoiceEngineTest, AJoinIsRefusedOrFailsOnDemand) {
     engine.SetJoinOutcome(0, JoinOutcome::Fails);
     EXPECT_TRUE(engine.RoomJoin(0, "ABC123", "srv1/ops"));
     EXPECT_EQ(Run(), Texts{"JoinFailed 0"});
-    EXPECT_EQ(engine.Room(0).State, RoomState::Out);
+    EXPECT_EQ(engine.Room(0).Presence, RoomPresence::Out);
     EXPECT_EQ(engine.RoomStatus(0), "Not joined");
 }
 
@@ -151,7 +153,7 @@ TEST_F(VoiceEngineTest, AKickTakesWhoIsInTheRoom) {
     Run();
     engine.Kick(1);
     EXPECT_EQ(Run(), (Texts{"RoomAudioStopped 1", "AudioStopped", "Kicked 1"}));
-    EXPECT_EQ(engine.Room(1).State, RoomState::Out);
+    EXPECT_EQ(engine.Room(1).Presence, RoomPresence::Out);
     engine.SetJoinDelay(100);
     engine.RoomJoin(1, "ABC123", "srv1/ops");
     engine.Kick(1);
@@ -188,7 +190,7 @@ TEST_F(VoiceEngineTest, StopsForGoodWithoutAWord) {
     engine.Kick(0);
     engine.Fail();
     EXPECT_TRUE(Run(1000).empty());
-    EXPECT_EQ(engine.Room(0).State, RoomState::Out);
+    EXPECT_EQ(engine.Room(0).Presence, RoomPresence::Out);
 }
 
 TEST_F(VoiceEngineTest, AFailureStopsTheEngineAndEmptiesTheRooms) {
@@ -198,7 +200,7 @@ TEST_F(VoiceEngineTest, AFailureStopsTheEngineAndEmptiesTheRooms) {
     engine.Fail();
     EXPECT_FALSE(engine.Running());
     EXPECT_EQ(Run(1000), Texts{"Stopped"});
-    EXPECT_EQ(engine.Room(1).State, RoomState::Out);
+    EXPECT_EQ(engine.Room(1).Presence, RoomPresence::Out);
     StartEngine();
     EXPECT_TRUE(engine.Running());
 }
@@ -253,8 +255,8 @@ TEST_F(VoiceEngineTest, DevicesWorkWhileTheEngineRunsAndTheyDoNotFail) {
 }
 
 TEST_F(VoiceEngineTest, DeviceNamesEndWithALineFeedEach) {
-    engine.SetInputDevices({"One", "Two"});
-    engine.SetOutputDevices({});
+    devices.SetInputs({"One", "Two"});
+    devices.SetOutputs({});
     EXPECT_EQ(engine.InputDevices(), "One\nTwo\n");
     EXPECT_EQ(engine.OutputDevices(), "");
 }
@@ -263,18 +265,20 @@ TEST_F(VoiceEngineTest, CalibratesByTheDialogueItIsGiven) {
     float input = 1;
     float output = 2;
     EXPECT_FALSE(engine.Calibrate(-1, 0, input, output));
-    engine.CalibrationDialogue = [](Long, Long) { return std::nullopt; };
+    Ticket answers = engine.AnswerCalibration([](Long, Long) { return std::nullopt; });
     EXPECT_FALSE(engine.Calibrate(-1, 0, input, output));
     EXPECT_EQ(input, 1);
-    engine.CalibrationDialogue = [](Long microphone, Long headset) {
+    answers = engine.AnswerCalibration([](Long microphone, Long headset) {
         return Squelch{static_cast<float>(microphone) + 0.5F, static_cast<float>(headset)};
-    };
+    });
     EXPECT_TRUE(engine.Calibrate(-1, 3, input, output));
     EXPECT_EQ(input, -0.5F);
     EXPECT_EQ(output, 3);
     EXPECT_EQ(engine.InputSquelchValue(), -0.5);
     EXPECT_EQ(engine.OutputSquelchValue(), 3);
+    answers.End();
+    EXPECT_FALSE(engine.Calibrate(-1, 3, input, output));
 }
 
 }  // namespace
-}  // namespace orvelle
+}  // namespace orvelle::embedded

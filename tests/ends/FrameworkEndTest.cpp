@@ -1,9 +1,10 @@
-#include "adapters/embedded/Tessaly.h"
+#include "adapters/ends/FrameworkEnd.h"
 
 #include <gtest/gtest.h>
 
 #include <vector>
 
+#include "adapters/embedded/NetworkLink.h"
 #include "tests/shared/HandLoop.h"
 #include "tests/shared/MemoryValues.h"
 
@@ -12,9 +13,9 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-class TessalyTest : public testing::Test {
+class FrameworkEndTest : public testing::Test {
 protected:
-    TessalyTest() {
+    FrameworkEndTest() {
         tessaly.Connected = [this] { events.push_back(tessaly.LinkUp() ? "Connected" : "too early"); };
         tessaly.Disconnected = [this] { events.push_back(tessaly.LinkUp() ? "too early" : "Disconnected"); };
         tessaly.ServerFound = [this](const std::string& name) { events.push_back("ServerFound " + name); };
@@ -38,7 +39,7 @@ protected:
         tessaly.LinkPrepare();
         tessaly.LinkStart();
         tessaly.LinkStarted();
-        tessaly.SetLink(LinkState::Up);
+        far.SetLink(LinkState::Up);
         Run();
     }
     Texts Run(Long milliseconds = 0) {
@@ -48,79 +49,81 @@ protected:
 
     HandLoop loop;
     MemoryValues values;
-    EmbeddedTessaly tessaly{loop, values};
+    embedded::NetworkLink far{loop};
+    const ends::LineTable<FrameworkLine> lines{far};
+    ends::FrameworkEnd tessaly{loop, values, lines};
     Texts events;
 };
 
-TEST_F(TessalyTest, KeepsServerAndEmbeddedBetweenRuns) {
+TEST_F(FrameworkEndTest, KeepsServerAndEmbeddedBetweenRuns) {
     EXPECT_EQ(tessaly.GetServer(), "AUTOMATIC");
     EXPECT_FALSE(tessaly.Embedded());
     tessaly.SetServer("<LOCAL>");
     tessaly.Embedded(1);
-    EmbeddedTessaly next(loop, values);
+    ends::FrameworkEnd next(loop, values, lines);
     EXPECT_EQ(next.GetServer(), "<LOCAL>");
     EXPECT_TRUE(next.Embedded());
     next.Embedded(0);
     EXPECT_FALSE(tessaly.Embedded());
 }
 
-TEST_F(TessalyTest, TheLinkStandsOnlyOnceItWasStarted) {
-    tessaly.SetLink(LinkState::Up);
+TEST_F(FrameworkEndTest, TheLinkStandsOnlyOnceItWasStarted) {
+    far.SetLink(LinkState::Up);
     EXPECT_TRUE(Run().empty());
     EXPECT_FALSE(tessaly.LinkUp());
     tessaly.LinkStart();
     EXPECT_FALSE(tessaly.LinkUp());
     EXPECT_EQ(Run(), Texts{"Connected"});
-    tessaly.SetLink(LinkState::Down);
+    far.SetLink(LinkState::Down);
     EXPECT_EQ(Run(), Texts{"Disconnected"});
 }
 
-TEST_F(TessalyTest, EventsComeLateAndInOrder) {
+TEST_F(FrameworkEndTest, EventsComeLateAndInOrder) {
     tessaly.LinkStart();
-    tessaly.SetDelay(100);
-    tessaly.SetLink(LinkState::Up);
+    far.SetDelay(100);
+    far.SetLink(LinkState::Up);
     EXPECT_TRUE(Run(99).empty());
-    tessaly.SetDelay(0);
-    tessaly.SetLink(LinkState::Down);
+    far.SetDelay(0);
+    far.SetLink(LinkState::Down);
     EXPECT_EQ(Run(1), (Texts{"Connected", "Disconnected"}));
 }
 
-TEST_F(TessalyTest, SeesServersWhileItIsStarted) {
-    tessaly.SeeServer("early");
+TEST_F(FrameworkEndTest, SeesServersWhileItIsStarted) {
+    far.SeeServer("early");
     tessaly.LinkStart();
-    tessaly.SeeServer("tower");
+    far.SeeServer("tower");
     EXPECT_EQ(Run(), Texts{"ServerFound tower"});
-    EXPECT_EQ(tessaly.ServersSeen(), (Texts{"early", "tower"}));
+    EXPECT_EQ(far.ServersSeen(), (Texts{"early", "tower"}));
 }
 
-TEST_F(TessalyTest, ResolvesAServerToHostAndPort) {
+TEST_F(FrameworkEndTest, ResolvesAServerToHostAndPort) {
     EXPECT_EQ(tessaly.ResolveServerAddress("voice1"), "voice1:8767");
     EXPECT_EQ(tessaly.ResolveServerAddress("voice1:9000"), "voice1:9000");
 }
 
-TEST_F(TessalyTest, RaisesNothingAfterLinkStop) {
+TEST_F(FrameworkEndTest, RaisesNothingAfterLinkStop) {
     Connect();
-    tessaly.StartSession();
-    tessaly.SetLink(LinkState::Down);
-    tessaly.SetLink(LinkState::Up);
+    far.StartSession();
+    far.SetLink(LinkState::Down);
+    far.SetLink(LinkState::Up);
     tessaly.LinkStop();
-    tessaly.SetLink(LinkState::Down);
-    tessaly.SetLink(LinkState::Up);
-    tessaly.SetCallsign("ABC123");
-    tessaly.SeeServer("other");
-    tessaly.Claim("tower", "RWCom1");
+    far.SetLink(LinkState::Down);
+    far.SetLink(LinkState::Up);
+    far.SetCallsign("ABC123");
+    far.SeeServer("other");
+    far.Claim("tower", "RWCom1", VoiceRecordType);
     EXPECT_TRUE(Run(1000).empty());
     EXPECT_FALSE(tessaly.LinkUp());
     EXPECT_FALSE(tessaly.OpenSession(0));
     EXPECT_EQ(tessaly.CreateInterface("VOICE", "RWCom1"), 0);
 }
 
-TEST_F(TessalyTest, ASessionIsOpenedWhileItIsThereAndTheLinkStands) {
+TEST_F(FrameworkEndTest, ASessionIsOpenedWhileItIsThereAndTheLinkStands) {
     EXPECT_FALSE(tessaly.OpenSession(0));
     Connect();
     EXPECT_FALSE(tessaly.OpenSession(0));
     EXPECT_EQ(tessaly.SessionHandle(), 0);
-    tessaly.StartSession();
+    far.StartSession();
     EXPECT_EQ(Run(), Texts{"SessionOpened"});
     EXPECT_EQ(tessaly.SessionHandle(), 1);
     EXPECT_TRUE(tessaly.OpenSession(0));
@@ -128,20 +131,20 @@ TEST_F(TessalyTest, ASessionIsOpenedWhileItIsThereAndTheLinkStands) {
     EXPECT_TRUE(tessaly.OpenSession(1));
     tessaly.CloseSession();
     EXPECT_FALSE(tessaly.OpenSession(2));
-    tessaly.Refuse.OpenSession = true;
+    far.Refuse().OpenSession = true;
     EXPECT_FALSE(tessaly.OpenSession(0));
 }
 
-TEST_F(TessalyTest, TheSessionTellsWhatTheDeckSetWhileItIsOpen) {
+TEST_F(FrameworkEndTest, TheSessionTellsWhatTheDeckSetWhileItIsOpen) {
     Connect();
-    tessaly.SetStatus(1);
-    tessaly.SetCallsign("ABC123");
-    tessaly.SetFrequency(0, "118.100");
-    tessaly.SetFrequency(1, "121.500");
-    tessaly.SetReceive("B");
-    tessaly.SetTransmit("1");
-    tessaly.SetVoice(1, {1, "srv1", "ops", "me", "secret"});
-    tessaly.StartSession();
+    far.SetStatus(1);
+    far.SetCallsign("ABC123");
+    far.SetFrequency(0, "118.100");
+    far.SetFrequency(1, "121.500");
+    far.SetReceive("B");
+    far.SetTransmit("1");
+    far.SetVoice(1, {1, "srv1", "ops", "me", "secret"});
+    far.StartSession();
     EXPECT_EQ(tessaly.SessionCallsign(), "");
     EXPECT_EQ(Run(), Texts{"SessionOpened"});
     ASSERT_TRUE(tessaly.OpenSession(tessaly.SessionHandle()));
@@ -163,72 +166,72 @@ TEST_F(TessalyTest, TheSessionTellsWhatTheDeckSetWhileItIsOpen) {
     EXPECT_EQ(tessaly.VoiceServer(1), "");
 }
 
-TEST_F(TessalyTest, EachChangeOfTheSessionRaisesItsEvent) {
+TEST_F(FrameworkEndTest, EachChangeOfTheSessionRaisesItsEvent) {
     Connect();
-    tessaly.StartSession();
-    tessaly.SetStatus(1);
-    tessaly.SetCallsign("ABC123");
-    tessaly.SetFrequency(1, "121.500");
-    tessaly.SetReceive("1");
-    tessaly.SetTransmit("1");
-    tessaly.SetVoice(0, {3, "srv1", "ops", "", ""});
-    tessaly.SetVoice(1, {1, "srv2", "", "", ""});
-    tessaly.EndSession();
+    far.StartSession();
+    far.SetStatus(1);
+    far.SetCallsign("ABC123");
+    far.SetFrequency(1, "121.500");
+    far.SetReceive("1");
+    far.SetTransmit("1");
+    far.SetVoice(0, {3, "srv1", "ops", "", ""});
+    far.SetVoice(1, {1, "srv2", "", "", ""});
+    far.EndSession();
     EXPECT_TRUE(events.empty());
     EXPECT_EQ(Run(), (Texts{"SessionOpened", "SessionStatusChanged", "CallsignChanged", "RadioChanged", "RadioChanged",
                             "RadioChanged", "RadioVoiceChanged 0", "RadioVoiceChanged 1", "SessionClosed"}));
 }
 
-TEST_F(TessalyTest, WhatDoesNotChangeRaisesNothing) {
+TEST_F(FrameworkEndTest, WhatDoesNotChangeRaisesNothing) {
     Connect();
-    tessaly.EndSession();
-    tessaly.StartSession();
-    tessaly.StartSession();
+    far.EndSession();
+    far.StartSession();
+    far.StartSession();
     Run();
-    tessaly.SetStatus(0);
-    tessaly.SetCallsign("");
-    tessaly.SetFrequency(0, "");
-    tessaly.SetFrequency(2, "118.100");
-    tessaly.SetReceive("");
-    tessaly.SetTransmit("");
-    tessaly.SetVoice(0, {});
-    tessaly.SetVoice(2, {1, "srv1", "", "", ""});
+    far.SetStatus(0);
+    far.SetCallsign("");
+    far.SetFrequency(0, "");
+    far.SetFrequency(2, "118.100");
+    far.SetReceive("");
+    far.SetTransmit("");
+    far.SetVoice(0, {});
+    far.SetVoice(2, {1, "srv1", "", "", ""});
     EXPECT_TRUE(Run().empty());
 }
 
-TEST_F(TessalyTest, ALossEndsTheSessionForThePanelAndTheLinkBringsItBack) {
+TEST_F(FrameworkEndTest, ALossEndsTheSessionForThePanelAndTheLinkBringsItBack) {
     Connect();
-    tessaly.StartSession();
+    far.StartSession();
     Run();
-    tessaly.SetLink(LinkState::Down);
-    tessaly.SetReceive("1");
+    far.SetLink(LinkState::Down);
+    far.SetReceive("1");
     EXPECT_EQ(Run(), Texts{"Disconnected"});
     EXPECT_FALSE(tessaly.OpenSession(0));
     EXPECT_EQ(tessaly.SessionHandle(), 0);
-    tessaly.SetTransmit("1");
-    tessaly.SetLink(LinkState::Up);
+    far.SetTransmit("1");
+    far.SetLink(LinkState::Up);
     EXPECT_EQ(Run(), (Texts{"Connected", "SessionOpened"}));
     EXPECT_TRUE(tessaly.OpenSession(0));
     EXPECT_EQ(tessaly.TransmitRadio(), "1");
 }
 
-TEST_F(TessalyTest, ASessionThatEndsWithoutTheLinkIsNotToldOf) {
+TEST_F(FrameworkEndTest, ASessionThatEndsWithoutTheLinkIsNotToldOf) {
     Connect();
-    tessaly.StartSession();
+    far.StartSession();
     Run();
-    tessaly.SetLink(LinkState::Down);
+    far.SetLink(LinkState::Down);
     Run();
-    tessaly.EndSession();
-    tessaly.SetLink(LinkState::Up);
+    far.EndSession();
+    far.SetLink(LinkState::Up);
     EXPECT_EQ(Run(), Texts{"Connected"});
-    tessaly.StartSession();
+    far.StartSession();
     Run();
     EXPECT_EQ(tessaly.SessionHandle(), 2);
 }
 
-TEST_F(TessalyTest, TellsTheDeckOfChangesFromTheLoop) {
+TEST_F(FrameworkEndTest, TellsTheDeckOfChangesFromTheLoop) {
     int told = 0;
-    const auto ticket = tessaly.Changed.Observe([&] { ++told; });
+    const auto ticket = far.Observe([&] { ++told; });
     Connect();
     told = 0;
     tessaly.SetServer("tower");
@@ -242,7 +245,7 @@ TEST_F(TessalyTest, TellsTheDeckOfChangesFromTheLoop) {
 
 // The interface records.
 
-TEST_F(TessalyTest, CreatesLocalRecordsWithoutALink) {
+TEST_F(FrameworkEndTest, CreatesLocalRecordsWithoutALink) {
     EXPECT_EQ(tessaly.CreateInterface("VOICE", "RWCom1"), 0);
     tessaly.LinkStart();
     EXPECT_EQ(tessaly.CreateInterface("VOICE", "RWCom1"), 1);
@@ -254,7 +257,7 @@ TEST_F(TessalyTest, CreatesLocalRecordsWithoutALink) {
     EXPECT_EQ(Run(), (Texts{"Appeared 1", "Appeared 2"}));
 }
 
-TEST_F(TessalyTest, ARecordIsReadAndWrittenWhileItIsOpen) {
+TEST_F(FrameworkEndTest, ARecordIsReadAndWrittenWhileItIsOpen) {
     Connect();
     const Long id = tessaly.CreateInterface("VOICE", "VVL");
     tessaly.SetParam(2, 1);
@@ -276,50 +279,50 @@ TEST_F(TessalyTest, ARecordIsReadAndWrittenWhileItIsOpen) {
     EXPECT_EQ(Run(), Texts{"Appeared 1"});
 }
 
-TEST_F(TessalyTest, RefusesOnDemand) {
+TEST_F(FrameworkEndTest, RefusesOnDemand) {
     Connect();
     const Long id = tessaly.CreateInterface("VOICE", "VVL");
     tessaly.CloseInterface();
-    tessaly.Refuse.CreateInterface = true;
-    tessaly.Refuse.OpenInterface = true;
+    far.Refuse().CreateInterface = true;
+    far.Refuse().OpenInterface = true;
     EXPECT_EQ(tessaly.CreateInterface("VOICE", "RWCom1"), 0);
     EXPECT_FALSE(tessaly.OpenInterface(id));
     EXPECT_FALSE(tessaly.OpenInterface(99));
 }
 
-TEST_F(TessalyTest, AnotherComputerClaimsAndDropsARole) {
+TEST_F(FrameworkEndTest, AnotherComputerClaimsAndDropsARole) {
     Connect();
-    const Long id = tessaly.Claim("tower", "RWCom1");
+    const Long id = far.Claim("tower", "RWCom1", VoiceRecordType);
     EXPECT_TRUE(events.empty());
     EXPECT_EQ(Run(), Texts{"Appeared 1"});
     ASSERT_TRUE(tessaly.OpenInterface(id));
     EXPECT_EQ(tessaly.InterfaceType(), "VOICE");
     EXPECT_EQ(tessaly.InterfaceRole(), "RWCom1");
     EXPECT_FALSE(tessaly.InterfaceIsLocal());
-    EXPECT_TRUE(tessaly.DropClaim(id));
-    EXPECT_FALSE(tessaly.DropClaim(id));
+    EXPECT_TRUE(far.DropClaim(id));
+    EXPECT_FALSE(far.DropClaim(id));
     EXPECT_FALSE(tessaly.OpenInterface(id));
     EXPECT_EQ(tessaly.InterfaceType(), "");
     EXPECT_EQ(Run(), Texts{"Removed 1"});
 }
 
-TEST_F(TessalyTest, BothMayHoldOneRole) {
+TEST_F(FrameworkEndTest, BothMayHoldOneRole) {
     Connect();
     tessaly.CreateInterface("VOICE", "RWCom1");
-    tessaly.Claim("tower", "RWCom1");
+    far.Claim("tower", "RWCom1", VoiceRecordType);
     EXPECT_EQ(Run(), (Texts{"Appeared 1", "Appeared 2"}));
-    const auto records = tessaly.Records();
+    const auto records = far.Records();
     EXPECT_TRUE(records.at(1).IsLocal);
     EXPECT_EQ(records.at(1).Owner, "");
     EXPECT_EQ(records.at(2).Owner, "tower");
 }
 
-TEST_F(TessalyTest, OnlyThePanelDeletesItsRecordsAndOnlyThose) {
+TEST_F(FrameworkEndTest, OnlyThePanelDeletesItsRecordsAndOnlyThose) {
     Connect();
     const Long own = tessaly.CreateInterface("VOICE", "RWCom1");
-    const Long foreign = tessaly.Claim("tower", "RWCom2");
+    const Long foreign = far.Claim("tower", "RWCom2", VoiceRecordType);
     Run();
-    EXPECT_FALSE(tessaly.DropClaim(own));
+    EXPECT_FALSE(far.DropClaim(own));
     tessaly.DeleteInterface(foreign);
     tessaly.DeleteInterface(99);
     EXPECT_TRUE(Run().empty());
@@ -327,10 +330,10 @@ TEST_F(TessalyTest, OnlyThePanelDeletesItsRecordsAndOnlyThose) {
     EXPECT_TRUE(events.empty());
     EXPECT_EQ(tessaly.GetParam(0), 0);
     EXPECT_EQ(Run(), Texts{"Removed 1"});
-    EXPECT_EQ(tessaly.Records().size(), 1U);
+    EXPECT_EQ(far.Records().size(), 1U);
 }
 
-TEST_F(TessalyTest, AnIdIsFreeAgainWhenItsRemovalWasTold) {
+TEST_F(FrameworkEndTest, AnIdIsFreeAgainWhenItsRemovalWasTold) {
     Connect();
     const Long first = tessaly.CreateInterface("VOICE", "RWCom1");
     Run();
@@ -338,73 +341,73 @@ TEST_F(TessalyTest, AnIdIsFreeAgainWhenItsRemovalWasTold) {
     const Long second = tessaly.CreateInterface("VOICE", "RWCom1");
     EXPECT_NE(second, first);
     EXPECT_EQ(Run(), (Texts{"Removed 1", "Appeared 2"}));
-    EXPECT_EQ(tessaly.Claim("tower", "VVL"), first);
+    EXPECT_EQ(far.Claim("tower", "VVL", VoiceRecordType), first);
 }
 
-TEST_F(TessalyTest, ARecordThatWasNeverToldOfGoesInSilence) {
+TEST_F(FrameworkEndTest, ARecordThatWasNeverToldOfGoesInSilence) {
     Connect();
     tessaly.DeleteInterface(tessaly.CreateInterface("VOICE", "RWCom1"));
     EXPECT_EQ(tessaly.CreateInterface("VOICE", "RWCom2"), 1);
     EXPECT_EQ(Run(), Texts{"Appeared 1"});
 }
 
-TEST_F(TessalyTest, ThePanelHearsOfOtherComputersWhenTheLinkComesUp) {
+TEST_F(FrameworkEndTest, ThePanelHearsOfOtherComputersWhenTheLinkComesUp) {
     tessaly.LinkStart();
-    const Long early = tessaly.Claim("tower", "RWCom1");
+    const Long early = far.Claim("tower", "RWCom1", VoiceRecordType);
     EXPECT_TRUE(Run().empty());
     EXPECT_FALSE(tessaly.OpenInterface(early));
-    tessaly.SetLink(LinkState::Up);
+    far.SetLink(LinkState::Up);
     EXPECT_EQ(Run(), (Texts{"Connected", "Appeared 1"}));
-    tessaly.SetLink(LinkState::Down);
+    far.SetLink(LinkState::Down);
     Run();
-    tessaly.DropClaim(early);
-    tessaly.Claim("approach", "RWCom2");
+    far.DropClaim(early);
+    far.Claim("approach", "RWCom2", VoiceRecordType);
     EXPECT_TRUE(Run().empty());
-    tessaly.SetLink(LinkState::Up);
+    far.SetLink(LinkState::Up);
     EXPECT_EQ(Run(), (Texts{"Connected", "Removed 1", "Appeared 2"}));
 }
 
-TEST_F(TessalyTest, AnotherPartyWritesParameters) {
+TEST_F(FrameworkEndTest, AnotherPartyWritesParameters) {
     Connect();
     const Long id = tessaly.CreateInterface("VOICE", "VVL");
     tessaly.SetParam(7, 2);
     Run();
-    EXPECT_TRUE(tessaly.WriteParameter(id, 7, 1));
-    EXPECT_TRUE(tessaly.WriteText(id, 9, "srv1/private"));
-    EXPECT_TRUE(tessaly.AnnounceChange(id));
+    EXPECT_TRUE(far.WriteParameter(id, 7, 1));
+    EXPECT_TRUE(far.WriteText(id, 9, "srv1/private"));
+    EXPECT_TRUE(far.AnnounceChange(id));
     EXPECT_TRUE(events.empty());
     EXPECT_EQ(Run(), (Texts{"ParamChanged 1 7", "ParamChanged 1 9", "Changed 1"}));
     EXPECT_EQ(tessaly.GetParam(7), 1);
     EXPECT_EQ(tessaly.GetParamText(9), "srv1/private");
-    const InterfaceRecord record = tessaly.Records().at(id);
+    const InterfaceRecord record = far.Records().at(id);
     EXPECT_EQ(record.Parameters.at(7).Writer, ParameterWriter::OtherParty);
     EXPECT_EQ(record.Parameters.at(7).WriteNumber, 2U);
     EXPECT_EQ(record.Texts.at(9).WriteNumber, 3U);
-    EXPECT_EQ(tessaly.Writes(), 3U);
+    EXPECT_EQ(far.Writes(), 3U);
 }
 
-TEST_F(TessalyTest, NobodyElseReachesARecordWithoutALink) {
+TEST_F(FrameworkEndTest, NobodyElseReachesARecordWithoutALink) {
     tessaly.LinkStart();
     const Long id = tessaly.CreateInterface("VOICE", "VVL");
     Run();
-    EXPECT_FALSE(tessaly.WriteParameter(id, 7, 1));
-    EXPECT_FALSE(tessaly.WriteText(id, 9, "room"));
-    EXPECT_FALSE(tessaly.AnnounceChange(id));
-    tessaly.SetLink(LinkState::Up);
+    EXPECT_FALSE(far.WriteParameter(id, 7, 1));
+    EXPECT_FALSE(far.WriteText(id, 9, "room"));
+    EXPECT_FALSE(far.AnnounceChange(id));
+    far.SetLink(LinkState::Up);
     Run();
-    EXPECT_FALSE(tessaly.WriteParameter(99, 7, 1));
+    EXPECT_FALSE(far.WriteParameter(99, 7, 1));
     EXPECT_TRUE(Run().empty());
     EXPECT_EQ(tessaly.GetParam(7), 0);
 }
 
-TEST_F(TessalyTest, LinkStopForgetsThePanelsRecordsAndKeepsTheOthers) {
+TEST_F(FrameworkEndTest, LinkStopForgetsThePanelsRecordsAndKeepsTheOthers) {
     Connect();
     tessaly.CreateInterface("VOICE", "RWCom1");
-    tessaly.Claim("tower", "RWCom2");
+    far.Claim("tower", "RWCom2", VoiceRecordType);
     Run();
     tessaly.LinkStop();
-    ASSERT_EQ(tessaly.Records().size(), 1U);
-    EXPECT_EQ(tessaly.Records().begin()->second.Owner, "tower");
+    ASSERT_EQ(far.Records().size(), 1U);
+    EXPECT_EQ(far.Records().begin()->second.Owner, "tower");
     tessaly.LinkStart();
     EXPECT_EQ(Run(), (Texts{"Connected", "Appeared 2"}));
 }

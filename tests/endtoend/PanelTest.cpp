@@ -20,7 +20,8 @@ PanelTest::PanelTest() {
 
 void PanelTest::Open() {
     house.Open();
-    ASSERT_TRUE(ComesTrue([this] { return house.Deck && house.Deck->isVisible() && house.Desktop.Window().isVisible(); }));
+    ASSERT_TRUE(
+        ComesTrue([this] { return house.Deck && house.Deck->isVisible() && house.Desktop.Window().isVisible(); }));
     // Side by side, so that nothing hides what is clicked.
     house.Deck->move(0, house.Desktop.Window().frameGeometry().bottom() + 1);
 }

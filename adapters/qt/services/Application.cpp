@@ -22,7 +22,8 @@ void ApplicationSetUp::Done() {
 
 Application::Application(std::string programName, std::string windowSystem, FailureHandler failureHandler)
     : ApplicationSetUp(std::move(programName), std::move(windowSystem)),
-      QApplication(count, values), failed(std::move(failureHandler)) {
+      QApplication(count, values),
+      failed(std::move(failureHandler)) {
     Done();
     // The panel lives on without a window, and ends by its own doors only.
     setQuitOnLastWindowClosed(false);

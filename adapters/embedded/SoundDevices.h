@@ -7,7 +7,7 @@
 
 namespace orvelle::embedded {
 
-class AudioDevices : public orvelle::AudioDevices {
+class SoundDevices : public AudioDevices {
 public:
     std::vector<std::string> InputNames() const override { return inputs; }
     std::vector<std::string> OutputNames() const override { return outputs; }
