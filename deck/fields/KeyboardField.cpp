@@ -8,8 +8,8 @@
 
 #include "adapters/embedded/Velmarc.h"
 #include "adapters/x11/KeyRepeat.h"
-#include "deck/fields/KeyNames.h"
 #include "deck/fields/Section.h"
+#include "deck/fields/ToolkitKeys.h"
 
 namespace orvelle::deck {
 
