@@ -5,6 +5,7 @@
 #include "adapters/looks/Theme.h"
 #include "adapters/qt/services/Application.h"
 #include "adapters/x11/Display.h"
+#include "adapters/x11/KeyRepeat.h"
 #include "apps/PanelProgram.h"
 #include "deck/FirstFlight.h"
 
@@ -22,6 +23,7 @@ int main() {
     qt::Application application("orvelle-panel", [&](const std::exception& error) { EndByError(program, error); });
     qt::Application::setDesktopFileName("net.orvelle.OrvelleCP");
     ApplyTheme(SystemScheme());
+    TellRepeatsAsPresses();
     PanelProgram panel(program, endings, SettingsFile());
     return application.Run([&] {
         panel.Open();

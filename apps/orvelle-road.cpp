@@ -7,6 +7,7 @@
 #include "adapters/looks/Theme.h"
 #include "adapters/qt/services/Application.h"
 #include "adapters/x11/Display.h"
+#include "adapters/x11/KeyRepeat.h"
 #include "apps/Road.h"
 
 int main() {
@@ -19,6 +20,7 @@ int main() {
     linux::ProcessProgram program(linux::InstanceLock::OfThisSession());
     qt::Application application("orvelle-road", [&](const std::exception& error) { EndByError(program, error); });
     ApplyTheme(SystemScheme());
+    TellRepeatsAsPresses();
     QTemporaryDir settings;
     program.AtEnd([&] { settings.remove(); });
     PanelProgram panel(program, endings, settings.filePath("settings.sqlite").toStdString());

@@ -7,7 +7,6 @@
 #include <algorithm>
 
 #include "adapters/embedded/Velmarc.h"
-#include "adapters/x11/KeyRepeat.h"
 #include "deck/fields/Section.h"
 #include "deck/fields/ToolkitKeys.h"
 
@@ -35,7 +34,6 @@ KeyboardField::KeyboardField(EmbeddedVelmarc& simulator)
       sequence(new QLabel),
       hint(new QLabel),
       watch(simulator.Changed.Observe([this] { ShowState(); })) {
-    TellRepeatsAsPresses();
     setObjectName("KeyboardField");
     setAccessibleName("Keyboard of the simulator's computer");
     setToolTip("Each key that goes down or up here goes down or up on the simulator's computer. Tab leaves the field.");
