@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "adapters/embedded/SetUp.h"
+#include "adapters/looks/Text.h"
 #include "deck/fields/Section.h"
 #include "deck/pages/FaultsPage.h"
 #include "deck/pages/NetworkPage.h"
@@ -29,7 +30,7 @@ constexpr QSize FrameAllowance(16, 44);
 void AddPage(QTabWidget& tabs, QWidget* page, const QString& title) {
     auto* frame = new QWidget;
     auto* margins = new QVBoxLayout(frame);
-    margins->setContentsMargins(2 * DeckUnit, 2 * DeckUnit, 2 * DeckUnit, 2 * DeckUnit);
+    margins->setContentsMargins(2 * Unit, 2 * Unit, 2 * Unit, 2 * Unit);
     margins->addWidget(page);
     auto* area = new QScrollArea;
     area->setWidgetResizable(true);
@@ -44,7 +45,7 @@ QWidget* SideBySide(QWidget* left, QWidget* right) {
     page->setObjectName("FlightPage");
     auto* row = new QHBoxLayout(page);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(3 * DeckUnit);
+    row->setSpacing(3 * Unit);
     row->addWidget(left, 1);
     row->addWidget(right, 1);
     return page;
@@ -80,9 +81,7 @@ void DeckWindow::OpenAt(const QPoint& position) {
     show();
 }
 
-void DeckWindow::TellOfProgram(const std::string& sentence) {
-    simulator->TellOfProgram(QString::fromStdString(sentence));
-}
+void DeckWindow::TellOfProgram(const std::string& sentence) { simulator->TellOfProgram(ToQt(sentence)); }
 
 // Hidden it could not be brought back. Minimising hides it too, as far as its events go. Closed by the program, as at
 // the end of the session, it just goes.

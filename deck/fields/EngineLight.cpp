@@ -11,11 +11,11 @@ EngineLight::EngineLight(const QString& name, EmbeddedVoiceEngine& voiceEngine)
 
 void EngineLight::ShowState() {
     if (engine.Running())
-        Show(Signal::On, "Running");
+        Show(Sign::Good, "Running");
     else if (engine.Starting())
-        Show(Signal::Waiting, "Starting");
+        Show(Sign::Waiting, "Starting");
     else
-        Show(Signal::Off, "Stopped");
+        Show(Sign::Off, "Stopped");
 }
 
 }  // namespace orvelle::deck

@@ -4,6 +4,7 @@
 #include <QToolButton>
 
 #include "adapters/embedded/Velmarc.h"
+#include "adapters/looks/Text.h"
 #include "deck/fields/Section.h"
 
 namespace orvelle::deck {
@@ -16,10 +17,10 @@ QToolButton* NewJoystickButton(EmbeddedVelmarc& velmarc, const std::string& devi
     const std::string text = std::to_string(number);
     const std::string button = "Button " + text;
     auto* widget = new QToolButton;
-    widget->setObjectName(QString::fromStdString(device + text));
-    widget->setText(QString::fromStdString(text));
-    widget->setToolTip(QString::fromStdString("Hold \"" + device + "." + button + "\" down"));
-    widget->setAccessibleName(QString::fromStdString(device + " " + button));
+    widget->setObjectName(ToQt(device + text));
+    widget->setText(ToQt(text));
+    widget->setToolTip(ToQt("Hold \"" + device + "." + button + "\" down"));
+    widget->setAccessibleName(ToQt(device + " " + button));
     // A mouse press doesn't take the focus, so that keys stay held meanwhile.
     widget->setFocusPolicy(Qt::TabFocus);
     widget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -33,10 +34,10 @@ QToolButton* NewJoystickButton(EmbeddedVelmarc& velmarc, const std::string& devi
 }  // namespace
 
 JoystickRow::JoystickRow(EmbeddedVelmarc& velmarc, const std::string& device) {
-    setObjectName(QString::fromStdString(device));
+    setObjectName(ToQt(device));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(DeckUnit / 2);
+    row->setSpacing(Unit / 2);
     for (int number = 1; number <= Buttons; ++number) row->addWidget(NewJoystickButton(velmarc, device, number));
 }
 

@@ -28,7 +28,7 @@ FaultsPage::FaultsPage(EmbeddedSetUp& setUp) {
     setObjectName("FaultsPage");
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(3 * DeckUnit);
+    row->setSpacing(3 * Unit);
     row->addLayout(ColumnOf({new DelaysBox(setUp), new RefusalsBox(setUp), new ComputerBox(setUp.Velmarc)}), 1);
     row->addLayout(
         ColumnOf({new TeamSpeakBox(setUp.TSRemote), new MixersBox(setUp.VolumeControl, setUp.VolumeControlHP)}), 1);

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QSpinBox>
 
+#include "adapters/looks/Text.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/SignalLight.h"
 
@@ -18,7 +19,7 @@ QWidget* Beside(QWidget* first, QWidget* second) {
     auto* widget = new QWidget;
     auto* row = new QHBoxLayout(widget);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(DeckUnit);
+    row->setSpacing(Unit);
     row->addWidget(first);
     row->addWidget(second, 1);
     return widget;
@@ -73,8 +74,8 @@ QCheckBox* MixersBox::NewPlug(EmbeddedMixer& mixer, MixerSide side, const QStrin
 
 void MixersBox::ShowState(const Column& column) {
     const EmbeddedMixer& mixer = *column.Mixer;
-    const QString device = QString::fromStdString(mixer.DeviceName(MixerSide::Output));
-    column.State->Show(mixer.IsOpen() ? Signal::On : Signal::Off, (mixer.IsOpen() ? "Open on " : "Closed, ") + device);
+    const QString device = ToQt(mixer.DeviceName(MixerSide::Output));
+    column.State->Show(mixer.IsOpen() ? Sign::Good : Sign::Off, (mixer.IsOpen() ? "Open on " : "Closed, ") + device);
     for (const MixerSide side : Sides)
         column.Plugged.at(static_cast<std::size_t>(side))->setChecked(mixer.Plugged(side));
     for (const MixerLine line : Lines) {

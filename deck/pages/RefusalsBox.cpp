@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "adapters/embedded/SetUp.h"
+#include "adapters/looks/Text.h"
 #include "deck/fields/Fields.h"
 
 namespace orvelle::deck {
@@ -42,11 +43,11 @@ RefusalsBox::RefusalsBox(EmbeddedSetUp& embedded)
                        NewRefusal("RefuseCreate", "Create record", refuse.CreateInterface),
                        NewRefusal("RefuseOpen", "Open record", refuse.OpenInterface)});
     AddRow("Odd record", {type, role, NewButton("OddClaim", "Claim", "Another computer makes this record", [this] {
-                              setUp.Tessaly.Claim(RecordOwner, role->text().toStdString(), type->text().toStdString());
+                              setUp.Tessaly.Claim(RecordOwner, FromQt(role->text()), FromQt(type->text()));
                           })});
     AddRow("Settings notice",
            {notice, nullptr, NewButton("TellNotice", "Tell the user", "As the settings store tells it", [this] {
-                setUp.Notice(notice->text().toStdString());
+                setUp.Notice(FromQt(notice->text()));
             })});
 }
 

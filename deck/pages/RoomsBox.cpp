@@ -20,16 +20,16 @@ constexpr JoinOutcome JoinOutcomes[] = {JoinOutcome::Succeeds, JoinOutcome::Refu
 void ShowRoomState(SignalLight& light, RoomState state) {
     switch (state) {
         case RoomState::Out:
-            return light.Show(Signal::Off, "Out");
+            return light.Show(Sign::Off, "Out");
         case RoomState::Joining:
-            return light.Show(Signal::Waiting, "Joining");
+            return light.Show(Sign::Waiting, "Joining");
         case RoomState::In:
-            return light.Show(Signal::On, "In");
+            return light.Show(Sign::Good, "In");
     }
 }
 
 void ShowSwitch(SignalLight& light, bool on, const QString& whenOn, const QString& whenOff) {
-    light.Show(on ? Signal::On : Signal::Off, on ? whenOn : whenOff);
+    light.Show(on ? Sign::Good : Sign::Off, on ? whenOn : whenOff);
 }
 
 }  // namespace
@@ -81,7 +81,7 @@ void RoomsBox::ShowPanelsDoing(const Room& shown, const VoiceRoom& room) const {
     ShowRoomState(*shown.State, room.State);
     if (!engine.Running()) {
         for (SignalLight* light : {shown.Microphone, shown.Headset, shown.Speakers, shown.Audio})
-            light->Show(Signal::Off, "");
+            light->Show(Sign::Off, "");
         for (Readout* text : {shown.Client, shown.Address}) text->Show(QString());
         return;
     }

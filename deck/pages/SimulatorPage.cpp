@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "adapters/embedded/Velmarc.h"
+#include "adapters/looks/Text.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/TimedLog.h"
 #include "deck/pages/InputsBox.h"
@@ -47,8 +48,7 @@ void SimulatorPage::ShowState() {
     active->setChecked(velmarc.SimulatorActive());
     const auto& played = velmarc.Sounds();
     const std::size_t fresh = std::min(velmarc.SoundsPlayed() - soundsShown, played.size());
-    for (std::size_t index = played.size() - fresh; index < played.size(); ++index)
-        sounds->Add(QString::fromStdString(played[index]));
+    for (std::size_t index = played.size() - fresh; index < played.size(); ++index) sounds->Add(ToQt(played[index]));
     soundsShown = velmarc.SoundsPlayed();
 }
 

@@ -28,7 +28,7 @@ VoicePage::VoicePage(EmbeddedVoiceEngine& voiceEngine, EmbeddedTessaly& tessaly)
     column->addStretch();
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(3 * DeckUnit);
+    row->setSpacing(3 * Unit);
     row->addLayout(column, 1);
     row->addWidget(new ParametersBox(tessaly), 1);
 }
