@@ -102,7 +102,10 @@ TEST_F(DeckFields, BytesThatAreNoUtf8AreShownAsLatin1AndStayUntilTheyAreEdited) 
     QTest::keyClick(&edit, Qt::Key_Return);
     Settle();
     EXPECT_EQ(setUp.Tessaly.Session().Callsign, old);
-    Type("Callsign", "Zürich");
+    edit.selectAll();
+    edit.insert("Zürich");
+    QTest::keyClick(&edit, Qt::Key_Return);
+    Settle();
     EXPECT_EQ(setUp.Tessaly.Session().Callsign, "Z\xc3\xbcrich");
 }
 
