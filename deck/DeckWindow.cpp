@@ -29,7 +29,7 @@ constexpr QSize FrameAllowance(16, 44);
 void AddPage(QTabWidget& tabs, QWidget* page, const QString& title) {
     auto* frame = new QWidget;
     auto* margins = new QVBoxLayout(frame);
-    margins->setContentsMargins(2 * DeckUnit, 2 * DeckUnit, 2 * DeckUnit, 2 * DeckUnit);
+    margins->setContentsMargins(2 * Unit, 2 * Unit, 2 * Unit, 2 * Unit);
     margins->addWidget(page);
     auto* area = new QScrollArea;
     area->setWidgetResizable(true);

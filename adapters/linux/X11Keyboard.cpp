@@ -1,6 +1,7 @@
 #include "adapters/linux/X11Keyboard.h"
 
-#include "adapters/linux/KeyTable.h"
+#include "adapters/linux/VirtualKeys.h"
+#include "adapters/shared/KeyNames.h"
 #include "adapters/shared/ScanCodes.h"
 
 namespace orvelle::linux {

@@ -20,8 +20,8 @@ public:
     X11Keyboard(std::string display, std::string guardFile);
     ~X11Keyboard() override { ReleaseAll(); }
 
-    // The virtual key alone decides which key it is (platform/linux/KeyTable.h), since every stroke bears the extended
-    // flag; the scan byte decides where the virtual key is unknown.
+    // The virtual key alone decides which key it is (VirtualKeys.h), since every stroke bears the extended flag; the
+    // scan byte decides where the virtual key is unknown.
     void keybd_event(Long virtualKey, Long scanByte, Long flags, Long extra) override;
     // A number of its own for each code from 0 to 511; 0 for another code or another kind of translation.
     Long MapVirtualKeyA(Long code, Long mapType) override;

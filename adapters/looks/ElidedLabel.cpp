@@ -2,16 +2,27 @@
 
 #include <QHelpEvent>
 #include <QPainter>
-#include <QTextDocument>
 #include <QToolTip>
+
+#include "adapters/looks/Text.h"
 
 namespace orvelle {
 
-QSize ElidedLabel::minimumSizeHint() const { return {fontMetrics().averageCharWidth() * 8, fontMetrics().height()}; }
+namespace {
+
+constexpr int LeastLetters = 8;
+
+}  // namespace
+
+QSize ElidedLabel::sizeHint() const { return {fontMetrics().horizontalAdvance(text()), fontMetrics().height()}; }
+
+QSize ElidedLabel::minimumSizeHint() const {
+    return {fontMetrics().averageCharWidth() * LeastLetters, fontMetrics().height()};
+}
 
 bool ElidedLabel::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip && fontMetrics().horizontalAdvance(text()) > contentsRect().width()) {
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), Qt::convertFromPlainText(text()), this);
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), PlainTip(text()), this);
         return true;
     }
     return QLabel::event(event);

@@ -12,6 +12,7 @@ class ElidedLabel : public QLabel {
 public:
     explicit ElidedLabel(QWidget* parent = nullptr) : QLabel(parent) {}
 
+    QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 protected:

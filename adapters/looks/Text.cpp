@@ -1,6 +1,7 @@
 #include "adapters/looks/Text.h"
 
 #include <QStringDecoder>
+#include <QTextDocument>
 
 namespace orvelle {
 
@@ -12,5 +13,9 @@ QString ToQt(const std::string& text) {
 }
 
 std::string FromQt(const QString& text) { return text.toStdString(); }
+
+QString PlainTip(const QString& text) {
+    return text.isEmpty() ? QString() : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
+}
 
 }  // namespace orvelle

@@ -10,4 +10,7 @@ namespace orvelle {
 QString ToQt(const std::string& text);
 std::string FromQt(const QString& text);
 
+// A tool tip that shows `text` to the letter, whatever marks are in it; "" for none.
+QString PlainTip(const QString& text);
+
 }  // namespace orvelle

@@ -1,4 +1,4 @@
-// How repeats of a held key reach this program.
+// How repeats of a held key reach this program. The program calls it once, as soon as its application is there.
 #pragma once
 
 namespace orvelle {

@@ -15,7 +15,7 @@ void EngineLight::ShowState() {
     else if (engine.IsStarting())
         Show(Signal::Waiting, "Starting");
     else
-        Show(Signal::Off, "Stopped");
+        Show(Sign::Off, "Stopped");
 }
 
 }  // namespace orvelle::deck

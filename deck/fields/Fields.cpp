@@ -6,7 +6,6 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QSpinBox>
-#include <QTextDocument>
 #include <QWheelEvent>
 #include <utility>
 
@@ -93,10 +92,6 @@ QPushButton* NewButton(const QString& name, const QString& text, const QString& 
     button->setAutoDefault(false);
     QObject::connect(button, &QPushButton::clicked, button, std::move(apply));
     return button;
-}
-
-QString PlainTip(const QString& text) {
-    return text.isEmpty() ? QString() : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
 }
 
 void ShowNumber(QSpinBox& box, int number) {

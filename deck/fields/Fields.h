@@ -28,9 +28,6 @@ QSpinBox* NewNumber(const QString& name, const QString& toolTip, int least, int 
 QSpinBox* NewDelay(const QString& name, const QString& toolTip, int value, std::function<void(int)> apply);
 QPushButton* NewButton(const QString& name, const QString& text, const QString& toolTip, std::function<void()> apply);
 
-// A tool tip that shows `text` to the letter, whatever marks are in it; "" for none.
-QString PlainTip(const QString& text);
-
 void ShowNumber(QSpinBox& box, int number);
 
 }  // namespace orvelle::deck

@@ -16,10 +16,10 @@ QToolButton* NewJoystickButton(SimulatorSide& velmarc, const std::string& device
     const std::string text = std::to_string(number);
     const std::string button = "Button " + text;
     auto* widget = new QToolButton;
-    widget->setObjectName(QString::fromStdString(device + text));
-    widget->setText(QString::fromStdString(text));
-    widget->setToolTip(QString::fromStdString("Hold \"" + device + "." + button + "\" down"));
-    widget->setAccessibleName(QString::fromStdString(device + " " + button));
+    widget->setObjectName(ToQt(device + text));
+    widget->setText(ToQt(text));
+    widget->setToolTip(ToQt("Hold \"" + device + "." + button + "\" down"));
+    widget->setAccessibleName(ToQt(device + " " + button));
     // A mouse press doesn't take the focus, so that keys stay held meanwhile.
     widget->setFocusPolicy(Qt::TabFocus);
     widget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -36,7 +36,7 @@ JoystickRow::JoystickRow(SimulatorSide& velmarc, const std::string& device) {
     setObjectName(QString::fromStdString(device));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(DeckUnit / 2);
+    row->setSpacing(Unit / 2);
     for (int number = 1; number <= Buttons; ++number) row->addWidget(NewJoystickButton(velmarc, device, number));
 }
 

@@ -52,7 +52,7 @@ KeyboardField::KeyboardField(SimulatorSide& simulator)
         label->setTextFormat(Qt::PlainText);
     }
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(DeckUnit, DeckUnit, DeckUnit, DeckUnit);
+    column->setContentsMargins(Unit, Unit, Unit, Unit);
     column->setSpacing(0);
     column->addWidget(sequence);
     column->addWidget(hint);
@@ -113,7 +113,7 @@ void KeyboardField::ReleaseAll() {
 void KeyboardField::ShowState() {
     const bool up = velmarc.TakesInput();
     const std::string keys = velmarc.HeldSequence();
-    sequence->setText(!keys.empty() ? QString::fromStdString(keys) : up && hasFocus() ? "Listening" : "Keys");
+    sequence->setText(!keys.empty() ? ToQt(keys) : up && hasFocus() ? "Listening" : "Keys");
     sequence->setForegroundRole(keys.empty() ? QPalette::PlaceholderText : QPalette::Text);
     hint->setText(!up          ? "The link is down: keys go nowhere"
                   : hasFocus() ? "Every key but Tab goes down and up over there"

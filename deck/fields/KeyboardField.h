@@ -1,6 +1,7 @@
 // The simulator's keyboard: what is typed into this field goes down and up on the simulator's computer, key by key,
-// with the repeats that the system makes. Every key but Tab is taken, also those of shortcuts. What is held when the
-// focus goes, or the window, is let go. While the link is down keys go nowhere.
+// with the repeats that the system makes; the program sees to it that a repeat comes as one more press, without a
+// release before it. Every key but Tab is taken, also those of shortcuts. What is held when the focus goes, or the
+// window, is let go. While the link is down keys go nowhere.
 #pragma once
 
 #include <QFrame>

@@ -1,24 +1,19 @@
-// A line of text that the deck reads out, of any length: where the room is too narrow its middle is left out, and
-// the whole text is the tool tip.
+// A line of text that the deck reads out, of any length, in the width that its column gives it.
 #pragma once
 
-#include <QLabel>
 #include <string>
+
+#include "adapters/looks/ElidedLabel.h"
+#include "adapters/looks/Text.h"
 
 namespace orvelle::deck {
 
-class Readout : public QLabel {
+class Readout : public ElidedLabel {
 public:
     explicit Readout(const QString& name);
 
-    void Show(const QString& text);
-    void Show(const std::string& text) { Show(QString::fromStdString(text)); }
-
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
+    void Show(const QString& text) { setText(text); }
+    void Show(const std::string& text) { setText(ToQt(text)); }
 };
 
 }  // namespace orvelle::deck

@@ -27,7 +27,7 @@ QWidget* Title(const QString& title) {
     auto* widget = new QWidget;
     auto* row = new QHBoxLayout(widget);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(DeckUnit);
+    row->setSpacing(Unit);
     row->addWidget(label);
     row->addWidget(line, 1);
     return widget;
@@ -39,8 +39,8 @@ Section::Section(const QString& name, const QString& title, int columnCount)
     : grid(new QGridLayout(this)), columns(columnCount) {
     setObjectName(name);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(DeckUnit);
-    grid->setVerticalSpacing(DeckUnit / 2);
+    grid->setHorizontalSpacing(Unit);
+    grid->setVerticalSpacing(Unit / 2);
     grid->setColumnMinimumWidth(0, fontMetrics().horizontalAdvance(LongestLabel));
     for (int column = 1; column <= columns; ++column) grid->setColumnStretch(column, 1);
     grid->addWidget(Title(title), 0, 0, 1, columns + 1);

@@ -4,13 +4,13 @@
 #include <QWidget>
 #include <initializer_list>
 
+#include "adapters/looks/Theme.h"
+
 class QGridLayout;
 
 namespace orvelle::deck {
 
-// The one unit of all margins and gaps, logical pixels.
-constexpr int DeckUnit = 8;
-constexpr int SectionGap = 12;  // between two sections of a column
+constexpr int SectionGap = Unit + Unit / 2;  // between two sections of a column
 
 class Section : public QWidget {
 public:

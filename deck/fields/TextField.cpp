@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <utility>
 
+#include "adapters/looks/Text.h"
+
 namespace orvelle::deck {
 
 namespace {
@@ -17,12 +19,12 @@ TextField::TextField(std::function<void(const std::string&)> apply) {
         if (!isModified()) return;
         setModified(false);
         holding = text();
-        apply(holding.toStdString());
+        apply(FromQt(holding));
     });
 }
 
 void TextField::Show(const std::string& text) {
-    holding = QString::fromStdString(text);
+    holding = ToQt(text);
     if (!isModified() && this->text() != holding) ShowHolding();
 }
 

@@ -58,15 +58,15 @@ std::optional<Squelch> AskCalibration(QWidget* parent, const VoiceEngineSide& en
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
 
     auto* grid = new QGridLayout;
-    grid->setSpacing(DeckUnit);
+    grid->setSpacing(Unit);
     grid->setColumnStretch(1, 1);
     AddRow(*grid, "Microphone", NewReading("CalibratedMicrophone", DeviceName(devices.InputNames(), inputDevice)));
     AddRow(*grid, "&Input squelch", input);
     AddRow(*grid, "Headset", NewReading("CalibratedHeadset", DeviceName(devices.OutputNames(), outputDevice)));
     AddRow(*grid, "Out&put squelch", output);
     auto* column = new QVBoxLayout(&dialog);
-    column->setContentsMargins(2 * DeckUnit, 2 * DeckUnit, 2 * DeckUnit, 2 * DeckUnit);
-    column->setSpacing(2 * DeckUnit);
+    column->setContentsMargins(2 * Unit, 2 * Unit, 2 * Unit, 2 * Unit);
+    column->setSpacing(2 * Unit);
     column->addLayout(grid);
     column->addWidget(buttons);
     // All of the title is to be read, and nothing grows with the window.

@@ -41,7 +41,7 @@ EngineBox::EngineBox(VoiceEngineSide& voiceEngine)
 }
 
 void EngineBox::ShowState() {
-    audio->Show(engine.AudioRuns() ? Signal::On : Signal::Off, engine.AudioRuns() ? "Audio runs" : "No audio");
+    audio->Show(engine.AudioRuns() ? Sign::Good : Sign::Off, engine.AudioRuns() ? "Audio runs" : "No audio");
     squelch->Show(QString("Squelch %1 / %2").arg(engine.InputSquelchValue()).arg(engine.OutputSquelchValue()));
     starts->setCurrentIndex(static_cast<int>(engine.Starts()));
 }

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "adapters/looks/Text.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/Readout.h"
 #include "deck/fields/SignalLight.h"
@@ -15,7 +16,7 @@ namespace {
 
 QString Joined(const std::vector<std::string>& names) {
     QStringList list;
-    for (const std::string& name : names) list << QString::fromStdString(name);
+    for (const std::string& name : names) list << ToQt(name);
     return list.isEmpty() ? "None yet" : list.join(", ");
 }
 
@@ -44,18 +45,18 @@ LinkBox::LinkBox(const QString& name, const QString& title, const QString& switc
 
 void LinkBox::SeeServer() {
     if (seen->text().isEmpty()) return;
-    link.SeeServer(seen->text().toStdString());
+    link.SeeServer(FromQt(seen->text()));
     seen->selectAll();
 }
 
 void LinkBox::ShowState() {
     const bool wanted = link.Link() == LinkState::Up;
     const bool isUp = link.IsUp();
-    const Signal signal = wanted != isUp ? Signal::Waiting : isUp ? Signal::On : Signal::Off;
+    const Sign sign = wanted != isUp ? Sign::Waiting : isUp ? Sign::Good : Sign::Off;
     const QString text = wanted == isUp ? (isUp ? "Connected" : "Down") : (wanted ? "Not up yet" : "Not lost yet");
     const std::string server = link.Server();
     up->setChecked(wanted);
-    state->Show(signal, text + ", server " + (server.empty() ? "(empty)" : QString::fromStdString(server)));
+    state->Show(sign, text + ", server " + (server.empty() ? "(empty)" : ToQt(server)));
     allSeen->Show(Joined(link.ServersSeen()));
 }
 

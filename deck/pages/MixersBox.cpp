@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QSpinBox>
 
+#include "adapters/looks/Text.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/SignalLight.h"
 
@@ -18,7 +19,7 @@ QWidget* Beside(QWidget* first, QWidget* second) {
     auto* widget = new QWidget;
     auto* row = new QHBoxLayout(widget);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(DeckUnit);
+    row->setSpacing(Unit);
     row->addWidget(first);
     row->addWidget(second, 1);
     return widget;

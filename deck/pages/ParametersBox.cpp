@@ -26,8 +26,8 @@ constexpr const char* LateMark = "●";
 constexpr int ValueLetters = 18;
 
 QString NameOf(Long id, const InterfaceRecord& record) {
-    const QString owner = record.IsLocal ? "this panel" : QString::fromStdString(record.Owner);
-    return QString("%1  %2 of %3").arg(id).arg(QString::fromStdString(record.Role), owner);
+    const QString owner = record.IsLocal ? "this panel" : ToQt(record.Owner);
+    return QString("%1  %2 of %3").arg(id).arg(ToQt(record.Role), owner);
 }
 
 // What the table shows of a parameter, of whichever kind.
@@ -44,7 +44,7 @@ Shown ShownOf(const std::map<Long, ParameterSetting<Content>>& parameters, Long 
     const ParameterSetting<Content>& parameter = found->second;
     Shown shown{{}, parameter.Writer == ParameterWriter::Panel ? "panel" : "other", late.IsLate(parameter.WriteNumber)};
     if constexpr (std::is_same_v<Content, std::string>)
-        shown.Value = QString::fromStdString(parameter.Content);
+        shown.Value = ToQt(parameter.Content);
     else
         shown.Value = QString::number(parameter.Content);
     return shown;
@@ -201,7 +201,7 @@ void ParametersBox::Write(int row, const QString& text) {
     bool isValid = true;
     bool isWritten = false;
     if (name.Kind == ParameterKind::Text) {
-        isWritten = tessaly.WriteText(ShownId(), name.Index, text.toStdString());
+        isWritten = tessaly.WriteText(ShownId(), name.Index, FromQt(text));
     } else if (const Long number = text.toInt(&isValid); isValid) {
         isWritten = tessaly.WriteParameter(ShownId(), name.Index, number);
     }

@@ -53,7 +53,7 @@ QWidget* Labelled(const QString& label, QWidget* field) {
     auto* widget = new QWidget;
     auto* row = new QHBoxLayout(widget);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(DeckUnit);
+    row->setSpacing(Unit);
     auto* caption = new QLabel(label);
     caption->setBuddy(field);
     row->addWidget(caption);

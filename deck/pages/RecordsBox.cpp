@@ -20,8 +20,7 @@ enum Column { Id, Type, Role, Owner, Parameters };
 QString ParametersOf(const InterfaceRecord& record) {
     QStringList list;
     for (const auto& [index, parameter] : record.Parameters) list << QString("%1=%2").arg(index).arg(parameter.Content);
-    for (const auto& [index, text] : record.Texts)
-        list << QString("%1=\"%2\"").arg(index).arg(QString::fromStdString(text.Content));
+    for (const auto& [index, text] : record.Texts) list << QString("%1=\"%2\"").arg(index).arg(ToQt(text.Content));
     return list.join("  ");
 }
 
@@ -29,7 +28,7 @@ QWidget* RowOf(const QList<QWidget*>& widgets) {
     auto* row = new QWidget;
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(DeckUnit / 2);
+    layout->setSpacing(Unit / 2);
     for (QWidget* widget : widgets) layout->addWidget(widget);
     return row;
 }
@@ -72,7 +71,7 @@ RecordsBox::RecordsBox(NetworkSide& framework)
 
 Long RecordsBox::ClaimOf(const std::string& role) const {
     for (const auto& [id, record] : tessaly.Records())
-        if (!record.IsLocal && record.Role == role && record.Owner == computer->text().toStdString()) return id;
+        if (!record.IsLocal && record.Role == role && record.Owner == FromQt(computer->text())) return id;
     return 0;
 }
 
@@ -83,7 +82,7 @@ Long RecordsBox::SelectedId() const {
 
 void RecordsBox::Claim(const std::string& role, bool on) {
     if (on)
-        tessaly.Claim(computer->text().toStdString(), role);
+        tessaly.Claim(FromQt(computer->text()), role);
     else
         tessaly.DropClaim(ClaimOf(role));
 }
@@ -96,9 +95,9 @@ void RecordsBox::ShowState() {
     int row = 0;
     for (const auto& [id, record] : records) {
         ShowCell(*table, row, Id, id);
-        ShowCell(*table, row, Type, QString::fromStdString(record.Type));
-        ShowCell(*table, row, Role, QString::fromStdString(record.Role));
-        ShowCell(*table, row, Owner, record.IsLocal ? "this panel" : QString::fromStdString(record.Owner));
+        ShowCell(*table, row, Type, ToQt(record.Type));
+        ShowCell(*table, row, Role, ToQt(record.Role));
+        ShowCell(*table, row, Owner, record.IsLocal ? "this panel" : ToQt(record.Owner));
         const QString parameters = ParametersOf(record);
         ShowCell(*table, row, Parameters, parameters).setToolTip(PlainTip(parameters));
         ++row;

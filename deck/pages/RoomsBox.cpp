@@ -29,7 +29,7 @@ void ShowRoomState(SignalLight& light, RoomPresence presence) {
 }
 
 void ShowSwitch(SignalLight& light, bool on, const QString& whenOn, const QString& whenOff) {
-    light.Show(on ? Signal::On : Signal::Off, on ? whenOn : whenOff);
+    light.Show(on ? Sign::Good : Sign::Off, on ? whenOn : whenOff);
 }
 
 }  // namespace
@@ -81,7 +81,7 @@ void RoomsBox::ShowPanelsDoing(const Room& shown, const VoiceRoom& room) const {
     ShowRoomState(*shown.State, room.Presence);
     if (!engine.IsRunning()) {
         for (SignalLight* light : {shown.Microphone, shown.Headset, shown.Speakers, shown.Audio})
-            light->Show(Signal::Off, "");
+            light->Show(Sign::Off, "");
         for (Readout* text : {shown.Client, shown.Address}) text->Show(QString());
         return;
     }

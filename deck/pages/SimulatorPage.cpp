@@ -49,8 +49,7 @@ void SimulatorPage::ShowState() {
     active->setChecked(velmarc.SimulatorActive());
     const auto& played = velmarc.Sounds();
     const std::size_t fresh = std::min(velmarc.SoundsPlayed() - soundsShown, played.size());
-    for (std::size_t index = played.size() - fresh; index < played.size(); ++index)
-        sounds->Add(QString::fromStdString(played[index]));
+    for (std::size_t index = played.size() - fresh; index < played.size(); ++index) sounds->Add(ToQt(played[index]));
     soundsShown = velmarc.SoundsPlayed();
 }
 

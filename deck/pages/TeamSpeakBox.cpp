@@ -18,8 +18,7 @@ namespace {
 std::map<std::string, Long> ChannelsOf(const std::string& text) {
     std::map<std::string, Long> channels;
     Long id = 0;
-    for (const QString& name : QString::fromStdString(text).split(',', Qt::SkipEmptyParts))
-        channels[name.trimmed().toStdString()] = ++id;
+    for (const QString& name : ToQt(text).split(',', Qt::SkipEmptyParts)) channels[FromQt(name.trimmed())] = ++id;
     return channels;
 }
 
@@ -65,12 +64,12 @@ TeamSpeakBox::TeamSpeakBox(TeamSpeakSide& program)
 
 void TeamSpeakBox::ShowState() {
     running->setChecked(teamSpeak.Program() == ProgramState::Running);
-    const QString address = QString::fromStdString(teamSpeak.Address());
-    const QString channel = QString::fromStdString(teamSpeak.Channel());
+    const QString address = ToQt(teamSpeak.Address());
+    const QString channel = ToQt(teamSpeak.Channel());
     place->Show(address.isEmpty()   ? "Not connected"
                 : channel.isEmpty() ? "On " + address
                                     : "On " + address + ", channel " + channel);
-    url->Show(teamSpeak.LastUrl().empty() ? "None yet" : QString::fromStdString(teamSpeak.LastUrl()));
+    url->Show(teamSpeak.LastUrl().empty() ? "None yet" : ToQt(teamSpeak.LastUrl()));
 }
 
 }  // namespace orvelle::deck

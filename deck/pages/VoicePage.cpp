@@ -31,7 +31,7 @@ VoicePage::VoicePage(const FarSides& sides) {
     column->addStretch();
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(3 * DeckUnit);
+    row->setSpacing(3 * Unit);
     row->addLayout(column, 1);
     if (sides.Network) row->addWidget(new ParametersBox(*sides.Network), 1);
 }

@@ -2,6 +2,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QSpinBox>
+#include <QTableWidget>
 #include <QWheelEvent>
 
 #include "tests/deck/DeckRig.h"
@@ -82,6 +83,30 @@ TEST_F(DeckFields, EscapeTakesBackANumberThatIsNotAppliedYet) {
     EXPECT_EQ(box.text(), "0 ms");
     QTest::keyClick(&box, Qt::Key_Return);
     EXPECT_EQ(setUp.VVL.JoinDelay(), 0);
+}
+
+TEST_F(DeckFields, BytesThatAreNoUtf8AreShownAsLatin1AndStayUntilTheyAreEdited) {
+    ConnectAll();
+    const std::string old = "M\xfcnchen";
+    setUp.Tessaly.SetCallsign(old);
+    setUp.Velmarc.SeeServer(old);
+    setUp.Tessaly.Claim(old, "VVL");
+    Settle();
+    auto& edit = At<QLineEdit>("Callsign");
+    EXPECT_EQ(edit.text(), "München");
+    EXPECT_EQ(TextOf("SimulatorServersSeen"), "München");
+    auto& records = At<QTableWidget>("Records");
+    EXPECT_FALSE(records.findItems("München", Qt::MatchExactly).isEmpty());
+
+    QTest::mouseClick(&edit, Qt::LeftButton);
+    QTest::keyClick(&edit, Qt::Key_Return);
+    Settle();
+    EXPECT_EQ(setUp.Tessaly.Session().Callsign, old);
+    edit.selectAll();
+    edit.insert("Zürich");
+    QTest::keyClick(&edit, Qt::Key_Return);
+    Settle();
+    EXPECT_EQ(setUp.Tessaly.Session().Callsign, "Z\xc3\xbcrich");
 }
 
 }  // namespace

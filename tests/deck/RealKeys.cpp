@@ -5,6 +5,7 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "adapters/x11/KeyRepeat.h"
 #include "tests/deck/DeckRig.h"
 
 namespace orvelle {
@@ -29,6 +30,7 @@ void ClickOn(const QWidget& widget) {
 class DeckOnX : public DeckRig {
 protected:
     DeckOnX() {
+        TellRepeatsAsPresses();
         ConnectAll();
         ClickOn(field);
         EXPECT_TRUE(QTest::qWaitFor([this] { return field.hasFocus(); }, Patience));

@@ -121,7 +121,7 @@ TEST_F(DeckVoice, AStartUnderWayIsTold) {
     setUp.VVL.Start(3);
     Settle();
     EXPECT_EQ(TextOf("EngineStateText"), "Starting");
-    EXPECT_EQ(At<deck::SignalLight>("EngineState").Shown(), deck::Signal::Waiting);
+    EXPECT_EQ(At<deck::SignalLight>("EngineState").Shown(), Sign::Waiting);
     EXPECT_EQ(TextOf("FlightEngineText"), "Starting");
 }
 

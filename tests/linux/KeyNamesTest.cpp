@@ -2,7 +2,7 @@
 
 #include <set>
 
-#include "adapters/linux/KeyTable.h"
+#include "adapters/linux/VirtualKeys.h"
 #include "adapters/linux/X11Keyboard.h"
 #include "adapters/shared/ScanCodes.h"
 #include "tests/linux/XClient.h"

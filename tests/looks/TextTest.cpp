@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QTextDocument>
+#include <QTextDocumentFragment>
+
 namespace orvelle {
 namespace {
 
@@ -19,6 +22,13 @@ TEST(TextTest, BytesThatAreNoUtf8AreShownAsLatin1) {
 TEST(TextTest, AnEmptyTextIsEmpty) {
     EXPECT_TRUE(ToQt("").isEmpty());
     EXPECT_EQ(FromQt(QString()), "");
+}
+
+TEST(TextTest, ATipShowsItsTextToTheLetter) {
+    const QString text = "<b>a & b</b> \"c\"";
+    EXPECT_TRUE(Qt::mightBeRichText(PlainTip(text)));
+    EXPECT_EQ(QTextDocumentFragment::fromHtml(PlainTip(text)).toPlainText(), text);
+    EXPECT_TRUE(PlainTip("").isEmpty());
 }
 
 }  // namespace

@@ -12,7 +12,7 @@
 #include "adapters/looks/Text.h"
 #include "adapters/qt/widgets/Heading.h"
 #include "adapters/qt/widgets/Lamp.h"
-#include "adapters/qt/widgets/Readout.h"
+#include "adapters/qt/widgets/SliderNumber.h"
 #include "adapters/qt/widgets/StatusFields.h"
 #include "adapters/qt/widgets/StatusPicture.h"
 
@@ -24,7 +24,7 @@ namespace {
 // of ours are parts of others.
 bool ShowsControl(const QWidget& widget) {
     if (widget.objectName().isEmpty() || widget.objectName().startsWith(QLatin1String("qt_"))) return false;
-    if (qobject_cast<const Heading*>(&widget) != nullptr || qobject_cast<const Readout*>(&widget) != nullptr)
+    if (qobject_cast<const Heading*>(&widget) != nullptr || qobject_cast<const SliderNumber*>(&widget) != nullptr)
         return false;
     const auto isA = [&widget](auto* kind) { return qobject_cast<decltype(kind)>(&widget) != nullptr; };
     using Kinds =

@@ -1,7 +1,7 @@
 #include "adapters/qt/mirrors/DisplayMirrors.h"
 
+#include "adapters/looks/Signs.h"
 #include "adapters/looks/Text.h"
-#include "adapters/looks/Theme.h"
 #include "adapters/qt/widgets/SignLabel.h"
 
 namespace orvelle::qt {

@@ -5,7 +5,7 @@
 
 #include <QWidget>
 
-#include "adapters/looks/Theme.h"
+#include "adapters/looks/Signs.h"
 #include "platform/Types.h"
 
 namespace orvelle::qt {

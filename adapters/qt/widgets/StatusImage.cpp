@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "adapters/looks/Theme.h"
+#include "adapters/looks/Signs.h"
 
 namespace orvelle::qt {
 

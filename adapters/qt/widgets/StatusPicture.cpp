@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "adapters/looks/Text.h"
 #include "adapters/qt/widgets/StatusImage.h"
 
 namespace orvelle::qt {
@@ -29,7 +30,7 @@ void StatusPicture::paintEvent(QPaintEvent*) {
     if (key.isEmpty()) return;
     QPainter painter(this);
     const int side = std::min(width(), height());
-    DrawStatusImage(painter, QRectF((width() - side) / 2.0, 0, side, side), key.toStdString(), 1 / devicePixelRatioF());
+    DrawStatusImage(painter, QRectF((width() - side) / 2.0, 0, side, side), FromQt(key), 1 / devicePixelRatioF());
 }
 
 }  // namespace orvelle::qt

@@ -7,7 +7,7 @@
 #include <algorithm>
 
 #include "adapters/looks/Theme.h"
-#include "adapters/qt/widgets/Readout.h"
+#include "adapters/qt/widgets/SliderNumber.h"
 #include "ui_Extra.h"
 #include "ui_FrameworkLink.h"
 #include "ui_JoyToKey.h"
@@ -65,7 +65,7 @@ void AlignToGrid(QWidget& page) {
         for (int column = FirstButton; column <= LastButton; ++column)
             grid->setColumnMinimumWidth(column, columns.Button + (IsUsed(*grid, column) ? 0 : Unit));
     }
-    for (Readout* readout : page.findChildren<Readout*>()) readout->Follow();
+    for (SliderNumber* number : page.findChildren<SliderNumber*>()) number->Follow();
 }
 
 template <typename PageForm>

@@ -6,8 +6,8 @@
 #include <QStyleOptionSlider>
 
 #include "adapters/qt/widgets/Lamp.h"
-#include "adapters/qt/widgets/Readout.h"
 #include "adapters/qt/widgets/SignLabel.h"
+#include "adapters/qt/widgets/SliderNumber.h"
 #include "adapters/qt/widgets/StatusFields.h"
 #include "adapters/qt/widgets/StatusPicture.h"
 #include "tests/qt/forms/ShownPanel.h"
@@ -144,7 +144,7 @@ TEST_F(SliderTest, AHandlerThatSetsAnotherValueWins) {
 }
 
 TEST_F(SliderTest, TheNumberBesideASliderComesAndGoesWithIt) {
-    auto* number = window.findChild<Readout*>(QStringLiteral("readoutWaveIn"));
+    auto* number = window.findChild<SliderNumber*>(QStringLiteral("numberWaveIn"));
     EXPECT_FALSE(number->isVisible());
     panel.WaveIn.Visible = true;
     panel.WaveIn.Value = 42;

@@ -7,11 +7,11 @@ class QSlider;
 
 namespace orvelle::qt {
 
-class Readout : public QLabel {
+class SliderNumber : public QLabel {
     Q_OBJECT
 
 public:
-    explicit Readout(QWidget* parent = nullptr) : QLabel(parent) {}
+    explicit SliderNumber(QWidget* parent = nullptr) : QLabel(parent) {}
 
     // Once the form has given it its buddy.
     void Follow();

@@ -1,11 +1,11 @@
-#include "adapters/qt/widgets/Readout.h"
+#include "adapters/qt/widgets/SliderNumber.h"
 
 #include <QEvent>
 #include <QSlider>
 
 namespace orvelle::qt {
 
-void Readout::Follow() {
+void SliderNumber::Follow() {
     auto* slider = qobject_cast<QSlider*>(buddy());
     if (slider == nullptr) return;
     connect(slider, &QSlider::valueChanged, this, qOverload<int>(&QLabel::setNum));
@@ -13,7 +13,7 @@ void Readout::Follow() {
     slider->installEventFilter(this);
 }
 
-bool Readout::eventFilter(QObject* watched, QEvent* event) {
+bool SliderNumber::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::ShowToParent) show();
     if (event->type() == QEvent::HideToParent) hide();
     if (event->type() == QEvent::EnabledChange) setEnabled(buddy()->isEnabled());
