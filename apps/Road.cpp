@@ -14,6 +14,7 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "adapters/looks/Text.h"
 #include "adapters/shared/ScanCodes.h"
 
 namespace orvelle {
@@ -78,7 +79,7 @@ void Road::Prepare() {
     program.close();
     program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 
-    house.Settings.Store.SaveSettingString("OrvelleCP", "RWPath", program.fileName().toStdString());
+    house.Settings.Store.SaveSettingString("OrvelleCP", "RWPath", FromQt(program.fileName()));
     house.Settings.Store.SaveSettingString("OrvelleCP", "RWPTTKey", std::to_string(TalkKey));
     house.Settings.Store.SaveSettingLong("OrvelleCP", "VoiceTuningSound", 1);
     house.Settings.Store.HandlerEnded();
@@ -102,7 +103,7 @@ bool Road::Play() {
     embedded::NetworkLink& network = house.Outside.Practice.NetworkLink;
     const auto click = [this](const char* name) { house.Desktop.Window().findChild<QAbstractButton*>(name)->click(); };
     const auto keyIsDown = [this] { return keys.KeysDown() == std::vector<int>{LinuxKeyOfScanCode(TalkKey)}; };
-    const std::string place = folder.path().toStdString() + "/";
+    const std::string place = FromQt(folder.path()) + "/";
     const std::string join =
         place + "voice-program /join1 voice.example/tower /priority high /netspeed 2 /callsign ABC123";
 
@@ -197,7 +198,7 @@ void Road::TakePictures() {
         house.Desktop.Window().grab().save(pictures.filePath(name));
     }
     house.Deck->grab().save(pictures.filePath("flight-deck.png"));
-    std::cout << "  Pictures: " << pictures.absolutePath().toStdString() << std::endl;
+    std::cout << "  Pictures: " << FromQt(pictures.absolutePath()) << std::endl;
 }
 
 }  // namespace orvelle

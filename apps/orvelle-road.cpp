@@ -20,7 +20,6 @@ int main() {
     qt::Application application("orvelle-road", process.WindowSystem(),
                                 [&](const std::exception& error) { process.EndByError(error); });
     ApplyTheme(SystemScheme());
-    TellRepeatsAsPresses();
     QTemporaryDir settings;
     const Ticket settingsGo = process.AtEnd([&] { settings.remove(); });
     PanelProgram panel(process, FromQt(settings.filePath("settings.sqlite")));

@@ -7,6 +7,7 @@
 #include <QTabWidget>
 #include <algorithm>
 
+#include "adapters/looks/Text.h"
 #include "deck/fields/Section.h"
 #include "deck/pages/FaultsPage.h"
 #include "deck/pages/NetworkPage.h"
@@ -44,7 +45,7 @@ QWidget* SideBySide(std::initializer_list<QWidget*> columns) {
     page->setObjectName("FlightPage");
     auto* row = new QHBoxLayout(page);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(3 * DeckUnit);
+    row->setSpacing(3 * Unit);
     for (QWidget* column : columns)
         if (column) row->addWidget(column, 1);
     return page;
@@ -82,7 +83,7 @@ void DeckWindow::OpenAt(const QPoint& position) {
 }
 
 void DeckWindow::TellOfProgram(const std::string& sentence) {
-    if (simulator) simulator->TellOfProgram(QString::fromStdString(sentence));
+    if (simulator) simulator->TellOfProgram(ToQt(sentence));
 }
 
 // Hidden it could not be brought back. Minimising hides it too, as far as its events go. Closed by the program, as at

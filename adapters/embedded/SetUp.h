@@ -3,11 +3,11 @@
 // as lines of its links, and hands their far sides to whoever plays them. It must outlive all of these.
 #pragma once
 
-#include "adapters/embedded/SoundDevices.h"
 #include "adapters/embedded/MediaPlayers.h"
 #include "adapters/embedded/Mixer.h"
 #include "adapters/embedded/NetworkLink.h"
 #include "adapters/embedded/SimulatorLink.h"
+#include "adapters/embedded/SoundDevices.h"
 #include "adapters/embedded/TeamSpeak.h"
 #include "adapters/embedded/VoiceEngine.h"
 #include "platform/sides/FarSides.h"

@@ -12,6 +12,7 @@
 #include "adapters/linux/X11Keyboard.h"
 #include "adapters/looks/Text.h"
 #include "adapters/x11/Door.h"
+#include "adapters/x11/KeyRepeat.h"
 #include "apps/ThisProcess.h"
 #include "platform/EventLoop.h"
 
@@ -40,6 +41,8 @@ struct ThisComputer::Parts {
 
 ThisComputer::ThisComputer(ThisProcess& process, EventLoop& loop, orvelle::Registry& keptRegistry)
     : parts(std::make_unique<Parts>(keptRegistry)) {
+    // A held key is then told from one that is struck again and again.
+    TellRepeatsAsPresses();
     parts->ReleaseAtEnd = process.AtEnd([this] { parts->Keyboard.ReleaseAll(); });
     parts->Processes.Told = [this](const std::string& sentence) { ProgramTold(sentence); };
     parts->ProcessesReady = loop.WhenReadable(parts->Processes.Descriptor(), [this] { parts->Processes.Serve(); });

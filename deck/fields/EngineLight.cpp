@@ -11,9 +11,9 @@ EngineLight::EngineLight(const QString& name, VoiceEngineSide& voiceEngine)
 
 void EngineLight::ShowState() {
     if (engine.IsRunning())
-        Show(Signal::On, "Running");
+        Show(Sign::Good, "Running");
     else if (engine.IsStarting())
-        Show(Signal::Waiting, "Starting");
+        Show(Sign::Waiting, "Starting");
     else
         Show(Sign::Off, "Stopped");
 }

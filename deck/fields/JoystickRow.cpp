@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QToolButton>
 
+#include "adapters/looks/Text.h"
 #include "deck/fields/Section.h"
 #include "platform/sides/SimulatorSide.h"
 
@@ -33,7 +34,7 @@ QToolButton* NewJoystickButton(SimulatorSide& velmarc, const std::string& device
 }  // namespace
 
 JoystickRow::JoystickRow(SimulatorSide& velmarc, const std::string& device) {
-    setObjectName(QString::fromStdString(device));
+    setObjectName(ToQt(device));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(Unit / 2);

@@ -6,9 +6,9 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "adapters/x11/KeyRepeat.h"
-#include "deck/fields/KeyNames.h"
+#include "adapters/looks/Text.h"
 #include "deck/fields/Section.h"
+#include "deck/fields/ToolkitKeys.h"
 #include "platform/sides/SimulatorSide.h"
 
 namespace orvelle::deck {
@@ -32,7 +32,6 @@ bool LeavesField(const QKeyEvent& event) {
 
 KeyboardField::KeyboardField(SimulatorSide& simulator)
     : velmarc(simulator), sequence(new QLabel), hint(new QLabel), watch(simulator.Observe([this] { ShowState(); })) {
-    TellRepeatsAsPresses();
     setObjectName("KeyboardField");
     setAccessibleName("Keyboard of the simulator's computer");
     setToolTip("Each key that goes down or up here goes down or up on the simulator's computer. Tab leaves the field.");

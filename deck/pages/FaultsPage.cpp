@@ -30,7 +30,7 @@ FaultsPage::FaultsPage(const FarSides& sides) {
     setObjectName("FaultsPage");
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(3 * DeckUnit);
+    row->setSpacing(3 * Unit);
     row->addLayout(ColumnOf({new DelaysBox(sides), new RefusalsBox(sides),
                              sides.Simulator ? new ComputerBox(*sides.Simulator) : nullptr}),
                    1);

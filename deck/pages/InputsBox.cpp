@@ -30,7 +30,7 @@ void InputsBox::ShowState() {
     for (std::size_t room = 0; room < talks.size(); ++room) {
         const VoiceRoom& place = engine->Room(static_cast<Long>(room));
         const bool isHeard = place.Presence == RoomPresence::In && !place.Muted;
-        talks.at(room)->Show(isHeard ? Signal::On : Signal::Off,
+        talks.at(room)->Show(isHeard ? Sign::Good : Sign::Off,
                              QString(isHeard ? "%1 talks" : "%1 silent").arg(RoomNames[room]));
     }
 }

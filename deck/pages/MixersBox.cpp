@@ -75,8 +75,8 @@ QCheckBox* MixersBox::NewPlug(MixerSide& mixer, SoundDirection side, const QStri
 
 void MixersBox::ShowState(const Column& column) {
     const MixerSide& mixer = *column.Mixer;
-    const QString device = QString::fromStdString(mixer.DeviceName(SoundDirection::Output));
-    column.State->Show(mixer.IsOpen() ? Signal::On : Signal::Off, (mixer.IsOpen() ? "Open on " : "Closed, ") + device);
+    const QString device = ToQt(mixer.DeviceName(SoundDirection::Output));
+    column.State->Show(mixer.IsOpen() ? Sign::Good : Sign::Off, (mixer.IsOpen() ? "Open on " : "Closed, ") + device);
     for (const SoundDirection side : Sides)
         column.Plugged.at(static_cast<std::size_t>(side))->setChecked(mixer.Plugged(side));
     for (const MixerLine line : Lines) {

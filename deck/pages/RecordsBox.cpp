@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <algorithm>
 
+#include "adapters/looks/Text.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/Tables.h"
 #include "platform/sides/NetworkSide.h"
@@ -57,7 +58,7 @@ RecordsBox::RecordsBox(NetworkSide& framework)
 
     QList<QWidget*> boxes = {new QLabel("holds")};
     for (const std::string role : AllVoiceRoles) {
-        const QString name = QString::fromStdString(role);
+        const QString name = ToQt(role);
         auto* box = NewCheck("Claim" + name, name, "The other computer holds the role " + name,
                              [this, role](bool on) { Claim(role, on); });
         // A click doesn't take the focus, so that keys stay held meanwhile.

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "adapters/looks/Text.h"
 #include "deck/fields/Fields.h"
 #include "platform/Notices.h"
 #include "platform/VoiceRoles.h"
@@ -47,7 +48,7 @@ void RefusalsBox::AddNetwork(NetworkSide& network) {
     auto* role = NewPlainEdit("OddRole", "RWCom3", "The record's role");
     AddRow("Odd record",
            {type, role, NewButton("OddClaim", "Claim", "Another computer makes this record", [=, &network] {
-                network.Claim(RecordOwner, role->text().toStdString(), type->text().toStdString());
+                network.Claim(RecordOwner, FromQt(role->text()), FromQt(type->text()));
             })});
 }
 
@@ -56,7 +57,7 @@ void RefusalsBox::AddNotices(Notices& notices) {
     notice->setCursorPosition(0);
     AddRow("Settings notice", {notice, nullptr,
                                NewButton("TellNotice", "Tell the user", "As the settings store tells it",
-                                         [notice, &notices] { notices.Tell(notice->text().toStdString()); })});
+                                         [notice, &notices] { notices.Tell(FromQt(notice->text())); })});
 }
 
 }  // namespace orvelle::deck

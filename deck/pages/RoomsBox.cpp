@@ -20,11 +20,11 @@ constexpr JoinOutcome JoinOutcomes[] = {JoinOutcome::Succeeds, JoinOutcome::Refu
 void ShowRoomState(SignalLight& light, RoomPresence presence) {
     switch (presence) {
         case RoomPresence::Out:
-            return light.Show(Signal::Off, "Out");
+            return light.Show(Sign::Off, "Out");
         case RoomPresence::Joining:
-            return light.Show(Signal::Waiting, "Joining");
+            return light.Show(Sign::Waiting, "Joining");
         case RoomPresence::In:
-            return light.Show(Signal::On, "In");
+            return light.Show(Sign::Good, "In");
     }
 }
 

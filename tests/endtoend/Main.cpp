@@ -2,7 +2,6 @@
 
 #include "adapters/looks/Theme.h"
 #include "adapters/qt/services/Application.h"
-#include "adapters/x11/KeyRepeat.h"
 
 int main(int argumentCount, char** arguments) {
     testing::InitGoogleTest(&argumentCount, arguments);
@@ -10,6 +9,5 @@ int main(int argumentCount, char** arguments) {
         ADD_FAILURE() << "an error left a handler: " << error.what();
     });
     orvelle::ApplyTheme(orvelle::Scheme::Light);
-    orvelle::TellRepeatsAsPresses();
     return RUN_ALL_TESTS();
 }
