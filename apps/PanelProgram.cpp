@@ -52,9 +52,9 @@ PanelProgram::PanelProgram(linux::ProcessProgram& endingProgram, linux::Terminat
              clock, Processes, program, tray, urls}) {
     // The main window's icon tells the state; the other windows have the one with all lamps on.
     QApplication::setWindowIcon(qt::StatusIcon("VVVVVV"));
-    program.AtEnd([this] { Keyboard.ReleaseAll(); });
-    Panel.Attach(timers);
-    Panel.Attach(menus);
+    tickets.push_back(program.AtEnd([this] { Keyboard.ReleaseAll(); }));
+    tickets.push_back(Panel.Attach(timers));
+    tickets.push_back(Panel.Attach(menus));
     Window = std::make_unique<qt::MainWindow>(Panel);
 
     SetUp.Notice = [this](const std::string& sentence) { messages.MsgBox(sentence); };

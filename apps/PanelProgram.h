@@ -87,6 +87,7 @@ private:
     std::vector<std::string> untold;         // of programs, until there is a deck
     qt::WarningDialog warning{Panel.MultiFSWarningDlg};
     Door door{Table, Panel.Stub1};
+    std::vector<Ticket> tickets;  // of what holds on to the objects above
 };
 
 }  // namespace orvelle

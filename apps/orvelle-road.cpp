@@ -20,7 +20,7 @@ int main() {
     qt::Application application("orvelle-road", [&](const std::exception& error) { EndByError(program, error); });
     ApplyTheme(SystemScheme());
     QTemporaryDir settings;
-    program.AtEnd([&] { settings.remove(); });
+    const Ticket removal = program.AtEnd([&] { settings.remove(); });
     PanelProgram panel(program, endings, settings.filePath("settings.sqlite").toStdString());
     Road road(panel, "build/pictures");
     return application.Run([&] {

@@ -5,8 +5,8 @@ namespace orvelle::replay {
 void PanelHolder::Load() {
     panel = std::make_unique<FrmOrvelle>(world.Outside());
     for (const std::string& key : world.MissingIcons) panel->IconList.Remove(key);
-    panel->Attach(*this);
-    panel->MultiFSWarningDlg.Attach(*this);
+    panelTicket = panel->Attach(*this);
+    warningTicket = panel->MultiFSWarningDlg.Attach(*this);
     panel->Show();
 }
 

@@ -39,6 +39,8 @@ private:
 
     World& world;
     std::unique_ptr<FrmOrvelle> panel;
+    Ticket panelTicket;
+    Ticket warningTicket;
 };
 
 }  // namespace orvelle::replay

@@ -121,7 +121,7 @@ Long LinuxProcesses::WinExec(const std::string& commandLine, Long show) {
         for (std::size_t word = command.Words; word < words.size(); ++word) arguments.push_back(words[word].Text);
         error = Start(command.File, arguments, show);
     }
-    if (Told) Told(Sentence(line, words.empty() ? "" : words.front().Text, error));
+    Told(Sentence(line, words.empty() ? "" : words.front().Text, error));
     return ResultOf(error);
 }
 

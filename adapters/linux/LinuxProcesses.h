@@ -3,11 +3,11 @@
 // watch over them lasts, and a program that has ended is buried, whenever the loop calls Serve.
 #pragma once
 
-#include <functional>
 #include <string>
 
 #include "adapters/linux/MinimisedStart.h"
 #include "adapters/linux/StartedPrograms.h"
+#include "platform/Event.h"
 #include "platform/Processes.h"
 
 namespace orvelle::linux {
@@ -28,7 +28,7 @@ public:
     void Serve();
 
     // The panel shows nothing of a start, be it done or failed; whoever wants to tell of it listens here. One sentence.
-    std::function<void(const std::string&)> Told;
+    Event<const std::string&> Told;
 
     // A program named without a "/" is searched in PATH. A path with blanks that is not quoted is found too, as the
     // shortest head of the line that is a file. Results: the constants above.

@@ -30,7 +30,7 @@ std::string Meaning(int errorNumber) {
 void ProcessProgram::CleanUp() {
     // Each is taken off first, so that an end inside a clean-up goes on with the others.
     while (!cleanUps.empty()) {
-        const std::function<void()> cleanUp = std::move(cleanUps.back());
+        const Attachment<> cleanUp = std::move(cleanUps.back());
         cleanUps.pop_back();
         try {
             cleanUp();

@@ -9,6 +9,7 @@
 
 #include "adapters/linux/InstanceLock.h"
 #include "platform/Processes.h"
+#include "platform/Ticket.h"
 
 namespace orvelle::linux {
 
@@ -28,14 +29,17 @@ public:
     // For a signal that asks for the end; the process ends by this signal, so that whoever waits for it can tell.
     [[noreturn]] void EndBySignal(int signal);
 
-    // A clean-up must not throw; one that does is given up and the next one runs.
-    void AtEnd(std::function<void()> cleanUp) { cleanUps.push_back(std::move(cleanUp)); }
+    // The clean-up runs if the process ends while the ticket is kept. It must not throw; one that does is given up and
+    // the next one runs.
+    [[nodiscard]] Ticket AtEnd(std::function<void()> cleanUp) {
+        return cleanUps.emplace_back().Begin(std::move(cleanUp));
+    }
 
 private:
     void CleanUp();
 
     InstanceLock lock;
-    std::vector<std::function<void()>> cleanUps;
+    std::vector<Attachment<>> cleanUps;
 };
 
 }  // namespace orvelle::linux

@@ -10,6 +10,11 @@ Form::Form(std::string formName, std::string caption)
     Visible = false;
 }
 
+Ticket Form::Attach(ControlObserver& observer) {
+    return observers.Attach(
+        [&observer](Control& control, ControlProperty property) { observer.ControlChanged(control, property); });
+}
+
 Control* Form::Find(const std::string& controlName) const {
     const auto found = std::find_if(controls.begin(), controls.end(),
                                     [&](const Control* control) { return control->Name == controlName; });
@@ -49,10 +54,6 @@ void Form::UserMove(double left, double top) {
 void Form::UserState(Long state) {
     WindowState = state;
     Resize();
-}
-
-void Form::Tell(Control& control, ControlProperty property) {
-    for (ControlObserver* observer : observers) observer->ControlChanged(control, property);
 }
 
 }  // namespace orvelle

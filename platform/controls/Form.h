@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/Event.h"
+#include "platform/Observers.h"
 #include "platform/controls/Control.h"
 
 namespace orvelle {
@@ -21,7 +22,8 @@ public:
 
     Form(std::string formName, std::string caption);
 
-    void Attach(ControlObserver& observer) { observers.push_back(&observer); }
+    // The observer hears of what changes for as long as the ticket is kept.
+    [[nodiscard]] Ticket Attach(ControlObserver& observer);
     // In the order in which they are declared; the form itself is not among them.
     const std::vector<Control*>& Controls() const { return controls; }
     // Null where there is none of that name.
@@ -61,10 +63,10 @@ protected:
 private:
     friend class Control;
     void Register(Control& control) { controls.push_back(&control); }
-    void Tell(Control& control, ControlProperty property);
+    void Tell(Control& control, ControlProperty property) { observers.Tell(control, property); }
 
     std::vector<Control*> controls;
-    std::vector<ControlObserver*> observers;
+    Observers<Control&, ControlProperty> observers;
     bool isLoaded = false;
     Menu* poppedMenu = nullptr;
 };

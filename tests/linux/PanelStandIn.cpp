@@ -65,7 +65,7 @@ int main(int count, char** arguments) {
     TerminationSignals signals;
     X11Keyboard keyboard(arguments[1], arguments[2]);
     ProcessProgram program(InstanceLock(arguments[3], "panel"));
-    program.AtEnd([&keyboard] { keyboard.ReleaseAll(); });
+    const Ticket release = program.AtEnd([&keyboard] { keyboard.ReleaseAll(); });
     try {
         while (true) {
             std::array<pollfd, 2> files{pollfd{signals.Descriptor(), POLLIN, 0}, pollfd{STDIN_FILENO, POLLIN, 0}};

@@ -98,19 +98,33 @@ void Say(const char* text) { [[maybe_unused]] const ssize_t written = write(STDE
 TEST(ProgramEndDeathTest, RunsTheCleanUpsTheLastFirst) {
     const auto end = [] {
         ProcessProgram program = Program();
-        program.AtEnd([] { Say("first "); });
-        program.AtEnd([] { throw RuntimeError(RuntimeError::Overflow); });
-        program.AtEnd([] { Say("last "); });
+        const Ticket first = program.AtEnd([] { Say("first "); });
+        const Ticket failing = program.AtEnd([] { throw RuntimeError(RuntimeError::Overflow); });
+        const Ticket last = program.AtEnd([] { Say("last "); });
         program.End();
     };
     EXPECT_EXIT(end(), testing::ExitedWithCode(0), "last first ");
 }
 
+TEST(ProgramEndDeathTest, LeavesOutWhatIsGone) {
+    const auto end = [] {
+        ProcessProgram program = Program();
+        const Ticket first = program.AtEnd([] { Say("first"); });
+        Ticket gone = program.AtEnd([] { Say("gone"); });
+        const Ticket last = program.AtEnd([&gone] {
+            Say("last ");
+            gone.End();
+        });
+        program.End();
+    };
+    EXPECT_EXIT(end(), testing::ExitedWithCode(0), "^last first$");
+}
+
 TEST(ProgramEndDeathTest, InsideACleanUpGoesOnWithTheOthers) {
     const auto end = [] {
         ProcessProgram program = Program();
-        program.AtEnd([] { Say("first"); });
-        program.AtEnd([&program] { program.Fail(RuntimeError::Overflow); });
+        const Ticket first = program.AtEnd([] { Say("first"); });
+        const Ticket failing = program.AtEnd([&program] { program.Fail(RuntimeError::Overflow); });
         program.End();
     };
     EXPECT_EXIT(end(), testing::ExitedWithCode(70), "firstOrvelleCP: run-time error 6: overflow");
@@ -130,7 +144,7 @@ TEST(ProgramEndDeathTest, BySignalIsTheSignalsEnd) {
         TerminationSignals signals;
         kill(getpid(), SIGHUP);
         ProcessProgram program = Program();
-        program.AtEnd([] { Say("cleaned up"); });
+        const Ticket cleanUp = program.AtEnd([] { Say("cleaned up"); });
         program.EndBySignal(signals.Take());
     };
     EXPECT_EXIT(end(), testing::KilledBySignal(SIGHUP), "cleaned up");

@@ -9,10 +9,10 @@
 namespace orvelle {
 namespace {
 
-class FormTest : public testing::Test, private ControlObserver {
+class FormTest : public testing::Test, public ControlObserver {
 protected:
     FormTest() {
-        form.Attach(*this);
+        ticket = form.Attach(*this);
         form.Load = [this] { happened += form.Visible ? "load while shown;" : "load;"; };
         form.Resize = [this] { happened += "resize " + std::to_string(form.WindowState()) + ";"; };
         form.QueryUnload = [this](Long& cancel, Long mode) {
@@ -24,6 +24,7 @@ protected:
     }
 
     Form form{"Form", "Title"};
+    Ticket ticket;
     std::string happened;
 
 private:
@@ -82,6 +83,23 @@ TEST_F(FormTest, AnObserverHearsOfAChangeBeforeTheControlsOwnEvent) {
     box.Click = [this] { happened += "click;"; };
     box.Value = 1;
     EXPECT_EQ(happened, "told Box;click;");
+}
+
+TEST_F(FormTest, AnObserverHearsNothingBehindItsTicket) {
+    CheckBox box(form, "Box", nullptr, "");
+    ticket.End();
+    box.Value = 1;
+    EXPECT_EQ(happened, "");
+}
+
+TEST_F(FormTest, MayGoBeforeItsObserversTicket) {
+    {
+        Form other("Other", "");
+        ticket = other.Attach(*this);
+        CheckBox box(other, "Box", nullptr, "");
+        box.Value = 1;
+    }
+    EXPECT_EQ(happened, "told Box;");
 }
 
 TEST_F(FormTest, FindsItsControlsByName) {

@@ -40,7 +40,7 @@ FormWindow::FormWindow(Form& shownForm) : form(shownForm), binder(shownForm) {
         Look();
     });
     setWindowTitle(ToQt(form.Caption));
-    form.Attach(*this);
+    attached = form.Attach(*this);
 }
 
 QWidget* FormWindow::WidgetOf(const Control& control) { return &control == &form ? this : binder.WidgetOf(control); }

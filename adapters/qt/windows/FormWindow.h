@@ -58,6 +58,7 @@ private:
     bool isMovedInView = false;
     bool isPlaceDue = false;  // the place that the form wants is still to be asked for
     bool isTaking = false;
+    Ticket attached;  // to the form
 };
 
 }  // namespace orvelle::qt

@@ -48,7 +48,7 @@ TEST_F(FailureTest, OfATimersTickIsTold) {
     Form form("form", "");
     Timer timer(form, "timer", 1);
     QtTimers timers;
-    form.Attach(timers);
+    const Ticket attached = form.Attach(timers);
     timer.Tick = [&] {
         timer.Enabled = false;
         throw RuntimeError(RuntimeError::Overflow);

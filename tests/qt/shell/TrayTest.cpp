@@ -255,7 +255,7 @@ TEST(PopupMenusTest, TheMenuPopsUpAtTheMouseAndItsEntriesClick) {
     show.Click = [&] { clicked = "show"; };
     quit.Click = [&] { clicked = "quit"; };
     PopupMenus menus;
-    form.Attach(menus);
+    const Ticket attached = form.Attach(menus);
     RealInput input;
 
     const QPoint place(300, 200);
