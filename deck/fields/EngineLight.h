@@ -1,9 +1,8 @@
 // The light that tells whether the voice engine runs, is on its way there, or stands still.
 #pragma once
 
-#include <memory>
-
 #include "deck/fields/SignalLight.h"
+#include "platform/Ticket.h"
 
 namespace orvelle {
 class EmbeddedVoiceEngine;
@@ -19,7 +18,7 @@ private:
     void ShowState();
 
     EmbeddedVoiceEngine& engine;
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

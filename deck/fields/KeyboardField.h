@@ -4,9 +4,10 @@
 #pragma once
 
 #include <QFrame>
-#include <memory>
 #include <string>
 #include <vector>
+
+#include "platform/Ticket.h"
 
 class QLabel;
 
@@ -42,7 +43,7 @@ private:
     std::vector<Held> held;  // in the order in which they went down
     QLabel* sequence;
     QLabel* hint;
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

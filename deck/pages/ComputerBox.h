@@ -1,9 +1,8 @@
 // What the panel is told of the simulator's computer.
 #pragma once
 
-#include <memory>
-
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 
 namespace orvelle {
 class EmbeddedVelmarc;
@@ -24,7 +23,7 @@ private:
     TextField* address;
     TextField* name;
     TextField* desktop;
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <array>
-#include <memory>
 
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 
 class QCheckBox;
 
@@ -29,7 +29,7 @@ private:
     std::array<QCheckBox*, 2> outputFails;
     std::array<Readout*, 2> outputs;
     std::array<Readout*, 2> levels;
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

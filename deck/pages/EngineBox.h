@@ -1,9 +1,8 @@
 // The voice engine as a whole: whether it runs, what it was told, and how its starts go.
 #pragma once
 
-#include <memory>
-
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 
 class QComboBox;
 
@@ -27,7 +26,7 @@ private:
     SignalLight* audio;
     Readout* squelch;
     QComboBox* starts;
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

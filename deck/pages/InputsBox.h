@@ -3,9 +3,9 @@
 #pragma once
 
 #include <array>
-#include <memory>
 
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 
 namespace orvelle {
 class EmbeddedVelmarc;
@@ -25,7 +25,7 @@ private:
 
     EmbeddedVoiceEngine& engine;
     std::array<SignalLight*, 3> talks;  // by room
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

@@ -3,13 +3,13 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "adapters/embedded/LinkState.h"
 #include "adapters/shared/Changes.h"
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 
 class QCheckBox;
 class QLineEdit;
@@ -55,7 +55,7 @@ private:
     SignalLight* state;
     QLineEdit* seen;
     Readout* allSeen;
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

@@ -51,7 +51,7 @@ MixersBox::Column MixersBox::NewColumn(EmbeddedMixer& mixer, const QString& name
             {NewPlug(mixer, MixerSide::Input, name + "Input"), NewPlug(mixer, MixerSide::Output, name + "Output")},
             {NewLine(mixer, MixerLine::Microphone, name + "Microphone"),
              NewLine(mixer, MixerLine::Master, name + "Master"), NewLine(mixer, MixerLine::Wave, name + "Wave")},
-            nullptr};
+            {}};
 }
 
 MixersBox::Line MixersBox::NewLine(EmbeddedMixer& mixer, MixerLine line, const QString& name) {

@@ -3,10 +3,10 @@
 #pragma once
 
 #include <array>
-#include <memory>
 
 #include "adapters/embedded/Mixer.h"
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 
 class QCheckBox;
 class QSpinBox;
@@ -29,7 +29,7 @@ private:
         SignalLight* State;
         std::array<QCheckBox*, 2> Plugged;  // by MixerSide
         std::array<Line, 3> Lines;          // by MixerLine
-        std::shared_ptr<void> Watch;
+        Ticket Watch;
     };
 
     Column NewColumn(EmbeddedMixer& mixer, const QString& name);

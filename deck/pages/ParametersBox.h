@@ -3,10 +3,10 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <memory>
 
 #include "deck/fields/LateWrites.h"
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 #include "platform/Types.h"
 
 class QComboBox;
@@ -39,7 +39,7 @@ private:
     LateWrites late;
     QElapsedTimer clock;
     bool picked = false;  // by the user
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

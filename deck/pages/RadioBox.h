@@ -4,10 +4,10 @@
 
 #include <array>
 #include <functional>
-#include <memory>
 #include <string>
 
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 
 class QComboBox;
 
@@ -41,7 +41,7 @@ private:
     std::array<Radio, 2> radios;
     QComboBox* receive;
     QComboBox* transmit;
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

@@ -3,10 +3,10 @@
 #pragma once
 
 #include <map>
-#include <memory>
 #include <string>
 
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 #include "platform/Types.h"
 
 class QCheckBox;
@@ -34,7 +34,7 @@ private:
     QTableWidget* table;
     QLineEdit* computer;
     std::map<std::string, QCheckBox*> claims;  // by role
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <array>
-#include <memory>
 
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 
 class QCheckBox;
 class QComboBox;
@@ -46,7 +46,7 @@ private:
 
     EmbeddedVoiceEngine& engine;
     std::array<Room, 3> rooms;
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

@@ -1,9 +1,8 @@
 // The user's session on the network: whether there is one, its status and the callsign.
 #pragma once
 
-#include <memory>
-
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 
 class QCheckBox;
 
@@ -26,7 +25,7 @@ private:
     QCheckBox* open;
     QCheckBox* connected;
     TextField* callsign;
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

@@ -4,7 +4,8 @@
 
 #include <QWidget>
 #include <cstddef>
-#include <memory>
+
+#include "platform/Ticket.h"
 
 class QCheckBox;
 
@@ -31,7 +32,7 @@ private:
     TimedLog* sounds;
     TimedLog* programs;
     std::size_t soundsShown = 0;
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck

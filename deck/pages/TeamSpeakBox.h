@@ -1,9 +1,8 @@
 // The TeamSpeak program that the panel controls: whether it runs, where it is, and the results in place of success.
 #pragma once
 
-#include <memory>
-
 #include "deck/fields/Section.h"
+#include "platform/Ticket.h"
 
 class QCheckBox;
 class QSpinBox;
@@ -27,7 +26,7 @@ private:
     QCheckBox* running;
     Readout* place;
     Readout* url;
-    std::shared_ptr<void> watch;
+    Ticket watch;
 };
 
 }  // namespace orvelle::deck
