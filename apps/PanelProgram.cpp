@@ -64,14 +64,14 @@ PanelProgram::PanelProgram(linux::ProcessProgram& endingProgram, linux::Terminat
         else
             untold.push_back(sentence);
     };
-    loop.WhenReadable(Processes.Descriptor(), [this] { Processes.Serve(); });
-    loop.WhenReadable(endings.Descriptor(), [this] {
+    tickets.push_back(loop.WhenReadable(Processes.Descriptor(), [this] { Processes.Serve(); }));
+    tickets.push_back(loop.WhenReadable(endings.Descriptor(), [this] {
         const int signal = endings.Take();
         if (signal == 0) return;
         // The same door that other programs use; it ends the process unless nobody is behind it.
         Table.Deliver(Panel.Stub1, Stub::TerminationMessage, 0, 0);
         program.EndBySignal(signal);
-    });
+    }));
 }
 
 void PanelProgram::Open() {

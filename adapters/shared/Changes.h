@@ -3,30 +3,27 @@
 #pragma once
 
 #include <functional>
-#include <memory>
-#include <vector>
+#include <utility>
 
-#include "adapters/shared/Delivery.h"
+#include "platform/EventLoop.h"
+#include "platform/Observers.h"
 
 namespace orvelle {
 
 class Changes {
 public:
-    explicit Changes(EventLoop& eventLoop) : delivery(eventLoop) {}
+    explicit Changes(EventLoop& eventLoop) : loop(eventLoop) {}
 
-    // The observer is called after each burst of changes for as long as the returned ticket is kept.
-    [[nodiscard]] std::shared_ptr<void> Observe(std::function<void()> observer);
+    // The observer is called after each burst of changes for as long as the ticket is kept.
+    [[nodiscard]] Ticket Observe(std::function<void()> observer) { return observers.Attach(std::move(observer)); }
 
     void Mark();  // something has changed
 
 private:
-    using Observer = std::function<void()>;
-
-    void Tell();
-
-    Delivery delivery;
-    std::vector<std::weak_ptr<Observer>> observers;
-    bool marked = false;
+    EventLoop& loop;
+    Observers<> observers;
+    bool isMarked = false;
+    Ticket telling;
 };
 
 }  // namespace orvelle

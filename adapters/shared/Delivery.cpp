@@ -8,36 +8,35 @@ Delivery::Delivery(EventLoop& eventLoop) : loop(eventLoop) {}
 
 void Delivery::Raise(std::function<void()> event) {
     if (stopped) return;
-    waiting->push_back(std::move(event));
-    Schedule(delay, [queue = std::weak_ptr(waiting)] {
-        std::function<void()> next;
-        if (const auto events = queue.lock(); events && !events->empty()) {
-            next = std::move(events->front());
-            events->pop_front();
-        }
-        if (next) next();
+    waiting.push_back(std::move(event));
+    Schedule(delay, [this] {
+        const std::function<void()> next = std::move(waiting.front());
+        waiting.pop_front();
+        next();
     });
 }
 
 void Delivery::RaiseAfter(Long milliseconds, std::function<void()> event) {
-    if (stopped) return;
-    Schedule(milliseconds, [queue = std::weak_ptr(waiting), event = std::move(event)] {
-        if (!queue.expired()) event();
-    });
+    if (!stopped) Schedule(milliseconds, std::move(event));
 }
 
-void Delivery::Drop() { waiting = std::make_shared<Waiting>(); }
+void Delivery::Drop() {
+    tickets.clear();
+    waiting.clear();
+}
 
 void Delivery::Stop() {
     Drop();
     stopped = true;
 }
 
+// The event may end this object, so its ticket is put away first.
 void Delivery::Schedule(Long milliseconds, std::function<void()> task) {
-    if (milliseconds > 0)
-        loop.PostAfter(milliseconds, std::move(task));
-    else
-        loop.Post(std::move(task));
+    const auto ticket = tickets.emplace(tickets.end());
+    *ticket = loop.After(milliseconds, [this, ticket, task = std::move(task)] {
+        tickets.erase(ticket);
+        task();
+    });
 }
 
 }  // namespace orvelle

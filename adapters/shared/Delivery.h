@@ -5,7 +5,7 @@
 
 #include <deque>
 #include <functional>
-#include <memory>
+#include <list>
 
 #include "platform/EventLoop.h"
 
@@ -28,12 +28,11 @@ public:
     void Stop();  // forgets what waits, and takes nothing any more
 
 private:
-    using Waiting = std::deque<std::function<void()>>;
-
     void Schedule(Long milliseconds, std::function<void()> task);
 
     EventLoop& loop;
-    std::shared_ptr<Waiting> waiting = std::make_shared<Waiting>();
+    std::deque<std::function<void()>> waiting;  // in their order
+    std::list<Ticket> tickets;                  // of all that are scheduled
     Long delay = 0;
     bool stopped = false;
 };

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "adapters/shared/Changes.h"
+#include "adapters/shared/Delivery.h"
 #include "tests/shared/HandLoop.h"
 
 namespace orvelle {
@@ -92,7 +93,7 @@ TEST(ChangesTest, TellsEachObserverOnceForABurst) {
     loop.Run();
     EXPECT_EQ(first, 1);
     EXPECT_EQ(second, 1);
-    secondTicket.reset();
+    secondTicket.End();
     changes.Mark();
     loop.Run();
     EXPECT_EQ(first, 2);
@@ -103,7 +104,7 @@ TEST(ChangesTest, PostsNothingWithoutObservers) {
     HandLoop loop;
     Changes changes(loop);
     auto ticket = changes.Observe([] {});
-    ticket.reset();
+    ticket.End();
     changes.Mark();
     EXPECT_TRUE(loop.Idle());
 }
@@ -112,11 +113,11 @@ TEST(ChangesTest, AnObserverMayChangeThingsAndLetGo) {
     HandLoop loop;
     Changes changes(loop);
     int told = 0;
-    std::shared_ptr<void> ticket = changes.Observe([&] {
+    Ticket ticket = changes.Observe([&] {
         if (++told == 1)
             changes.Mark();
         else
-            ticket.reset();
+            ticket.End();
     });
     changes.Mark();
     loop.Run();

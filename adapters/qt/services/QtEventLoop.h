@@ -1,8 +1,10 @@
-// The event loop as the adapters use it, over Qt's. It must outlive whoever posts; tasks that wait when it goes are
-// dropped. An error that leaves a task is handled as that of any handler.
+// The event loop as the adapters use it, over Qt's; made after the program's application, whose handling of failures is
+// that of the tasks. Needs Qt Core alone. A task that serves the loop inside itself is entered again if its descriptor
+// is still ready.
 #pragma once
 
 #include <QObject>
+#include <QSocketNotifier>
 
 #include "platform/EventLoop.h"
 
@@ -10,12 +12,14 @@ namespace orvelle::qt {
 
 class QtEventLoop : public EventLoop {
 public:
-    void Post(std::function<void()> task) override;
-    void PostAfter(Long milliseconds, std::function<void()> task) override;
-    // Runs the task, from now on, whenever there is something to read from the file, which stays open.
-    void WhenReadable(int fileDescriptor, std::function<void()> task);
+    void Post(Task task) override;
+    [[nodiscard]] Ticket After(Long milliseconds, Task task) override;
+    [[nodiscard]] Ticket WhenReadable(int descriptor, Task task) override;
+    [[nodiscard]] Ticket WhenWritable(int descriptor, Task task) override;
 
 private:
+    Ticket Await(int descriptor, QSocketNotifier::Type type, Task task);
+
     QObject context;
 };
 
