@@ -88,9 +88,9 @@ TEST_F(DeckFields, EscapeTakesBackANumberThatIsNotAppliedYet) {
 TEST_F(DeckFields, BytesThatAreNoUtf8AreShownAsLatin1AndStayUntilTheyAreEdited) {
     ConnectAll();
     const std::string old = "M\xfcnchen";
-    setUp.Tessaly.SetCallsign(old);
-    setUp.Velmarc.SeeServer(old);
-    setUp.Tessaly.Claim(old, "VVL");
+    setUp.NetworkLink.SetCallsign(old);
+    setUp.SimulatorLink.SeeServer(old);
+    setUp.NetworkLink.Claim(old, "VVL", VoiceRecordType);
     Settle();
     auto& edit = At<QLineEdit>("Callsign");
     EXPECT_EQ(edit.text(), "München");
@@ -101,12 +101,12 @@ TEST_F(DeckFields, BytesThatAreNoUtf8AreShownAsLatin1AndStayUntilTheyAreEdited) 
     QTest::mouseClick(&edit, Qt::LeftButton);
     QTest::keyClick(&edit, Qt::Key_Return);
     Settle();
-    EXPECT_EQ(setUp.Tessaly.Session().Callsign, old);
+    EXPECT_EQ(setUp.NetworkLink.Session().Callsign, old);
     edit.selectAll();
     edit.insert("Zürich");
     QTest::keyClick(&edit, Qt::Key_Return);
     Settle();
-    EXPECT_EQ(setUp.Tessaly.Session().Callsign, "Z\xc3\xbcrich");
+    EXPECT_EQ(setUp.NetworkLink.Session().Callsign, "Z\xc3\xbcrich");
 }
 
 }  // namespace

@@ -130,7 +130,7 @@ TEST_F(DeckNetwork, AChangeElsewhereLeavesAloneWhatTheUserTypes) {
 }
 
 TEST_F(DeckNetwork, AFirstFlightIsReadyToBeTuned) {
-    PrepareFirstFlight(setUp);
+    PrepareFirstFlight(setUp.Sides());
     tessaly.LinkStart();
     Settle();
     EXPECT_THAT(TakeEvents(),

@@ -90,13 +90,12 @@ TEST_F(DeckOnX, ClosingMinimisesAndEndsWhatIsHeld) {
 }
 
 TEST(DeckBesideAPanel, OpensWithoutTakingTheFocus) {
-    const QTemporaryDir folder;
     qt::QtEventLoop loop;
-    EmbeddedSetUp setUp(loop, folder.filePath("store").toStdString());
+    embedded::SetUp setUp(loop);
     QLineEdit panel;
     panel.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
-    DeckWindow deck(setUp);
+    DeckWindow deck(setUp.Sides());
     deck.OpenAt({200, 100});
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&deck));
     Xdotool({"type", "to the panel"});

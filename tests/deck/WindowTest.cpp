@@ -92,7 +92,7 @@ TEST_F(DeckWindowTest, ItOpensWithoutTakingTheFocus) {
 TEST_F(DeckWindowTest, ItStaysOnTheScreen) {
     const QRect room = window.screen()->availableGeometry();
     constexpr int LeastFrame = 24;
-    DeckWindow other(setUp);
+    DeckWindow other(setUp.Sides());
     other.OpenAt(room.bottomRight());
     EXPECT_TRUE(room.contains(other.frameGeometry()));
     EXPECT_LE(other.height(), room.height() - LeastFrame);
@@ -112,9 +112,28 @@ TEST_F(DeckWindowTest, NothingRunsWhileNothingHappens) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return timers() == 0; }));
 }
 
+TEST_F(DeckWindowTest, WhatIsNotPlayedHereHasNoPart) {
+    const DeckWindow whole(setUp.Sides());
+    FarSides fewer = setUp.Sides();
+    fewer.VoiceEngine = nullptr;
+    fewer.HeadsetMixer = nullptr;
+    fewer.TeamSpeak = nullptr;
+    const DeckWindow withoutSound(fewer);
+    for (const char* name : {"VoicePage", "FlightEngine", "TalksCOM1", "Mixers", "HeadsetMixerDelay", "TeamSpeak"}) {
+        EXPECT_TRUE(whole.findChild<QWidget*>(name)) << name;
+        EXPECT_FALSE(withoutSound.findChild<QWidget*>(name)) << name;
+    }
+    EXPECT_TRUE(withoutSound.findChild<QWidget*>("KeyboardField"));
+
+    fewer = {};
+    const DeckWindow withNothing(fewer);
+    for (const char* name : {"SimulatorPage", "NetworkPage", "VoicePage", "RefuseSession", "TellNotice"})
+        EXPECT_FALSE(withNothing.findChild<QWidget*>(name)) << name;
+}
+
 TEST_F(DeckWindowTest, ADeckThatGoesLeavesTheSetUpAlone) {
     {
-        DeckWindow other(setUp);
+        DeckWindow other(setUp.Sides());
         setUp.SimulatorLink.SetLink(LinkState::Up);
     }
     Settle();
