@@ -301,9 +301,9 @@ TEST_F(FrameworkEndTest, AnotherComputerClaimsAndDropsARole) {
     EXPECT_FALSE(tessaly.InterfaceIsLocal());
     EXPECT_TRUE(far.DropClaim(id));
     EXPECT_FALSE(far.DropClaim(id));
+    EXPECT_EQ(Run(), Texts{"Removed 1"});
     EXPECT_FALSE(tessaly.OpenInterface(id));
     EXPECT_EQ(tessaly.InterfaceType(), "");
-    EXPECT_EQ(Run(), Texts{"Removed 1"});
 }
 
 TEST_F(FrameworkEndTest, BothMayHoldOneRole) {
