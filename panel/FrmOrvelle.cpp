@@ -50,4 +50,6 @@ FrmOrvelle::FrmOrvelle(const Platform& outside)
     WireEngine();
 }
 
+FrmOrvelle::~FrmOrvelle() = default;
+
 }  // namespace orvelle

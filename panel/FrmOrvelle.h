@@ -25,6 +25,7 @@ namespace orvelle {
 class FrmOrvelle : public PanelControls {
 public:
     explicit FrmOrvelle(const Platform& outside);
+    ~FrmOrvelle() override;
 
 private:
     const Platform platform;
