@@ -59,6 +59,8 @@ PanelControls::PanelControls()
     for (Control* disabled : PrivateMapping()) disabled->Enabled = false;
 }
 
+PanelControls::~PanelControls() = default;
+
 std::array<Control*, 8> PanelControls::PrivateMapping() {
     return {&LblVVLPrivFSJoyDisplay, &LblVVLPrivFSKeyDisplay, &VVLPrivFSJoyDisplay, &VVLPrivFSKeyDisplay,
             &VVLPrivJoySet,          &VVLPrivJoyClear,        &VVLPrivKeySet,       &VVLPrivKeyClear};

@@ -32,6 +32,7 @@ public:
 class PanelControls : public Form {
 public:
     PanelControls();
+    ~PanelControls() override;
 
     // What the private channel's mapping consists of, in the order in which it is enabled and disabled.
     std::array<Control*, 8> PrivateMapping();

@@ -41,4 +41,6 @@ FrmOrvelle::FrmOrvelle(const Platform& outside)
     WireEngine();
 }
 
+FrmOrvelle::~FrmOrvelle() = default;
+
 }  // namespace orvelle

@@ -25,6 +25,7 @@ namespace orvelle {
 class FrmOrvelle : public PanelControls, private Platform, private PanelVariables {
 public:
     explicit FrmOrvelle(const Platform& outside);
+    ~FrmOrvelle() override;
 
 private:
     HandlerDepth handlers;

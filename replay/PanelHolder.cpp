@@ -1,6 +1,12 @@
 #include "replay/PanelHolder.h"
 
+#include "panel/FrmOrvelle.h"
+
 namespace orvelle::replay {
+
+PanelHolder::PanelHolder(World& outsideWorld) : world(outsideWorld) {}
+
+PanelHolder::~PanelHolder() = default;
 
 void PanelHolder::Load() {
     panel = std::make_unique<FrmOrvelle>(world.Outside());

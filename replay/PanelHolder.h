@@ -5,14 +5,20 @@
 #include <memory>
 #include <string>
 
-#include "panel/FrmOrvelle.h"
+#include "platform/controls/Control.h"
+#include "replay/LineError.h"
 #include "replay/World.h"
+
+namespace orvelle {
+class FrmOrvelle;
+}
 
 namespace orvelle::replay {
 
 class PanelHolder final : private ControlObserver {
 public:
-    explicit PanelHolder(World& outsideWorld) : world(outsideWorld) {}
+    explicit PanelHolder(World& outsideWorld);
+    ~PanelHolder() override;
 
     // Creates the controller and runs its load event.
     void Load();

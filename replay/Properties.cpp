@@ -1,5 +1,6 @@
 #include "replay/Properties.h"
 
+#include "panel/FrmOrvelle.h"
 #include "replay/Value.h"
 
 namespace orvelle::replay {

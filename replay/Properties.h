@@ -4,7 +4,10 @@
 #include <optional>
 #include <string>
 
-#include "panel/FrmOrvelle.h"
+namespace orvelle {
+class Control;
+class FrmOrvelle;
+}  // namespace orvelle
 
 namespace orvelle::replay {
 

@@ -1,19 +1,20 @@
 // Runs one scenario against the real controller and prints its transcript. The replay program makes one for its run.
 #pragma once
 
-#include <istream>
-#include <ostream>
+#include <functional>
+#include <iosfwd>
+#include <memory>
 #include <string>
 
-#include "replay/Stage.h"
-
 namespace orvelle::replay {
+
+struct Stage;
 
 class Scenario {
 public:
     enum ExitStatus : int { RanToItsEnd = 0, WrongLine = 2 };
 
-    explicit Scenario(std::ostream& output) : stage(output) {}
+    explicit Scenario(std::ostream& output);
     ~Scenario();
 
     // The exit status of the program. What is wrong with a line goes to `errors`, behind its number; nothing after that
@@ -22,9 +23,9 @@ public:
 
 private:
     void RunLine(const std::string& text);
-    void Perform(const Act& act);
+    void Perform(const std::function<void()>& act);
 
-    Stage stage;
+    const std::unique_ptr<Stage> stage;
 };
 
 }  // namespace orvelle::replay

@@ -1,3 +1,6 @@
+#include "platform/controls/ListView.h"
+#include "platform/controls/StatusBar.h"
+#include "platform/controls/TreeView.h"
 #include "replay/Lines.h"
 #include "replay/Properties.h"
 #include "replay/Signature.h"

@@ -1,5 +1,6 @@
 #include <limits>
 
+#include "panel/FrmOrvelle.h"
 #include "replay/Lines.h"
 
 namespace orvelle::replay {

@@ -22,7 +22,7 @@ std::string Quoted(const std::string& text) {
     for (const char letter : text) {
         const auto code = static_cast<unsigned char>(letter);
         if (code < 32 || code == 127)
-            quoted += "{" + std::to_string(code) + "}";
+            quoted.append("{").append(std::to_string(code)).append("}");
         else if (letter == '"')
             quoted += "\"\"";
         else

@@ -1,6 +1,7 @@
 #include <functional>
 #include <memory>
 
+#include "panel/FrmOrvelle.h"
 #include "replay/Properties.h"
 #include "replay/Value.h"
 

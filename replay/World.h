@@ -28,7 +28,8 @@
 namespace orvelle::replay {
 
 struct World {
-    explicit World(std::ostream& output) : Output(output) {}
+    explicit World(std::ostream& output);
+    ~World();
 
     Platform Outside() {
         return {

@@ -2,6 +2,8 @@
 
 #include <sstream>
 
+#include "panel/FrmOrvelle.h"
+
 namespace orvelle::fuzz {
 
 namespace {

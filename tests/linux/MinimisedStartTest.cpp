@@ -72,7 +72,7 @@ TEST_F(MinimisedStartUnderAManager, TurnsTheWindowIntoAnIconAndLeavesTheFocus) {
 }
 
 TEST_F(MinimisedStartUnderAManager, KnowsWindowsOfProcessesThatTheProgramStarts) {
-    ASSERT_EQ(processes.WinExec(std::string(SHOWS_WINDOW) + " --by-child", 7), LinuxProcesses::Started);
+    ASSERT_EQ(processes.WinExec(SHOWS_WINDOW " --by-child", 7), LinuxProcesses::Started);
     ASSERT_TRUE(ServeUntil([&] { return Others(user).size() == 1; }));
     const xcb_window_t started = Others(user).front();
     EXPECT_TRUE(ServeUntil([&] { return windows.StateOf(started) == State::Icon; }));

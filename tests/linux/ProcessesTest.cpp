@@ -215,7 +215,7 @@ TEST_F(Processes, AskForNoFocusOnlyIfMinimised) {
 
 TEST_F(Processes, KnowTheirOwnFile) {
     EXPECT_EQ(processes.GetModuleFileNameA(), std::filesystem::read_symlink("/proc/self/exe"));
-    EXPECT_TRUE(processes.GetModuleFileNameA().ends_with("linux-Processes"));
+    EXPECT_TRUE(processes.GetModuleFileNameA().ends_with("linux-tests"));
 }
 
 TEST_F(Processes, KeepAndChangeTheWorkingDirectory) {

@@ -16,7 +16,7 @@ std::vector<int>& Failures() {
 
 int main(int argumentCount, char** arguments) {
     testing::InitGoogleTest(&argumentCount, arguments);
-    orvelle::qt::Application application("qtshell_tests", "xcb", [](const std::exception& error) {
+    orvelle::qt::Application application("qt-shell-tests", "xcb", [](const std::exception& error) {
         orvelle::qt::Failures().push_back(dynamic_cast<const orvelle::RuntimeError&>(error).Number);
     });
     return RUN_ALL_TESTS();
