@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "platform/Ticket.h"
 #include "platform/controls/Control.h"
 #include "replay/LineError.h"
 #include "replay/World.h"
