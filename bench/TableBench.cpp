@@ -3,8 +3,8 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/SilentPeers.h"
-#include "input/MappingTable.h"
 #include "panel/FrmOrvelle.h"
+#include "panel/MappingTable.h"
 
 namespace orvelle {
 

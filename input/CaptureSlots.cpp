@@ -1,4 +1,4 @@
-#include "input/CaptureSlots.h"
+#include "panel/CaptureSlots.h"
 
 namespace orvelle {
 

@@ -9,16 +9,16 @@
 #include <memory>
 #include <string>
 
-#include "input/CaptureSlots.h"
-#include "input/MappingTable.h"
+#include "panel/CaptureSlots.h"
 #include "panel/Controls.h"
 #include "panel/HandlerScope.h"
+#include "panel/MappingTable.h"
 #include "panel/MultiFSWarningDlg.h"
 #include "panel/Stub.h"
 #include "panel/SysTray.h"
 #include "panel/Variables.h"
+#include "panel/VoiceRole.h"
 #include "platform/Platform.h"
-#include "voice/VoiceRole.h"
 
 namespace orvelle {
 

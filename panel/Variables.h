@@ -4,10 +4,10 @@
 
 #include <string>
 
+#include "panel/VoiceRecord.h"
 #include "platform/CheckedArray.h"
 #include "platform/PanelNumber.h"
 #include "platform/VoiceEngine.h"
-#include "voice/VoiceRecord.h"
 
 namespace orvelle {
 

@@ -7,22 +7,20 @@
 #include <functional>
 #include <map>
 #include <string>
-#include <vector>
+#include <utility>
 
-#include "adapters/shared/Changes.h"
-#include "adapters/shared/Delivery.h"
+#include "adapters/embedded/PlayedLink.h"
 #include "platform/FrameworkLine.h"
-#include "platform/sides/LinkSide.h"
 #include "platform/sides/NetworkSide.h"
 
 namespace orvelle::embedded {
 
-class NetworkLink : public FrameworkLine, public NetworkSide, public LinkSide {
+class NetworkLink : public FrameworkLine, public NetworkSide, public PlayedLink {
 public:
-    explicit NetworkLink(EventLoop& loop);
+    explicit NetworkLink(EventLoop& loop) : PlayedLink(loop) {}
 
     // The line.
-    void Open(const std::string& server) override;
+    void Open(const std::string& server) override { OpenLink(server); }
     void Close() override;
     bool LetsOpenSession() override { return !refuse.OpenSession; }
     bool LetsOpenRecord() override { return !refuse.OpenInterface; }
@@ -31,15 +29,7 @@ public:
     void SayRecordEnded(Long id) override;
     void SayWrite(Long id, const RecordParameters& written) override;
 
-    // The link from its far side.
-    void SetLink(LinkState state) override;
-    LinkState Link() const override { return link; }
-    bool IsUp() const override { return isUp; }
-    std::string Server() const override { return server; }
-    void SeeServer(const std::string& name) override;
-    const std::vector<std::string>& ServersSeen() const override { return serversSeen; }
-    void SetDelay(Long milliseconds) override { delivery.SetDelay(milliseconds); }
-    Long Delay() const override { return delivery.Delay(); }
+    Ticket Observe(std::function<void()> observer) override { return PlayedLink::Observe(std::move(observer)); }
 
     // The session.
     void StartSession() override;
@@ -62,8 +52,6 @@ public:
     std::size_t Writes() const override { return writes; }
     NetworkRefusals& Refuse() override { return refuse; }
 
-    Ticket Observe(std::function<void()> observer) override { return changes.Observe(std::move(observer)); }
-
 private:
     // A record keeps its id until the panel was told that it is gone: a new one would be taken for the old one.
     struct Entry {
@@ -72,8 +60,9 @@ private:
         bool Dropped = false;
     };
 
-    void ComeUp();
-    void SayWhileUp(std::function<void()> event);  // brought only if the link stands then
+    void RaiseUp() override;
+    void RaiseLost() override { Lost(); }
+    void RaiseServerFound(const std::string& name) override { ServerFound(name); }
     void SaySession();
     void ChangeText(std::string& text, const std::string& value);
 
@@ -83,13 +72,6 @@ private:
     bool Write(Long id, const RecordParameters& written);
     void SayForeignRecord(Long id);
 
-    Changes changes;
-    Delivery delivery;
-    LinkState link = LinkState::Down;
-    bool isOpen = false;
-    bool isUp = false;
-    std::string server;
-    std::vector<std::string> serversSeen;
     SessionSetting session;
     Long lastHandle = 0;
     std::map<Long, Entry> records;

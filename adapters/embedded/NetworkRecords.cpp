@@ -17,7 +17,7 @@ RecordContent ContentOf(const InterfaceRecord& record) {
 }  // namespace
 
 Long NetworkLink::NewRecordId() {
-    if (!isOpen || refuse.CreateInterface) return 0;
+    if (!IsOpen() || refuse.CreateInterface) return 0;
     Long id = 1;
     while (records.contains(id)) ++id;
     return id;
@@ -33,7 +33,7 @@ void NetworkLink::SayRecord(Long id, const RecordContent& content, const RecordP
 
 void NetworkLink::SayRecordEnded(Long id) {
     records.erase(id);
-    changes.Mark();
+    MarkChange();
 }
 
 void NetworkLink::SayWrite(Long id, const RecordParameters& written) {
@@ -59,7 +59,7 @@ bool NetworkLink::DropClaim(Long id) {
         SayForeignRecord(id);
     else
         records.erase(id);
-    changes.Mark();
+    MarkChange();
     return true;
 }
 
@@ -85,12 +85,12 @@ NetworkLink::Entry* NetworkLink::Find(Long id) {
     return found != records.end() && !found->second.Dropped ? &found->second : nullptr;
 }
 
-NetworkLink::Entry* NetworkLink::Reachable(Long id) { return isUp && link == LinkState::Up ? Find(id) : nullptr; }
+NetworkLink::Entry* NetworkLink::Reachable(Long id) { return IsUp() && Link() == LinkState::Up ? Find(id) : nullptr; }
 
 void NetworkLink::Enter(InterfaceRecord& record, const RecordParameters& written, ParameterWriter writer) {
     for (const auto& [index, number] : written.Numbers) record.Parameters[index] = {number, ++writes, writer};
     for (const auto& [index, text] : written.Texts) record.Texts[index] = {text, ++writes, writer};
-    changes.Mark();
+    MarkChange();
 }
 
 // The panel owns its records: it takes the write, and says the record.
@@ -106,7 +106,7 @@ bool NetworkLink::Write(Long id, const RecordParameters& written) {
 }
 
 void NetworkLink::SayForeignRecord(Long id) {
-    changes.Mark();
+    MarkChange();
     SayWhileUp([this, id] {
         const auto found = records.find(id);
         if (found == records.end()) return;

@@ -51,7 +51,7 @@ void NetworkLink::ChangeText(std::string& text, const std::string& value) {
 }
 
 void NetworkLink::SaySession() {
-    changes.Mark();
+    MarkChange();
     SayWhileUp([this, said = session] { SessionSaid(said); });
 }
 

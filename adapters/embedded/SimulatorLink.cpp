@@ -1,7 +1,5 @@
 #include "adapters/embedded/SimulatorLink.h"
 
-#include <algorithm>
-
 namespace orvelle::embedded {
 
 namespace {
@@ -12,60 +10,27 @@ std::string ButtonText(const std::string& device, const std::string& button) { r
 
 }  // namespace
 
-SimulatorLink::SimulatorLink(EventLoop& loop) : changes(loop), delivery(loop) {}
-
-void SimulatorLink::Open(const std::string& newServer) {
-    server = newServer;
-    changes.Mark();
-    if (isOpen) return;
-    isOpen = true;
-    if (link == LinkState::Up) ComeUp();
-}
-
-void SimulatorLink::Close() {
-    delivery.Drop();
-    isOpen = false;
-    isUp = false;
-    server.clear();
-    changes.Mark();
-}
-
 void SimulatorLink::SayReady() {
     ++timesReady;
-    changes.Mark();
+    MarkChange();
 }
 
 void SimulatorLink::SaySound(const std::string& path) {
-    if (!isUp) return;
+    if (!IsUp()) return;
     if (sounds.size() == SoundsKept) sounds.erase(sounds.begin());
     sounds.push_back(path);
     ++soundsPlayed;
-    changes.Mark();
+    MarkChange();
 }
 
 void SimulatorLink::SetLink(LinkState state) {
-    if (link == state) return;
-    link = state;
-    changes.Mark();
     if (state == LinkState::Down) held.Clear();
-    if (!isOpen) return;
-    if (state == LinkState::Up) return ComeUp();
-    delivery.Raise([this] {
-        isUp = false;
-        changes.Mark();
-        Lost();
-    });
-}
-
-void SimulatorLink::SeeServer(const std::string& name) {
-    if (std::ranges::find(serversSeen, name) == serversSeen.end()) serversSeen.push_back(name);
-    if (isOpen) delivery.Raise([this, name] { ServerFound(name); });
-    changes.Mark();
+    PlayedLink::SetLink(state);
 }
 
 void SimulatorLink::SetComputer(const SimulatorComputer& newComputer) {
     computer = newComputer;
-    changes.Mark();
+    MarkChange();
 }
 
 bool SimulatorLink::PressKey(const std::string& key) {
@@ -105,24 +70,17 @@ std::vector<std::string> SimulatorLink::HeldButtons() const { return held.Button
 void SimulatorLink::SetSimulatorActive(bool active) {
     simulatorActive = active;
     if (!held.InOrder().empty()) SayInput();
-    changes.Mark();
+    MarkChange();
 }
 
-void SimulatorLink::ComeUp() {
-    delivery.Raise([this] {
-        isUp = true;
-        changes.Mark();
-        Up();
-    });
+void SimulatorLink::RaiseUp() {
+    Up();
     if (!held.InOrder().empty()) SayInput();
 }
 
 void SimulatorLink::SayInput(const std::string& repeat) {
-    changes.Mark();
-    if (!isOpen) return;
-    delivery.Raise([this, input = SimulatorInput{simulatorActive, held.Keys(), held.Buttons(), repeat}] {
-        if (isUp) Said(input);
-    });
+    MarkChange();
+    SayWhileUp([this, input = SimulatorInput{simulatorActive, held.Keys(), held.Buttons(), repeat}] { Said(input); });
 }
 
 }  // namespace orvelle::embedded

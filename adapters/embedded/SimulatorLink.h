@@ -5,42 +5,34 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "adapters/shared/Changes.h"
-#include "adapters/shared/Delivery.h"
+#include "adapters/embedded/PlayedLink.h"
 #include "adapters/shared/HeldInputs.h"
 #include "platform/SimulatorLine.h"
-#include "platform/sides/LinkSide.h"
 #include "platform/sides/SimulatorSide.h"
 
 namespace orvelle::embedded {
 
-class SimulatorLink : public SimulatorLine, public SimulatorSide, public LinkSide {
+class SimulatorLink : public SimulatorLine, public SimulatorSide, public PlayedLink {
 public:
-    explicit SimulatorLink(EventLoop& loop);
+    explicit SimulatorLink(EventLoop& loop) : PlayedLink(loop) {}
 
     // The line.
-    void Open(const std::string& server) override;
-    void Close() override;
+    void Open(const std::string& server) override { OpenLink(server); }
+    void Close() override { CloseLink(); }
     void SayReady() override;
     void SaySound(const std::string& path) override;
     SimulatorComputer FarComputer() override { return computer; }
 
-    // The link from its far side.
-    void SetLink(LinkState state) override;
-    LinkState Link() const override { return link; }
-    bool IsUp() const override { return isUp; }
-    std::string Server() const override { return server; }
-    void SeeServer(const std::string& name) override;
-    const std::vector<std::string>& ServersSeen() const override { return serversSeen; }
-    void SetDelay(Long milliseconds) override { delivery.SetDelay(milliseconds); }
-    Long Delay() const override { return delivery.Delay(); }
+    void SetLink(LinkState state) override;  // what is held goes with the link
+    Ticket Observe(std::function<void()> observer) override { return PlayedLink::Observe(std::move(observer)); }
 
     // The simulator's computer.
     void SetComputer(const SimulatorComputer& computer) override;
     const SimulatorComputer& Computer() const override { return computer; }
-    bool TakesInput() const override { return link == LinkState::Up; }
+    bool TakesInput() const override { return Link() == LinkState::Up; }
     bool PressKey(const std::string& key) override;
     void RepeatKey(const std::string& key) override;
     void ReleaseKey(const std::string& key) override;
@@ -55,22 +47,15 @@ public:
     std::size_t SoundsPlayed() const override { return soundsPlayed; }
     std::size_t TimesReady() const override { return timesReady; }
 
-    Ticket Observe(std::function<void()> observer) override { return changes.Observe(std::move(observer)); }
-
 private:
-    void ComeUp();
+    void RaiseUp() override;
+    void RaiseLost() override { Lost(); }
+    void RaiseServerFound(const std::string& name) override { ServerFound(name); }
     void SayInput(const std::string& repeat = "");
 
-    Changes changes;
-    Delivery delivery;
     SimulatorComputer computer;
-    LinkState link = LinkState::Down;
-    bool isOpen = false;
-    bool isUp = false;
-    std::string server;
     bool simulatorActive = true;
     HeldInputs held;
-    std::vector<std::string> serversSeen;
     std::vector<std::string> sounds;
     std::size_t soundsPlayed = 0;
     std::size_t timesReady = 0;

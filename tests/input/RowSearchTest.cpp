@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "input/MappingTable.h"
 #include "panel/FrmOrvelle.h"
+#include "panel/MappingTable.h"
 #include "replay/World.h"
 
 namespace orvelle {
