@@ -13,7 +13,7 @@ namespace {
 
 constexpr int Buttons = 8;
 
-QToolButton* NewJoystickButton(SimulatorSide& velmarc, const std::string& device, int number) {
+QToolButton* NewJoystickButton(SimulatorSide& simulator, const std::string& device, int number) {
     const std::string text = std::to_string(number);
     const std::string button = "Button " + text;
     auto* widget = new QToolButton;
@@ -25,20 +25,20 @@ QToolButton* NewJoystickButton(SimulatorSide& velmarc, const std::string& device
     widget->setFocusPolicy(Qt::TabFocus);
     widget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     QObject::connect(widget, &QToolButton::pressed, widget,
-                     [&velmarc, device, button] { velmarc.PressButton(device, button); });
+                     [&simulator, device, button] { simulator.PressButton(device, button); });
     QObject::connect(widget, &QToolButton::released, widget,
-                     [&velmarc, device, button] { velmarc.ReleaseButton(device, button); });
+                     [&simulator, device, button] { simulator.ReleaseButton(device, button); });
     return widget;
 }
 
 }  // namespace
 
-JoystickRow::JoystickRow(SimulatorSide& velmarc, const std::string& device) {
+JoystickRow::JoystickRow(SimulatorSide& simulator, const std::string& device) {
     setObjectName(ToQt(device));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(Unit / 2);
-    for (int number = 1; number <= Buttons; ++number) row->addWidget(NewJoystickButton(velmarc, device, number));
+    for (int number = 1; number <= Buttons; ++number) row->addWidget(NewJoystickButton(simulator, device, number));
 }
 
 }  // namespace orvelle::deck

@@ -13,7 +13,7 @@ namespace orvelle::deck {
 
 class JoystickRow : public QWidget {
 public:
-    JoystickRow(SimulatorSide& velmarc, const std::string& device);
+    JoystickRow(SimulatorSide& simulator, const std::string& device);
 };
 
 }  // namespace orvelle::deck

@@ -30,8 +30,11 @@ bool LeavesField(const QKeyEvent& event) {
 
 }  // namespace
 
-KeyboardField::KeyboardField(SimulatorSide& simulator)
-    : velmarc(simulator), sequence(new QLabel), hint(new QLabel), watch(simulator.Observe([this] { ShowState(); })) {
+KeyboardField::KeyboardField(SimulatorSide& simulatorSide)
+    : simulator(simulatorSide),
+      sequence(new QLabel),
+      hint(new QLabel),
+      watch(simulatorSide.Observe([this] { ShowState(); })) {
     setObjectName("KeyboardField");
     setAccessibleName("Keyboard of the simulator's computer");
     setToolTip("Each key that goes down or up here goes down or up on the simulator's computer. Tab leaves the field.");
@@ -69,17 +72,17 @@ bool KeyboardField::event(QEvent* event) {
 void KeyboardField::keyPressEvent(QKeyEvent* event) {
     const int place = PlaceOf(*event);
     if (const auto key = std::ranges::find(held, place, &Held::Place); key != held.end())
-        return velmarc.RepeatKey(key->Name);
+        return simulator.RepeatKey(key->Name);
     const std::string name = KeyNameOf(*event);
     if (event->isAutoRepeat() || name.empty()) return;
-    velmarc.PressKey(name);
+    simulator.PressKey(name);
     held.push_back({place, name});
 }
 
 void KeyboardField::keyReleaseEvent(QKeyEvent* event) {
     const auto key = std::ranges::find(held, PlaceOf(*event), &Held::Place);
     if (event->isAutoRepeat() || key == held.end()) return;
-    velmarc.ReleaseKey(key->Name);
+    simulator.ReleaseKey(key->Name);
     held.erase(key);
 }
 
@@ -105,13 +108,13 @@ void KeyboardField::paintEvent(QPaintEvent*) {
 }
 
 void KeyboardField::ReleaseAll() {
-    for (const Held& key : held) velmarc.ReleaseKey(key.Name);
+    for (const Held& key : held) simulator.ReleaseKey(key.Name);
     held.clear();
 }
 
 void KeyboardField::ShowState() {
-    const bool up = velmarc.TakesInput();
-    const std::string keys = velmarc.HeldSequence();
+    const bool up = simulator.TakesInput();
+    const std::string keys = simulator.HeldSequence();
     sequence->setText(!keys.empty() ? ToQt(keys) : up && hasFocus() ? "Listening" : "Keys");
     sequence->setForegroundRole(keys.empty() ? QPalette::PlaceholderText : QPalette::Text);
     hint->setText(!up          ? "The link is down: keys go nowhere"

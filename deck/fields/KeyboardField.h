@@ -20,7 +20,7 @@ namespace orvelle::deck {
 
 class KeyboardField : public QFrame {
 public:
-    explicit KeyboardField(SimulatorSide& simulator);
+    explicit KeyboardField(SimulatorSide& simulatorSide);
 
 protected:
     bool event(QEvent* event) override;
@@ -40,7 +40,7 @@ private:
     void ReleaseAll();
     void ShowState();
 
-    SimulatorSide& velmarc;
+    SimulatorSide& simulator;
     std::vector<Held> held;  // in the order in which they went down
     QLabel* sequence;
     QLabel* hint;

@@ -8,24 +8,24 @@ namespace orvelle::deck {
 
 namespace {
 
-TextField* NewComputerEdit(SimulatorSide& velmarc, const QString& name, std::string SimulatorComputer::*text) {
+TextField* NewComputerEdit(SimulatorSide& simulator, const QString& name, std::string SimulatorComputer::*text) {
     return NewEdit(name, "The panel reads it when the link comes up; Enter applies it",
-                   [&velmarc, text](const std::string& value) {
-                       SimulatorComputer computer = velmarc.Computer();
+                   [&simulator, text](const std::string& value) {
+                       SimulatorComputer computer = simulator.Computer();
                        computer.*text = value;
-                       velmarc.SetComputer(computer);
+                       simulator.SetComputer(computer);
                    });
 }
 
 }  // namespace
 
-ComputerBox::ComputerBox(SimulatorSide& simulator)
+ComputerBox::ComputerBox(SimulatorSide& simulatorSide)
     : Section("Computer", "The simulator's computer"),
-      velmarc(simulator),
-      address(NewComputerEdit(velmarc, "ComputerAddress", &SimulatorComputer::IPAddress)),
-      name(NewComputerEdit(velmarc, "ComputerName", &SimulatorComputer::ComputerName)),
-      desktop(NewComputerEdit(velmarc, "DesktopName", &SimulatorComputer::DesktopName)),
-      watch(velmarc.Observe([this] { ShowState(); })) {
+      simulator(simulatorSide),
+      address(NewComputerEdit(simulator, "ComputerAddress", &SimulatorComputer::IPAddress)),
+      name(NewComputerEdit(simulator, "ComputerName", &SimulatorComputer::ComputerName)),
+      desktop(NewComputerEdit(simulator, "DesktopName", &SimulatorComputer::DesktopName)),
+      watch(simulator.Observe([this] { ShowState(); })) {
     AddRow("IP address", {address});
     AddRow("Name", {name});
     AddRow("Desktop", {desktop});
@@ -33,7 +33,7 @@ ComputerBox::ComputerBox(SimulatorSide& simulator)
 }
 
 void ComputerBox::ShowState() {
-    const SimulatorComputer& computer = velmarc.Computer();
+    const SimulatorComputer& computer = simulator.Computer();
     address->Show(computer.IPAddress);
     name->Show(computer.ComputerName);
     desktop->Show(computer.DesktopName);

@@ -14,12 +14,12 @@ class TextField;
 
 class ComputerBox : public Section {
 public:
-    explicit ComputerBox(SimulatorSide& simulator);
+    explicit ComputerBox(SimulatorSide& simulatorSide);
 
 private:
     void ShowState();
 
-    SimulatorSide& velmarc;
+    SimulatorSide& simulator;
     TextField* address;
     TextField* name;
     TextField* desktop;

@@ -114,7 +114,7 @@ private:
 
 ParametersBox::ParametersBox(NetworkSide& framework)
     : Section("ParameterSection", "Parameters of a record"),
-      tessaly(framework),
+      network(framework),
       record(NewChoice("ParameterRecord", "The record whose parameters are shown", {},
                        [this](int) {
                            picked = true;
@@ -123,9 +123,9 @@ ParametersBox::ParametersBox(NetworkSide& framework)
       table(NewTable("Parameters", "The parameters of the record; editing a value is another party's write",
                      {"", "No.", "Meaning", "Value", "Written by"}, Meaning)),
       note(new Readout("ParameterNote")),
-      watch(tessaly.Observe([this] { ShowState(); })) {
+      watch(network.Observe([this] { ShowState(); })) {
     clock.start();
-    late.Forget(tessaly.Writes());
+    late.Forget(network.Writes());
     table->horizontalHeader()->setSectionResizeMode(Value, QHeaderView::Interactive);
     table->setColumnWidth(Value, table->fontMetrics().averageCharWidth() * ValueLetters);
     table->setRowCount(static_cast<int>(ParameterNames().size()));
@@ -148,13 +148,13 @@ ParametersBox::ParametersBox(NetworkSide& framework)
 Long ParametersBox::ShownId() const { return record->currentData().toInt(); }
 
 void ParametersBox::ShowState() {
-    late.Count(tessaly.Writes(), clock.elapsed());
+    late.Count(network.Writes(), clock.elapsed());
     ShowRecords();
     ShowParameters();
 }
 
 void ParametersBox::ShowRecords() {
-    const auto records = tessaly.Records();
+    const auto records = network.Records();
     Long wanted = ShownId();
     if (!records.contains(wanted)) picked = false;
     if (!picked)
@@ -173,7 +173,7 @@ void ParametersBox::ShowRecords() {
 }
 
 void ParametersBox::ShowParameters() {
-    const auto records = tessaly.Records();
+    const auto records = network.Records();
     const auto found = records.find(ShownId());
     const bool isThere = found != records.end();
     int row = 0;
@@ -201,9 +201,9 @@ void ParametersBox::Write(int row, const QString& text) {
     bool isValid = true;
     bool isWritten = false;
     if (name.Kind == ParameterKind::Text) {
-        isWritten = tessaly.WriteText(ShownId(), name.Index, FromQt(text));
+        isWritten = network.WriteText(ShownId(), name.Index, FromQt(text));
     } else if (const Long number = text.toInt(&isValid); isValid) {
-        isWritten = tessaly.WriteParameter(ShownId(), name.Index, number);
+        isWritten = network.WriteParameter(ShownId(), name.Index, number);
     }
     note->Show(!isValid     ? "No whole number of 32 bits: \"" + text + "\""
                : !isWritten ? QString("Not written, as the network link is down")

@@ -31,7 +31,7 @@ private:
     void ShowParameters();
     void Write(int row, const QString& text);
 
-    NetworkSide& tessaly;
+    NetworkSide& network;
     QComboBox* record;
     QStringList shownRecords;
     QTableWidget* table;

@@ -65,13 +65,13 @@ QWidget* Labelled(const QString& label, QWidget* field) {
 
 RadioBox::RadioBox(NetworkSide& framework)
     : Section("Radios", "Radios", 2),
-      tessaly(framework),
+      network(framework),
       radios{NewRadio(0), NewRadio(1)},
       receive(NewSelection("Receive", "The radios that are received",
-                           [this](const std::string& text) { tessaly.SetReceive(text); })),
+                           [this](const std::string& text) { network.SetReceive(text); })),
       transmit(NewSelection("Transmit", "The radio that transmits",
-                            [this](const std::string& text) { tessaly.SetTransmit(text); })),
-      watch(tessaly.Observe([this] { ShowState(); })) {
+                            [this](const std::string& text) { network.SetTransmit(text); })),
+      watch(network.Observe([this] { ShowState(); })) {
     AddCaptions({RadioName(0), RadioName(1)});
     AddRow("&Frequency", {radios[0].Frequency, radios[1].Frequency});
     AddRow("Soft&ware", {radios[0].Software, radios[1].Software});
@@ -87,13 +87,13 @@ RadioBox::RadioBox(NetworkSide& framework)
 RadioBox::Radio RadioBox::NewRadio(int radio) {
     const QString name = RadioName(radio);
     auto* frequency = NewEdit("Frequency" + name, "The frequency of " + name + "; Enter applies it",
-                              [this, radio](const std::string& text) { tessaly.SetFrequency(radio, text); });
+                              [this, radio](const std::string& text) { network.SetFrequency(radio, text); });
     frequency->setPlaceholderText(radio == 0 ? "122.800" : "121.500");
     auto* software = NewChoice(
         "Software" + name, "The voice software that serves " + name, SoftwareNames(), [this, radio](int index) {
-            RadioVoiceSetting voice = tessaly.Session().Voice.at(static_cast<std::size_t>(radio));
+            RadioVoiceSetting voice = network.Session().Voice.at(static_cast<std::size_t>(radio));
             voice.Software = SoftwareEntries[index].Code;
-            tessaly.SetVoice(radio, voice);
+            network.SetVoice(radio, voice);
         });
     return {frequency,
             software,
@@ -106,9 +106,9 @@ RadioBox::Radio RadioBox::NewRadio(int radio) {
 TextField* RadioBox::NewVoiceEdit(int radio, const QString& name, const QString& toolTip, VoiceText text) {
     return NewEdit(name + RadioName(radio), toolTip + " of " + RadioName(radio) + "; Enter applies it",
                    [this, radio, text](const std::string& value) {
-                       RadioVoiceSetting voice = tessaly.Session().Voice.at(static_cast<std::size_t>(radio));
+                       RadioVoiceSetting voice = network.Session().Voice.at(static_cast<std::size_t>(radio));
                        voice.*text = value;
-                       tessaly.SetVoice(radio, voice);
+                       network.SetVoice(radio, voice);
                    });
 }
 
@@ -119,7 +119,7 @@ QComboBox* RadioBox::NewSelection(const QString& name, const QString& toolTip,
 }
 
 void RadioBox::ShowState() {
-    const SessionSetting& session = tessaly.Session();
+    const SessionSetting& session = network.Session();
     for (std::size_t radio = 0; radio < radios.size(); ++radio) {
         const RadioVoiceSetting& voice = session.Voice.at(radio);
         radios.at(radio).Frequency->Show(session.Frequency.at(radio));

@@ -37,7 +37,7 @@ private:
     QComboBox* NewSelection(const QString& name, const QString& toolTip, std::function<void(const std::string&)> apply);
     void ShowState();
 
-    NetworkSide& tessaly;
+    NetworkSide& network;
     std::array<Radio, 2> radios;
     QComboBox* receive;
     QComboBox* transmit;

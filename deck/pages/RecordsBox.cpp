@@ -38,11 +38,11 @@ QWidget* RowOf(const QList<QWidget*>& widgets) {
 
 RecordsBox::RecordsBox(NetworkSide& framework)
     : Section("RecordSection", "Interface records", 2),
-      tessaly(framework),
+      network(framework),
       table(NewTable("Records", "The interface records of all computers", {"Id", "Type", "Role", "Owner", "Parameters"},
                      Parameters)),
       computer(new QLineEdit("COCKPIT2")),
-      watch(tessaly.Observe([this] { ShowState(); })) {
+      watch(network.Observe([this] { ShowState(); })) {
     table->setEditTriggers(QTableWidget::NoEditTriggers);
     AddWide(table, 1);
 
@@ -51,9 +51,9 @@ RecordsBox::RecordsBox(NetworkSide& framework)
     connect(computer, &QLineEdit::textChanged, this, [this] { ShowClaims(); });
     AddRow("Selected",
            {NewButton("DropRecord", "Drop", "The owner, if it is another computer, removes the selected record",
-                      [this] { tessaly.DropClaim(SelectedId()); }),
+                      [this] { network.DropClaim(SelectedId()); }),
             NewButton("AnnounceRecord", "Announce change", "Report to the panel that the selected record changed",
-                      [this] { tessaly.AnnounceChange(SelectedId()); })});
+                      [this] { network.AnnounceChange(SelectedId()); })});
     AddRow("Other computer", {computer});
 
     QList<QWidget*> boxes = {new QLabel("holds")};
@@ -71,7 +71,7 @@ RecordsBox::RecordsBox(NetworkSide& framework)
 }
 
 Long RecordsBox::ClaimOf(const std::string& role) const {
-    for (const auto& [id, record] : tessaly.Records())
+    for (const auto& [id, record] : network.Records())
         if (!record.IsLocal && record.Role == role && record.Owner == FromQt(computer->text())) return id;
     return 0;
 }
@@ -83,13 +83,13 @@ Long RecordsBox::SelectedId() const {
 
 void RecordsBox::Claim(const std::string& role, bool on) {
     if (on)
-        tessaly.Claim(FromQt(computer->text()), role);
+        network.Claim(FromQt(computer->text()), role);
     else
-        tessaly.DropClaim(ClaimOf(role));
+        network.DropClaim(ClaimOf(role));
 }
 
 void RecordsBox::ShowState() {
-    const auto records = tessaly.Records();
+    const auto records = network.Records();
     const Long selected = SelectedId();
     const bool isLonger = static_cast<int>(records.size()) > table->rowCount();
     table->setRowCount(static_cast<int>(records.size()));

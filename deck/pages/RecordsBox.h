@@ -30,7 +30,7 @@ private:
     void ShowState();
     void ShowClaims();
 
-    NetworkSide& tessaly;
+    NetworkSide& network;
     QTableWidget* table;
     QLineEdit* computer;
     std::map<std::string, QCheckBox*> claims;  // by role

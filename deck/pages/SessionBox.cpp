@@ -11,15 +11,15 @@ namespace orvelle::deck {
 
 SessionBox::SessionBox(NetworkSide& framework)
     : Section("Session", "Session", 2),
-      tessaly(framework),
+      network(framework),
       open(NewCheck("SessionOpen", "Session &open", "The user has a session on the network",
-                    [this](bool on) { on ? tessaly.StartSession() : tessaly.EndSession(); })),
+                    [this](bool on) { on ? network.StartSession() : network.EndSession(); })),
       connected(NewCheck("SessionConnected", "Connected to &multiplayer",
                          "The session's status: connected to the multiplayer network",
-                         [this](bool on) { tessaly.SetStatus(on ? ConnectedToMultiplayer : 0); })),
+                         [this](bool on) { network.SetStatus(on ? ConnectedToMultiplayer : 0); })),
       callsign(NewEdit("Callsign", "The user's callsign; Enter applies it",
-                       [this](const std::string& text) { tessaly.SetCallsign(text); })),
-      watch(tessaly.Observe([this] { ShowState(); })) {
+                       [this](const std::string& text) { network.SetCallsign(text); })),
+      watch(network.Observe([this] { ShowState(); })) {
     // A click doesn't take the focus, so that keys stay held meanwhile.
     open->setFocusPolicy(Qt::TabFocus);
     connected->setFocusPolicy(Qt::TabFocus);
@@ -29,7 +29,7 @@ SessionBox::SessionBox(NetworkSide& framework)
 }
 
 void SessionBox::ShowState() {
-    const SessionSetting& session = tessaly.Session();
+    const SessionSetting& session = network.Session();
     open->setChecked(session.Handle != 0);
     connected->setChecked(session.Status == ConnectedToMultiplayer);
     callsign->Show(session.Callsign);

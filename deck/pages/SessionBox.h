@@ -21,7 +21,7 @@ public:
 private:
     void ShowState();
 
-    NetworkSide& tessaly;
+    NetworkSide& network;
     QCheckBox* open;
     QCheckBox* connected;
     TextField* callsign;

@@ -15,13 +15,13 @@
 namespace orvelle::deck {
 
 SimulatorPage::SimulatorPage(const FarSides& sides)
-    : velmarc(*sides.Simulator),
+    : simulator(*sides.Simulator),
       active(NewCheck("SimulatorActive", "The simulator is the &active application",
                       "Keys pressed while it is not start no voice program's push-to-talk",
-                      [this](bool on) { velmarc.SetSimulatorActive(on); })),
+                      [this](bool on) { simulator.SetSimulatorActive(on); })),
       sounds(new TimedLog("Sounds", "Sounds that the simulator was asked to play")),
       programs(new TimedLog("Programs", "Voice programs that the panel started, or could not start")),
-      watch(velmarc.Observe([this] { ShowState(); })) {
+      watch(simulator.Observe([this] { ShowState(); })) {
     setObjectName("SimulatorPage");
     active->setFocusPolicy(Qt::TabFocus);
 
@@ -38,7 +38,7 @@ SimulatorPage::SimulatorPage(const FarSides& sides)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(SectionGap);
     column->addWidget(link);
-    column->addWidget(new InputsBox(velmarc, sides.VoiceEngine));
+    column->addWidget(new InputsBox(simulator, sides.VoiceEngine));
     column->addWidget(soundSection, 1);
     column->addWidget(programSection, 1);
     ShowState();
@@ -47,11 +47,11 @@ SimulatorPage::SimulatorPage(const FarSides& sides)
 void SimulatorPage::TellOfProgram(const QString& sentence) { programs->Add(sentence); }
 
 void SimulatorPage::ShowState() {
-    active->setChecked(velmarc.SimulatorActive());
-    const auto& played = velmarc.Sounds();
-    const std::size_t fresh = std::min(velmarc.SoundsPlayed() - soundsShown, played.size());
+    active->setChecked(simulator.SimulatorActive());
+    const auto& played = simulator.Sounds();
+    const std::size_t fresh = std::min(simulator.SoundsPlayed() - soundsShown, played.size());
     for (std::size_t index = played.size() - fresh; index < played.size(); ++index) sounds->Add(ToQt(played[index]));
-    soundsShown = velmarc.SoundsPlayed();
+    soundsShown = simulator.SoundsPlayed();
 }
 
 }  // namespace orvelle::deck

@@ -28,7 +28,7 @@ public:
 private:
     void ShowState();
 
-    SimulatorSide& velmarc;
+    SimulatorSide& simulator;
     QCheckBox* active;
     TimedLog* sounds;
     TimedLog* programs;
