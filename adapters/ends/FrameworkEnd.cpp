@@ -53,10 +53,11 @@ void FrameworkEnd::ChooseLine() {
     if (&lines.For(GetServer()) == line) return line->Open(GetServer());
     CloseLine();
     delivery.Drop();
+    ForgetRecords();
     // Before anything that the new line brings.
     delivery.Raise([this] {
         Lose();
-        ForgetRecords();
+        TellOfForgotten();
     });
     OpenLine();
 }

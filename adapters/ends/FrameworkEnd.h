@@ -88,6 +88,7 @@ private:
     void CloseLine();
     void Lose();
     void ForgetRecords();
+    void TellOfForgotten();
 
     bool InSession() const { return isUp && session.Handle != 0; }
     const SessionSetting& OpenedSession() const;

@@ -163,6 +163,9 @@ void FrameworkEnd::ForgetRecords() {
     for (const auto& [id, record] : std::exchange(records, {}))
         if (record.Told) leaving.push_back(id);
     openRecord = 0;
+}
+
+void FrameworkEnd::TellOfForgotten() {
     while (!leaving.empty()) {
         const Long id = leaving.front();
         leaving.erase(leaving.begin());

@@ -18,12 +18,6 @@ bool SameHost(const std::string& one, const std::string& other) {
                               [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); });
 }
 
-std::string SequenceOf(const std::vector<std::string>& keys) {
-    std::string sequence;
-    for (const std::string& key : keys) sequence += (sequence.empty() ? "" : "+") + key;
-    return sequence;
-}
-
 }  // namespace
 
 SimulatorEnd::SimulatorEnd(EventLoop& loop, ControlValues& controlValues, const LineTable<SimulatorLine>& lineTable,

@@ -20,6 +20,12 @@ HeldInputs HeldAt(const SimulatorInput& moment) {
 
 }  // namespace
 
+std::string SequenceOf(const std::vector<std::string>& keys) {
+    std::string sequence;
+    for (const std::string& key : keys) Append(sequence, key);
+    return sequence;
+}
+
 bool HeldInputs::Press(const HeldInput& input) {
     if (input.Name.empty() || IsHeld(input)) return false;
     held.push_back(input);
@@ -29,13 +35,6 @@ bool HeldInputs::Press(const HeldInput& input) {
 bool HeldInputs::Release(const HeldInput& input) { return std::erase(held, input) != 0; }
 
 bool HeldInputs::IsHeld(const HeldInput& input) const { return std::ranges::find(held, input) != held.end(); }
-
-std::string HeldInputs::Sequence() const {
-    std::string sequence;
-    for (const HeldInput& input : held)
-        if (input.Kind == InputKind::Key) Append(sequence, input.Name);
-    return sequence;
-}
 
 std::vector<std::string> HeldInputs::NamesOf(InputKind kind) const {
     std::vector<std::string> names;

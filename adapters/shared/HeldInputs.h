@@ -1,6 +1,6 @@
 // The keys and joystick buttons that are down, in the order in which they went down, and what lies between two such
-// moments. Both ends of a simulator link keep one: the far side of what is pressed there, the near end of what it has
-// told the panel and must take back when the link is lost. Names are those that the panel shows ("Right Ctrl",
+// moments. The far side of a simulator link keeps one of what is pressed there; the near end asks what has changed, and
+// what it must take back when the link is lost. Names are those that the panel shows ("Right Ctrl",
 // "Stick.Button 3"); an empty one is nothing, and nothing fails.
 #pragma once
 
@@ -19,6 +19,9 @@ struct HeldInput {
     bool operator==(const HeldInput&) const = default;
 };
 
+// Keys joined by "+".
+std::string SequenceOf(const std::vector<std::string>& keys);
+
 class HeldInputs {
 public:
     // Whether it was not held before.
@@ -32,8 +35,7 @@ public:
     const std::vector<HeldInput>& InOrder() const { return held; }
     std::vector<std::string> Keys() const { return NamesOf(InputKind::Key); }
     std::vector<std::string> Buttons() const { return NamesOf(InputKind::Button); }
-    // The keys, joined by "+".
-    std::string Sequence() const;
+    std::string Sequence() const { return SequenceOf(Keys()); }
 
 private:
     std::vector<std::string> NamesOf(InputKind kind) const;

@@ -138,6 +138,17 @@ TEST_F(LineSwitchTest, NoNewRecordIsMadeBeforeThePanelHasHeardOfAllThatAreGone) 
     EXPECT_EQ(otherNetwork.Records().begin()->second.Role, "VVL");
 }
 
+TEST_F(LineSwitchTest, ARecordMadeAfterTheSwitchIsNoneOfThoseThatAreGone) {
+    tessaly.LinkStart();
+    EXPECT_EQ(tessaly.CreateInterface("VOICE", "VVL"), 1);
+    tessaly.SetServer("cockpit");
+    EXPECT_FALSE(tessaly.OpenInterface(1));
+    EXPECT_EQ(tessaly.CreateInterface("VOICE", "VVL"), 1);
+    EXPECT_EQ(Run(), Texts{"Appeared 1"});
+    EXPECT_TRUE(tessaly.OpenInterface(1));
+    EXPECT_EQ(otherNetwork.Records().size(), 1U);
+}
+
 TEST_F(LineSwitchTest, ALinkThatIsNotStartedHasNoLineOpen) {
     network.SetLink(LinkState::Up);
     tessaly.SetServer("cockpit");
