@@ -50,13 +50,13 @@ void MinimisedStart::End() {
 std::string MinimisedStart::Prepare() {
     if (!windows) Begin();
     if (windows) {
+        SetTimer(patience);
         const xcb_window_t now = windows->Focused();
+        Serve();  // what the server told before its answer: the window may be one of an earlier start
         const auto known = stages.find(now);
         const bool isIntruder =
             known != stages.end() && (known->second == Stage::Expected || known->second == Stage::Asked);
         if (!isIntruder) focused = now;
-        SetTimer(patience);
-        Serve();
     }
     return "OrvelleCP-" + std::to_string(getpid()) + "-" + std::to_string(++starts) + "_TIME0";
 }

@@ -1,12 +1,13 @@
 #include "tests/deck/DeckRig.h"
 
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTabWidget>
 #include <utility>
+
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle {
 
@@ -20,7 +21,7 @@ DeckRig::DeckRig() {
     WriteDownEvents();
     window.OpenAt({0, 0});
     window.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    EXPECT_TRUE(WaitForWindowActive(&window));
 }
 
 FarSides DeckRig::Sides() {
@@ -36,11 +37,7 @@ void DeckRig::Settle() {
     }
 }
 
-void DeckRig::CloseByHand() {
-    QCloseEvent event;
-    QSpontaneKeyEvent::setSpontaneous(&event);
-    QCoreApplication::instance()->notify(&window, &event);
-}
+void DeckRig::CloseByHand() { CloseFromTheFrame(&window); }
 
 void DeckRig::ConnectAll() {
     tessaly.LinkStart();
@@ -62,18 +59,18 @@ void DeckRig::Click(const char* name) {
     TurnTo(widget);
     // A check box takes clicks on its box and its text, not beside them.
     const QPoint place = qobject_cast<QCheckBox*>(&widget) ? QPoint(8, widget.height() / 2) : widget.rect().center();
-    QTest::mouseClick(&widget, Qt::LeftButton, {}, place);
+    ClickMouse(&widget, Qt::LeftButton, {}, place);
     Settle();
 }
 
 void DeckRig::Type(const char* name, const QString& text) {
     auto& edit = At<QLineEdit>(name);
     TurnTo(edit);
-    QTest::mouseClick(&edit, Qt::LeftButton);
+    ClickMouse(&edit, Qt::LeftButton);
     edit.selectAll();
-    QTest::keyClicks(&edit, text);
-    if (text.isEmpty()) QTest::keyClick(&edit, Qt::Key_Delete);
-    QTest::keyClick(&edit, Qt::Key_Return);
+    TypeText(&edit, text);
+    if (text.isEmpty()) ClickKey(&edit, Qt::Key_Delete);
+    ClickKey(&edit, Qt::Key_Return);
     Settle();
 }
 
@@ -81,8 +78,8 @@ void DeckRig::Pick(const char* name, int index) {
     auto& box = At<QComboBox>(name);
     TurnTo(box);
     box.setFocus();
-    QTest::keyClick(&box, Qt::Key_Home);
-    for (int step = 0; step < index; ++step) QTest::keyClick(&box, Qt::Key_Down);
+    ClickKey(&box, Qt::Key_Home);
+    for (int step = 0; step < index; ++step) ClickKey(&box, Qt::Key_Down);
     Settle();
 }
 

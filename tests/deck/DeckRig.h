@@ -1,10 +1,9 @@
 // An embedded set-up with a deck on it, and what would be the panel's end: whatever reaches it is written down.
 #pragma once
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QTest>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -17,6 +16,9 @@
 #include "tests/shared/MemoryValues.h"
 
 namespace orvelle {
+
+// To compare with what reached the panel's end: Events({"engine started"}).
+inline std::vector<std::string> Events(std::initializer_list<std::string> events) { return events; }
 
 class DeckRig : public testing::Test {
 protected:

@@ -4,11 +4,10 @@
 #include <QSpinBox>
 
 #include "tests/deck/DeckRig.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle {
 namespace {
-
-using testing::ElementsAre;
 
 class DeckFaults : public DeckRig {
 protected:
@@ -17,8 +16,8 @@ protected:
         TurnTo(box);
         box.setFocus();
         box.selectAll();
-        QTest::keyClicks(&box, QString::number(number));
-        QTest::keyClick(&box, Qt::Key_Return);
+        TypeText(&box, QString::number(number));
+        ClickKey(&box, Qt::Key_Return);
         Settle();
     }
 };
@@ -62,7 +61,7 @@ TEST_F(DeckFaults, AnotherComputerMakesAnOddRecord) {
     Type("OddType", "WEATHER");
     Type("OddRole", "Station");
     Click("OddClaim");
-    EXPECT_THAT(TakeEvents(), ElementsAre("record appeared 1"));
+    EXPECT_EQ(TakeEvents(), Events({"record appeared 1"}));
     EXPECT_EQ(setUp.NetworkLink.Records().at(1).Type, "WEATHER");
     EXPECT_EQ(setUp.NetworkLink.Records().at(1).Role, "Station");
 }
@@ -70,7 +69,7 @@ TEST_F(DeckFaults, AnotherComputerMakesAnOddRecord) {
 TEST_F(DeckFaults, TheUserIsToldANotice) {
     Type("Notice", "The settings file cannot be written.");
     Click("TellNotice");
-    EXPECT_THAT(TakeEvents(), ElementsAre("notice The settings file cannot be written."));
+    EXPECT_EQ(TakeEvents(), Events({"notice The settings file cannot be written."}));
 }
 
 TEST_F(DeckFaults, TheSimulatorsComputerHasOtherNames) {
@@ -135,12 +134,12 @@ TEST_F(DeckFaults, MixerLinesGoAndMove) {
     TakeEvents();
     TypeNumber("HeadsetMasterLevel", 80);
     EXPECT_EQ(mixer.MasterVolume(), 80);
-    EXPECT_THAT(TakeEvents(), ElementsAre("master moved"));
+    EXPECT_EQ(TakeEvents(), Events({"master moved"}));
 
     Click("HeadsetMasterLine");
     EXPECT_TRUE(mixer.MasterUnavailable());
     EXPECT_FALSE(At<QWidget>("HeadsetMasterLevel").isEnabled());
-    EXPECT_THAT(TakeEvents(), ElementsAre("output closed", "output opened"));
+    EXPECT_EQ(TakeEvents(), Events({"output closed", "output opened"}));
     Click("HeadsetMasterLine");
     EXPECT_FALSE(mixer.MasterUnavailable());
     EXPECT_EQ(mixer.MasterVolume(), 80);
@@ -155,11 +154,11 @@ TEST_F(DeckFaults, DevicesArePluggedAndUnplugged) {
     Settle();
     TakeEvents();
     Click("HeadsetInputPlugged");
-    EXPECT_THAT(TakeEvents(), ElementsAre("input closed"));
+    EXPECT_EQ(TakeEvents(), Events({"input closed"}));
     Click("HeadsetInputPlugged");
-    EXPECT_THAT(TakeEvents(), ElementsAre("input opened"));
+    EXPECT_EQ(TakeEvents(), Events({"input opened"}));
     Click("HeadsetOutputPlugged");
-    EXPECT_THAT(TakeEvents(), ElementsAre("output closed"));
+    EXPECT_EQ(TakeEvents(), Events({"output closed"}));
     EXPECT_EQ(TextOf("HeadsetMixerText"), "Open on <DEFAULT>");
 }
 

@@ -6,11 +6,10 @@
 #include <QWheelEvent>
 
 #include "tests/deck/DeckRig.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle {
 namespace {
-
-using testing::IsEmpty;
 
 class DeckFields : public DeckRig {
 protected:
@@ -52,12 +51,12 @@ TEST_F(DeckFields, EscapeTakesBackATextThatIsNotAppliedYet) {
     Type("Callsign", "ORV123");
     TakeEvents();
     auto& edit = At<QLineEdit>("Callsign");
-    QTest::keyClicks(&edit, "45");
-    QTest::keyClick(&edit, Qt::Key_Escape);
+    TypeText(&edit, "45");
+    ClickKey(&edit, Qt::Key_Escape);
     EXPECT_EQ(edit.text(), "ORV123");
-    QTest::keyClick(&edit, Qt::Key_Return);
+    ClickKey(&edit, Qt::Key_Return);
     Settle();
-    EXPECT_THAT(TakeEvents(), IsEmpty());
+    EXPECT_EQ(TakeEvents(), Events({}));
     EXPECT_EQ(setUp.NetworkLink.Session().Callsign, "ORV123");
 }
 
@@ -65,11 +64,11 @@ TEST_F(DeckFields, EscapeGoesBackToWhatHoldsByNow) {
     ConnectAll();
     auto& edit = At<QLineEdit>("Callsign");
     edit.setFocus();
-    QTest::keyClicks(&edit, "mine");
+    TypeText(&edit, "mine");
     setUp.NetworkLink.SetCallsign("THEIRS");
     Settle();
     EXPECT_EQ(edit.text(), "mine");
-    QTest::keyClick(&edit, Qt::Key_Escape);
+    ClickKey(&edit, Qt::Key_Escape);
     EXPECT_EQ(edit.text(), "THEIRS");
 }
 
@@ -78,10 +77,10 @@ TEST_F(DeckFields, EscapeTakesBackANumberThatIsNotAppliedYet) {
     TurnTo(box);
     box.setFocus();
     box.selectAll();
-    QTest::keyClicks(&box, "250");
-    QTest::keyClick(&box, Qt::Key_Escape);
+    TypeText(&box, "250");
+    ClickKey(&box, Qt::Key_Escape);
     EXPECT_EQ(box.text(), "0 ms");
-    QTest::keyClick(&box, Qt::Key_Return);
+    ClickKey(&box, Qt::Key_Return);
     EXPECT_EQ(setUp.VVL.JoinDelay(), 0);
 }
 
@@ -98,13 +97,13 @@ TEST_F(DeckFields, BytesThatAreNoUtf8AreShownAsLatin1AndStayUntilTheyAreEdited) 
     auto& records = At<QTableWidget>("Records");
     EXPECT_FALSE(records.findItems("München", Qt::MatchExactly).isEmpty());
 
-    QTest::mouseClick(&edit, Qt::LeftButton);
-    QTest::keyClick(&edit, Qt::Key_Return);
+    ClickMouse(&edit, Qt::LeftButton);
+    ClickKey(&edit, Qt::Key_Return);
     Settle();
     EXPECT_EQ(setUp.NetworkLink.Session().Callsign, old);
     edit.selectAll();
     edit.insert("Zürich");
-    QTest::keyClick(&edit, Qt::Key_Return);
+    ClickKey(&edit, Qt::Key_Return);
     Settle();
     EXPECT_EQ(setUp.NetworkLink.Session().Callsign, "Z\xc3\xbcrich");
 }

@@ -3,12 +3,10 @@
 #include <QKeyEvent>
 
 #include "tests/deck/DeckRig.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 // A key as the X server tells it: its place and what the toolkit makes of it.
 struct Key {
@@ -26,7 +24,7 @@ class DeckKeyboard : public DeckRig {
 protected:
     DeckKeyboard() {
         ConnectAll();
-        QTest::mouseClick(&field, Qt::LeftButton);
+        ClickMouse(&field, Qt::LeftButton);
         EXPECT_TRUE(field.hasFocus());
     }
 
@@ -52,10 +50,10 @@ private:
 
 TEST_F(DeckKeyboard, AKeyGoesDownAndUp) {
     Press(F8);
-    EXPECT_THAT(TakeEvents(), ElementsAre("key down F8 in F8"));
+    EXPECT_EQ(TakeEvents(), Events({"key down F8 in F8"}));
     EXPECT_EQ(TextOf("KeysHeld"), "F8");
     Release(F8);
-    EXPECT_THAT(TakeEvents(), ElementsAre("key up F8"));
+    EXPECT_EQ(TakeEvents(), Events({"key up F8"}));
     EXPECT_EQ(TextOf("KeysHeld"), "Listening");
 }
 
@@ -64,7 +62,7 @@ TEST_F(DeckKeyboard, KeysHeldTogetherAreASequence) {
     Press(LetterA);
     Release(LeftCtrl);
     Release(LetterA);
-    EXPECT_THAT(TakeEvents(), ElementsAre("key down Ctrl in Ctrl", "key down A in Ctrl+A", "key up Ctrl", "key up A"));
+    EXPECT_EQ(TakeEvents(), Events({"key down Ctrl in Ctrl", "key down A in Ctrl+A", "key up Ctrl", "key up A"}));
 }
 
 TEST_F(DeckKeyboard, ARepeatingKeyIsDownAgainAsARepeat) {
@@ -74,14 +72,14 @@ TEST_F(DeckKeyboard, ARepeatingKeyIsDownAgainAsARepeat) {
     Release(LetterA, true);
     Press(LetterA, true);
     Release(LetterA);
-    EXPECT_THAT(TakeEvents(),
-                ElementsAre("key down A in A", "key down A in A repeat", "key down A in A repeat", "key up A"));
+    EXPECT_EQ(TakeEvents(),
+              Events({"key down A in A", "key down A in A repeat", "key down A in A repeat", "key up A"}));
 }
 
 TEST_F(DeckKeyboard, ARepeatOfAKeyThatWasPressedElsewhereIsNoPress) {
     Press(LetterA, true);
     Release(LetterA);
-    EXPECT_THAT(TakeEvents(), IsEmpty());
+    EXPECT_EQ(TakeEvents(), Events({}));
 }
 
 TEST_F(DeckKeyboard, LosingTheFocusReleasesInTheOrderOfThePresses) {
@@ -90,7 +88,7 @@ TEST_F(DeckKeyboard, LosingTheFocusReleasesInTheOrderOfThePresses) {
     TakeEvents();
     field.clearFocus();
     Settle();
-    EXPECT_THAT(TakeEvents(), ElementsAre("key up A", "key up Ctrl"));
+    EXPECT_EQ(TakeEvents(), Events({"key up A", "key up Ctrl"}));
     EXPECT_EQ(TextOf("KeysHeld"), "Keys");
 }
 
@@ -98,23 +96,23 @@ TEST_F(DeckKeyboard, AKeyStaysHeldWhileTheMouseTakesTheLinkDown) {
     Press(F8);
     Click("SimulatorLink");
     EXPECT_TRUE(field.hasFocus());
-    EXPECT_THAT(TakeEvents(), ElementsAre("key down F8 in F8", "key up F8", "simulator disconnected"));
+    EXPECT_EQ(TakeEvents(), Events({"key down F8 in F8", "key up F8", "simulator disconnected"}));
     EXPECT_EQ(TextOf("KeyboardHint"), "The link is down: keys go nowhere");
     Release(F8);
     Press(F8);
-    EXPECT_THAT(TakeEvents(), IsEmpty());
+    EXPECT_EQ(TakeEvents(), Events({}));
 }
 
 TEST_F(DeckKeyboard, AnotherActiveApplicationIsToldWithEachPress) {
     Click("SimulatorActive");
     Press(F8);
-    EXPECT_THAT(TakeEvents(), ElementsAre("key down F8 in F8 inactive"));
+    EXPECT_EQ(TakeEvents(), Events({"key down F8 in F8 inactive"}));
 }
 
 TEST_F(DeckKeyboard, ShiftRenamesNoKey) {
     Press(Digit1);
     Release(ShiftedDigit1);
-    EXPECT_THAT(TakeEvents(), ElementsAre("key down 1 in 1", "key up 1"));
+    EXPECT_EQ(TakeEvents(), Events({"key down 1 in 1", "key up 1"}));
     EXPECT_EQ(NameOf(ShiftedDigit1, Qt::ShiftModifier), "1");
 }
 
@@ -144,17 +142,17 @@ TEST_F(DeckKeyboard, AKeyWithoutAPlaceIsNamedByItsNumber) {
 TEST_F(DeckKeyboard, AKeyWithoutANameDoesNothing) { EXPECT_EQ(NameOf({0, Qt::Key_LaunchF}), ""); }
 
 TEST_F(DeckKeyboard, ShortcutsOfTheDeckAreKeysHere) {
-    QTest::keyClick(&field, Qt::Key_O, Qt::AltModifier);
+    ClickKey(&field, Qt::Key_O, Qt::AltModifier);
     Settle();
-    EXPECT_THAT(TakeEvents(), ElementsAre("key down Alt in Alt", "key down O in Alt+O", "key up O", "key up Alt"));
+    EXPECT_EQ(TakeEvents(), Events({"key down Alt in Alt", "key down O in Alt+O", "key up O", "key up Alt"}));
     EXPECT_TRUE(At<QCheckBox>("SessionOpen").isChecked());
 }
 
 TEST_F(DeckKeyboard, TabLeavesTheField) {
-    QTest::keyClick(&field, Qt::Key_Tab);
+    ClickKey(&field, Qt::Key_Tab);
     Settle();
     EXPECT_FALSE(field.hasFocus());
-    EXPECT_THAT(TakeEvents(), IsEmpty());
+    EXPECT_EQ(TakeEvents(), Events({}));
 }
 
 }  // namespace

@@ -2,31 +2,30 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <algorithm>
 
 #include "deck/FirstFlight.h"
 #include "tests/deck/DeckRig.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class DeckNetwork : public DeckRig {};
 
 TEST_F(DeckNetwork, TheSwitchTakesTheLinkUpAndDown) {
     tessaly.LinkStart();
     Click("NetworkLink");
-    EXPECT_THAT(TakeEvents(), ElementsAre("network connected"));
+    EXPECT_EQ(TakeEvents(), Events({"network connected"}));
     EXPECT_EQ(TextOf("NetworkStateText"), "Connected, server AUTOMATIC");
     Click("NetworkLink");
-    EXPECT_THAT(TakeEvents(), ElementsAre("network disconnected"));
+    EXPECT_EQ(TakeEvents(), Events({"network disconnected"}));
 }
 
 TEST_F(DeckNetwork, AServerIsSeen) {
     tessaly.LinkStart();
     Type("NetworkServerSeen", "SERVERPC");
-    EXPECT_THAT(TakeEvents(), ElementsAre("network found SERVERPC"));
+    EXPECT_EQ(TakeEvents(), Events({"network found SERVERPC"}));
     EXPECT_EQ(TextOf("NetworkServersSeen"), "SERVERPC");
 }
 
@@ -34,9 +33,9 @@ TEST_F(DeckNetwork, TheSessionEndsAndOpensAgain) {
     ConnectAll();
     EXPECT_TRUE(At<QCheckBox>("SessionOpen").isChecked());
     Click("SessionOpen");
-    EXPECT_THAT(TakeEvents(), ElementsAre("session closed"));
+    EXPECT_EQ(TakeEvents(), Events({"session closed"}));
     Click("SessionOpen");
-    EXPECT_THAT(TakeEvents(), ElementsAre("session opened"));
+    EXPECT_EQ(TakeEvents(), Events({"session opened"}));
 }
 
 TEST_F(DeckNetwork, StatusAndCallsignAreTold) {
@@ -47,7 +46,7 @@ TEST_F(DeckNetwork, StatusAndCallsignAreTold) {
     EXPECT_EQ(setUp.NetworkLink.Session().Callsign, "ORV123");
     Click("SessionConnected");
     EXPECT_EQ(setUp.NetworkLink.Session().Status, 0);
-    EXPECT_THAT(TakeEvents(), ElementsAre("session status changed", "callsign changed", "session status changed"));
+    EXPECT_EQ(TakeEvents(), Events({"session status changed", "callsign changed", "session status changed"}));
 }
 
 TEST_F(DeckNetwork, FrequencyAndSelectionsRaiseRadioChanged) {
@@ -83,7 +82,7 @@ TEST_F(DeckNetwork, EachPartOfAVoiceRecordReachesItsRadioAlone) {
     Type("ChannelCOM2", "Tower");
     Type("LoginCOM2", "pilot");
     Type("PasswordCOM2", "secret");
-    EXPECT_THAT(TakeEvents(), testing::AllOf(testing::SizeIs(5), testing::Each("radio voice changed 1")));
+    EXPECT_EQ(TakeEvents(), std::vector<std::string>(5, "radio voice changed 1"));
     EXPECT_EQ(setUp.NetworkLink.Session().Voice[1],
               (RadioVoiceSetting{1, "rw.example.net", "Tower", "pilot", "secret"}));
     EXPECT_EQ(setUp.NetworkLink.Session().Voice[0], other);
@@ -100,28 +99,28 @@ TEST_F(DeckNetwork, EachSoftwareHasItsCode) {
 TEST_F(DeckNetwork, AFieldIsAppliedWhenItIsLeft) {
     ConnectAll();
     auto& edit = At<QLineEdit>("ServerCOM1");
-    QTest::mouseClick(&edit, Qt::LeftButton);
-    QTest::keyClicks(&edit, "rw.example.net");
+    ClickMouse(&edit, Qt::LeftButton);
+    TypeText(&edit, "rw.example.net");
     EXPECT_EQ(setUp.NetworkLink.Session().Voice[0].Server, "");
-    QTest::mouseClick(&At<QLineEdit>("ChannelCOM1"), Qt::LeftButton);
+    ClickMouse(&At<QLineEdit>("ChannelCOM1"), Qt::LeftButton);
     Settle();
     EXPECT_EQ(setUp.NetworkLink.Session().Voice[0].Server, "rw.example.net");
-    EXPECT_THAT(TakeEvents(), ElementsAre("radio voice changed 0"));
+    EXPECT_EQ(TakeEvents(), Events({"radio voice changed 0"}));
 }
 
 TEST_F(DeckNetwork, AFieldThatWasNotChangedTellsNothing) {
     ConnectAll();
-    QTest::mouseClick(&At<QLineEdit>("ServerCOM1"), Qt::LeftButton);
-    QTest::mouseClick(&At<QLineEdit>("ChannelCOM1"), Qt::LeftButton);
+    ClickMouse(&At<QLineEdit>("ServerCOM1"), Qt::LeftButton);
+    ClickMouse(&At<QLineEdit>("ChannelCOM1"), Qt::LeftButton);
     Settle();
-    EXPECT_THAT(TakeEvents(), IsEmpty());
+    EXPECT_EQ(TakeEvents(), Events({}));
 }
 
 TEST_F(DeckNetwork, AChangeElsewhereLeavesAloneWhatTheUserTypes) {
     ConnectAll();
     auto& edit = At<QLineEdit>("ServerCOM1");
-    QTest::mouseClick(&edit, Qt::LeftButton);
-    QTest::keyClicks(&edit, "rw.exa");
+    ClickMouse(&edit, Qt::LeftButton);
+    TypeText(&edit, "rw.exa");
     setUp.NetworkLink.SetVoice(0, {2, "ts.example.net", "Lobby", "", ""});
     Settle();
     EXPECT_EQ(edit.text(), "rw.exa");
@@ -133,8 +132,9 @@ TEST_F(DeckNetwork, AFirstFlightIsReadyToBeTuned) {
     PrepareFirstFlight(setUp.Sides());
     tessaly.LinkStart();
     Settle();
-    EXPECT_THAT(TakeEvents(),
-                testing::UnorderedElementsAre("simulator connected", "network connected", "session opened"));
+    std::vector<std::string> told = TakeEvents();
+    std::sort(told.begin(), told.end());
+    EXPECT_EQ(told, Events({"network connected", "session opened", "simulator connected"}));
     EXPECT_EQ(At<QLineEdit>("Callsign").text(), "ORV123");
     EXPECT_EQ(At<QLineEdit>("FrequencyCOM1").text(), "122.800");
     EXPECT_EQ(At<QComboBox>("SoftwareCOM1").currentText(), "None");

@@ -8,12 +8,10 @@
 
 #include "deck/fields/LateWrites.h"
 #include "tests/deck/DeckRig.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 enum Column { Late, Number, Meaning, Value, Writer };
 constexpr int FirstText = 28;  // the row of text 7
@@ -45,12 +43,12 @@ protected:
         auto* editor = table.findChild<QLineEdit*>();
         if (!editor) throw std::logic_error("no editor");
         editor->selectAll();
-        QTest::keyClicks(editor, text);
-        if (text.isEmpty()) QTest::keyClick(editor, Qt::Key_Delete);
+        TypeText(editor, text);
+        if (text.isEmpty()) ClickKey(editor, Qt::Key_Delete);
         return *editor;
     }
     void Edit(int row, const QString& text) {
-        QTest::keyClick(&BeginToEdit(row, text), Qt::Key_Return);
+        ClickKey(&BeginToEdit(row, text), Qt::Key_Return);
         Settle();
     }
 
@@ -92,7 +90,7 @@ TEST_F(DeckParameters, TheUsersPickStaysUntilItsRecordGoes) {
 TEST_F(DeckParameters, EditingANumberIsAnotherPartysWrite) {
     const Long id = CreateOwn("VVL");
     Edit(13, "1");
-    EXPECT_THAT(TakeEvents(), ElementsAre("parameter changed 1/13"));
+    EXPECT_EQ(TakeEvents(), Events({"parameter changed 1/13"}));
     EXPECT_EQ(setUp.NetworkLink.Records().at(id).Parameters.at(13).Content, 1);
     EXPECT_EQ(Cell(13, Value), "1");
     EXPECT_EQ(Cell(13, Writer), "other");
@@ -101,7 +99,7 @@ TEST_F(DeckParameters, EditingANumberIsAnotherPartysWrite) {
 TEST_F(DeckParameters, EditingATextIsAnotherPartysWrite) {
     const Long id = CreateOwn("VVL");
     Edit(FirstText + 2, "voice.example.net/private");
-    EXPECT_THAT(TakeEvents(), ElementsAre("parameter changed 1/9"));
+    EXPECT_EQ(TakeEvents(), Events({"parameter changed 1/9"}));
     EXPECT_EQ(setUp.NetworkLink.Records().at(id).Texts.at(9).Content, "voice.example.net/private");
     Edit(FirstText + 2, "");
     EXPECT_EQ(setUp.NetworkLink.Records().at(id).Texts.at(9).Content, "");
@@ -113,7 +111,7 @@ TEST_F(DeckParameters, WhatIsNoNumberIsToldAndNotWritten) {
     EXPECT_EQ(TextOf("ParameterNote"), "No whole number of 32 bits: \"1.5\"");
     Edit(13, "2147483648");
     EXPECT_EQ(TextOf("ParameterNote"), "No whole number of 32 bits: \"2147483648\"");
-    EXPECT_THAT(TakeEvents(), IsEmpty());
+    EXPECT_EQ(TakeEvents(), Events({}));
     EXPECT_EQ(Cell(13, Value), "");
     Edit(13, "-2147483648");
     EXPECT_EQ(Cell(13, Value), "-2147483648");
@@ -126,7 +124,7 @@ TEST_F(DeckParameters, AWriteWithoutTheLinkIsTold) {
     TakeEvents();
     Edit(13, "1");
     EXPECT_EQ(TextOf("ParameterNote"), "Not written, as the network link is down");
-    EXPECT_THAT(TakeEvents(), IsEmpty());
+    EXPECT_EQ(TakeEvents(), Events({}));
     EXPECT_EQ(Cell(13, Value), "");
 }
 
@@ -134,7 +132,7 @@ TEST_F(DeckParameters, AnEditThatChangesNothingIsNoWrite) {
     const Long id = CreateOwn("VVL");
     PanelWrites(id, 13, 1);
     Edit(13, "1");
-    EXPECT_THAT(TakeEvents(), IsEmpty());
+    EXPECT_EQ(TakeEvents(), Events({}));
 }
 
 TEST_F(DeckParameters, WhatIsBeingTypedOutlivesWhatOthersWrite) {
@@ -144,8 +142,8 @@ TEST_F(DeckParameters, WhatIsBeingTypedOutlivesWhatOthersWrite) {
     setUp.NetworkLink.SetCallsign("ORV124");
     Settle();
     EXPECT_EQ(editor.text(), "12");
-    QTest::keyClicks(&editor, "3");
-    QTest::keyClick(&editor, Qt::Key_Return);
+    TypeText(&editor, "3");
+    ClickKey(&editor, Qt::Key_Return);
     Settle();
     EXPECT_EQ(Cell(13, Value), "123");
 }
@@ -165,11 +163,11 @@ TEST_F(DeckParameters, TheOpenListOfRecordsKeepsItsMarkWhileOthersWrite) {
     Settle();
     auto& box = At<QComboBox>("ParameterRecord");
     box.showPopup();
-    QTest::keyClick(box.view(), Qt::Key_Down);
+    ClickKey(box.view(), Qt::Key_Down);
     ASSERT_EQ(box.view()->currentIndex().row(), 1);
     PanelWrites(id, 13, 7);
     EXPECT_EQ(box.view()->currentIndex().row(), 1);
-    QTest::keyClick(box.view(), Qt::Key_Return);
+    ClickKey(box.view(), Qt::Key_Return);
     Settle();
     EXPECT_EQ(box.currentText(), "2  VVL of COCKPIT2");
 }

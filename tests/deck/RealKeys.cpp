@@ -1,5 +1,4 @@
 // The deck on a real X server with a window manager: keys and focus as the server deals them out.
-#include <QCloseEvent>
 #include <QLineEdit>
 #include <QProcess>
 #include <QWindow>
@@ -7,18 +6,17 @@
 
 #include "adapters/x11/KeyRepeat.h"
 #include "tests/deck/DeckRig.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle {
 namespace {
-
-using testing::ElementsAre;
 
 constexpr int Patience = 20'000;  // milliseconds
 
 void Xdotool(const QStringList& arguments) {
     QProcess process;
     process.start("xdotool", arguments);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, Patience));
+    EXPECT_TRUE(WaitFor([&] { return process.state() == QProcess::NotRunning; }, Patience));
     EXPECT_EQ(process.exitCode(), 0) << "xdotool " << arguments.join(' ').toStdString();
 }
 
@@ -33,10 +31,10 @@ protected:
         TellRepeatsAsPresses();
         ConnectAll();
         ClickOn(field);
-        EXPECT_TRUE(QTest::qWaitFor([this] { return field.hasFocus(); }, Patience));
+        EXPECT_TRUE(WaitFor([this] { return field.hasFocus(); }, Patience));
     }
     bool WaitForEvents(std::size_t count) {
-        return QTest::qWaitFor([this, count] { return events.size() >= count; }, Patience);
+        return WaitFor([this, count] { return events.size() >= count; }, Patience);
     }
 
     QWidget& field = At<QWidget>("KeyboardField");
@@ -46,7 +44,7 @@ TEST_F(DeckOnX, AHeldKeyRepeatsAndComesUpOnce) {
     Xdotool({"keydown", "F8"});
     EXPECT_TRUE(WaitForEvents(6));
     Xdotool({"keyup", "F8"});
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !events.empty() && events.back() == "key up F8"; }, Patience));
+    EXPECT_TRUE(WaitFor([this] { return !events.empty() && events.back() == "key up F8"; }, Patience));
     EXPECT_EQ(events.front(), "key down F8 in F8");
     EXPECT_EQ(std::ranges::count(events, "key up F8"), 1);
     EXPECT_EQ(std::ranges::count(events, "key down F8 in F8 repeat"), static_cast<std::ptrdiff_t>(events.size()) - 2);
@@ -55,19 +53,19 @@ TEST_F(DeckOnX, AHeldKeyRepeatsAndComesUpOnce) {
 TEST_F(DeckOnX, KeysHeldTogetherBearTheirNames) {
     Xdotool({"key", "ctrl+shift+1"});
     EXPECT_TRUE(WaitForEvents(6));
-    EXPECT_THAT(std::vector(events.begin(), events.begin() + 3),
-                ElementsAre("key down Ctrl in Ctrl", "key down Shift in Ctrl+Shift", "key down 1 in Ctrl+Shift+1"));
+    EXPECT_EQ(std::vector<std::string>(events.begin(), events.begin() + 3),
+              Events({"key down Ctrl in Ctrl", "key down Shift in Ctrl+Shift", "key down 1 in Ctrl+Shift+1"}));
 }
 
 TEST_F(DeckOnX, AnotherWindowThatTakesTheFocusEndsWhatIsHeld) {
     QLineEdit other;
     other.setAttribute(Qt::WA_ShowWithoutActivating);
     other.show();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(&other));
+    EXPECT_TRUE(WaitForWindowExposed(&other));
     Xdotool({"keydown", "ctrl"});
     EXPECT_TRUE(WaitForEvents(1));
     ClickOn(other);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !events.empty() && events.back() == "key up Ctrl"; }, Patience));
+    EXPECT_TRUE(WaitFor([this] { return !events.empty() && events.back() == "key up Ctrl"; }, Patience));
     Xdotool({"keyup", "ctrl"});
 }
 
@@ -75,17 +73,14 @@ TEST_F(DeckOnX, ClosingMinimisesAndEndsWhatIsHeld) {
     Xdotool({"keydown", "ctrl"});
     EXPECT_TRUE(WaitForEvents(1));
     // As the window manager brings it.
-    QCloseEvent close;
-    QSpontaneKeyEvent::setSpontaneous(&close);
-    QCoreApplication::instance()->notify(&window, &close);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !events.empty() && events.back() == "key up Ctrl"; }, Patience));
+    CloseFromTheFrame(&window);
+    EXPECT_TRUE(WaitFor([this] { return !events.empty() && events.back() == "key up Ctrl"; }, Patience));
     const auto isSeen = [this] { return window.isActiveWindow() && window.windowHandle()->isExposed(); };
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return !window.isActiveWindow() && !window.windowHandle()->isExposed(); }, Patience));
+    EXPECT_TRUE(WaitFor([&] { return !window.isActiveWindow() && !window.windowHandle()->isExposed(); }, Patience));
     Xdotool({"keyup", "ctrl"});
     // As a taskbar does it.
     Xdotool({"windowactivate", QString::number(window.winId())});
-    EXPECT_TRUE(QTest::qWaitFor(isSeen, Patience));
+    EXPECT_TRUE(WaitFor(isSeen, Patience));
     EXPECT_FALSE(window.isMinimized());
 }
 
@@ -94,12 +89,12 @@ TEST(DeckBesideAPanel, OpensWithoutTakingTheFocus) {
     embedded::SetUp setUp(loop);
     QLineEdit panel;
     panel.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
+    ASSERT_TRUE(WaitForWindowActive(&panel));
     DeckWindow deck(setUp.Sides());
     deck.OpenAt({200, 100});
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&deck));
+    ASSERT_TRUE(WaitForWindowExposed(&deck));
     Xdotool({"type", "to the panel"});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return panel.text() == "to the panel"; }, Patience));
+    EXPECT_TRUE(WaitFor([&] { return panel.text() == "to the panel"; }, Patience));
 }
 
 }  // namespace

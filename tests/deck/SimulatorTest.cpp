@@ -4,22 +4,20 @@
 #include <QListWidget>
 
 #include "tests/deck/DeckRig.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class DeckSimulator : public DeckRig {};
 
 TEST_F(DeckSimulator, TheSwitchTakesTheLinkUpAndDown) {
     EXPECT_EQ(TextOf("SimulatorStateText"), "Down, server AUTOMATIC");
     Click("SimulatorLink");
-    EXPECT_THAT(TakeEvents(), ElementsAre("simulator connected"));
+    EXPECT_EQ(TakeEvents(), Events({"simulator connected"}));
     EXPECT_EQ(TextOf("SimulatorStateText"), "Connected, server AUTOMATIC");
     Click("SimulatorLink");
-    EXPECT_THAT(TakeEvents(), ElementsAre("simulator disconnected"));
+    EXPECT_EQ(TakeEvents(), Events({"simulator disconnected"}));
     EXPECT_EQ(TextOf("SimulatorStateText"), "Down, server AUTOMATIC");
 }
 
@@ -44,58 +42,58 @@ TEST_F(DeckSimulator, AServerIsSeenByTheButtonOrEnterAsItIsTyped) {
     Type("SimulatorServerSeen", " 127.0.0.1 ");
     At<QLineEdit>("SimulatorServerSeen").setText("TOWERPC");
     Click("SimulatorSeeServer");
-    EXPECT_THAT(TakeEvents(), ElementsAre("simulator found  127.0.0.1 ", "simulator found TOWERPC"));
+    EXPECT_EQ(TakeEvents(), Events({"simulator found  127.0.0.1 ", "simulator found TOWERPC"}));
     EXPECT_EQ(TextOf("SimulatorServersSeen"), " 127.0.0.1 , TOWERPC");
 }
 
 TEST_F(DeckSimulator, NoServerIsSeenWithoutAName) {
     At<QLineEdit>("SimulatorServerSeen").clear();
     Click("SimulatorSeeServer");
-    EXPECT_THAT(TakeEvents(), IsEmpty());
+    EXPECT_EQ(TakeEvents(), Events({}));
 }
 
 TEST_F(DeckSimulator, AJoystickButtonIsDownAsLongAsTheMouseHoldsIt) {
     ConnectAll();
     auto& button = At<QWidget>("Stick3");
-    QTest::mousePress(&button, Qt::LeftButton);
+    PressMouse(&button, Qt::LeftButton);
     Settle();
-    EXPECT_THAT(TakeEvents(), ElementsAre("button down Stick.Button 3"));
-    EXPECT_THAT(setUp.SimulatorLink.HeldButtons(), ElementsAre("Stick.Button 3"));
-    QTest::mouseRelease(&button, Qt::LeftButton);
+    EXPECT_EQ(TakeEvents(), Events({"button down Stick.Button 3"}));
+    EXPECT_EQ(setUp.SimulatorLink.HeldButtons(), Events({"Stick.Button 3"}));
+    ReleaseMouse(&button, Qt::LeftButton);
     Settle();
-    EXPECT_THAT(TakeEvents(), ElementsAre("button up Stick.Button 3"));
+    EXPECT_EQ(TakeEvents(), Events({"button up Stick.Button 3"}));
 }
 
 TEST_F(DeckSimulator, TheSpaceBarHoldsAJoystickButtonToo) {
     ConnectAll();
     auto& button = At<QWidget>("Throttle8");
     button.setFocus();
-    QTest::keyPress(&button, Qt::Key_Space);
+    PressKey(&button, Qt::Key_Space);
     Settle();
-    EXPECT_THAT(TakeEvents(), ElementsAre("button down Throttle.Button 8"));
-    QTest::keyRelease(&button, Qt::Key_Space);
+    EXPECT_EQ(TakeEvents(), Events({"button down Throttle.Button 8"}));
+    ReleaseKey(&button, Qt::Key_Space);
     Settle();
-    EXPECT_THAT(TakeEvents(), ElementsAre("button up Throttle.Button 8"));
+    EXPECT_EQ(TakeEvents(), Events({"button up Throttle.Button 8"}));
 }
 
 TEST_F(DeckSimulator, AHeldButtonIsReportedUpBeforeItsLinkIsLost) {
     ConnectAll();
-    QTest::mousePress(&At<QWidget>("Stick1"), Qt::LeftButton);
+    PressMouse(&At<QWidget>("Stick1"), Qt::LeftButton);
     setUp.SimulatorLink.SetLink(LinkState::Down);
     Settle();
-    QTest::mouseRelease(&At<QWidget>("Stick1"), Qt::LeftButton);
+    ReleaseMouse(&At<QWidget>("Stick1"), Qt::LeftButton);
     Settle();
-    EXPECT_THAT(TakeEvents(),
-                ElementsAre("button down Stick.Button 1", "button up Stick.Button 1", "simulator disconnected"));
+    EXPECT_EQ(TakeEvents(),
+              Events({"button down Stick.Button 1", "button up Stick.Button 1", "simulator disconnected"}));
 }
 
 TEST_F(DeckSimulator, ClosingTheWindowLetsGoWhatIsHeld) {
     ConnectAll();
-    QTest::mousePress(&At<QWidget>("Stick1"), Qt::LeftButton);
+    PressMouse(&At<QWidget>("Stick1"), Qt::LeftButton);
     Settle();
     CloseByHand();
     Settle();
-    EXPECT_THAT(TakeEvents(), ElementsAre("button down Stick.Button 1", "button up Stick.Button 1"));
+    EXPECT_EQ(TakeEvents(), Events({"button down Stick.Button 1", "button up Stick.Button 1"}));
 }
 
 TEST_F(DeckSimulator, SoundsAreListedInTheirOrderWithTheirTime) {

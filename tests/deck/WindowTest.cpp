@@ -10,6 +10,7 @@
 #include <set>
 
 #include "tests/deck/DeckRig.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle {
 namespace {
@@ -67,9 +68,9 @@ TEST_F(DeckWindowTest, NoTwoMnemonicsOfAPageAreAlike) {
 }
 
 TEST_F(DeckWindowTest, AMnemonicLeadsToItsField) {
-    QTest::keyClick(&window, Qt::Key_V, Qt::AltModifier);
+    ClickKey(&window, Qt::Key_V, Qt::AltModifier);
     EXPECT_TRUE(At<QWidget>("ServerCOM1").hasFocus());
-    QTest::keyClick(&window, Qt::Key_K, Qt::AltModifier);
+    ClickKey(&window, Qt::Key_K, Qt::AltModifier);
     EXPECT_TRUE(At<QWidget>("KeyboardField").hasFocus());
 }
 
@@ -109,7 +110,7 @@ TEST_F(DeckWindowTest, NothingRunsWhileNothingHappens) {
         return count;
     };
     // The toolkit's own one-shot timers of layouts and views run out.
-    EXPECT_TRUE(QTest::qWaitFor([&] { return timers() == 0; }));
+    EXPECT_TRUE(WaitFor([&] { return timers() == 0; }));
 }
 
 TEST_F(DeckWindowTest, WhatIsNotPlayedHereHasNoPart) {

@@ -2,15 +2,16 @@
 
 #include <QCheckBox>
 #include <QProcess>
-#include <QTest>
 #include <algorithm>
 #include <stdexcept>
+
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle {
 
 bool ComesTrue(const std::function<bool()>& isTrue) {
     constexpr int BoundMilliseconds = 30000;
-    return QTest::qWaitFor(isTrue, BoundMilliseconds);
+    return WaitFor(isTrue, BoundMilliseconds);
 }
 
 void User::Do(const QStringList& words) {

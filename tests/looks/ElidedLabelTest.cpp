@@ -6,9 +6,10 @@
 #include <QApplication>
 #include <QHelpEvent>
 #include <QImage>
-#include <QTest>
 #include <QTextDocumentFragment>
 #include <QToolTip>
+
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle {
 namespace {
@@ -77,7 +78,7 @@ TEST_F(ElidedLabelTest, HasItsOwnTipWhereItIsNot) {
     EXPECT_EQ(QToolTip::text(), "");
     label.setToolTip(QStringLiteral("own"));
     AskForTip();
-    EXPECT_TRUE(QTest::qWaitFor([] { return QToolTip::text() == QStringLiteral("own"); }, Patience));
+    EXPECT_TRUE(WaitFor([] { return QToolTip::text() == QStringLiteral("own"); }, Patience));
 }
 
 }  // namespace

@@ -1,12 +1,14 @@
 // The tray component on its own: what it hands to the shell, what it raises, and what a designer keeps of it.
 #include "panel/SysTray.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
 
 #include "platform/controls/Form.h"
 #include "replay/peers/NotificationAreaPeer.h"
 #include "replay/peers/WindowsPeer.h"
-#include "tests/panel/MockWindows.h"
 #include "tests/replay/PeerTest.h"
 
 namespace orvelle {
@@ -180,10 +182,11 @@ TEST_F(SysTrayTest, ADesignerCannotResizeIt) {
 }
 
 TEST_F(SysTrayTest, DrawsASoftRaisedOuterEdgeAllAround) {
-    MockWindows drawing;
-    cSysTray drawn(form, "Drawn", drawing, shell, module, cSysTray::Mode::Designer);
-    EXPECT_CALL(drawing, DrawEdge(testing::Ref(drawn), 1, 0x100F));
-    drawn.Paint();
+    Tray(cSysTray::Mode::Designer).Paint();
+    ASSERT_EQ(windows.Edges.size(), 1U);
+    EXPECT_EQ(windows.Edges[0].Window, tray.get());
+    EXPECT_EQ(windows.Edges[0].Kind, 1);
+    EXPECT_EQ(windows.Edges[0].Flags, 0x100F);
 }
 
 // What one mouse message raised: "MouseDown 1 of 7".

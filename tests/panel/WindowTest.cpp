@@ -1,56 +1,24 @@
 // Where a scenario cannot look: the size that the window takes at its load, the place that a page takes over from the
 // overview, and what of the tree is unfolded.
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <sstream>
 
 #include "panel/FrmOrvelle.h"
 #include "replay/World.h"
-#include "tests/panel/MockWindows.h"
 
 namespace orvelle {
 namespace {
 
-using testing::_;
-using testing::NiceMock;
-using testing::Ref;
-using testing::Return;
-
 class WindowTest : public testing::Test {
 protected:
-    Platform Outside() {
-        return {
-            .Velmarc = world.Velmarc,
-            .Settings = world.Store,
-            .Registry = world.Registry,
-            .Tessaly = world.Tessaly,
-            .VVL = world.VVL,
-            .VolumeControl = world.VolumeControl,
-            .VolumeControlHP = world.VolumeControlHP,
-            .TSRemote = world.TSRemote,
-            .MediaPlayers = world.Players,
-            .Dialog = world.Dialog,
-            .Messages = world.Messages,
-            .Keyboard = world.Keyboard,
-            .Queue = world.Queue,
-            .Windows = windows,
-            .Clock = world.Kernel,
-            .Processes = world.Kernel,
-            .Program = world.App,
-            .Tray = world.Tray,
-            .Urls = world.Urls,
-        };
-    }
-
     std::ostringstream out;
     replay::World world{out};
-    NiceMock<MockWindows> windows;
-    FrmOrvelle panel{Outside()};
+    FrmOrvelle panel{world.Outside()};
 };
 
 TEST_F(WindowTest, TheClientAreaEndsAtTheOverviewsEdges) {
-    ON_CALL(windows, GetWindowRect(Ref(panel))).WillByDefault(Return(Rectangle{100, 50, 300, 250}));
-    ON_CALL(windows, GetClientRect(Ref(panel))).WillByDefault(Return(Rectangle{0, 0, 192, 170}));
+    world.Windows.Place(panel, {100, 50, 300, 250}, {0, 0, 192, 170});
     panel.Panels(0).Left = 3000;
     panel.Panels(0).Top = 120;
     panel.Panels(0).Width = 4500;

@@ -5,6 +5,7 @@
 
 #include "adapters/looks/Theme.h"
 #include "tests/qt/forms/ShownPanel.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle::qt {
 namespace {
@@ -18,7 +19,7 @@ protected:
     // On the box or the text, at the left.
     void Click(const Control& control) {
         QWidget* widget = window.WidgetOf(control);
-        QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(Unit, widget->height() / 2));
+        ClickMouse(widget, Qt::LeftButton, {}, QPoint(Unit, widget->height() / 2));
     }
     bool IsOn(Long option) { return Widget<QRadioButton>(panel.optRWDriver(option)).isChecked(); }
 };
@@ -117,7 +118,7 @@ TEST_F(ButtonMirrorsTest, ArrowKeysGoFromOptionToOption) {
     panel.optRWDriver(0).Value = true;
     auto& first = Widget<QRadioButton>(panel.optRWDriver(0));
     first.setFocus();
-    QTest::keyClick(&first, Qt::Key_Down);
+    ClickKey(&first, Qt::Key_Down);
     EXPECT_TRUE(panel.optRWDriver(1).Value);
     EXPECT_FALSE(panel.optRWDriver(0).Value);
 }

@@ -5,6 +5,7 @@
 #include <QWheelEvent>
 
 #include "tests/qt/forms/ShownPanel.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle::qt {
 namespace {
@@ -28,7 +29,7 @@ protected:
     static void Pick(QComboBox& box, int entry) {
         box.showPopup();
         box.view()->setCurrentIndex(box.model()->index(entry, 0));
-        QTest::keyClick(box.view(), Qt::Key_Return);
+        ClickKey(box.view(), Qt::Key_Return);
     }
 };
 
@@ -73,7 +74,7 @@ TEST_F(ComboMirrorTest, TypingSelectsNothingAndCompletesNothing) {
     panel.VelmarcServer.Select(0);
     events.clear();
     Server().lineEdit()->selectAll();
-    QTest::keyClicks(Server().lineEdit(), QStringLiteral("be"));
+    TypeText(Server().lineEdit(), QStringLiteral("be"));
     EXPECT_EQ(Server().currentText(), QStringLiteral("be"));
     EXPECT_EQ(panel.VelmarcServer.Text, std::string("be"));
     EXPECT_EQ(panel.VelmarcServer.ListIndex(), -1);
@@ -84,7 +85,7 @@ TEST_F(ComboMirrorTest, TypingInTheMiddleStaysThere) {
     AddServers();
     panel.VelmarcServer.Select(0);
     Server().lineEdit()->setCursorPosition(2);
-    QTest::keyClicks(Server().lineEdit(), QStringLiteral("XY"));
+    TypeText(Server().lineEdit(), QStringLiteral("XY"));
     EXPECT_EQ(panel.VelmarcServer.Text, std::string("alXYpha"));
     EXPECT_EQ(Server().lineEdit()->cursorPosition(), 4);
 }
@@ -92,9 +93,9 @@ TEST_F(ComboMirrorTest, TypingInTheMiddleStaysThere) {
 TEST_F(ComboMirrorTest, EnterIsTheKey13AndPicksNothing) {
     AddServers();
     Server().lineEdit()->selectAll();
-    QTest::keyClicks(Server().lineEdit(), QStringLiteral("beta"));
-    QTest::keyClick(&Server(), Qt::Key_Return);
-    QTest::keyClick(&Server(), Qt::Key_Enter);
+    TypeText(Server().lineEdit(), QStringLiteral("beta"));
+    ClickKey(&Server(), Qt::Key_Return);
+    ClickKey(&Server(), Qt::Key_Enter);
     EXPECT_EQ(events, (Events{"key 13", "key 13"}));
     EXPECT_EQ(panel.VelmarcServer.ListIndex(), -1);
 }
@@ -103,7 +104,7 @@ TEST_F(ComboMirrorTest, LeavingTheFieldPicksNothing) {
     AddServers();
     Server().lineEdit()->setFocus();
     Server().lineEdit()->selectAll();
-    QTest::keyClicks(Server().lineEdit(), QStringLiteral("beta"));
+    TypeText(Server().lineEdit(), QStringLiteral("beta"));
     Server().lineEdit()->clearFocus();
     EXPECT_EQ(events, Events{});
     EXPECT_EQ(panel.VelmarcServer.ListIndex(), -1);
@@ -111,7 +112,7 @@ TEST_F(ComboMirrorTest, LeavingTheFieldPicksNothing) {
 
 TEST_F(ComboMirrorTest, ATextThatTheHandlerEmptiesIsEmptyOnTheScreen) {
     panel.VelmarcServer.KeyPress = [this](Long) { panel.VelmarcServer.Text = ""; };
-    QTest::keyClick(&Server(), Qt::Key_Return);
+    ClickKey(&Server(), Qt::Key_Return);
     EXPECT_EQ(Server().currentText(), QString());
 }
 

@@ -3,13 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <QDebug>
-#include <QTest>
 #include <QWindow>
 #include <cstdlib>
 
 #include "adapters/qt/windows/MainWindow.h"
 #include "panel/Controls.h"
 #include "tests/qt/forms/WindowManager.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle::qt {
 namespace {
@@ -17,7 +17,7 @@ namespace {
 template <typename Condition>
 bool ComesTrue(Condition condition) {
     constexpr int BoundMilliseconds = 20000;
-    return QTest::qWaitFor(condition, BoundMilliseconds);
+    return WaitFor(condition, BoundMilliseconds);
 }
 
 class FormWindowTest : public testing::Test {

@@ -10,6 +10,7 @@
 #include "adapters/qt/windows/WarningDialog.h"
 #include "panel/MultiFSWarningDlg.h"
 #include "tests/qt/forms/ShownPanel.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle::qt {
 namespace {
@@ -89,7 +90,7 @@ TEST_F(FormsTest, TheWarningIsCompleteAsSoonAsItShows) {
     EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Multiple FS/Velmarc running on network"));
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_FALSE(dialog.isModal());
-    QTest::mouseClick(dialog.WidgetOf(warning.OKButton), Qt::LeftButton);
+    ClickMouse(dialog.WidgetOf(warning.OKButton), Qt::LeftButton);
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_FALSE(warning.IsLoaded());
 }
@@ -99,8 +100,8 @@ TEST_F(FormsTest, TheWarningGoesByTheEnterAndTheEscapeKey) {
     WarningDialog dialog(warning);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
         warning.Show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-        QTest::keyClick(&dialog, key);
+        ASSERT_TRUE(WaitForWindowActive(&dialog));
+        ClickKey(&dialog, key);
         EXPECT_FALSE(dialog.isVisible());
         EXPECT_FALSE(warning.IsLoaded());
     }

@@ -8,6 +8,7 @@
 
 #include "tests/qt/forms/PlausiblePanel.h"
 #include "tests/qt/forms/ShownPanel.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle::qt {
 namespace {
@@ -31,7 +32,7 @@ protected:
     }
     void ClickRow(int row) {
         const QRect place = Table().visualRect(Table().model()->index(row - 1, 1));
-        QTest::mouseClick(Table().viewport(), Qt::LeftButton, {}, place.center());
+        ClickMouse(Table().viewport(), Qt::LeftButton, {}, place.center());
     }
     QModelIndexList SelectedRows() { return Table().selectionModel()->selectedRows(); }
 };
@@ -73,7 +74,7 @@ TEST_F(ItemMirrorsTest, AClickOnARowIsOneItemClickAndAgainAnother) {
 TEST_F(ItemMirrorsTest, TheArrowKeysClickRows) {
     AddRows(3);
     ClickRow(1);
-    QTest::keyClick(&Table(), Qt::Key_Down);
+    ClickKey(&Table(), Qt::Key_Down);
     EXPECT_EQ(events, (Events{"row 1", "row 2"}));
     ClickRow(2);
     EXPECT_EQ(events, (Events{"row 1", "row 2", "row 2"}));
@@ -158,7 +159,7 @@ protected:
 
     QTreeWidget& Tree() { return Widget<QTreeWidget>(panel.twCategory); }
     void ClickNode(QTreeWidgetItem* item) {
-        QTest::mouseClick(Tree().viewport(), Qt::LeftButton, {}, Tree().visualItemRect(item).center());
+        ClickMouse(Tree().viewport(), Qt::LeftButton, {}, Tree().visualItemRect(item).center());
     }
 };
 
@@ -179,23 +180,23 @@ TEST_F(TreeTest, AClickIsOneClickAndAgainAnother) {
 
 TEST_F(TreeTest, TheArrowKeysClickNodes) {
     Tree().setFocus();
-    QTest::keyClick(&Tree(), Qt::Key_Down);
-    QTest::keyClick(&Tree(), Qt::Key_Down);
+    ClickKey(&Tree(), Qt::Key_Down);
+    ClickKey(&Tree(), Qt::Key_Down);
     EXPECT_EQ(events, (Events{"Velmarc", "Kestrine"}));
 }
 
 TEST_F(TreeTest, AClickBesideTheNodesLeavesTheMark) {
     Tree().setCurrentItem(Tree().topLevelItem(0)->child(0));
     events.clear();
-    QTest::mouseClick(Tree().viewport(), Qt::LeftButton, {}, Tree().viewport()->rect().bottomLeft() - QPoint(-5, 5));
+    ClickMouse(Tree().viewport(), Qt::LeftButton, {}, Tree().viewport()->rect().bottomLeft() - QPoint(-5, 5));
     EXPECT_EQ(Tree().selectedItems(), QList{Tree().topLevelItem(0)->child(0)});
     EXPECT_TRUE(events.empty());
 }
 
 TEST_F(TreeTest, ExpandingClicksNothing) {
     Tree().setFocus();
-    QTest::keyClick(&Tree(), Qt::Key_Left);
-    QTest::keyClick(&Tree(), Qt::Key_Right);
+    ClickKey(&Tree(), Qt::Key_Left);
+    ClickKey(&Tree(), Qt::Key_Right);
     EXPECT_EQ(events, Events{});
 }
 

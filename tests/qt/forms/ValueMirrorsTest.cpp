@@ -11,6 +11,7 @@
 #include "adapters/qt/widgets/StatusFields.h"
 #include "adapters/qt/widgets/StatusPicture.h"
 #include "tests/qt/forms/ShownPanel.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle::qt {
 namespace {
@@ -30,7 +31,7 @@ TEST_F(ValueMirrorsTest, EachTypedLetterIsOneChange) {
     GoTo(2);
     panel.RWPath.Change = [this] { events.push_back(panel.RWPath.Text); };
     auto& field = Widget<QLineEdit>(panel.RWPath);
-    QTest::keyClicks(&field, QStringLiteral("ab"));
+    TypeText(&field, QStringLiteral("ab"));
     QInputMethodEvent composed;
     composed.setCommitString(QString::fromUtf8("ü"));
     QCoreApplication::sendEvent(&field, &composed);
@@ -40,7 +41,7 @@ TEST_F(ValueMirrorsTest, EachTypedLetterIsOneChange) {
 TEST_F(ValueMirrorsTest, ATextThatTheHandlerReplacesShowsSo) {
     GoTo(2);
     panel.RWPath.Change = [this] { panel.RWPath.Text = "fixed"; };
-    QTest::keyClicks(&Widget<QLineEdit>(panel.RWPath), QStringLiteral("x"));
+    TypeText(&Widget<QLineEdit>(panel.RWPath), QStringLiteral("x"));
     EXPECT_EQ(Widget<QLineEdit>(panel.RWPath).text(), QStringLiteral("fixed"));
 }
 
@@ -48,7 +49,7 @@ TEST_F(ValueMirrorsTest, ALockedTextIsNotTypedInto) {
     GoTo(2);
     panel.RWFSKeyDisplay.Text = "<No Hotkey>";
     auto& field = Widget<QLineEdit>(panel.RWFSKeyDisplay);
-    QTest::keyClicks(&field, QStringLiteral("x"));
+    TypeText(&field, QStringLiteral("x"));
     EXPECT_TRUE(field.isReadOnly());
     EXPECT_EQ(field.text(), QStringLiteral("<No Hotkey>"));
     EXPECT_EQ(panel.RWFSKeyDisplay.Text, std::string("<No Hotkey>"));
@@ -111,25 +112,25 @@ TEST_F(SliderTest, ANarrowerRangeTakesTheValueAlongWithoutAScroll) {
 }
 
 TEST_F(SliderTest, TheKeysScroll) {
-    QTest::keyClick(&Out(), Qt::Key_Right);
+    ClickKey(&Out(), Qt::Key_Right);
     EXPECT_EQ(panel.VVLOut.Value, 1);
-    QTest::keyClick(&Out(), Qt::Key_PageUp);
+    ClickKey(&Out(), Qt::Key_PageUp);
     EXPECT_EQ(panel.VVLOut.Value, 41);
-    QTest::keyClick(&Out(), Qt::Key_End);
+    ClickKey(&Out(), Qt::Key_End);
     EXPECT_EQ(panel.VVLOut.Value, 400);
     EXPECT_EQ(events, (Events{"change", "scroll", "change", "scroll", "change", "scroll"}));
 }
 
 TEST_F(SliderTest, AtItsEndItDoesNotScroll) {
-    QTest::keyClick(&Out(), Qt::Key_Left);
+    ClickKey(&Out(), Qt::Key_Left);
     EXPECT_EQ(events, Events{});
 }
 
 TEST_F(SliderTest, DraggingScrolls) {
     const QPoint middle = Out().rect().center();
-    QTest::mousePress(&Out(), Qt::LeftButton, {}, QPoint(6, middle.y()));
-    QTest::mouseMove(&Out(), middle);
-    QTest::mouseRelease(&Out(), Qt::LeftButton, {}, middle);
+    PressMouse(&Out(), Qt::LeftButton, {}, QPoint(6, middle.y()));
+    MoveMouse(&Out(), middle);
+    ReleaseMouse(&Out(), Qt::LeftButton, {}, middle);
     EXPECT_GT(panel.VVLOut.Value, 100);
     EXPECT_EQ(panel.VVLOut.Value, Out().value());
     EXPECT_EQ(events.size() % 2, 0u);
@@ -138,7 +139,7 @@ TEST_F(SliderTest, DraggingScrolls) {
 
 TEST_F(SliderTest, AHandlerThatSetsAnotherValueWins) {
     panel.VVLOut.Scroll = [this] { panel.VVLOut.Value = 7; };
-    QTest::keyClick(&Out(), Qt::Key_End);
+    ClickKey(&Out(), Qt::Key_End);
     EXPECT_EQ(Out().value(), 7);
     EXPECT_EQ(Out().sliderPosition(), 7);
 }

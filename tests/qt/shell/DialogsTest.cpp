@@ -14,6 +14,7 @@
 #include "adapters/qt/services/QtDialogs.h"
 #include "adapters/x11/Display.h"
 #include "tests/qt/shell/Waiting.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle::qt {
 namespace {
@@ -65,8 +66,8 @@ TEST_F(FileDialogTest, GivesTheFileThatWasPicked) {
         auto* name = shown.findChild<QLineEdit*>();
         EXPECT_TRUE(ComesTrue([&] { return name->hasFocus(); }));
         name->selectAll();
-        QTest::keyClicks(name, "other");
-        QTest::keyClick(name, Qt::Key_Return);
+        TypeText(name, "other");
+        ClickKey(name, Qt::Key_Return);
     });
     dialog.ShowOpen();
     EXPECT_EQ(title, "Search for RogerWilco");

@@ -14,6 +14,7 @@
 #include "tests/qt/shell/Main.h"
 #include "tests/qt/shell/ToleratedLeaks.h"
 #include "tests/qt/shell/Waiting.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle::qt {
 namespace {
@@ -39,8 +40,8 @@ TEST_F(FailureTest, OfAButtonsClickIsTold) {
     QPushButton button;
     QObject::connect(&button, &QPushButton::clicked, [] { throw RuntimeError(RuntimeError::TypeMismatch); });
     button.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&button));
-    QTest::mouseClick(&button, Qt::LeftButton);
+    ASSERT_TRUE(WaitForWindowExposed(&button));
+    ClickMouse(&button, Qt::LeftButton);
     EXPECT_EQ(Failures(), std::vector<int>{RuntimeError::TypeMismatch});
 }
 

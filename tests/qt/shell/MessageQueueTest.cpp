@@ -12,6 +12,7 @@
 #include "platform/controls/TextBox.h"
 #include "tests/qt/shell/RealInput.h"
 #include "tests/qt/shell/Waiting.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle::qt {
 namespace {
@@ -39,7 +40,7 @@ protected:
         button.setShortcut(QKeySequence("Ctrl+C"));
         QObject::connect(&button, &QPushButton::clicked, [this] { ++clicks; });
         panel.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&panel));
+        EXPECT_TRUE(WaitForWindowActive(&panel));
         EXPECT_TRUE(ComesTrue([this] { return input.HasFocus(panel); }));
         edit.setFocus();
     }
@@ -131,10 +132,10 @@ TEST_F(MessageQueueTest, EverythingElseIsServedWhileTheQueueIsLookedAt) {
 
 TEST_F(MessageQueueTest, WhileCapturedTheMouseActsOnNoOtherWidget) {
     windows.SetCapture(box);
-    QTest::mouseClick(&button, Qt::LeftButton);
+    ClickMouse(&button, Qt::LeftButton);
     EXPECT_EQ(clicks, 0);
     windows.ReleaseCapture();
-    QTest::mouseClick(&button, Qt::LeftButton);
+    ClickMouse(&button, Qt::LeftButton);
     EXPECT_EQ(clicks, 1);
 }
 

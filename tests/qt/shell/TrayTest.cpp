@@ -15,6 +15,7 @@
 #include "platform/controls/Form.h"
 #include "tests/qt/shell/RealInput.h"
 #include "tests/qt/shell/Waiting.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle::qt {
 namespace {
@@ -178,7 +179,7 @@ protected:
     StandInTest() {
         tray.Shell_NotifyIconA(NotifyIconAdd, record);
         EXPECT_TRUE(ComesTrue([] { return StandIn() != nullptr; }));
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(StandIn()));
+        EXPECT_TRUE(WaitForWindowExposed(StandIn()));
     }
 
     // Its right end, in all its sizes.
@@ -240,9 +241,9 @@ TEST_F(StandInTest, IsDraggedWithoutAClick) {
 }
 
 TEST_F(StandInTest, TakesTheKeyboardToo) {
-    QTest::keyClick(StandIn(), Qt::Key_Space);
+    ClickKey(StandIn(), Qt::Key_Space);
     EXPECT_TRUE(Comes(513));
-    QTest::keyClick(StandIn(), Qt::Key_Menu);
+    ClickKey(StandIn(), Qt::Key_Menu);
     EXPECT_TRUE(Comes(516));
 }
 
@@ -264,7 +265,7 @@ TEST(PopupMenusTest, TheMenuPopsUpAtTheMouseAndItsEntriesClick) {
     form.PopupMenu(menu);
     ASSERT_TRUE(ComesTrue([] { return FindByName("mnuTray") != nullptr; }));
     auto* shown = static_cast<QMenu*>(FindByName("mnuTray"));
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(shown));
+    ASSERT_TRUE(WaitForWindowExposed(shown));
     EXPECT_LE((shown->pos() - place).manhattanLength(), 4);
     ASSERT_EQ(shown->actions().size(), 2);
     EXPECT_EQ(shown->actions()[1]->text(), "Quit");

@@ -1,14 +1,14 @@
 // Tests wait for what must come, never for a time; the bound only ends a test that fails.
 #pragma once
 
-#include <QTest>
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle::qt {
 
 template <typename Condition>
 bool ComesTrue(Condition condition) {
     constexpr int BoundMilliseconds = 20000;
-    return QTest::qWaitFor(condition, BoundMilliseconds);
+    return WaitFor(condition, BoundMilliseconds);
 }
 
 // Serves everything that waits, so that what should not come would have.

@@ -8,6 +8,7 @@
 #include "platform/controls/Form.h"
 #include "tests/qt/shell/RealInput.h"
 #include "tests/qt/shell/Waiting.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle::qt {
 namespace {
@@ -27,7 +28,7 @@ protected:
 
     void Show() {
         panel.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
+        ASSERT_TRUE(WaitForWindowActive(&panel));
     }
     bool IsAbove() {
         const std::vector<std::string> states = input.WindowState(panel);

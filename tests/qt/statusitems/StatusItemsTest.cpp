@@ -9,10 +9,10 @@
 #include <QDBusVariant>
 #include <QPixmap>
 #include <QProcess>
-#include <QTest>
 
 #include "adapters/qt/services/QtTray.h"
 #include "platform/controls/Form.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle::qt {
 namespace {
@@ -24,7 +24,7 @@ constexpr Long CallbackMessage = 1125;
 template <typename Condition>
 bool ComesTrue(Condition condition) {
     constexpr int BoundMilliseconds = 20000;
-    return QTest::qWaitFor(condition, BoundMilliseconds);
+    return WaitFor(condition, BoundMilliseconds);
 }
 
 bool StandInShows() {

@@ -1,0 +1,50 @@
+#include "tests/qt/shell/WidgetInput.h"
+
+#include <QCloseEvent>
+#include <QTest>
+
+namespace orvelle {
+
+void ClickKey(QWidget* widget, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(widget, key, modifiers);
+}
+
+void TypeText(QWidget* widget, const QString& text) { QTest::keyClicks(widget, text); }
+
+void PressKey(QWidget* widget, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyPress(widget, key, modifiers);
+}
+
+void ReleaseKey(QWidget* widget, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyRelease(widget, key, modifiers);
+}
+
+void ClickMouse(QWidget* widget, Qt::MouseButton button, Qt::KeyboardModifiers modifiers, QPoint place) {
+    QTest::mouseClick(widget, button, modifiers, place);
+}
+
+void PressMouse(QWidget* widget, Qt::MouseButton button, Qt::KeyboardModifiers modifiers, QPoint place) {
+    QTest::mousePress(widget, button, modifiers, place);
+}
+
+void ReleaseMouse(QWidget* widget, Qt::MouseButton button, Qt::KeyboardModifiers modifiers, QPoint place) {
+    QTest::mouseRelease(widget, button, modifiers, place);
+}
+
+void MoveMouse(QWidget* widget, QPoint place) { QTest::mouseMove(widget, place); }
+
+void CloseFromTheFrame(QWidget* window) {
+    QCloseEvent event;
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    QCoreApplication::instance()->notify(window, &event);
+}
+
+bool WaitFor(const std::function<bool()>& isSo, int boundMilliseconds) {
+    return QTest::qWaitFor(isSo, boundMilliseconds);
+}
+
+bool WaitForWindowActive(QWidget* window) { return QTest::qWaitForWindowActive(window); }
+
+bool WaitForWindowExposed(QWidget* window) { return QTest::qWaitForWindowExposed(window); }
+
+}  // namespace orvelle
