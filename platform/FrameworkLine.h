@@ -18,12 +18,14 @@ namespace orvelle {
 struct RecordParameters {
     std::map<Long, Long> Numbers;
     std::map<Long, std::string> Texts;
+    bool operator==(const RecordParameters&) const = default;
 };
 
 struct RecordContent {
     std::string Type;
     std::string Role;
     RecordParameters Parameters;
+    bool operator==(const RecordContent&) const = default;
 };
 
 class FrameworkLine {
@@ -57,6 +59,7 @@ public:
     Event<Long> RecordEnded;                         // of another computer
     Event<Long> RecordAnnounced;                     // something about a record, of whomever, has changed
     Event<Long, const RecordParameters&> WriteSaid;  // another party writes to a record of this panel
+    Event<Long> RecordTaken;  // a record of this panel gave way to that of another panel, said before, and has ended
 };
 
 }  // namespace orvelle

@@ -77,6 +77,7 @@ void FrameworkEnd::OpenLine() {
         if (Find(id)) InterfaceChanged(id);
     };
     line->WriteSaid = [this](Long id, const RecordParameters& written) { HearWrite(id, written); };
+    line->RecordTaken = [this](Long id) { HearRecordTaken(id); };
     line->Open(GetServer());
 }
 
@@ -90,6 +91,7 @@ void FrameworkEnd::CloseLine() {
     line->RecordEnded = nullptr;
     line->RecordAnnounced = nullptr;
     line->WriteSaid = nullptr;
+    line->RecordTaken = nullptr;
     line = nullptr;
 }
 

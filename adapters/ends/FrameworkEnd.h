@@ -101,6 +101,7 @@ private:
     void HearRecord(Long id, const RecordContent& said);
     void HearRecordEnded(Long id);
     void HearWrite(Long id, const RecordParameters& written);
+    void HearRecordTaken(Long id);
     void WriteToOpenRecord(const RecordParameters& written);
 
     Delivery delivery;

@@ -159,6 +159,14 @@ void FrameworkEnd::HearWrite(Long id, const RecordParameters& written) {
     for (const Long index : changed) InterfaceParamChanged(id, index);
 }
 
+void FrameworkEnd::HearRecordTaken(Long id) {
+    const auto found = records.find(id);
+    if (found == records.end() || !found->second.IsLocal) return;
+    records.erase(found);
+    if (openRecord == id) openRecord = 0;
+    InterfaceRemoved(id);
+}
+
 void FrameworkEnd::ForgetRecords() {
     for (const auto& [id, record] : std::exchange(records, {}))
         if (record.Told) leaving.push_back(id);

@@ -1,0 +1,88 @@
+#include "adapters/mqtt/BrokerSimulatorLine.h"
+
+#include <utility>
+
+namespace orvelle::mqtt {
+
+namespace {
+
+constexpr Long SilenceMilliseconds = 400;
+
+}  // namespace
+
+void BrokerSimulatorLine::Open(const std::string& name) {
+    std::shared_ptr<PanelAtBroker> next = brokers.At(name);
+    if (next == at) return;
+    Leave();
+    at = std::move(next);
+    if (at) {
+        changed = at->Changed.Attach([this] { Review(); });
+        heard = at->Heard.Attach([this](const Topic& topic, const std::string& payload) { Hear(topic, payload); });
+    }
+    // What is so already is told from the loop.
+    first = loop.After(0, [this] { Review(); });
+}
+
+void BrokerSimulatorLine::Close() {
+    Leave();
+    first.End();
+    server = 0;
+}
+
+void BrokerSimulatorLine::SaySound(const std::string& path) {
+    if (at && server != 0) at->Say(TopicKind::Play, WritePlay({server, path}));
+}
+
+SimulatorComputer BrokerSimulatorLine::FarComputer() {
+    const PresenceSetting* const said = at ? at->Others().Find({server, Program::Simulator}) : nullptr;
+    return said ? SimulatorComputer{said->Address, said->Name, said->Desktop} : SimulatorComputer{"", "", ""};
+}
+
+// The member may be telling us of something now, so it goes when that is over.
+void BrokerSimulatorLine::Leave() {
+    changed.End();
+    heard.End();
+    silence.End();
+    held = {};
+    if (at) loop.Post([leaving = std::exchange(at, nullptr)] {});
+}
+
+// The events may change all of this, so each is the last thing done.
+void BrokerSimulatorLine::Review() {
+    const int now = at && at->IsThere() ? at->Others().SimulatorOffering(&PresenceSetting::OffersSimulator) : 0;
+    const int before = std::exchange(server, now);
+    if (now == before) return;
+    if (now == 0) {
+        silence.End();
+        held = {};
+        Lost();
+    } else if (before == 0) {
+        Up();
+    } else {
+        LetGo();
+    }
+}
+
+void BrokerSimulatorLine::Hear(const Topic& topic, const std::string& payload) {
+    if (topic.Kind != TopicKind::Input || topic.Identity != server || server == 0) return;
+    const auto message = ReadInput(payload);
+    if (!message) return at->CountRefused();
+    held = message->Held;
+    if (held.Keys.empty() && held.Buttons.empty())
+        silence.End();
+    else
+        silence = loop.After(SilenceMilliseconds, [this] { LetGo(); });
+    Said(message->Held);
+}
+
+void BrokerSimulatorLine::LetGo() {
+    silence.End();
+    if (held.Keys.empty() && held.Buttons.empty()) return;
+    held.Keys.clear();
+    held.Buttons.clear();
+    held.Repeat.clear();
+    const SimulatorInput nothing = held;
+    Said(nothing);
+}
+
+}  // namespace orvelle::mqtt

@@ -1,0 +1,38 @@
+// The simulator link over a broker: what the simulator's program of the lowest identity says is held. The line is up
+// while the connection stands and such a program is there. Silence for 400 ms while something is held counts as all of
+// it let go, whatever the reason.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "adapters/mqtt/Brokers.h"
+#include "platform/SimulatorLine.h"
+
+namespace orvelle::mqtt {
+
+class BrokerSimulatorLine : public SimulatorLine {
+public:
+    BrokerSimulatorLine(EventLoop& eventLoop, Brokers& setUpBrokers) : loop(eventLoop), brokers(setUpBrokers) {}
+
+    void Open(const std::string& server) override;
+    void Close() override;
+    void SayReady() override {}  // nobody there waits for it
+    void SaySound(const std::string& path) override;
+    SimulatorComputer FarComputer() override;
+
+private:
+    void Leave();
+    void Review();
+    void Hear(const Topic& topic, const std::string& payload);
+    void LetGo();
+
+    EventLoop& loop;
+    Brokers& brokers;
+    std::shared_ptr<PanelAtBroker> at;  // null while closed
+    int server = 0;                     // the identity of the program that serves, 0 while the line is down
+    SimulatorInput held;
+    Ticket changed, heard, first, silence;
+};
+
+}  // namespace orvelle::mqtt

@@ -1,0 +1,80 @@
+#include "adapters/mqtt/HostLookup.h"
+
+#include <netdb.h>
+#include <sys/eventfd.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+namespace orvelle::mqtt {
+
+namespace {
+
+std::vector<std::string> AddressesOf(const std::string& host) {
+    addrinfo wanted{};
+    wanted.ai_socktype = SOCK_STREAM;
+    wanted.ai_flags = AI_ADDRCONFIG;
+    addrinfo* found = nullptr;
+    if (getaddrinfo(host.c_str(), nullptr, &wanted, &found) != 0) return {};
+    std::vector<std::string> addresses;
+    for (const addrinfo* each = found; each != nullptr; each = each->ai_next) {
+        std::array<char, NI_MAXHOST> text{};
+        if (getnameinfo(each->ai_addr, each->ai_addrlen, text.data(), text.size(), nullptr, 0, NI_NUMERICHOST) == 0 &&
+            std::ranges::find(addresses, text.data()) == addresses.end())
+            addresses.emplace_back(text.data());
+    }
+    freeaddrinfo(found);
+    return addresses;
+}
+
+}  // namespace
+
+// What asker and thread share. The thread writes the addresses, then the event; the asker reads them after it.
+struct HostLookup::Asked {
+    Asked() : Event(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {}
+    Asked(const Asked&) = delete;
+    Asked& operator=(const Asked&) = delete;
+    ~Asked() {
+        if (Event >= 0) close(Event);
+    }
+
+    const int Event;
+    std::vector<std::string> Addresses;
+};
+
+HostLookup::HostLookup(EventLoop& loop, const std::string& host, Answer whenKnown)
+    : answer(std::move(whenKnown)), asked(std::make_shared<Asked>()) {
+    if (asked->Event < 0) {
+        ready = loop.After(0, [this] { Take(); });
+        return;
+    }
+    ready = loop.WhenReadable(asked->Event, [this] { Take(); });
+    const auto work = [shared = asked, host] {
+        shared->Addresses = AddressesOf(host);
+        const std::uint64_t one = 1;
+        [[maybe_unused]] const auto written = write(shared->Event, &one, sizeof one);
+    };
+    try {
+        std::thread(work).detach();
+    } catch (const std::system_error&) {
+        ready = loop.After(0, [this] { Take(); });  // no thread can be had now: no addresses
+    }
+}
+
+HostLookup::~HostLookup() = default;
+
+void HostLookup::Take() {
+    ready.End();
+    // The answer may end this object.
+    const Answer call = std::move(answer);
+    const std::vector<std::string> addresses = std::move(asked->Addresses);
+    call(addresses);
+}
+
+}  // namespace orvelle::mqtt
