@@ -1,8 +1,8 @@
 // What the programs of one set-up say to each other: for each message its content, its reader and its writer.
 // docs/protocol.md tells it all; every rule on what is taken stands in the readers, and nowhere else. A reader gives
 // nothing for a payload that breaks a rule; it never throws. What a writer gives, the reader takes: texts that are no
-// UTF-8 go out as if they were Latin-1, and what is beyond the bounds of a message is cut. A text that was read is UTF-8
-// and may hold any character, U+0000, too. Called by the lines, the far sides and whoever watches the set-up.
+// UTF-8 go out as if they were Latin-1, and what is beyond the bounds of a message is cut. A text that was read is
+// UTF-8 and may hold any character, U+0000, too. Called by the lines, the far sides and whoever watches the set-up.
 #pragma once
 
 #include <optional>
