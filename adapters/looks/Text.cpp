@@ -1,16 +1,12 @@
 #include "adapters/looks/Text.h"
 
-#include <QStringDecoder>
 #include <QTextDocument>
+
+#include "adapters/shared/Utf8.h"
 
 namespace orvelle {
 
-QString ToQt(const std::string& text) {
-    const QByteArrayView bytes(text.data(), static_cast<qsizetype>(text.size()));
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless);
-    const QString decoded = decoder(bytes);
-    return decoder.hasError() ? QString::fromLatin1(bytes) : decoded;
-}
+QString ToQt(const std::string& text) { return QString::fromStdString(ToUtf8(text)); }
 
 std::string FromQt(const QString& text) { return text.toStdString(); }
 

@@ -28,6 +28,7 @@ struct Topic {
 };
 
 std::optional<Topic> ReadTopic(std::string_view text);
+// "" for a kind that the program does not publish.
 std::string WriteTopic(const Topic& topic);
 
 // "c07" for 7; a text that is none gives nothing.

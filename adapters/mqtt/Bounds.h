@@ -1,0 +1,18 @@
+// How much a message may hold. Readers refuse what is beyond, writers cut it.
+#pragma once
+
+#include <cstddef>
+#include <limits>
+
+#include "platform/Types.h"
+
+namespace orvelle::mqtt::bounds {
+
+constexpr std::size_t Payload = std::size_t{64} * 1024;  // bytes
+constexpr std::size_t HeldNames = 64;                    // keys; buttons likewise
+constexpr std::size_t Text = 1000;                       // characters
+constexpr Long LastIndex = 999;                          // of a record's parameters
+constexpr Long LeastNumber = std::numeric_limits<Long>::min();
+constexpr Long GreatestNumber = std::numeric_limits<Long>::max();
+
+}  // namespace orvelle::mqtt::bounds
