@@ -22,6 +22,8 @@ public:
     // leaves the address out, that is the one on the way to the broker.
     Member(EventLoop& eventLoop, Program program, std::vector<Subscription> patterns,
            std::function<PresenceSetting()> describe);
+    Member(const Member&) = delete;
+    Member& operator=(const Member&) = delete;
     ~Member() { Close(); }
 
     // Goes to the host's broker as the computer that the set-up knows.

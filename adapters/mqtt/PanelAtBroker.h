@@ -17,6 +17,9 @@ namespace orvelle::mqtt {
 class PanelAtBroker {
 public:
     PanelAtBroker(EventLoop& loop, std::function<PresenceSetting()> describe);
+    PanelAtBroker(const PanelAtBroker&) = delete;
+    PanelAtBroker& operator=(const PanelAtBroker&) = delete;
+    ~PanelAtBroker() { member.Close(); }
 
     void Open(const SetUpSetting& setUp, const std::string& host) { member.Open(setUp, host); }
     bool IsThere() const { return member.IsThere(); }

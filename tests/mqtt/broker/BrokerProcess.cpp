@@ -7,6 +7,7 @@
 #include <csignal>
 #include <fstream>
 
+#include "adapters/mqtt/Topics.h"
 #include "tests/linux/WaitUntil.h"
 
 namespace orvelle::mqtt {
