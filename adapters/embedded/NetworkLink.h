@@ -10,12 +10,12 @@
 #include <utility>
 
 #include "adapters/embedded/PlayedLink.h"
+#include "adapters/shared/SessionDesk.h"
 #include "platform/FrameworkLine.h"
-#include "platform/sides/NetworkSide.h"
 
 namespace orvelle::embedded {
 
-class NetworkLink : public FrameworkLine, public NetworkSide, public PlayedLink {
+class NetworkLink : public FrameworkLine, public SessionDesk, public PlayedLink {
 public:
     explicit NetworkLink(EventLoop& loop) : PlayedLink(loop) {}
 
@@ -30,17 +30,6 @@ public:
     void SayWrite(Long id, const RecordParameters& written) override;
 
     Ticket Observe(std::function<void()> observer) override { return PlayedLink::Observe(std::move(observer)); }
-
-    // The session.
-    void StartSession() override;
-    void EndSession() override;
-    const SessionSetting& Session() const override { return session; }
-    void SetStatus(Long status) override;
-    void SetCallsign(const std::string& callsign) override;
-    void SetFrequency(Long radio, const std::string& frequency) override;
-    void SetReceive(const std::string& selection) override;
-    void SetTransmit(const std::string& selection) override;
-    void SetVoice(Long radio, const RadioVoiceSetting& voice) override;
 
     // The records.
     Long Claim(const std::string& owner, const std::string& role, const std::string& type) override;
@@ -63,8 +52,7 @@ private:
     void RaiseUp() override;
     void RaiseLost() override { Lost(); }
     void RaiseServerFound(const std::string& name) override { ServerFound(name); }
-    void SaySession();
-    void ChangeText(std::string& text, const std::string& value);
+    void SaySession() override;
 
     Entry* Find(Long id);
     Entry* Reachable(Long id);  // by other parties
@@ -72,8 +60,6 @@ private:
     bool Write(Long id, const RecordParameters& written);
     void SayForeignRecord(Long id);
 
-    SessionSetting session;
-    Long lastHandle = 0;
     std::map<Long, Entry> records;
     std::size_t writes = 0;
     NetworkRefusals refuse;

@@ -86,8 +86,16 @@ SetUpSetting BrokerProcess::SetUpOf(int identity) const {
 }
 
 std::vector<std::string> BrokerProcess::ClientOptions(int identity) const {
-    return {"-h", "127.0.0.1", "-p", std::to_string(port), "-V", "5", "--psk-identity", WriteIdentity(identity),
-            "--psk", WriteKey(KeyOf(identity))};
+    return {"-h",
+            "127.0.0.1",
+            "-p",
+            std::to_string(port),
+            "-V",
+            "5",
+            "--psk-identity",
+            WriteIdentity(identity),
+            "--psk",
+            WriteKey(KeyOf(identity))};
 }
 
 }  // namespace orvelle::mqtt

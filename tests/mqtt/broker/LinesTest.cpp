@@ -94,7 +94,8 @@ TEST_F(Lines, ThePanelOfTheLowerIdentityKeepsTheRole) {
     other.Framework.SayRecord(other.Framework.NewRecordId(), {"VOICE", "VVL", {}}, {});
     panel.Framework.SayRecord(panel.Framework.NewRecordId(), {"VOICE", "VVL", {}}, {});
     EXPECT_TRUE(Tells("record taken 196609", other));
-    EXPECT_EQ(std::ranges::find(other.Told, "record 131073 VVL") + 1, std::ranges::find(other.Told, "record taken 196609"));
+    EXPECT_EQ(std::ranges::find(other.Told, "record 131073 VVL") + 1,
+              std::ranges::find(other.Told, "record taken 196609"));
     EXPECT_TRUE(Until([this] { return Count("record ended 196609") == Count("record 196609 VVL"); }));
     EXPECT_EQ(Count("record taken 131073"), 0);
 }
@@ -128,7 +129,8 @@ TEST_F(Lines, APanelThatIsKilledLosesItsRecordsWithItsLease) {
 
 TEST_F(Lines, MalformedPayloadsAreDroppedAndCounted) {
     ASSERT_TRUE(Tells("simulator up"));
-    simulator.AtBroker.Say(TopicKind::Input, R"({"number":1,"active":true,"keys":["A","A"],"buttons":[]})", 0, Retain::No);
+    simulator.AtBroker.Say(TopicKind::Input, R"({"number":1,"active":true,"keys":["A","A"],"buttons":[]})", 0,
+                           Retain::No);
     simulator.AtBroker.Say(TopicKind::Input, "{", 0, Retain::No);
     simulator.AtBroker.Say(TopicKind::Input, TalkKeyHeld, 0, Retain::No);
     EXPECT_TRUE(Tells("held Ctrl F8|Stick.Button 3"));
