@@ -19,7 +19,7 @@ struct Reader {
 const std::string Radio = R"({"frequency":"","software":0,"server":"","channel":"","login":"","password":""})";
 
 const std::vector<Reader>& Readers() {
-    static const std::vector<Reader> readers{
+    static const std::vector<Reader> All{
         {"presence", [](const std::string& text) { return ReadPresence(text).has_value(); },
          R"({"name":"","address":"","beat":1,"desktop":"X"})"},
         {"input", [](const std::string& text) { return ReadInput(text).has_value(); },
@@ -35,7 +35,7 @@ const std::vector<Reader>& Readers() {
          R"({"version":1,"setup":"Home","host":"simpc","port":8883,"identity":"c07",)"
          R"("key":"000102030405060708090a0b0c","comment":"X"})"},
     };
-    return readers;
+    return All;
 }
 
 void ExpectAll(bool taken, const std::function<std::string(const std::string&)>& make) {

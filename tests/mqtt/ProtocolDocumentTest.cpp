@@ -61,7 +61,7 @@ WayBack Both(Read read, Write write) {
 }
 
 const std::map<std::string, WayBack>& Messages() {
-    static const std::map<std::string, WayBack> messages{
+    static const std::map<std::string, WayBack> All{
         {"presence", Both(ReadPresence, WritePresence)},
         {"input", Both(ReadInput, WriteInput)},
         {"play", Both(ReadPlay, WritePlay)},
@@ -70,7 +70,7 @@ const std::map<std::string, WayBack>& Messages() {
         {"write", Both(ReadWrite, WriteWrite)},
         {"setup", Both(ReadSetUp, WriteSetUp)},
     };
-    return messages;
+    return All;
 }
 
 void HoldMessage(const WayBack& wayBack, const Example& example) {
