@@ -117,7 +117,9 @@ void HoldCodes(const Example& example) {
 
 std::map<std::string, std::function<void(const Example&)>> Kinds() {
     std::map<std::string, std::function<void(const Example&)>> kinds{{"topics", HoldTopics}, {"codes", HoldCodes}};
-    for (const auto& [name, wayBack] : Messages()) {
+    for (const auto& message : Messages()) {
+        const std::string& name = message.first;
+        const WayBack& wayBack = message.second;
         kinds["json " + name] = [&wayBack](const Example& example) { HoldMessage(wayBack, example); };
         kinds["taken " + name] = [&wayBack](const Example& example) { HoldTaken(wayBack, example); };
         kinds["refused " + name] = [&wayBack](const Example& example) { HoldRefused(wayBack, example); };
