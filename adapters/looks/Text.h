@@ -1,5 +1,5 @@
-// Texts of controls are bytes; the shell shows them by the rule of adapters/shared/Utf8.h. What the user types goes back
-// as UTF-8.
+// Texts of controls are bytes; the shell shows them by the rule of adapters/shared/Utf8.h. What the user types goes
+// back as UTF-8.
 #pragma once
 
 #include <QString>

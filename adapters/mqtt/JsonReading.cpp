@@ -39,9 +39,9 @@ JsonReading::~JsonReading() = default;
 Members JsonReading::Object() { return {*whole, sound}; }
 
 const Json& Members::Find(const char* name) const {
-    static const Json none = Json::value_t::discarded;
+    static const Json None = Json::value_t::discarded;
     const auto found = object.find(name);
-    return found != object.end() ? *found : none;
+    return found != object.end() ? *found : None;
 }
 
 bool Members::Has(const char* name) const { return object.contains(name); }
@@ -109,13 +109,13 @@ std::vector<std::string> Members::HeldNames(const char* name) const {
 }
 
 std::vector<Members> Members::Objects(const char* name, std::size_t count) const {
-    static const Json empty = Json::object();
+    static const Json Empty = Json::object();
     const Json& list = Find(name);
     const bool isSound = list.is_array() && list.size() == count &&
                          std::all_of(list.begin(), list.end(), [](const Json& entry) { return entry.is_object(); });
     if (!isSound) Refuse();
     std::vector<Members> objects;
-    for (std::size_t place = 0; place < count; ++place) objects.emplace_back(isSound ? list[place] : empty, sound);
+    for (std::size_t place = 0; place < count; ++place) objects.emplace_back(isSound ? list[place] : Empty, sound);
     return objects;
 }
 

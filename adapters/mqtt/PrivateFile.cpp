@@ -95,7 +95,7 @@ std::string WritePrivateFile(const fs::path& file, std::string_view text) {
     const OpenFile opened(mkostemp(unfinished.data(), O_CLOEXEC));
     if (!opened) return SystemReason();
     if (!WriteAll(opened, text) || rename(unfinished.c_str(), file.c_str()) != 0) {
-        const std::string reason = SystemReason();
+        std::string reason = SystemReason();
         unlink(unfinished.c_str());
         return reason;
     }

@@ -16,7 +16,7 @@ bool IsSelection(const std::string& text) {
 }
 
 std::string ReadSelection(const Members& members, const char* name) {
-    const std::string selection = members.Text(name);
+    std::string selection = members.Text(name);
     if (!IsSelection(selection)) members.Refuse();
     return selection;
 }
