@@ -40,11 +40,14 @@ PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile
     Desktop.Show(Panel);
     Computer.OpenDoor(Desktop.Table, Panel.Stub1);
     Settings.Notices.Told = [this](const std::string& message) { Desktop.Messages.MsgBox(message); };
+    Computer.Told = [this](const std::string& sentence) { Settings.Notices.Tell(sentence); };
+    if (const std::string problem = process.Problem(); !problem.empty()) Settings.Notices.Tell(problem);
     Computer.ProgramTold = [this](const std::string& sentence) { TellOfProgram(sentence); };
     endAsked = process.WhenEndIsAsked(loop, [this] { End(); });
 }
 
 void PanelProgram::Open() {
+    Computer.Begin();
     Panel.Show();
     // The deck waits for the panel to be seen.
     loop.Post([this] { OpenDeck(); });

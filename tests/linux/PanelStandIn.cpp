@@ -1,23 +1,29 @@
-// Stands in for the panel as a process: its keyboard, its lock and its ends, told by lines of standard input.
+// Stands in for the panel as a process: its keyboard, its lock and its ends, told by lines of standard input. What the
+// keyboard tells goes to standard error.
 //
 //   panel-stand-in DISPLAY GUARD LOCK-FOLDER
 //
+//   begin                  what the panel does before the first key; answers "done"
 //   down CODE, up CODE     a stroke; answers "done"
+//   holds CODE             answers "yes" or "no"
+//   sleep TIME             answers "done" after that many milliseconds, in which the loop is not served
+//   hang                   answers "done" and does nothing more
 //   instance               answers "first" or "second"
 //   return end fail abort crash terminate nothing
 //                          the way to end; the last one leaves without any clean-up
-#include <poll.h>
 #include <unistd.h>
 
-#include <array>
 #include <csignal>
 #include <cstdlib>
 #include <iostream>
 #include <sstream>
 
+#include "adapters/linux/PollEventLoop.h"
 #include "adapters/linux/ProcessProgram.h"
 #include "adapters/linux/TerminationSignals.h"
 #include "adapters/linux/X11Keyboard.h"
+#include "adapters/shared/ScanCodes.h"
+#include "adapters/shared/SystemClock.h"
 #include "platform/RuntimeError.h"
 
 using namespace orvelle;
@@ -42,12 +48,18 @@ bool Obey(const std::string& line, X11Keyboard& keyboard, ProcessProgram& progra
     if (command == "crash") raise(SIGSEGV);
     if (command == "terminate") std::terminate();
     if (command == "nothing") _exit(0);
+    if (command == "begin") keyboard.Keys.Begin();
     if (command == "down") Stroke(keyboard, code, KeyEventExtended);
     if (command == "up") Stroke(keyboard, code, KeyEventExtended | KeyEventUp);
-    if (command == "instance")
+    if (command == "sleep") SystemClock().Sleep(code);
+    if (command == "holds")
+        std::cout << (keyboard.Keys.Holds(static_cast<int>(LinuxKeyOfScanCode(code) + XKeyCodeOffset)) ? "yes" : "no")
+                  << std::endl;
+    else if (command == "instance")
         std::cout << (program.PrevInstance() ? "second" : "first") << std::endl;
     else
         std::cout << "done" << std::endl;
+    while (command == "hang") continue;
     return true;
 }
 
@@ -63,16 +75,18 @@ std::string ReadLine() {
 int main(int count, char** arguments) {
     if (count != 4) return 2;
     TerminationSignals signals;
-    X11Keyboard keyboard(arguments[1], arguments[2]);
+    PollEventLoop loop;
+    X11Keyboard keyboard(loop, arguments[1], arguments[2]);
+    keyboard.Keys.Told = [](const std::string& sentence) { std::cerr << sentence << std::endl; };
     ProcessProgram program(InstanceLock(arguments[3], "panel"));
-    const Ticket release = program.AtEnd([&keyboard] { keyboard.ReleaseAll(); });
+    const Ticket release = program.AtEnd([&keyboard] { keyboard.Keys.ReleaseAll(); });
+    const Ticket signalled =
+        loop.WhenReadable(signals.Descriptor(), [&] { program.EndBySignal(signals.Take()); });
+    const Ticket commanded = loop.WhenReadable(STDIN_FILENO, [&] {
+        if (!Obey(ReadLine(), keyboard, program)) loop.Stop();
+    });
     try {
-        while (true) {
-            std::array<pollfd, 2> files{pollfd{signals.Descriptor(), POLLIN, 0}, pollfd{STDIN_FILENO, POLLIN, 0}};
-            poll(files.data(), files.size(), -1);
-            if (files[0].revents) program.EndBySignal(signals.Take());
-            if (files[1].revents && !Obey(ReadLine(), keyboard, program)) return 0;
-        }
+        loop.Run();
     } catch (const RuntimeError& error) {
         program.Fail(error.Number);
     }
