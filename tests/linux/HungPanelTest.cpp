@@ -13,7 +13,6 @@ protected:
     void StartPanels() {
         for (int round = 0; round < Rounds; ++round) {
             panels.push_back(NewPanel());
-            panels.back()->Ask("begin");
             panels.back()->Ask("down " + KeyOf(round));
         }
         EXPECT_TRUE(WaitUntil([&] { return client.KeysDown().size() == Rounds; }));
@@ -53,10 +52,8 @@ TEST_F(HungPanelTest, IsNotOneThatSleepsAsTheLogicDoesNorOneThatGoesOn) {
     const std::unique_ptr<ChildProcess> sleeping = NewPanel();
     const std::unique_ptr<ChildProcess> goingOn = NewPanel();
     const std::unique_ptr<ChildProcess> stopped = NewPanel();
-    for (const auto& [panel, line] : {std::pair(goingOn.get(), "down 30"), {stopped.get(), "down 31"}}) {
-        panel->Ask("begin");
+    for (const auto& [panel, line] : {std::pair(goingOn.get(), "down 30"), {stopped.get(), "down 31"}})
         panel->Ask(line);
-    }
     stopped->Kill(SIGSTOP);
     sleeping->Ask("down 32");
     sleeping->Ask("sleep 2000");

@@ -18,7 +18,7 @@ TEST_F(LostConnectionTest, IsMadeAgainForTheRelease) {
     panel.Ask("begin");
     for (int round = 0; round < Rounds; ++round) {
         HoldThreeKeys(panel);
-        client.CutOffTheOthers();
+        EXPECT_EQ(panel.Ask("cut"), "1");
         for (const char* line : {"up 46", "up 29", "up 285"}) EXPECT_EQ(panel.Ask(line), "done");
         EXPECT_TRUE(client.KeysDown().empty());
     }
@@ -29,7 +29,7 @@ TEST_F(LostConnectionTest, IsMadeAgainForTheNextKey) {
     for (int round = 0; round < Rounds; ++round) {
         panel.Ask("down 1");
         panel.Ask("up 1");
-        client.CutOffTheOthers();
+        EXPECT_EQ(panel.Ask("cut"), "1");
     }
     EXPECT_EQ(client.NextStrokes(2 * Rounds).size(), std::size_t{2 * Rounds});
 }
@@ -41,7 +41,7 @@ TEST_F(LostConnectionTest, IsMadeAgainAtTheEnd) {
         // Its own release is looked at, not that of its guard, which comes after it.
         const pid_t guard = GuardOf(*ended);
         kill(guard, SIGSTOP);
-        client.CutOffTheOthers();
+        EXPECT_EQ(ended->Ask("cut"), "1");
         ended->Kill(SIGTERM);
         ended->Wait();
         EXPECT_TRUE(client.KeysDown().empty());
@@ -61,7 +61,7 @@ TEST(UnreachableServerTest, GetsTheReleaseWhenItCanBeReachedAgain) {
     EXPECT_TRUE(WaitUntil([&] { return client.KeysDown() == std::vector<int>{37}; }));
 
     std::filesystem::rename(socket, aside);
-    client.CutOffTheOthers();
+    EXPECT_EQ(panel.Ask("cut"), "1");
     panel.Ask("up 29");
     EXPECT_EQ(panel.Ask("holds 29"), "yes");
     EXPECT_EQ(client.KeysDown(), std::vector<int>{37});

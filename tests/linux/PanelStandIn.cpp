@@ -7,10 +7,13 @@
 //   down CODE, up CODE     a stroke; answers "done"
 //   holds CODE             answers "yes" or "no"
 //   sleep TIME             answers "done" after that many milliseconds, in which the loop is not served
+//   cut                    cuts the keyboard's connections to X servers, and answers how many there were
 //   hang                   answers "done" and does nothing more
 //   instance               answers "first" or "second"
 //   return end fail abort crash terminate nothing
 //                          the way to end; the last one leaves without any clean-up
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -35,6 +38,21 @@ void Stroke(X11Keyboard& keyboard, Long code, Long flags) {
     keyboard.keybd_event(keyboard.MapVirtualKeyA(code, MapScanCodeToVirtualKeyExtended), code % 256, flags, 0);
 }
 
+// The files stay open, as they do where the server cuts a connection.
+int CutOff() {
+    int count = 0;
+    for (int file = STDERR_FILENO + 1; file < 64; ++file) {
+        sockaddr_un peer{};
+        socklen_t size = sizeof(peer);
+        if (getpeername(file, reinterpret_cast<sockaddr*>(&peer), &size) != 0 || peer.sun_family != AF_UNIX) continue;
+        // The path may stand behind a zero.
+        if (std::string(peer.sun_path, sizeof(peer.sun_path)).find("/.X11-unix/") == std::string::npos) continue;
+        shutdown(file, SHUT_RDWR);
+        ++count;
+    }
+    return count;
+}
+
 // False if the line says that main is to return.
 bool Obey(const std::string& line, X11Keyboard& keyboard, ProcessProgram& program) {
     std::istringstream words(line);
@@ -52,14 +70,16 @@ bool Obey(const std::string& line, X11Keyboard& keyboard, ProcessProgram& progra
     if (command == "down") Stroke(keyboard, code, KeyEventExtended);
     if (command == "up") Stroke(keyboard, code, KeyEventExtended | KeyEventUp);
     if (command == "sleep") SystemClock().Sleep(code);
-    if (command == "holds")
+    if (command == "cut")
+        std::cout << CutOff() << std::endl;
+    else if (command == "holds")
         std::cout << (keyboard.Keys.Holds(static_cast<int>(LinuxKeyOfScanCode(code) + XKeyCodeOffset)) ? "yes" : "no")
                   << std::endl;
     else if (command == "instance")
         std::cout << (program.PrevInstance() ? "second" : "first") << std::endl;
     else
         std::cout << "done" << std::endl;
-    while (command == "hang") continue;
+    while (command == "hang") pause();
     return true;
 }
 

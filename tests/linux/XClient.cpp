@@ -58,15 +58,6 @@ void XClient::ChooseLayout(int layout) {
     std::free(xcb_get_input_focus_reply(connection.get(), xcb_get_input_focus(connection.get()), nullptr));
 }
 
-void XClient::CutOffTheOthers() {
-    // The upper bits of a resource tell whose it is; the server counts its clients from 1.
-    const xcb_setup_t& setup = *xcb_get_setup(connection.get());
-    const std::uint32_t client = setup.resource_id_mask + 1;
-    for (std::uint32_t each = 1; each < 256; ++each)
-        if (each * client != setup.resource_id_base) xcb_kill_client(connection.get(), each * client);
-    std::free(xcb_get_input_focus_reply(connection.get(), xcb_get_input_focus(connection.get()), nullptr));
-}
-
 bool XClient::HasWindowManager() {
     xcb_connection_t* const server = connection.get();
     const std::string_view name = "_NET_SUPPORTING_WM_CHECK";

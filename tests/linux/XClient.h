@@ -25,8 +25,6 @@ public:
     std::vector<int> KeysDown();
     // Makes another of the layouts that are set the current one; counted from 0.
     void ChooseLayout(int layout);
-    // Cuts the connections of all other clients, as XKillClient does.
-    void CutOffTheOthers();
     // One that is ready to manage windows.
     bool HasWindowManager();
 
