@@ -55,7 +55,8 @@ bool InstanceLock::Take() {
     FileDescriptor opened(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR));
     if (!opened) return GoOnWithout(path + " can't be opened: " + std::generic_category().message(errno));
     if (flock(opened.Number(), LOCK_EX | LOCK_NB) != 0)
-        return errno != EWOULDBLOCK && GoOnWithout(path + " can't be locked: " + std::generic_category().message(errno));
+        return errno != EWOULDBLOCK &&
+               GoOnWithout(path + " can't be locked: " + std::generic_category().message(errno));
     problem.clear();
     file = std::move(opened);
     return true;

@@ -55,7 +55,8 @@ void KeyHolder::ReleaseAll() {
 
 void KeyHolder::LetGo(const std::vector<int>& keyCodes) {
     std::vector<int> rest = held.Keys();
-    std::erase_if(rest, [&](int keyCode) { return std::find(keyCodes.begin(), keyCodes.end(), keyCode) != keyCodes.end(); });
+    std::erase_if(rest,
+                  [&](int keyCode) { return std::find(keyCodes.begin(), keyCodes.end(), keyCode) != keyCodes.end(); });
 
     // A connection may turn out to be cut by its use alone, and the next one does it then.
     bool isDone = false;

@@ -26,7 +26,8 @@ public:
     bool IsLost() const { return xcb_connection_has_error(connection.get()) != 0; }
     // The stroke is on its way to the server when this returns. `keyCode` is the server's own.
     void Send(int keyCode, KeyStroke stroke);
-    // Keeps the note, which is empty at first, in one order with the strokes; on its way with the next stroke or Finish.
+    // Keeps the note, which is empty at first, in one order with the strokes; on its way with the next stroke or
+    // Finish.
     void NoteHeldKeys(const std::vector<int>& keyCodes);
     std::vector<int> NotedKeys();
     // Returns when the server has taken all strokes.

@@ -65,7 +65,8 @@ TEST_F(ControlGroupTest, KilledAsAWholeLeavesNoKeyDown) {
             ASSERT_TRUE(Write(group / "cgroup.kill", "1"));
         } else {
             // Nobody can leave a group that this user may not make another beside: both die, the next start lets go.
-            std::cerr << "NOT TESTED HERE: this user may not make control groups, so panel and guard are killed singly\n";
+            std::cerr
+                << "NOT TESTED HERE: this user may not make control groups, so panel and guard are killed singly\n";
             panel->Kill(SIGSTOP);
             kill(guard, SIGKILL);
             panel->Kill(SIGKILL);

@@ -110,8 +110,8 @@ TEST_F(GuardThatComesAndGoes, IsToldAgainWhenItIsMissingAnew) {
     Bring();
     const std::unique_ptr<ChildProcess> panel = NewPanel(File());
     panel->Ask("begin");
-    const std::string sentence = "The program " + File() +
-                                 " can't be started, so a key that is held down stays down if the panel is killed.\n";
+    const std::string sentence =
+        "The program " + File() + " can't be started, so a key that is held down stays down if the panel is killed.\n";
     Lose(*panel);
     EXPECT_TRUE(WaitUntil([&] { return panel->Errors() == sentence; }));
     panel->Ask("down 1");

@@ -100,8 +100,7 @@ int main(int count, char** arguments) {
     keyboard.Keys.Told = [](const std::string& sentence) { std::cerr << sentence << std::endl; };
     ProcessProgram program(InstanceLock(arguments[3], "panel"));
     const Ticket release = program.AtEnd([&keyboard] { keyboard.Keys.ReleaseAll(); });
-    const Ticket signalled =
-        loop.WhenReadable(signals.Descriptor(), [&] { program.EndBySignal(signals.Take()); });
+    const Ticket signalled = loop.WhenReadable(signals.Descriptor(), [&] { program.EndBySignal(signals.Take()); });
     const Ticket commanded = loop.WhenReadable(STDIN_FILENO, [&] {
         if (!Obey(ReadLine(), keyboard, program)) loop.Stop();
     });
