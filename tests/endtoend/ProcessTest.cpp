@@ -15,25 +15,25 @@ namespace {
 class ProcessTest : public testing::Test {
 protected:
     // A panel with settings of this test's own.
-    void Start(QProcess& process, const QString& display = qEnvironmentVariable("DISPLAY")) {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    void Start(QProcess& process, const QString& display = qEnvironmentVariable("DISPLAY"),
+               const QString& program = PANEL_PROGRAM) {
         environment.insert("XDG_DATA_HOME", folder.path());
         environment.remove("WAYLAND_DISPLAY");
         environment.insert("DISPLAY", display);
         process.setProcessEnvironment(environment);
-        process.start(PANEL_PROGRAM, QStringList());
+        process.start(program, QStringList());
     }
     static bool IsOver(const QProcess& process) {
         return ComesTrue([&] { return process.state() == QProcess::NotRunning; });
     }
-    // The panel's window is on the screen.
-    bool Shows(const QProcess& process) {
+    // The panel's window is on the screen; a message to the user is one more of the same name.
+    bool Shows(const QProcess& process, int windows = 1) {
         return ComesTrue([&] {
             QProcess search;
             search.start("xdotool", {"search", "--onlyvisible", "--all", "--pid", QString::number(process.processId()),
                                      "--name", "^Orvelle Control Panel$"});
             search.waitForFinished();
-            return !search.readAllStandardOutput().trimmed().isEmpty();
+            return search.readAllStandardOutput().count('\n') >= windows;
         });
     }
     store::SqliteStore Settings() {
@@ -44,6 +44,7 @@ protected:
 
     QTemporaryDir folder;
     User user;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
 };
 
 TEST_F(ProcessTest, ASecondInstanceEndsSilently) {
@@ -100,6 +101,26 @@ TEST_F(ProcessTest, WithoutADisplayOneSentenceTellsSo) {
     EXPECT_EQ(panel.exitCode(), 1);
     const QByteArray said = panel.readAllStandardError();
     EXPECT_TRUE(said.startsWith("OrvelleCP: ") && said.count('\n') == 1 && said.contains("4242")) << said.toStdString();
+}
+
+TEST_F(ProcessTest, WithoutItsKeyGuardBesideItTellsSoAtTheStart) {
+    const QString alone = folder.filePath("orvelle-panel");
+    ASSERT_TRUE(QFile::copy(PANEL_PROGRAM, alone));
+    QProcess panel;
+    Start(panel, qEnvironmentVariable("DISPLAY"), alone);
+    EXPECT_TRUE(Shows(panel, 2));
+    ASSERT_TRUE(user.Input.SendDoorMessage("OrvelleCP Stub1", 1237, 0, 0));
+    EXPECT_TRUE(IsOver(panel));
+    EXPECT_EQ(panel.exitCode(), 0);
+}
+
+TEST_F(ProcessTest, WithoutALockTellsSoAtTheStart) {
+    QProcess panel;
+    environment.insert("XDG_RUNTIME_DIR", "/proc/none");
+    Start(panel);
+    EXPECT_TRUE(Shows(panel, 2));
+    ASSERT_TRUE(user.Input.SendDoorMessage("OrvelleCP Stub1", 1237, 0, 0));
+    EXPECT_TRUE(IsOver(panel));
 }
 
 TEST_F(ProcessTest, ADamagedStoreIsSetAsideAndToldAndThePanelLives) {
