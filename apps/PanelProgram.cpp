@@ -21,7 +21,7 @@ PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile
           .Settings = Settings.Store,
           .Registry = Computer.Registry(),
           .Tessaly = Outside.Tessaly,
-          .VVL = Outside.Practice.VVL,
+          .VVL = Outside.VVL,
           .VolumeControl = Outside.Practice.VolumeControl,
           .VolumeControlHP = Outside.Practice.VolumeControlHP,
           .TSRemote = Outside.TSRemote,
@@ -43,6 +43,8 @@ PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile
     Computer.Told = [this](const std::string& sentence) { Settings.Notices.Tell(sentence); };
     if (const std::string problem = process.Problem(); !problem.empty()) Settings.Notices.Tell(problem);
     Computer.ProgramTold = [this](const std::string& sentence) { TellOfProgram(sentence); };
+    Outside.Tessaly.Refused = [this](const std::string& sentence) { TellOfProgram(sentence); };
+    microphonesCloseAtEnd = process.AtEnd([this] { Outside.VVL.CloseAll(); });
     endAsked = process.WhenEndIsAsked(loop, [this] { End(); });
 }
 
