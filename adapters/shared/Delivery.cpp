@@ -7,7 +7,6 @@ namespace orvelle {
 Delivery::Delivery(EventLoop& eventLoop) : loop(eventLoop) {}
 
 void Delivery::Raise(std::function<void()> event) {
-    if (stopped) return;
     waiting.push_back(std::move(event));
     Schedule(delay, [this] {
         const std::function<void()> next = std::move(waiting.front());
@@ -17,17 +16,12 @@ void Delivery::Raise(std::function<void()> event) {
 }
 
 void Delivery::RaiseAfter(Long milliseconds, std::function<void()> event) {
-    if (!stopped) Schedule(milliseconds, std::move(event));
+    Schedule(milliseconds, std::move(event));
 }
 
 void Delivery::Drop() {
     tickets.clear();
     waiting.clear();
-}
-
-void Delivery::Stop() {
-    Drop();
-    stopped = true;
 }
 
 // The event may end this object, so its ticket is put away first.
