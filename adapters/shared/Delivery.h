@@ -26,8 +26,6 @@ public:
     void Drop();  // forgets what waits
 
 private:
-    void Schedule(Long milliseconds, std::function<void()> task);
-
     EventLoop& loop;
     std::deque<std::function<void()>> waiting;  // in their order
     std::list<Ticket> tickets;                  // of all that are scheduled

@@ -1,5 +1,6 @@
-// Goes wrong in memory in the way that its argument names, with sizes that no compiler can know: "index" is one beyond a
-// vector, "frame" writes over the end of a frame, "copy" copies more than its target holds. Ends with 0 if nobody minds.
+// Goes wrong in memory in the way that its argument names, with sizes that no compiler can know: "index" is one beyond
+// a vector, "frame" writes over the end of a frame, "copy" copies more than its target holds. Ends with 0 if nobody
+// minds.
 #include <cstring>
 #include <string>
 #include <vector>
