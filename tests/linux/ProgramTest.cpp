@@ -17,7 +17,7 @@ namespace {
 
 class SingleInstance : public testing::Test {
 protected:
-    SingleInstance() { mkdtemp(folder.data()); }
+    SingleInstance() { EXPECT_NE(mkdtemp(folder.data()), nullptr); }
     ~SingleInstance() override { std::filesystem::remove_all(folder); }
 
     std::vector<std::string> Panel() const { return {PANEL_STAND_IN, ":65000", KEY_GUARD, folder}; }
