@@ -18,7 +18,7 @@ protected:
         board->Told = [this](const std::string& message) { messages.push_back(message); };
     }
     void OpenStore() {
-        store.emplace(folder.Path(), [this](const std::string& sentence) { board->Tell(sentence); });
+        store.emplace(loop, folder.Path(), [this](const std::string& sentence) { board->Tell(sentence); });
     }
 
     const FaultyDisk disk;

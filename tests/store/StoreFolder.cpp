@@ -53,7 +53,7 @@ std::vector<std::string> StoreFolder::Files() const {
 }
 
 SqliteStore StoreFolder::Open(const std::string& name) {
-    return {Path(name), [this](const std::string& sentence) { Sentences.push_back(sentence); }};
+    return {Loop, Path(name), [this](const std::string& sentence) { Sentences.push_back(sentence); }};
 }
 
 void StoreFolder::Fill() {

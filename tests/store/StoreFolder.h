@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "adapters/store/SqliteStore.h"
+#include "tests/shared/HandLoop.h"
 
 namespace orvelle::store {
 
@@ -22,6 +23,7 @@ public:
     // Opens the store there; what it tells the user goes to Sentences.
     SqliteStore Open(const std::string& name = "OrvelleCP.sqlite");
     std::vector<std::string> Sentences;
+    HandLoop Loop;
 
     void Fill();  // a hundred rows, and "Left" 7
 

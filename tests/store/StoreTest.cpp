@@ -190,7 +190,7 @@ TEST_F(StoreTest, RemembersWhatAMapRemembers) {
     for (int step = 0; step < 5000; ++step) {
         if (!store || random() % 50 == 0) {
             store.reset();
-            store.emplace(folder.Path(), [](const std::string& sentence) { FAIL() << sentence; });
+            store.emplace(folder.Loop, folder.Path(), [](const std::string& sentence) { FAIL() << sentence; });
             for (const std::string& section : sections)
                 for (const std::string& key : keys) {
                     const auto found = expected.find({section, key});
