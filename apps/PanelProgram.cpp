@@ -9,11 +9,12 @@ namespace orvelle {
 namespace {
 
 constexpr int GapBesidePanel = 16;  // logical pixels
+constexpr Long LongestLastWord = 30000;  // milliseconds
 
 }  // namespace
 
 PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile)
-    : Settings(loop, settingsFile),
+    : Settings(process, loop, settingsFile),
       Computer(process, loop, Settings.Store),
       Outside(loop, Settings.Store, {Computer.Name()}, Computer.TeamSpeak()),
       Panel(Platform{
@@ -41,7 +42,14 @@ PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile
     Computer.OpenDoor(Desktop.Table, Panel.Stub1);
     Settings.Notices.Told = [this](const std::string& message) { Desktop.Messages.MsgBox(message); };
     Computer.ProgramTold = [this](const std::string& sentence) { TellOfProgram(sentence); };
-    endAsked = process.WhenEndIsAsked(loop, [this] { End(); });
+    // A session that ends is not held up by a question.
+    Settings.LostAtEnd = [this](const std::string& sentence) {
+        if (!isEndAsked) Desktop.Messages.MsgBox(sentence, LongestLastWord);
+    };
+    endAsked = process.WhenEndIsAsked(loop, [this] {
+        isEndAsked = true;
+        End();
+    });
 }
 
 void PanelProgram::Open() {

@@ -7,6 +7,7 @@
 
 #include "adapters/store/SqliteStore.h"
 #include "tests/endtoend/User.h"
+#include "tests/shared/HandLoop.h"
 
 namespace orvelle {
 
@@ -38,11 +39,12 @@ protected:
     }
     store::SqliteStore Settings() {
         QDir(folder.path()).mkpath("OrvelleCP");
-        return {folder.filePath("OrvelleCP/settings.sqlite").toStdString(),
+        return {loop, folder.filePath("OrvelleCP/settings.sqlite").toStdString(),
                 [](const std::string& sentence) { ADD_FAILURE() << sentence; }};
     }
 
     QTemporaryDir folder;
+    HandLoop loop;
     User user;
 };
 
@@ -83,9 +85,7 @@ TEST_F(ProcessTest, AnotherMessageThroughTheDoorDoesNothing) {
 }
 
 TEST_F(ProcessTest, ADriverSettingOutOfRangeEndsTheProgramWithARunTimeError) {
-    store::SqliteStore settings = Settings();
-    settings.SaveSettingLong("OrvelleCP", "RWDriven", 7);
-    settings.HandlerEnded();
+    Settings().SaveSettingLong("OrvelleCP", "RWDriven", 7);
     QProcess panel;
     Start(panel);
     ASSERT_TRUE(IsOver(panel));

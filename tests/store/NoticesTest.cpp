@@ -31,7 +31,7 @@ protected:
 
 TEST_F(NoticesTest, AHealthyStoreGivesNone) {
     OpenStore();
-    loop.Run();
+    loop.Run(60000);
     EXPECT_TRUE(messages.empty());
     EXPECT_TRUE(loop.Idle());
 }

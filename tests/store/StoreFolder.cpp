@@ -63,6 +63,14 @@ void StoreFolder::Fill() {
     store.SaveSettingLong("OrvelleCP", "Left", 7);
 }
 
+void StoreFolder::MakeWithoutChecks(const std::string& sql) const {
+    std::string make = "PRAGMA journal_mode = WAL; PRAGMA application_id = 0x4F72766C; PRAGMA user_version = 1;";
+    for (const char* table : {"setting", "registry", "control"})
+        make += std::string("CREATE TABLE ") + table +
+                " (place, name, value, PRIMARY KEY (place, name)) WITHOUT ROWID;";
+    Run(make + sql);
+}
+
 void StoreFolder::Run(const std::string& sql, const std::string& name) const { Query(Path(name), sql); }
 std::string StoreFolder::Text(const std::string& sql) const { return Query(Path(), sql); }
 

@@ -242,8 +242,7 @@ TEST_F(StoreTest, AListingIsOpenUntilItIsClosed) {
 TEST(StoreTypesTest, AValueOfTheWrongTypeReadsAsTheDefaultAndIsToldOnce) {
     const FaultyDisk disk;
     StoreFolder folder;
-    folder.Open();
-    folder.Run(
+    folder.MakeWithoutChecks(
         "INSERT OR REPLACE INTO setting VALUES ('OrvelleCP', 'Left', 'seven'), ('OrvelleCP', 'Top', 2147483648),"
         "('OrvelleCP', 'Topmost', 1.5), ('OrvelleCP', 'RWPath', 5), ('OrvelleCP', 'TSPath', NULL);"
         "INSERT INTO registry VALUES ('Run', 'OrvelleCP', 1)");
