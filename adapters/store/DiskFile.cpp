@@ -72,12 +72,11 @@ void MakeEmptyFile(const fs::path& path) {
         Fail("cannot make", path);
 }
 
+// By name: a file that this process opened and closed would lose the locks that SQLite holds on it.
 void MakePrivate(const fs::path& path) {
-    const OpenFile file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     struct stat status;
-    if (!file || fstat(file.Number(), &status) != 0 || status.st_uid != geteuid() || !S_ISREG(status.st_mode)) return;
-    // What the user took from himself stays so.
-    if ((status.st_mode & (S_IRWXG | S_IRWXO)) != 0) fchmod(file.Number(), status.st_mode & S_IRWXU);
+    if (stat(path.c_str(), &status) != 0 || status.st_uid != geteuid() || !S_ISREG(status.st_mode)) return;
+    if ((status.st_mode & (S_IRWXG | S_IRWXO)) != 0) chmod(path.c_str(), status.st_mode & S_IRWXU);
 }
 
 void RenameForGood(const fs::path& from, const fs::path& to) {
