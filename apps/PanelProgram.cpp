@@ -8,7 +8,7 @@ namespace orvelle {
 
 namespace {
 
-constexpr int GapBesidePanel = 16;  // logical pixels
+constexpr int GapBesidePanel = 16;       // logical pixels
 constexpr Long LongestLastWord = 30000;  // milliseconds
 
 }  // namespace

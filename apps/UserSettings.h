@@ -17,8 +17,8 @@ public:
     // Where this user's settings are, by the desktop's convention.
     static std::string File();
 
-    // `file` is made with its folder where missing. What is wrong with it is told in the loop's first turn, and what was
-    // lost at the end of the process on standard error.
+    // `file` is made with its folder where missing. What is wrong with it is told in the loop's first turn, and what
+    // was lost at the end of the process on standard error.
     UserSettings(ThisProcess& process, EventLoop& loop, const std::string& file);
     UserSettings(const UserSettings&) = delete;
     UserSettings& operator=(const UserSettings&) = delete;

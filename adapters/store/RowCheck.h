@@ -1,5 +1,5 @@
-// The check of a row of the store's file: 64 bits of its table, place, name and value, kept in the row. A row of which a
-// bit is changed never passes. Checks of a table are put together by XOR, so that a row that is missing shows. The
+// The check of a row of the store's file: 64 bits of its table, place, name and value, kept in the row. A row of which
+// a bit is changed never passes. Checks of a table are put together by XOR, so that a row that is missing shows. The
 // numbers are part of the file's format. Called by whoever reads or writes rows.
 #pragma once
 

@@ -29,8 +29,9 @@ public:
     using Notice = std::function<void(const std::string& sentence)>;
 
     // Makes the file and its folder where they are missing, for the user alone. Beside it are its lock, "<file>.lock",
-    // and its last good copy, "<file>.copy". A damaged file is kept under the name "<file>.damaged-N" and completed from
-    // the copy; a file of a newer version is left as it is. While another process has the lock, values are only read.
+    // and its last good copy, "<file>.copy". A damaged file is kept under the name "<file>.damaged-N" and completed
+    // from the copy; a file of a newer version is left as it is. While another process has the lock, values are only
+    // read.
     SqliteStore(EventLoop& loop, const std::filesystem::path& file, Notice tellUser);
     SqliteStore(const SqliteStore&) = delete;
     SqliteStore& operator=(const SqliteStore&) = delete;

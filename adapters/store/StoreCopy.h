@@ -1,6 +1,6 @@
-// The last good copy of the store, "<file>.copy": what a damaged store is completed from. It is made from the loop after
-// a start that found the store whole, a few pages a turn, beside the one before, which it replaces only when it is on
-// disk. A copy that stands already and is whole is left as it is. Steps throw SqliteError or filesystem_error.
+// The last good copy of the store, "<file>.copy": what a damaged store is completed from. It is made from the loop
+// after a start that found the store whole, a few pages a turn, beside the one before, which it replaces only when it
+// is on disk. A copy that stands already and is whole is left as it is. Steps throw SqliteError or filesystem_error.
 #pragma once
 
 #include <filesystem>

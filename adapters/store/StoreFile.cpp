@@ -72,7 +72,8 @@ void StoreFile::WriteHere(const StoredChanges& changes, Long patienceMillisecond
 // The old file's log must not be taken for the new one's.
 void StoreFile::MakeAnew(const StoredTables& values) {
     session.reset();
-    for (const char* suffix : {"-wal", "-journal", "-shm"}) std::filesystem::remove(std::filesystem::path(path) += suffix);
+    for (const char* suffix : {"-wal", "-journal", "-shm"})
+        std::filesystem::remove(std::filesystem::path(path) += suffix);
     MakeFolder(path.parent_path());
     MakeStoreFile(path, values, FirstState(values));
     identity = IdentityOf(path);

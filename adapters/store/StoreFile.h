@@ -18,8 +18,8 @@ namespace orvelle::store {
 
 class StoreFile {
 public:
-    // WrittenAnew: the file had been deleted, and all values are in a new one. NotNow: nothing was written, for a reason
-    // that may pass. Replaced: another file has its name, and is left alone from now on.
+    // WrittenAnew: the file had been deleted, and all values are in a new one. NotNow: nothing was written, for a
+    // reason that may pass. Replaced: another file has its name, and is left alone from now on.
     enum class Outcome { Written, WrittenAnew, NotNow, Replaced };
     struct Result {
         Outcome What = Outcome::Written;
@@ -29,8 +29,8 @@ public:
     StoreFile(std::filesystem::path path, Connection opened, const StoreState& state, StoreLock lock);
 
     const std::filesystem::path& Path() const { return path; }
-    // Writes all or nothing, on disk when it returns. It waits so long for a lock that somebody else holds; `values` are
-    // all that the store holds then.
+    // Writes all or nothing, on disk when it returns. It waits so long for a lock that somebody else holds; `values`
+    // are all that the store holds then.
     Result Write(const StoredChanges& changes, const StoredTables& values, Long patienceMilliseconds);
     // Makes the last good copy, a part at each call. True while there is more to do; a failure throws.
     bool CopyOn();

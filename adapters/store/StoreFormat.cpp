@@ -60,13 +60,14 @@ std::string ImmutableName(const fs::path& path) {
 }
 
 bool StoreFileExists(const fs::path& path) {
-    return std::ranges::any_of(StoreFileSuffixes,
-                               [&](const char* suffix) { return KindOf(fs::path(path) += suffix) != PathKind::Missing; });
+    return std::ranges::any_of(
+        StoreFileSuffixes, [&](const char* suffix) { return KindOf(fs::path(path) += suffix) != PathKind::Missing; });
 }
 
 bool HasOurTables(const Connection& file, Long version) {
-    return std::ranges::all_of(StoreTableNames,
-                               [&](const char* table) { return IsMadeBy(file, table, CreateStatement(table, version)); }) &&
+    return std::ranges::all_of(
+               StoreTableNames,
+               [&](const char* table) { return IsMadeBy(file, table, CreateStatement(table, version)); }) &&
            (version == VersionWithoutChecks || IsMadeBy(file, "state", CreateState));
 }
 

@@ -21,8 +21,8 @@ constexpr std::array<const char*, StoredTableCount> StoreTableNames{"setting", "
 // The parts of a store on disk that hold data: the file and its logs, in the order in which they may be moved.
 constexpr std::array<const char*, 3> StoreFileSuffixes{"-wal", "-journal", ""};
 
-// As SQLite wants them: in UTF-8, and for a file that is read as it stands, without its log and without a lock, which is
-// all that can be had where nothing can be written.
+// As SQLite wants them: in UTF-8, and for a file that is read as it stands, without its log and without a lock, which
+// is all that can be had where nothing can be written.
 std::string FileName(const std::filesystem::path& path);
 std::string ImmutableName(const std::filesystem::path& path);
 

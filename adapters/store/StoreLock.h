@@ -1,7 +1,7 @@
 // The lock beside the store, "<file>.lock", held while a panel runs: whoever holds it writes the store, other panels of
-// the user only read it. The system drops it with the process. Within it stands which change was the last to be written.
-// That is noted after each change and not synced: after a loss of power it may be old, but it is never ahead of the
-// store, so a store that is behind it has lost something. Used by whoever opens the store, then by StoreFile.
+// the user only read it. The system drops it with the process. Within it stands which change was the last to be
+// written. That is noted after each change and not synced: after a loss of power it may be old, but it is never ahead
+// of the store, so a store that is behind it has lost something. Used by whoever opens the store, then by StoreFile.
 #pragma once
 
 #include <cstdint>

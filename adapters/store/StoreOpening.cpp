@@ -62,8 +62,8 @@ OpenedStore OpenGood(const fs::path& path, FoundStore& found, StoreLock lock) {
 }
 
 OpenedStore UseWithoutWriting(const fs::path& path, FoundStore found, const std::string& why) {
-    const bool isAllGood = (found.Verdict == StoreVerdict::Good || found.Verdict == StoreVerdict::ReadOnly) &&
-                           !found.IsFaulty();
+    const bool isAllGood =
+        (found.Verdict == StoreVerdict::Good || found.Verdict == StoreVerdict::ReadOnly) && !found.IsFaulty();
     if (isAllGood) return {nullptr, std::move(found.Values), why + " Its settings are used, but " + ChangesAreLost};
     CompletedStore completed = Complete(std::move(found), ReadStoreCopy(CopyOf(path)));
     return {nullptr, std::move(completed.Values), why + " " + completed.Source + ", and " + ChangesAreLost};
@@ -82,9 +82,9 @@ OpenedStore OpenFirst(const fs::path& path, StoreLock lock) {
             if (!found.IsFaulty()) return OpenGood(path, found, std::move(lock));
             break;
         case StoreVerdict::ReadOnly:
-            return UseWithoutWriting(path, std::move(found),
-                                     NamedFile(path) + (found.IsFaulty() ? " is damaged and" : "") +
-                                         " cannot be written.");
+            return UseWithoutWriting(
+                path, std::move(found),
+                NamedFile(path) + (found.IsFaulty() ? " is damaged and" : "") + " cannot be written.");
         case StoreVerdict::Newer:
             return UseWithoutWriting(path, std::move(found),
                                      NamedFile(path) + " is of a newer version and was left as it is.");

@@ -1,6 +1,6 @@
-// Opens the store's file as it is found: takes the lock, judges what stands in its place, completes what is damaged from
-// the last good copy, and makes a new file where one is missing or was set aside. Called by the store once. Never throws:
-// what can't be used is told in a sentence, and never touched.
+// Opens the store's file as it is found: takes the lock, judges what stands in its place, completes what is damaged
+// from the last good copy, and makes a new file where one is missing or was set aside. Called by the store once. Never
+// throws: what can't be used is told in a sentence, and never touched.
 #pragma once
 
 #include <filesystem>

@@ -5,6 +5,7 @@
 
 #include "adapters/store/DiskFile.h"
 #include "adapters/store/StoreFormat.h"
+#include "adapters/store/StoreValues.h"
 
 namespace orvelle::store {
 
@@ -30,70 +31,6 @@ bool IsNewerByHeader(const fs::path& path) {
     return number(ApplicationIdOffset) == ApplicationId && number(VersionOffset) > FormatVersion;
 }
 
-// They come in the order of the key, so each belongs to the place of the one before or, mostly, behind all others.
-class Placing {
-public:
-    explicit Placing(StoredPlaces& storedPlaces) : places(storedPlaces), names(places.end()) {}
-    void Put(std::string place, std::string name, StoredValue value) {
-        if (names == places.end() || names->first != place) names = places.try_emplace(places.end(), std::move(place));
-        names->second.insert_or_assign(names->second.end(), std::move(name), std::move(value));
-    }
-
-private:
-    StoredPlaces& places;
-    StoredPlaces::iterator names;
-};
-
-void ReadRows(const Connection& file, StoredTable table, FoundStore& found) {
-    const auto index = static_cast<std::size_t>(table);
-    Placing placing(found.Values[index]);
-    Check digest = 0;
-    Statement rows(file, std::string("SELECT place, name, value, hash FROM ") + StoreTableNames[index]);
-    while (rows.Step()) {
-        std::string place = rows.Bytes(0);
-        std::string name = rows.Bytes(1);
-        StoredValue value = rows.Value(2);
-        const Check check = RowCheck(table, place, name, value);
-        if (rows.IsBytes(0) && rows.IsBytes(1) && rows.IsAsBound(0) && rows.IsAsBound(1) && rows.IsAsBound(2) &&
-            rows.Wide(3) == check) {
-            digest ^= check;
-            placing.Put(std::move(place), std::move(name), std::move(value));
-        } else {
-            found.IsTableFaulty[index] = true;
-        }
-    }
-    if (!found.IsStateFaulty && digest != found.State.Digests[index]) found.IsTableFaulty[index] = true;
-}
-
-void ReadRowsWithoutChecks(const Connection& file, StoredTable table, FoundStore& found) {
-    const auto index = static_cast<std::size_t>(table);
-    Placing placing(found.Values[index]);
-    Statement rows(file, std::string("SELECT place, name, value FROM ") + StoreTableNames[index]);
-    while (rows.Step()) {
-        if (rows.IsBytes(0) && rows.IsBytes(1))
-            placing.Put(rows.Bytes(0), rows.Bytes(1), rows.Value(2));
-        else
-            found.IsTableFaulty[index] = true;
-    }
-}
-
-void ReadState(const Connection& file, FoundStore& found) {
-    Statement row(file, "SELECT store, change, setting, registry, control, hash FROM state WHERE rowid = 1");
-    found.IsStateFaulty = !row.Step();
-    if (found.IsStateFaulty) return;
-    found.State = {row.Wide(0), row.Wide(1), {row.Wide(2), row.Wide(3), row.Wide(4)}};
-    found.IsStateFaulty = row.Wide(5) != found.State.Seal();
-}
-
-void ReadValues(const Connection& file, Long version, FoundStore& found) {
-    if (version != VersionWithoutChecks) ReadState(file, found);
-    for (const StoredTable table : {StoredTable::Setting, StoredTable::Registry, StoredTable::Control})
-        if (version == VersionWithoutChecks)
-            ReadRowsWithoutChecks(file, table, found);
-        else
-            ReadRows(file, table, found);
-}
-
 void TakeOver(Connection& file, Long version, FoundStore& found) try {
     file.Run("PRAGMA journal_mode = WAL");
     file.Run("PRAGMA synchronous = FULL");
@@ -115,7 +52,7 @@ FoundStore ReadThrough(Connection file, StoreAccess access) {
     if (version < VersionWithoutChecks || file.Text("PRAGMA quick_check(1)") != "ok" || !HasOurTables(file, version))
         return {};
     FoundStore found{.Verdict = file.ReadOnly() ? StoreVerdict::ReadOnly : StoreVerdict::Good};
-    ReadValues(file, version, found);
+    ReadStoreValues(file, version, found);
     if (found.Verdict == StoreVerdict::Good && access == StoreAccess::Write) TakeOver(file, version, found);
     return found;
 }

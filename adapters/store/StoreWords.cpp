@@ -12,7 +12,8 @@ constexpr std::size_t MostNamed = 3;
 
 // A name may hold any bytes.
 std::string Readable(std::string text) {
-    std::ranges::replace_if(text, [](unsigned char byte) { return byte < ' ' || byte > '~'; }, '?');
+    std::ranges::replace_if(
+        text, [](unsigned char byte) { return byte < ' ' || byte > '~'; }, '?');
     return '"' + text + '"';
 }
 

@@ -1,6 +1,6 @@
-// Brings the store's changes to its file: at the end of a handler, without waiting for anybody, and what can't be written
-// then from the loop, until it can. Also lets the copy be made when the start is over. Called by the store. What the user
-// must know is told at once; a failure that lasts is told once, and anew after a success.
+// Brings the store's changes to its file: at the end of a handler, without waiting for anybody, and what can't be
+// written then from the loop, until it can. Also lets the copy be made when the start is over. Called by the store.
+// What the user must know is told at once; a failure that lasts is told once, and anew after a success.
 #pragma once
 
 #include <functional>

@@ -66,8 +66,8 @@ void StoreFolder::Fill() {
 void StoreFolder::MakeWithoutChecks(const std::string& sql) const {
     std::string make = "PRAGMA journal_mode = WAL; PRAGMA application_id = 0x4F72766C; PRAGMA user_version = 1;";
     for (const char* table : {"setting", "registry", "control"})
-        make += std::string("CREATE TABLE ") + table +
-                " (place, name, value, PRIMARY KEY (place, name)) WITHOUT ROWID;";
+        make +=
+            std::string("CREATE TABLE ") + table + " (place, name, value, PRIMARY KEY (place, name)) WITHOUT ROWID;";
     Run(make + sql);
 }
 

@@ -25,7 +25,7 @@ protected:
         folder.Loop.Run(10000);
     }
     mode_t RightsOf(const std::string& name) const {
-        struct stat status{};
+        struct stat status {};
         EXPECT_EQ(stat(folder.Path(name).c_str(), &status), 0) << name;
         return status.st_mode & 07777;
     }

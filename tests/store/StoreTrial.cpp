@@ -1,7 +1,7 @@
 // store-trial rot N: one bit of the store's file, of a file under its log, and of the log is turned over, and file and
-// log are cut off, N times each. store-trial kill N: a process that writes is killed at N moments. Whatever the harm, each
-// value is the one that was written last, or the user is told and it is one of the copy or of an earlier moment, or its
-// default where neither has it. Ends with 1 where it isn't so.
+// log are cut off, N times each. store-trial kill N: a process that writes is killed at N moments. Whatever the harm,
+// each value is the one that was written last, or the user is told and it is one of the copy or of an earlier moment,
+// or its default where neither has it. Ends with 1 where it isn't so.
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -45,8 +45,7 @@ void Write(SqliteStore& store, const Values& unit) {
 
 Values Read(SqliteStore& store) {
     Values values;
-    for (int row = 0; row < Rows + NewRows; ++row)
-        values[row] = store.GetSettingString(Section(row), "J2KJoy", "");
+    for (int row = 0; row < Rows + NewRows; ++row) values[row] = store.GetSettingString(Section(row), "J2KJoy", "");
     return values;
 }
 
