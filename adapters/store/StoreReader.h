@@ -21,7 +21,8 @@ struct FoundStore {
     StoreVerdict Verdict = StoreVerdict::Damaged;
     StoredTables Values{};
     StoreState State{};
-    std::array<bool, StoredTableCount> IsTableFaulty{};  // rows in it are wrong or missing
+    std::array<bool, StoredTableCount> IsTableFaulty{};            // rows in it are wrong or missing
+    std::array<std::optional<Check>, StoredTableCount> Missing{};  // their digest; none where it isn't known
     bool IsStateFaulty = false;
     std::optional<Connection> Open{};  // Good only
 

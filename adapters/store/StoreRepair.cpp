@@ -1,6 +1,8 @@
 #include "adapters/store/StoreRepair.h"
 
+#include <algorithm>
 #include <exception>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -33,13 +35,31 @@ fs::path SetAside(const fs::path& path) {
     return name;
 }
 
-// What the copy has and the good rows have not, by name.
-std::vector<std::string> TakeMissing(StoredPlaces& places, StoredPlaces&& copied) {
+// Takes a value of the copy that the good rows have not. True if it was taken.
+bool Take(StoredPlaces& places, const std::string& place, const std::string& name, const StoredValue& value) {
+    return places[place].try_emplace(name, value).second;
+}
+
+// What is missing, by name. If it is one row of the copy, or nothing, the digest tells so; else all that the copy has
+// beyond the good rows may be missing, though some of it may have been deleted since.
+std::vector<std::string> TakeMissing(StoredTable table, FoundStore& found, const FoundStore& copy) {
+    const auto index = static_cast<std::size_t>(table);
+    const std::optional<Check> missing = found.Missing[index];
+    if (missing == Check{0}) return {};
     std::vector<std::string> taken;
-    for (auto& [place, names] : copied)
-        for (auto& [name, value] : names)
-            if (places[place].try_emplace(name, std::move(value)).second) taken.push_back(NamedValue(place, name));
+    for (const auto& [place, names] : copy.Values[index])
+        for (const auto& [name, value] : names) {
+            if (missing == RowCheck(table, place, name, value) && Take(found.Values[index], place, name, value))
+                return {NamedValue(place, name)};
+        }
+    for (const auto& [place, names] : copy.Values[index])
+        for (const auto& [name, value] : names)
+            if (Take(found.Values[index], place, name, value)) taken.push_back(NamedValue(place, name));
     return taken;
+}
+
+bool IsAnythingMissing(const FoundStore& found) {
+    return std::ranges::any_of(found.Missing, [](const auto& missing) { return missing != Check{0}; });
 }
 
 }  // namespace
@@ -54,10 +74,11 @@ CompletedStore Complete(FoundStore found, FoundStore copy) {
         return {std::move(found.Values), "Every value passes its check and is used"};
 
     std::vector<std::string> taken;
-    for (std::size_t table = 0; table < StoredTableCount; ++table)
-        if (found.IsTableFaulty[table])
-            for (std::string& name : TakeMissing(found.Values[table], std::move(copy.Values[table])))
-                taken.push_back(std::move(name));
+    for (const StoredTable table : {StoredTable::Setting, StoredTable::Registry, StoredTable::Control})
+        if (found.IsTableFaulty[static_cast<std::size_t>(table)])
+            for (std::string& name : TakeMissing(table, found, copy)) taken.push_back(std::move(name));
+    if (taken.empty() && !IsAnythingMissing(found))
+        return {std::move(found.Values), "What does not belong there is left out"};
     std::string source = "Values that pass their check are used; ";
     if (!isCopyRead)
         source += "the others have their defaults, since there is no good copy";

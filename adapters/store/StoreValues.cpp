@@ -42,7 +42,9 @@ void ReadRows(const Connection& file, StoredTable table, FoundStore& found) {
             found.IsTableFaulty[index] = true;
         }
     }
-    if (!found.IsStateFaulty && digest != found.State.Digests[index]) found.IsTableFaulty[index] = true;
+    if (found.IsStateFaulty) return;
+    found.Missing[index] = digest ^ found.State.Digests[index];
+    if (found.Missing[index] != 0) found.IsTableFaulty[index] = true;
 }
 
 void ReadRowsWithoutChecks(const Connection& file, StoredTable table, FoundStore& found) {

@@ -112,7 +112,17 @@ TEST_F(StoreCheckTest, AStrangePlaceIsTold) {
     FillAndCopy();
     folder.Run("INSERT INTO setting VALUES (5, 'k', 1, 0)");
     EXPECT_EQ(folder.Open().GetSettingLong("OrvelleCP", "Left", 1), 7);
-    ExpectTold("is damaged");
+    ExpectTold("What does not belong there is left out.");
+}
+
+TEST_F(StoreCheckTest, WhatWasDeletedSinceTheCopyStaysSoWhereOneValueIsWrong) {
+    FillAndCopy();
+    folder.Open().DeleteSettingSection("OrvelleCP\\Joy2Key\\3");
+    folder.Run("UPDATE setting SET value = 8 WHERE name = 'Left'");
+    auto store = folder.Open();
+    EXPECT_EQ(store.GetSettingLong("OrvelleCP", "Left", 1), 7);
+    EXPECT_EQ(store.GetSettingString("OrvelleCP\\Joy2Key\\3", "J2KJoy", ""), "");
+    EXPECT_EQ(folder.Sentences.size(), 1U);
 }
 
 TEST_F(StoreCheckTest, AStrangePlaceInAFileWithoutChecksIsTold) {
