@@ -8,12 +8,13 @@ namespace orvelle {
 
 namespace {
 
-constexpr int GapBesidePanel = 16;  // logical pixels
+constexpr int GapBesidePanel = 16;       // logical pixels
+constexpr Long LongestLastWord = 30000;  // milliseconds
 
 }  // namespace
 
 PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile)
-    : Settings(loop, settingsFile),
+    : Settings(process, loop, settingsFile),
       Computer(process, loop, Settings.Store),
       Outside(loop, Settings.Store, {Computer.Name()}, Computer.TeamSpeak()),
       Panel(Platform{
@@ -45,7 +46,14 @@ PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile
     Computer.ProgramTold = [this](const std::string& sentence) { TellOfProgram(sentence); };
     Outside.Tessaly.Refused = [this](const std::string& sentence) { TellOfProgram(sentence); };
     microphonesCloseAtEnd = process.AtEnd([this] { Outside.VVL.CloseAll(); });
-    endAsked = process.WhenEndIsAsked(loop, [this] { End(); });
+    // A session that ends is not held up by a question.
+    Settings.LostAtEnd = [this](const std::string& sentence) {
+        if (!isEndAsked) Desktop.Messages.MsgBox(sentence, LongestLastWord);
+    };
+    endAsked = process.WhenEndIsAsked(loop, [this] {
+        isEndAsked = true;
+        End();
+    });
 }
 
 void PanelProgram::Open() {

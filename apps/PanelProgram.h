@@ -46,6 +46,7 @@ private:
 
     std::unique_ptr<OwnStrokes> ownStrokes;  // kept out of the deck
     std::vector<std::string> untold;         // of programs and what they shall not be told, until there is a deck
+    bool isEndAsked = false;                 // by a signal
     Ticket microphonesCloseAtEnd;
     Ticket endAsked;
 };

@@ -1,5 +1,6 @@
 // The panel as a program: how it begins and how it ends.
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include <QDir>
 #include <QProcess>
@@ -7,6 +8,7 @@
 
 #include "adapters/store/SqliteStore.h"
 #include "tests/endtoend/User.h"
+#include "tests/shared/HandLoop.h"
 
 namespace orvelle {
 
@@ -38,11 +40,12 @@ protected:
     }
     store::SqliteStore Settings() {
         QDir(folder.path()).mkpath("OrvelleCP");
-        return {folder.filePath("OrvelleCP/settings.sqlite").toStdString(),
+        return {loop, folder.filePath("OrvelleCP/settings.sqlite").toStdString(),
                 [](const std::string& sentence) { ADD_FAILURE() << sentence; }};
     }
 
     QTemporaryDir folder;
+    HandLoop loop;
     User user;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
 };
@@ -84,14 +87,58 @@ TEST_F(ProcessTest, AnotherMessageThroughTheDoorDoesNothing) {
 }
 
 TEST_F(ProcessTest, ADriverSettingOutOfRangeEndsTheProgramWithARunTimeError) {
-    store::SqliteStore settings = Settings();
-    settings.SaveSettingLong("OrvelleCP", "RWDriven", 7);
-    settings.HandlerEnded();
+    Settings().SaveSettingLong("OrvelleCP", "RWDriven", 7);
     QProcess panel;
     Start(panel);
     ASSERT_TRUE(IsOver(panel));
     EXPECT_EQ(panel.exitCode(), 70);
     EXPECT_EQ(panel.readAllStandardError(), "OrvelleCP: run-time error 9: subscript out of range\n");
+}
+
+// Another program writes to the settings file, and goes on with it.
+class LockedSettings {
+public:
+    explicit LockedSettings(const QString& file) {
+        EXPECT_EQ(sqlite3_open(file.toUtf8().constData(), &connection), SQLITE_OK);
+        EXPECT_EQ(sqlite3_exec(connection, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+    }
+    LockedSettings(const LockedSettings&) = delete;
+    LockedSettings& operator=(const LockedSettings&) = delete;
+    ~LockedSettings() { sqlite3_close(connection); }
+
+private:
+    sqlite3* connection = nullptr;
+};
+
+TEST_F(ProcessTest, WhatASignalledEndCannotWriteIsTold) {
+    QProcess panel;
+    Start(panel);
+    ASSERT_TRUE(Shows(panel));
+    const LockedSettings locked(folder.filePath("OrvelleCP/settings.sqlite"));
+    panel.terminate();
+    ASSERT_TRUE(IsOver(panel));
+    const QByteArray said = panel.readAllStandardError();
+    EXPECT_TRUE(said.contains("could not be written (database is locked). Lost are the changes of")) << said.data();
+}
+
+TEST_F(ProcessTest, WhatAnOrderlyEndCannotWriteIsToldInADialogToo) {
+    QProcess panel;
+    Start(panel);
+    ASSERT_TRUE(Shows(panel));
+    const LockedSettings locked(folder.filePath("OrvelleCP/settings.sqlite"));
+    QByteArray said;
+    const auto says = [&] {
+        said += panel.readAllStandardError();
+        return said.contains("Lost are the changes of");
+    };
+    ASSERT_TRUE(user.Input.SendDoorMessage("OrvelleCP Stub1", 1237, 0, 0));
+    ASSERT_TRUE(ComesTrue(says)) << said.data();
+    EXPECT_EQ(panel.state(), QProcess::Running);
+    EXPECT_TRUE(ComesTrue([&] {
+        if (panel.state() == QProcess::Running) user.Do({"key", "Return"});
+        return panel.state() == QProcess::NotRunning;
+    }));
+    EXPECT_EQ(panel.exitCode(), 0);
 }
 
 TEST_F(ProcessTest, WithoutADisplayOneSentenceTellsSo) {
