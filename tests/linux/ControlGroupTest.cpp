@@ -61,7 +61,7 @@ TEST_F(ControlGroupTest, KilledAsAWholeLeavesNoKeyDown) {
         HoldThreeKeys(*panel);
         const pid_t guard = GuardOf(*panel);
         if (isGrouped) {
-            EXPECT_TRUE(WaitUntil([&] { return GroupOf(guard).ends_with("/orvelle-key-guard"); })) << GroupOf(guard);
+            ASSERT_TRUE(WaitUntil([&] { return GroupOf(guard).ends_with("/orvelle-key-guard"); })) << GroupOf(guard);
             ASSERT_TRUE(Write(group / "cgroup.kill", "1"));
         } else {
             // Nobody can leave a group that this user may not make another beside: both die, the next start lets go.

@@ -57,6 +57,13 @@ TEST_F(KeyGuardTest, IsReplacedAtOnceWhereItIsKilledFirst) {
     }
 }
 
+TEST_F(KeyGuardTest, IsReplacedFromTheLoopAlsoWhileNoKeyIsHeld) {
+    panel.Ask("begin");
+    const pid_t first = GuardOf(panel);
+    kill(first, SIGKILL);
+    EXPECT_TRUE(WaitUntil([&] { return GuardsOf(panel).size() == 1 && GuardsOf(panel).front() != first; }));
+}
+
 TEST_F(KeyGuardTest, KilledTogetherWithThePanelIsMadeUpForAtTheNextStart) {
     for (int round = 0; round < Rounds; ++round) {
         const std::unique_ptr<ChildProcess> victim = NewPanel();
