@@ -78,7 +78,8 @@ SessionSetting FrameworkEnd::WithoutRefused(const SessionSetting& said) {
         rest.Callsign = "";
         rest.Voice = {};
         if (std::exchange(refused.Callsign, said.Callsign) != said.Callsign)
-            Refused("The session's callsign was refused with the voice records of both radios: it is not a plain name.");
+            Refused(
+                "The session's callsign was refused with the voice records of both radios: it is not a plain name.");
         return rest;
     }
     for (std::size_t radio = 0; radio < said.Voice.size(); ++radio) {

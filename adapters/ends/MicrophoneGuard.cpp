@@ -23,7 +23,8 @@ MicrophoneGuard::MicrophoneGuard(VoiceEngineControl& guardedEngine, SimulatorEnd
 
 MicrophoneGuard::~MicrophoneGuard() {
     simulator.Told = nullptr;
-    for (Event<>* event : {&engine.VVL_Started, &engine.VVL_Stopped, &engine.VVL_AudioStarted, &engine.VVL_AudioStopped})
+    for (Event<>* event :
+         {&engine.VVL_Started, &engine.VVL_Stopped, &engine.VVL_AudioStarted, &engine.VVL_AudioStopped})
         *event = nullptr;
     for (Event<Long>* event :
          {&engine.VVL_RoomJoinSucceed, &engine.VVL_RoomJoinFailed, &engine.VVL_RoomKicked, &engine.VVL_RoomLeft,

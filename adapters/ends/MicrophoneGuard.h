@@ -1,9 +1,9 @@
 // Stands between the panel and the voice engine, whichever that is, so that no microphone stays open: a room is open
 // only while something that started the talk is held on the simulator's computer. The panel can miss the end of a talk:
-// the talk key is set anew or cleared while it is held, or the engine's record can't be opened at the release; then this
-// guard mutes the room when the panel has had its turn at the release, which a lost link brings as well. The program
-// calls CloseAll at its end. Every call and event passes through as it is; a room that was closed here opens by the
-// panel's next start of a talk. Both outlive the guard.
+// the talk key is set anew or cleared while it is held, or the engine's record can't be opened at the release; then
+// this guard mutes the room when the panel has had its turn at the release, which a lost link brings as well. The
+// program calls CloseAll at its end. Every call and event passes through as it is; a room that was closed here opens by
+// the panel's next start of a talk. Both outlive the guard.
 #pragma once
 
 #include <array>

@@ -15,9 +15,8 @@ constexpr char Delete = 0x7F;
 
 // Of every text, the engine's and the players' as well.
 bool HoldsControl(std::string_view text) {
-    return std::ranges::any_of(text, [](char character) {
-        return (character >= 0 && character <= LastControl) || character == Delete;
-    });
+    return std::ranges::any_of(
+        text, [](char character) { return (character >= 0 && character <= LastControl) || character == Delete; });
 }
 
 bool LooksLikeOption(std::string_view word) { return word.size() > 1 && (word.front() == '/' || word.front() == '-'); }

@@ -13,8 +13,8 @@ bool IsOption(std::string_view line, std::size_t at) {
     return line[at] == '/' && at + 1 < line.size() && line[at + 1] != ' ';
 }
 
-// Where the name that begins at `start` ends, behind its last word. What holds a quote or a tab was written by the user:
-// that is parted as usual, and ends at `start`.
+// Where the name that begins at `start` ends, behind its last word. What holds a quote or a tab was written by the
+// user: that is parted as usual, and ends at `start`.
 std::size_t EndOfName(std::string_view line, std::size_t start) {
     std::size_t end = line.size();
     for (std::size_t at = start + 1; at < line.size() && end == line.size(); ++at)

@@ -1,7 +1,7 @@
 // Remote control of the TeamSpeak program by the library libTSRemote.so, which is looked for at the first call: beside
 // this program, then where the system looks for libraries. Without the library, or without one function of it, the
-// calls concerned return NotThere and do nothing; the next call looks again. The library hands URLs on to the system, so
-// one of another scheme than TeamSpeak's own does not reach it.
+// calls concerned return NotThere and do nothing; the next call looks again. The library hands URLs on to the system,
+// so one of another scheme than TeamSpeak's own does not reach it.
 #pragma once
 
 #include <memory>

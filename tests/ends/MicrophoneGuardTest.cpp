@@ -50,7 +50,8 @@ class MissedRelease : public testing::TestWithParam<Way> {};
 INSTANTIATE_TEST_SUITE_P(, MissedRelease,
                          testing::Values(Way{"CapturedAnew", CaptureAnew, "02"}, Way{"Cleared", ClearTheKey, "02"},
                                          Way{"RecordRefused", RefuseTheRecord, "02"},
-                                         Way{"EngineStopped", StopTheEngine, "02"}, Way{"RoleGivenUp", GiveUpTheRole, "02"},
+                                         Way{"EngineStopped", StopTheEngine, "02"},
+                                         Way{"RoleGivenUp", GiveUpTheRole, "02"},
                                          Way{"PrivateRoomMapped", MapThePrivateRoom, "2"}),
                          [](const auto& way) { return way.param.Name; });
 

@@ -18,12 +18,28 @@ using ends::RefusedPart;
 using Texts = std::vector<std::string>;
 
 // What would part an argument, be an option, or swallow what follows.
-const Texts NoArguments{"tower /exec /bin/sh", "tower -x", "-x",      "/exec",       "tower\"",  "\"tower", "a\tb",
-                        "a\nb",                "a\rb",     " tower",  "tower ",      "a\x7f" "b", "\x01",
-                        std::string("a\0b", 3), "a  /exec", "a //exec", "a --exec"};
-const Texts Ordinary{"",           "tower",        "Innsbruck Tower", "EDDF - Tower", "Ground / Tower", "a/b",
-                     "São Paulo",  "O'Hare",       "Two  blanks",     "122.800",      "x-ray",          "a -",
-                     "{}[]()$;`id`", "C:\\x", "100%", "#2", "a=b", "@home", "東京 タワー"};
+const Texts NoArguments{"tower /exec /bin/sh",
+                        "tower -x",
+                        "-x",
+                        "/exec",
+                        "tower\"",
+                        "\"tower",
+                        "a\tb",
+                        "a\nb",
+                        "a\rb",
+                        " tower",
+                        "tower ",
+                        "a\x7f"
+                        "b",
+                        "\x01",
+                        std::string("a\0b", 3),
+                        "a  /exec",
+                        "a //exec",
+                        "a --exec"};
+const Texts Ordinary{"",      "tower",     "Innsbruck Tower", "EDDF - Tower", "Ground / Tower",
+                     "a/b",   "São Paulo", "O'Hare",          "Two  blanks",  "122.800",
+                     "x-ray", "a -",       "{}[]()$;`id`",    "C:\\x",        "100%",
+                     "#2",    "a=b",       "@home",           "東京 タワー"};
 const Texts NoUrlParts{"ops?channel=secret", "ops&channel=secret", "a%3fb", "a%26b", "%20"};
 
 TEST(VoiceTexts, OrdinaryNamesPassForEverySoftware) {
@@ -33,8 +49,9 @@ TEST(VoiceTexts, OrdinaryNamesPassForEverySoftware) {
 }
 
 TEST(VoiceTexts, ServersPass) {
-    const Texts servers{"srv1", "voice.example", "voice.example:9000", "10.0.0.1:8767", "[2001:db8::1]:8767",
-                        "2001:db8::1", "voice.example/tower", "my server"};
+    const Texts servers{
+        "srv1",        "voice.example",       "voice.example:9000", "10.0.0.1:8767", "[2001:db8::1]:8767",
+        "2001:db8::1", "voice.example/tower", "my server"};
     for (const Long software : {RogerWilco, TeamSpeakHost, VatsimVoice, VoiceAtis})
         for (const std::string& server : servers)
             EXPECT_EQ(RefusedPart({software, server, "tower", "", ""}), "") << software << " " << server;
@@ -84,7 +101,8 @@ TEST(VoiceTexts, AnotherSchemeIsRefused) {
 }
 
 TEST(VoiceTexts, ControlCharactersAreRefusedForEverySoftware) {
-    for (const Long software : std::vector<Long>{NoVoice, RogerWilco, TeamSpeakHost, VatsimVoice, TeamSpeakUrl, VoiceAtis, 6}) {
+    for (const Long software :
+         std::vector<Long>{NoVoice, RogerWilco, TeamSpeakHost, VatsimVoice, TeamSpeakUrl, VoiceAtis, 6}) {
         EXPECT_EQ(RefusedPart({software, "srv\n1", "", "", ""}), "server") << software;
         EXPECT_EQ(RefusedPart({software, "teamspeak://srv1", "a\tb", "", ""}), "channel") << software;
         EXPECT_EQ(RefusedPart({software, "teamspeak://srv1", "", "a\x1b", ""}), "login name") << software;

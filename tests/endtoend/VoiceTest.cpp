@@ -56,8 +56,19 @@ TEST_F(VoiceTest, NoTextOfTheNetworkBecomesAnArgument) {
     const RadioVoiceSetting plain{RogerWilco, "srv1", "ops", "", ""};
     ASSERT_TRUE(Tunes(plain, RogerWilco));
 
-    const std::vector<std::string> hostile{"tower /exec /bin/sh", "tower -x", "-x", "/exec", "tower\"", "\"a b\"", "a\tb",
-                                           "a\nb", "a\r\nb", " tower", "tower ", "a  /leave", "ops /callsign XYZ"};
+    const std::vector<std::string> hostile{"tower /exec /bin/sh",
+                                           "tower -x",
+                                           "-x",
+                                           "/exec",
+                                           "tower\"",
+                                           "\"a b\"",
+                                           "a\tb",
+                                           "a\nb",
+                                           "a\r\nb",
+                                           " tower",
+                                           "tower ",
+                                           "a  /leave",
+                                           "ops /callsign XYZ"};
     std::vector<RadioVoiceSetting> records;
     for (const std::string& text : hostile) {
         records.push_back({RogerWilco, "srv1", text, "", ""});
@@ -89,9 +100,8 @@ TEST_F(VoiceTest, OrdinaryNamesWithBlanksStayOneArgument) {
         Tune({RogerWilco, "voice.example:9000", channel, "", ""});
         const std::string expected = std::string("|/join1|voice.example:9000/") + channel +
                                      "|/priority|high|/netspeed|2|/callsign|Speed Bird " + channel[0] + "|";
-        EXPECT_TRUE(ComesTrue([&] { return std::ranges::count(Commands(), expected) == 1; }))
-            << expected << "\n"
-            << VoiceCommands();
+        EXPECT_TRUE(ComesTrue([&] { return std::ranges::count(Commands(), expected) == 1; })) << expected << "\n"
+                                                                                              << VoiceCommands();
     }
     EXPECT_EQ(Refusals(), 0);
 }
