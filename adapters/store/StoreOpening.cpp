@@ -81,10 +81,11 @@ OpenedStore OpenFirst(const fs::path& path, StoreLock lock) {
         case StoreVerdict::Good:
             if (!found.IsFaulty()) return OpenGood(path, found, std::move(lock));
             break;
-        case StoreVerdict::ReadOnly:
-            return UseWithoutWriting(
-                path, std::move(found),
-                NamedFile(path) + (found.IsFaulty() ? " is damaged and" : "") + " cannot be written.");
+        case StoreVerdict::ReadOnly: {
+            const std::string why =
+                NamedFile(path) + (found.IsFaulty() ? " is damaged and" : "") + " cannot be written.";
+            return UseWithoutWriting(path, std::move(found), why);
+        }
         case StoreVerdict::Newer:
             return UseWithoutWriting(path, std::move(found),
                                      NamedFile(path) + " is of a newer version and was left as it is.");
