@@ -18,11 +18,11 @@ void Pass(Event<Arguments...>& from, Event<Arguments...>& to) {
 MicrophoneGuard::MicrophoneGuard(VoiceEngineControl& guardedEngine, SimulatorEnd& simulatorEnd)
     : engine(guardedEngine), simulator(simulatorEnd) {
     PassEventsThrough();
-    simulator.Told = [this] { CloseWhatIsNotHeld(); };
+    simulator.InputHandled = [this] { CloseWhatIsNotHeld(); };
 }
 
 MicrophoneGuard::~MicrophoneGuard() {
-    simulator.Told = nullptr;
+    simulator.InputHandled = nullptr;
     for (Event<>* event :
          {&engine.VVL_Started, &engine.VVL_Stopped, &engine.VVL_AudioStarted, &engine.VVL_AudioStopped})
         *event = nullptr;

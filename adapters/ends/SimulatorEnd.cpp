@@ -105,7 +105,7 @@ void SimulatorEnd::Tell(const InputChange& change, bool active) {
     else
         isDown ? FSJoyDown(0, 0, name, "") : FSJoyUp(0, 0, name, "");
     telling.reset();
-    Told();
+    InputHandled();
 }
 
 }  // namespace orvelle::ends

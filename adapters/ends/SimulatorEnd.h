@@ -51,7 +51,7 @@ public:
     const HeldInputs& HeldAsTold() const { return heldAsTold; }
     // The press or release that the panel is being told of at this moment.
     const std::optional<InputChange>& Telling() const { return telling; }
-    Event<> Told;  // the panel has had its turn at a press or release
+    Event<> InputHandled;  // the panel has had its turn at a press or release
 
 private:
     SimulatorComputer FarComputer();  // all empty while the link is down

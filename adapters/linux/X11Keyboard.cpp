@@ -51,7 +51,7 @@ std::string X11Keyboard::GetKeyNameTextA(Long keyMessage, Long size) {
     std::string name;
     if (key.IsCharacter) name = server.Character(XKeyCode(code));
     if (name.empty()) name = key.Name;
-    return Cut(name.empty() ? "[" + std::to_string(code) + "]" : name, size);
+    return Cut(name.empty() ? std::string("[").append(std::to_string(code)).append("]") : name, size);
 }
 
 }  // namespace orvelle::linux

@@ -91,7 +91,7 @@ TEST_F(KeyProblems, KeepTheLoopBusyOnlyWhileAKeyIsHeld) {
 
 class GuardThatComesAndGoes : public KeysDownTest {
 protected:
-    GuardThatComesAndGoes() { mkdtemp(folder.data()); }
+    GuardThatComesAndGoes() { EXPECT_NE(mkdtemp(folder.data()), nullptr); }
     ~GuardThatComesAndGoes() override { std::filesystem::remove_all(folder); }
 
     // The file is taken away and the process killed.

@@ -50,9 +50,10 @@ TEST_F(LostConnectionTest, IsMadeAgainAtTheEnd) {
     }
 }
 
-// The way to the server is taken away too, so that the release has to wait.
+// The way to the server is taken away too, so that the release has to wait. A server that can be reached by its file
+// alone is not seen by others that look for a free number, so its number is one that none of them comes to.
 TEST(UnreachableServerTest, GetsTheReleaseWhenItCanBeReachedAgain) {
-    XServer server({"-nolisten", "local"});
+    XServer server({":" + std::to_string(1000 + getpid() % 30000), "-nolisten", "local"});
     XClient client(server.Display());
     const std::filesystem::path socket = "/tmp/.X11-unix/X" + server.Display().substr(1);
     const std::filesystem::path aside = socket.string() + ".aside";
