@@ -9,6 +9,7 @@ Outside::Outside(EventLoop& loop, ControlValues& controlValues, std::vector<std:
     : Practice(loop),
       Velmarc(loop, controlValues, simulatorLines, std::move(thisComputer)),
       Tessaly(loop, controlValues, frameworkLines),
+      VVL(Practice.VVL, Velmarc),
       TSRemote(realTeamSpeak ? *realTeamSpeak : Practice.TSRemote) {}
 
 }  // namespace orvelle

@@ -7,6 +7,7 @@
 
 #include "adapters/embedded/SetUp.h"
 #include "adapters/ends/FrameworkEnd.h"
+#include "adapters/ends/MicrophoneGuard.h"
 #include "adapters/ends/SimulatorEnd.h"
 
 namespace orvelle {
@@ -28,6 +29,7 @@ private:
 public:
     ends::SimulatorEnd Velmarc;
     ends::FrameworkEnd Tessaly;
+    ends::MicrophoneGuard VVL;
     TeamSpeakRemote& TSRemote;
 };
 

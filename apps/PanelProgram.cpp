@@ -8,12 +8,13 @@ namespace orvelle {
 
 namespace {
 
-constexpr int GapBesidePanel = 16;  // logical pixels
+constexpr int GapBesidePanel = 16;       // logical pixels
+constexpr Long LongestLastWord = 30000;  // milliseconds
 
 }  // namespace
 
 PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile)
-    : Settings(loop, settingsFile),
+    : Settings(process, loop, settingsFile),
       Computer(process, loop, Settings.Store),
       Outside(loop, Settings.Store, {Computer.Name()}, Computer.TeamSpeak()),
       Panel(Platform{
@@ -21,7 +22,7 @@ PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile
           .Settings = Settings.Store,
           .Registry = Computer.Registry(),
           .Tessaly = Outside.Tessaly,
-          .VVL = Outside.Practice.VVL,
+          .VVL = Outside.VVL,
           .VolumeControl = Outside.Practice.VolumeControl,
           .VolumeControlHP = Outside.Practice.VolumeControlHP,
           .TSRemote = Outside.TSRemote,
@@ -40,11 +41,23 @@ PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile
     Desktop.Show(Panel);
     Computer.OpenDoor(Desktop.Table, Panel.Stub1);
     Settings.Notices.Told = [this](const std::string& message) { Desktop.Messages.MsgBox(message); };
+    Computer.Told = [this](const std::string& sentence) { Settings.Notices.Tell(sentence); };
+    if (const std::string problem = process.Problem(); !problem.empty()) Settings.Notices.Tell(problem);
     Computer.ProgramTold = [this](const std::string& sentence) { TellOfProgram(sentence); };
-    endAsked = process.WhenEndIsAsked(loop, [this] { End(); });
+    Outside.Tessaly.Refused = [this](const std::string& sentence) { TellOfProgram(sentence); };
+    microphonesCloseAtEnd = process.AtEnd([this] { Outside.VVL.CloseAll(); });
+    // A session that ends is not held up by a question.
+    Settings.LostAtEnd = [this](const std::string& sentence) {
+        if (!isEndAsked) Desktop.Messages.MsgBox(sentence, LongestLastWord);
+    };
+    endAsked = process.WhenEndIsAsked(loop, [this] {
+        isEndAsked = true;
+        End();
+    });
 }
 
 void PanelProgram::Open() {
+    Computer.Begin();
     Panel.Show();
     // The deck waits for the panel to be seen.
     loop.Post([this] { OpenDeck(); });

@@ -45,7 +45,9 @@ private:
     void TellOfProgram(const std::string& sentence);
 
     std::unique_ptr<OwnStrokes> ownStrokes;  // kept out of the deck
-    std::vector<std::string> untold;         // of programs, until there is a deck
+    std::vector<std::string> untold;         // of programs and what they shall not be told, until there is a deck
+    bool isEndAsked = false;                 // by a signal
+    Ticket microphonesCloseAtEnd;
     Ticket endAsked;
 };
 

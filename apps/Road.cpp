@@ -64,12 +64,9 @@ void Settle() {
 
 }  // namespace
 
-Road::Road(PanelProgram& panelProgram, const QString& pictureFolder)
-    : house(panelProgram), pictures(pictureFolder), folder(QDir::temp()) {
+Road::Road(PanelProgram& panelProgram, const QString& workFolder, const QString& pictureFolder)
+    : house(panelProgram), pictures(pictureFolder), folder(workFolder) {
     pictures.mkpath(".");
-    const QString name = QStringLiteral("orvelle-road-%1").arg(QCoreApplication::applicationPid());
-    folder.mkpath(name);
-    folder.cd(name);
 }
 
 void Road::Prepare() {
@@ -166,7 +163,6 @@ bool Road::Play() {
             },
             [&] { return panel.Variables().ActiveVoiceSoftware == RogerWilco; });
     TakePictures();
-    folder.removeRecursively();
     return played;
 }
 

@@ -14,8 +14,9 @@ namespace orvelle {
 
 class Road {
 public:
-    // Pictures are left in `pictureFolder`, which is made where missing.
-    Road(PanelProgram& panelProgram, const QString& pictureFolder);
+    // Makes a program in `workFolder` and has it run, so nobody else may write there. Pictures are left in
+    // `pictureFolder`, which is made where missing.
+    Road(PanelProgram& panelProgram, const QString& workFolder, const QString& pictureFolder);
 
     // Before the panel opens: what its user set up on another day.
     void Prepare();

@@ -26,6 +26,9 @@ public:
     ThisComputer& operator=(const ThisComputer&) = delete;
     ~ThisComputer();
 
+    // Lets go of the keys that an earlier run of the panel left down, and tells what is wrong from the beginning on.
+    void Begin();
+
     orvelle::Keyboard& Keyboard();
     // Whether the panel itself holds down the key that a key event of this computer tells of.
     bool HoldsKey(int nativeScanCode) const;
@@ -36,6 +39,7 @@ public:
     // Opens the door by which other programs' messages reach the control's window.
     void OpenDoor(const WindowTable& table, Control& control);
 
+    Event<const std::string&> Told;         // a sentence for the user about what this computer can't do
     Event<const std::string&> ProgramTold;  // a sentence about a program that was started, or was not
 
 private:

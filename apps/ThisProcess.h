@@ -26,6 +26,8 @@ public:
     std::string WindowSystem() const;
 
     orvelle::Program& Program();
+    // Why the program may run a second time though it asked before; one sentence, "" if it can't.
+    std::string Problem() const;
     // Ends the program for an error that left a handler: one line on standard error.
     [[noreturn]] void EndByError(const std::exception& error);
     [[noreturn]] void EndByError(const std::string& reason);

@@ -1,29 +1,59 @@
-// Lets go of the keys that the panel holds down, when the panel is gone without having done so. Started by the panel,
-// with the read end of a pipe, the set of held keys and the name of the X server; of no use by itself.
+// Lets go of the keys that the panel holds down, when the panel is gone without having done so, or goes on no more.
+// Started by the panel, with one end of a line, the set of held keys and the name of the X server; of no use by itself.
+#include <poll.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <utility>
 
+#include "adapters/linux/ControlGroup.h"
 #include "adapters/linux/HeldKeys.h"
 #include "adapters/linux/KeyGuard.h"
 #include "adapters/x11/XTestConnection.h"
 
 using namespace orvelle;
 
-int main(int count, char** arguments) {
-    const linux::FileDescriptor pipe(linux::KeyGuard::PipeDescriptor);
-    const linux::HeldKeys held{linux::FileDescriptor(linux::KeyGuard::HeldKeysDescriptor)};
-    if (count != 2 || held.Descriptor() < 0) return 2;
+namespace {
 
-    // The panel never writes; its end of the pipe closes when it is gone.
-    char byte;
-    while (read(pipe.Number(), &byte, 1) > 0 || errno == EINTR) errno = 0;
+constexpr int Forever = -1;
+constexpr int NextTry = 1000;  // ms
 
-    const auto keys = held.Keys();
-    if (keys.empty()) return 0;
-    XTestConnection server(arguments[1]);
+// False if the X server could not be reached; the keys are in the set again then.
+bool LetGo(linux::HeldKeys& held, const char* display) {
+    if (held.IsEmpty()) return true;
+    XTestConnection server(display);
+    // Taken out before, so that a panel that goes on meanwhile finds what it presses from now on in the set.
+    const auto keys = held.TakeAll();
     for (const int keyCode : keys) server.Send(keyCode, KeyStroke::Up);
+    server.NoteHeldKeys({});
     server.Finish();
-    return server.Problem().empty() ? 0 : 1;
+    if (server.Problem().empty()) return true;
+    for (const int keyCode : keys) held.Insert(keyCode);
+    return false;
+}
+
+// What the panel writes only wakes; its end of the line closes when it is gone.
+bool PanelIsGone(int line) {
+    std::array<char, 16> bytes;
+    const ssize_t count = read(line, bytes.data(), bytes.size());
+    return count == 0 || (count < 0 && errno != EINTR);
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    const linux::FileDescriptor line(linux::KeyGuard::LineDescriptor);
+    linux::HeldKeys held{linux::FileDescriptor(linux::KeyGuard::HeldKeysDescriptor)};
+    if (count != 2 || held.Descriptor() < 0) return 2;
+    linux::LeaveControlGroup("orvelle-key-guard");
+
+    bool hasLetGo = true;
+    while (true) {
+        pollfd panel{line.Number(), POLLIN, 0};
+        const int patience = held.IsEmpty() ? Forever : held.PatienceLeft();
+        poll(&panel, 1, hasLetGo ? patience : NextTry);
+        if (panel.revents != 0 && PanelIsGone(line.Number())) return LetGo(held, arguments[1]) ? 0 : 1;
+        hasLetGo = held.IsEmpty() || held.PatienceLeft() > 0 || LetGo(held, arguments[1]);
+    }
 }

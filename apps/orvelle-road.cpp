@@ -20,10 +20,15 @@ int main() {
     qt::Application application("orvelle-road", process.WindowSystem(),
                                 [&](const std::exception& error) { process.EndByError(error); });
     ApplyTheme(SystemScheme());
-    QTemporaryDir settings;
-    const Ticket settingsGo = process.AtEnd([&] { settings.remove(); });
-    PanelProgram panel(process, FromQt(settings.filePath("settings.sqlite")));
-    Road road(panel, "build/pictures");
+    // Made anew under a name that nobody can guess, for this user alone.
+    QTemporaryDir work;
+    if (!work.isValid()) {
+        std::cerr << "OrvelleCP: no folder to work in: " << FromQt(work.errorString()) << "\n";
+        return EXIT_FAILURE;
+    }
+    const Ticket workGoes = process.AtEnd([&] { work.remove(); });
+    PanelProgram panel(process, FromQt(work.filePath("settings.sqlite")));
+    Road road(panel, work.path(), "build/pictures");
     return application.Run([&] {
         road.Prepare();
         panel.Open();

@@ -23,6 +23,7 @@
 #include "bench/MappingRows.h"
 #include "bench/ProcessFigures.h"
 #include "bench/WindowWatch.h"
+#include "tests/shared/HandLoop.h"
 
 namespace orvelle {
 
@@ -130,7 +131,8 @@ void Print(Figures& figures) {
 void PrepareSettings(int rows) {
     const char* const folder = std::getenv("XDG_DATA_HOME");
     if (folder == nullptr) throw std::runtime_error("XDG_DATA_HOME is not set");
-    store::SqliteStore store(std::filesystem::path(folder) / "OrvelleCP" / "settings.sqlite",
+    HandLoop loop;
+    store::SqliteStore store(loop, std::filesystem::path(folder) / "OrvelleCP" / "settings.sqlite",
                              [](const std::string& sentence) { throw std::runtime_error(sentence); });
     SaveMappingRows(store, rows);
 }

@@ -10,6 +10,7 @@
 #include "bench/MappingRows.h"
 #include "bench/SilentPeers.h"
 #include "panel/FrmOrvelle.h"
+#include "tests/shared/HandLoop.h"
 
 namespace orvelle {
 
@@ -26,22 +27,36 @@ public:
     StoreFolder& operator=(const StoreFolder&) = delete;
     ~StoreFolder() { std::filesystem::remove_all(path); }
 
-    store::SqliteStore Open() const {
-        return {path / "settings.sqlite", [](const std::string&) {}};
+    store::SqliteStore Open() {
+        return {loop, path / "settings.sqlite", [](const std::string&) {}};
     }
     // Rows in both tables.
-    void Fill(Long rows) const {
+    void Fill(Long rows) {
         store::SqliteStore store = Open();
         SaveMappingRows(store, rows);
     }
 
 private:
+    HandLoop loop;
     std::filesystem::path path;
 };
 
+// One option changed, as by a tick of the user's: what a handler waits for the disk.
+void WriteOneValue(benchmark::State& state) {
+    StoreFolder folder;
+    folder.Fill(static_cast<Long>(state.range(0)));
+    store::SqliteStore store = folder.Open();
+    Long value = 0;
+    for (auto iteration : state) {
+        store.SaveSettingLong("OrvelleCP", "Topmost", ++value);
+        store.HandlerEnded();
+    }
+}
+BENCHMARK(WriteOneValue)->Arg(10)->Arg(1000)->Unit(benchmark::kMicrosecond);
+
 // The row in the middle goes from push to toggle and back.
 void ApplyRow(benchmark::State& state) {
-    const StoreFolder folder;
+    StoreFolder folder;
     folder.Fill(static_cast<Long>(state.range(0)));
     store::SqliteStore store = folder.Open();
     SilentPeers peers;
@@ -58,7 +73,7 @@ void ApplyRow(benchmark::State& state) {
 BENCHMARK(ApplyRow)->Arg(10)->Arg(1000)->Unit(benchmark::kMicrosecond);
 
 void LoadWithRows(benchmark::State& state) {
-    const StoreFolder folder;
+    StoreFolder folder;
     folder.Fill(static_cast<Long>(state.range(0)));
     for (auto iteration : state) {
         store::SqliteStore store = folder.Open();

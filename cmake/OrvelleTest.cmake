@@ -17,7 +17,7 @@ function(orvelle_test)
     endif()
     if(test_PROGRAM)
         gtest_discover_tests(${test_PROGRAM} TEST_PREFIX ${test_FOLDER}/ TEST_FILTER "${test_FILTER}"
-            PROPERTIES TIMEOUT 300 ${test_PROPERTIES})
+            DISCOVERY_TIMEOUT 120 PROPERTIES TIMEOUT 300 ${test_PROPERTIES})
         return()
     endif()
     add_test(NAME ${test_FOLDER}/${test_NAME} COMMAND ${test_COMMAND})

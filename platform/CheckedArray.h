@@ -21,9 +21,12 @@ public:
 
 private:
     static std::size_t Checked(Long index) {
-        if (index < 0 || index >= Size) throw RuntimeError(RuntimeError::SubscriptOutOfRange);
+        if (index < 0 || index >= Size) [[unlikely]]
+            Refuse();
         return static_cast<std::size_t>(index);
     }
+    // Apart, so that the check is small where it is inlined.
+    [[noreturn]] static void Refuse() { throw RuntimeError(RuntimeError::SubscriptOutOfRange); }
 
     std::array<T, static_cast<std::size_t>(Size)> held{};
 };

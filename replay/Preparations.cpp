@@ -35,7 +35,8 @@ Act ReadGive(Stage& stage, Scanner& line) {
 
     const Member& member = AnsweringMember(reference.Parts[0].Name + "." + called.Name);
     std::string call = member.Name;
-    if (called.Arguments) call += "(" + Printed(Fitted(*called.Arguments, member.Arguments, call)) + ")";
+    if (called.Arguments)
+        call.append("(").append(Printed(Fitted(*called.Arguments, member.Arguments, member.Name))).append(")");
     std::deque<Values> answers;
     do answers.push_back(ReadAnswer(line, member));
     while (line.Take(','));

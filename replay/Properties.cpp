@@ -30,7 +30,10 @@ std::optional<std::string> ReadList(const Control& control) {
     const auto* box = dynamic_cast<const ComboBox*>(&control);
     if (box == nullptr) return std::nullopt;
     std::string entries;
-    for (const std::string& entry : box->List()) entries += (entries.empty() ? "" : " ") + Printed(entry);
+    for (const std::string& entry : box->List()) {
+        if (!entries.empty()) entries += " ";
+        entries += Printed(entry);
+    }
     return entries;
 }
 

@@ -72,7 +72,10 @@ std::string Reference::Part::Printed() const {
 
 std::string Reference::Printed() const {
     std::string printed;
-    for (const Part& part : Parts) printed += (printed.empty() ? "" : ".") + part.Printed();
+    for (const Part& part : Parts) {
+        if (!printed.empty()) printed += ".";
+        printed += part.Printed();
+    }
     return printed;
 }
 

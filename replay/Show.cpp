@@ -71,7 +71,7 @@ Lines ShownRow(const ListView& list, const Reference::Part& part) {
     const Long row = OnlyNumber(part);
     if (row < 1 || row > list.Count()) throw LineError(list.Name + " has no row " + std::to_string(row));
     std::string texts = Value(list.Row(row).Text).Printed();
-    for (const std::string& text : list.Row(row).SubItem) texts += " " + Value(text).Printed();
+    for (const std::string& text : list.Row(row).SubItem) texts.append(" ").append(Value(text).Printed());
     return {Equation(part.Printed(), texts)};
 }
 

@@ -35,7 +35,7 @@ std::optional<std::string> PrintedAt(const VoiceRecord& record, const Path& path
 template <typename T, Long Size>
 std::optional<std::string> PrintedAt(const CheckedArray<T, Size>& values, const Path& path) {
     for (Long index = 0; index < Size; ++index) {
-        const Path element = "(" + std::to_string(index) + ")";
+        const std::string element = std::string("(").append(std::to_string(index)).append(")");
         if (path.starts_with(element)) return PrintedAt(values[index], path.substr(element.size()));
     }
     return std::nullopt;

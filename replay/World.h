@@ -31,7 +31,9 @@ struct World {
     explicit World(std::ostream& output);
     ~World();
 
-    Platform Outside() {
+    Platform Outside() { return Outside(TSRemote); }
+    // With another remote control of TeamSpeak than the scripted one.
+    Platform Outside(TeamSpeakRemote& teamSpeak) {
         return {
             .Velmarc = Velmarc,
             .Settings = Store,
@@ -40,7 +42,7 @@ struct World {
             .VVL = VVL,
             .VolumeControl = VolumeControl,
             .VolumeControlHP = VolumeControlHP,
-            .TSRemote = TSRemote,
+            .TSRemote = teamSpeak,
             .MediaPlayers = Players,
             .Dialog = Dialog,
             .Messages = Messages,

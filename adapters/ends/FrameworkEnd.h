@@ -45,6 +45,11 @@ public:
     // The table may have changed: goes over to the line that the server leads to now.
     void ChooseLine();
 
+    // A sentence about texts from the network that would not stay data in a voice program's command line or URL, once
+    // for each content: a record that holds such (VoiceTexts.h) counts for the panel as none. So do both while the
+    // callsign is such a text, and the callsign as "", since nobody shall be on a channel without a name.
+    Event<const std::string&> Refused;
+
     // The session. It can be opened while the link stands and there is one; its members answer while it is open.
     Long SessionHandle() override;
     bool OpenSession(Long handle) override;
@@ -93,7 +98,8 @@ private:
     bool InSession() const { return isUp && session.Handle != 0; }
     const SessionSetting& OpenedSession() const;
     const RadioVoiceSetting& OpenedVoice(Long radio) const;
-    void HearSession(const SessionSetting& said);
+    void HearSession(const SessionSetting& whole);
+    SessionSetting WithoutRefused(const SessionSetting& said);
 
     Record* Find(Long id);
     Record* OpenRecord() { return Find(openRecord); }
@@ -109,7 +115,8 @@ private:
     const LineTable<FrameworkLine>& lines;
     FrameworkLine* line = nullptr;  // while started
     bool isUp = false;
-    SessionSetting session;
+    SessionSetting session;  // without what is refused of it
+    SessionSetting refused;  // callsign and records that were told of last
     Long openSessions = 0;
     std::map<Long, Record> records;
     std::vector<Long> leaving;  // records of a line that was left, of which the panel is still to be told

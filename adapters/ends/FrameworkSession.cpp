@@ -1,5 +1,8 @@
 // The panel's copy of its user's session on the network.
+#include <utility>
+
 #include "adapters/ends/FrameworkEnd.h"
+#include "adapters/ends/VoiceTexts.h"
 
 namespace orvelle::ends {
 
@@ -48,7 +51,8 @@ const RadioVoiceSetting& FrameworkEnd::OpenedVoice(Long radio) const {
 }
 
 // Another session is the end of the one before. Of one session each kind of change is told once.
-void FrameworkEnd::HearSession(const SessionSetting& said) {
+void FrameworkEnd::HearSession(const SessionSetting& whole) {
+    const SessionSetting said = WithoutRefused(whole);
     const SessionSetting before = session;
     if (said.Handle != before.Handle) {
         session = {};
@@ -66,6 +70,28 @@ void FrameworkEnd::HearSession(const SessionSetting& said) {
         if (said.Voice[static_cast<std::size_t>(radio)] != before.Voice[static_cast<std::size_t>(radio)])
             RadioVoiceChanged(radio);
     if (!SameRadios(said, before)) RadioChanged();
+}
+
+SessionSetting FrameworkEnd::WithoutRefused(const SessionSetting& said) {
+    SessionSetting rest = said;
+    if (!IsAllowedCallsign(said.Callsign)) {
+        rest.Callsign = "";
+        rest.Voice = {};
+        if (std::exchange(refused.Callsign, said.Callsign) != said.Callsign)
+            Refused(
+                "The session's callsign was refused with the voice records of both radios: it is not a plain name.");
+        return rest;
+    }
+    for (std::size_t radio = 0; radio < said.Voice.size(); ++radio) {
+        const RadioVoiceSetting& record = said.Voice[radio];
+        const std::string part = RefusedPart(record);
+        if (part.empty()) continue;
+        rest.Voice[radio] = {};
+        if (std::exchange(refused.Voice[radio], record) != record)
+            Refused("The voice record of COM" + std::to_string(radio + 1) + " was refused: its " + part +
+                    " is not a plain one.");
+    }
+    return rest;
 }
 
 }  // namespace orvelle::ends

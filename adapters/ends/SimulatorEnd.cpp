@@ -98,10 +98,14 @@ void SimulatorEnd::Hear(const SimulatorInput& said) {
 void SimulatorEnd::Tell(const InputChange& change, bool active) {
     const auto& [kind, name] = change.Input;
     const bool isDown = change.Move == InputMove::Down;
+    isDown ? heldAsTold.Press(change.Input) : heldAsTold.Release(change.Input);
+    telling = change;
     if (kind == InputKind::Key)
         isDown ? FSKeyDown(false, active, name, change.Sequence) : FSKeyUp(0, 0, name, "");
     else
         isDown ? FSJoyDown(0, 0, name, "") : FSJoyUp(0, 0, name, "");
+    telling.reset();
+    InputHandled();
 }
 
 }  // namespace orvelle::ends

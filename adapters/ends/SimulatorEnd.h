@@ -6,6 +6,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -44,6 +45,14 @@ public:
     // The table may have changed: goes over to the line that the server leads to now.
     void ChooseLine();
 
+    // For whoever watches over what the panel does by keys and buttons of the far side. What is held there as far as
+    // the panel knows: an input counts from before the panel is told of its press until before it is told of its
+    // release.
+    const HeldInputs& HeldAsTold() const { return heldAsTold; }
+    // The press or release that the panel is being told of at this moment.
+    const std::optional<InputChange>& Telling() const { return telling; }
+    Event<> InputHandled;  // the panel has had its turn at a press or release
+
 private:
     SimulatorComputer FarComputer();  // all empty while the link is down
     void OpenLine();
@@ -58,7 +67,9 @@ private:
     std::vector<std::string> localNames;
     SimulatorLine* line = nullptr;
     bool isUp = false;
-    SimulatorInput held;
+    SimulatorInput held;  // as the line said it last
+    HeldInputs heldAsTold;
+    std::optional<InputChange> telling;
     std::deque<std::function<void()>> untold;  // events of the inputs
 };
 

@@ -1,8 +1,8 @@
 #include "adapters/linux/DesktopAutostart.h"
 
-#include <fstream>
 #include <system_error>
 
+#include "adapters/linux/WholeFile.h"
 #include "platform/RegistryPaths.h"
 
 namespace orvelle::linux {
@@ -30,13 +30,9 @@ void DesktopAutostart::WriteRegistryString(Long root, const std::string& path, c
                                            const std::string& value) {
     registry.WriteRegistryString(root, path, name, value);
     if (path != RunPath) return;
-    std::error_code error;
-    fs::create_directories(autostart, error);
-    // Written aside and renamed, so that a session that starts now finds the whole entry or none.
-    const fs::path unfinished = Entry(name) += ".new";
-    std::ofstream(unfinished) << "[Desktop Entry]\nType=Application\nName=" << name << "\nExec=" << ExecOf(value)
-                              << "\n";
-    fs::rename(unfinished, Entry(name), error);
+    const std::string entry = "[Desktop Entry]\nType=Application\nName=" + name + "\nExec=" + ExecOf(value) + "\n";
+    if (const std::error_code error = WriteWholeFile(Entry(name), entry))
+        Told("The autostart entry " + Entry(name).string() + " could not be written: " + error.message() + ".");
 }
 
 std::string DesktopAutostart::ReadRegistryString(Long root, const std::string& path, const std::string& name,
@@ -50,6 +46,8 @@ void DesktopAutostart::DeleteRegistryValue(Long root, const std::string& path, c
     registry.DeleteRegistryValue(root, path, name);
     std::error_code error;
     if (path == RunPath) fs::remove(Entry(name), error);
+    if (error)
+        Told("The autostart entry " + Entry(name).string() + " could not be taken away: " + error.message() + ".");
 }
 
 void DesktopAutostart::WriteRegistryLong(Long root, const std::string& path, const std::string& name, Long value) {

@@ -3,6 +3,7 @@
 #include <dlfcn.h>
 
 #include "adapters/linux/OwnFile.h"
+#include "adapters/shared/TeamSpeakUrl.h"
 
 namespace orvelle::linux {
 
@@ -33,7 +34,9 @@ Integer DynamicTeamSpeak::Call(const char* function, Arguments... arguments) {
     return call ? call(arguments...) : NotThere;
 }
 
-Integer DynamicTeamSpeak::tsrConnect(const std::string& url) { return Call<const char*>("tsrConnect", url.c_str()); }
+Integer DynamicTeamSpeak::tsrConnect(const std::string& url) {
+    return IsTeamSpeakUrl(url) ? Call<const char*>("tsrConnect", url.c_str()) : OtherScheme;
+}
 
 Integer DynamicTeamSpeak::tsrDisconnect() { return Call<>("tsrDisconnect"); }
 

@@ -1,6 +1,7 @@
 // Remote control of the TeamSpeak program by the library libTSRemote.so, which is looked for at the first call: beside
 // this program, then where the system looks for libraries. Without the library, or without one function of it, the
-// calls concerned return NotThere and do nothing; the next call looks again.
+// calls concerned return NotThere and do nothing; the next call looks again. The library hands URLs on to the system,
+// so one of another scheme than TeamSpeak's own does not reach it.
 #pragma once
 
 #include <memory>
@@ -14,6 +15,7 @@ namespace orvelle::linux {
 class DynamicTeamSpeak : public TeamSpeakRemote {
 public:
     static constexpr Integer NotThere = -1;
+    static constexpr Integer OtherScheme = -2;  // of tsrConnect
 
     DynamicTeamSpeak();
     // Other places, in the order in which they are tried; one without a "/" is searched by the system.

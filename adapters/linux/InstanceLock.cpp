@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <system_error>
 
 namespace orvelle::linux {
 
@@ -49,12 +50,20 @@ InstanceLock InstanceLock::OfThisSession() {
 bool InstanceLock::Take() {
     if (file) return true;
     mkdir(folder.c_str(), S_IRWXU);
-    if (!IsOwnFolder(folder)) return true;
-    FileDescriptor opened(
-        open((folder + "/" + name + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR));
-    if (!opened) return true;
-    if (flock(opened.Number(), LOCK_EX | LOCK_NB) != 0) return errno != EWOULDBLOCK;
+    if (!IsOwnFolder(folder)) return GoOnWithout("the folder " + folder + " is not this user's alone");
+    const std::string path = folder + "/" + name + ".lock";
+    FileDescriptor opened(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR));
+    if (!opened) return GoOnWithout(path + " can't be opened: " + std::generic_category().message(errno));
+    if (flock(opened.Number(), LOCK_EX | LOCK_NB) != 0)
+        return errno != EWOULDBLOCK &&
+               GoOnWithout(path + " can't be locked: " + std::generic_category().message(errno));
+    problem.clear();
     file = std::move(opened);
+    return true;
+}
+
+bool InstanceLock::GoOnWithout(const std::string& reason) {
+    problem = "Whether the panel runs a second time can't be known, since " + reason + ".";
     return true;
 }
 

@@ -18,12 +18,17 @@ public:
     static InstanceLock OfThisSession();
 
     // False if another process holds it. True if this one does, and where no lock can be had at all: rather two
-    // panels than none.
+    // panels than none. Problem() then tells why.
     bool Take();
+    // Why another instance may run beside this one; one sentence, "" if none does.
+    const std::string& Problem() const { return problem; }
 
 private:
+    bool GoOnWithout(const std::string& reason);
+
     std::string folder;
     std::string name;
+    std::string problem;
     FileDescriptor file;
 };
 

@@ -2,6 +2,8 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/epoll.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
 
 #include <array>
@@ -14,13 +16,16 @@ namespace orvelle::linux {
 
 namespace {
 
+constexpr std::chrono::seconds AWhile{1};
+constexpr int MostEndsAtOnce = 5;
+
 // A copy whose number is none of those that the guard is to find its own things under.
 FileDescriptor OutOfTheWay(int number) { return FileDescriptor(fcntl(number, F_DUPFD_CLOEXEC, 10)); }
 
 // What the guard process is before its program runs: a session of its own, so that nothing sent to our group reaches
 // it; every signal blocked; no file open but its two.
-void Prepare(SpawnPreparation& start, int pipe, int held) {
-    posix_spawn_file_actions_adddup2(&start.Files, pipe, KeyGuard::PipeDescriptor);
+void Prepare(SpawnPreparation& start, int line, int held) {
+    posix_spawn_file_actions_adddup2(&start.Files, line, KeyGuard::LineDescriptor);
     posix_spawn_file_actions_adddup2(&start.Files, held, KeyGuard::HeldKeysDescriptor);
     posix_spawn_file_actions_addclosefrom_np(&start.Files, KeyGuard::HeldKeysDescriptor + 1);
     posix_spawn_file_actions_addchdir_np(&start.Files, "/");
@@ -33,36 +38,74 @@ void Prepare(SpawnPreparation& start, int pipe, int held) {
 
 }  // namespace
 
+KeyGuard::KeyGuard(std::string file, std::string display)
+    : file(std::move(file)), display(std::move(display)), ending(epoll_create1(EPOLL_CLOEXEC)) {}
+
+// The guard never says anything, so all that can come along the line is its end.
 bool KeyGuard::Runs() const {
-    pollfd end{pipe.Number(), 0, 0};
-    return pipe && poll(&end, 1, 0) == 0;
+    pollfd end{line.Number(), 0, 0};
+    return line && poll(&end, 1, 0) == 0;
 }
 
-bool KeyGuard::Watch(const HeldKeys& held) {
-    if (Runs()) return true;
-    pipe.Close();
-    if (process > 0) waitpid(process, nullptr, 0);  // somebody killed the one before
-    process = -1;
+bool KeyGuard::RanForAWhile() const { return Clock::now() - started >= AWhile; }
 
+void KeyGuard::Bury() {
+    line.Close();
+    if (process < 0) return;
+    waitpid(process, nullptr, 0);
+    process = -1;
+    endsAtOnce = RanForAWhile() ? 0 : endsAtOnce + 1;
+}
+
+void KeyGuard::Watch(const HeldKeys& held) {
+    if (Runs()) {
+        if (RanForAWhile()) endsAtOnce = 0;
+        return;
+    }
+    Bury();
+    couldStart = Start(held);
+}
+
+void KeyGuard::Replace(const HeldKeys& held) {
+    if (Runs()) return;
+    Bury();
+    if (endsAtOnce < MostEndsAtOnce) couldStart = Start(held);
+}
+
+bool KeyGuard::Start(const HeldKeys& held) {
     std::array<int, 2> ends;
-    if (held.Descriptor() < 0 || pipe2(ends.data(), O_CLOEXEC) != 0) return false;
-    const FileDescriptor reading(ends[0]);
-    FileDescriptor writing(ends[1]);
-    const FileDescriptor theirs = OutOfTheWay(reading.Number());
+    if (held.Descriptor() < 0 || socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) return false;
+    FileDescriptor ours(ends[0]);
+    const FileDescriptor theirs(ends[1]);
+    const FileDescriptor theirLine = OutOfTheWay(theirs.Number());
     const FileDescriptor keys = OutOfTheWay(held.Descriptor());
-    if (!theirs || !keys) return false;
+    if (!theirLine || !keys) return false;
 
     SpawnPreparation start;
-    Prepare(start, theirs.Number(), keys.Number());
+    Prepare(start, theirLine.Number(), keys.Number());
     std::array<char*, 3> arguments{file.data(), display.data(), nullptr};
     // From its success on the process is the guard's own, whatever becomes of this one.
-    const int error = posix_spawn(&process, file.c_str(), &start.Files, &start.Attributes, arguments.data(), environ);
-    if (error != 0) {
+    if (posix_spawn(&process, file.c_str(), &start.Files, &start.Attributes, arguments.data(), environ) != 0) {
         process = -1;
         return false;
     }
-    pipe = std::move(writing);
+    started = Clock::now();
+    line = std::move(ours);
+    epoll_event end{};  // is told without being asked for
+    epoll_ctl(ending.Number(), EPOLL_CTL_ADD, line.Number(), &end);
     return true;
+}
+
+void KeyGuard::Wake() {
+    const char byte = 0;
+    if (line) send(line.Number(), &byte, 1, MSG_NOSIGNAL | MSG_DONTWAIT);
+}
+
+std::string KeyGuard::Problem() const {
+    const std::string harm = ", so a key that is held down stays down if the panel is killed.";
+    if (!couldStart) return "The program " + file + " can't be started" + harm;
+    if (endsAtOnce >= MostEndsAtOnce) return "The program " + file + " ends as soon as it is started" + harm;
+    return "";
 }
 
 }  // namespace orvelle::linux

@@ -1,10 +1,12 @@
-// The process that lets go of the keys when this program can't do so itself, because it was killed. It is started when
-// the first key goes down, sleeps until this program's end of a pipe closes, and then releases on the X server what the
-// shared set still holds. It has a session of its own and takes no signal that can be refused.
+// The process that lets go of the keys when this program can't do so itself, because it was killed or hangs. It sleeps
+// while no key is held; while one is, it looks whether this program's beat goes on. It has a session of its own, takes
+// no signal that can be refused, and leaves this program's control group where the system allows it. One that ended is
+// replaced; what keeps it from running is told by Problem().
 #pragma once
 
 #include <sys/types.h>
 
+#include <chrono>
 #include <string>
 
 #include "adapters/linux/FileDescriptor.h"
@@ -16,23 +18,41 @@ class HeldKeys;
 class KeyGuard {
 public:
     // Where the guard finds what it is given.
-    static constexpr int PipeDescriptor = 3;
+    static constexpr int LineDescriptor = 3;
     static constexpr int HeldKeysDescriptor = 4;
 
     // `file` is the guard's program; `display` the X server that it releases keys on.
-    KeyGuard(std::string file, std::string display) : file(std::move(file)), display(std::move(display)) {}
+    KeyGuard(std::string file, std::string display);
 
-    // Starts the guard unless it runs; false if it can't be started. Returns when it is sure to do its work.
-    bool Watch(const HeldKeys& held);
-    const std::string& File() const { return file; }
+    // Starts the guard unless it runs. Returns when it is sure to do its work, or Problem() tells why it won't.
+    void Watch(const HeldKeys& held);
+    // Has the guard look at the set, into which the first key came.
+    void Wake();
+
+    // For the loop: readable when the guard has ended and Replace has something to do.
+    int Descriptor() const { return ending.Number(); }
+    // Starts another, but not for ever where each ends at once; the next Watch tries again.
+    void Replace(const HeldKeys& held);
+
+    // Why a key stays down if this program is killed; one sentence, "" if all is well.
+    std::string Problem() const;
 
 private:
+    using Clock = std::chrono::steady_clock;
+
     bool Runs() const;
+    bool RanForAWhile() const;
+    void Bury();
+    bool Start(const HeldKeys& held);
 
     std::string file;
     std::string display;
+    FileDescriptor ending;
+    FileDescriptor line;
     pid_t process = -1;
-    FileDescriptor pipe;
+    Clock::time_point started;
+    int endsAtOnce = 0;  // one after another
+    bool couldStart = true;
 };
 
 }  // namespace orvelle::linux

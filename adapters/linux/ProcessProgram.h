@@ -20,6 +20,8 @@ public:
     explicit ProcessProgram(InstanceLock lock) : lock(std::move(lock)) {}
 
     bool PrevInstance() override { return !lock.Take(); }
+    // Why PrevInstance may be wrong in finding none; one sentence, "" if it is right.
+    const std::string& Problem() const { return lock.Problem(); }
     // Exit status 0.
     [[noreturn]] void End() override;
     // For a run-time error that nobody caught, by its number, or another error by its reason: one line on standard

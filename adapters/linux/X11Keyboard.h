@@ -1,24 +1,22 @@
-// Key strokes and key names on an X server. The connection is made when it is first needed, and no event is waited for.
-// The set of keys that are down because of this program is kept; ReleaseAll lets them go, the destructor too, and the
-// key guard does it where this program was killed. Without a server strokes do nothing and keys have their US names.
+// Key strokes and key names on an X server: which key a virtual key is, and what a key is called. Without a server
+// strokes do nothing and keys have their US names. The keys that are down are let go at the end, whichever it is
+// (KeyHolder.h).
 #pragma once
 
-#include <optional>
 #include <string>
 
-#include "adapters/linux/HeldKeys.h"
-#include "adapters/linux/KeyGuard.h"
-#include "adapters/x11/KeyLayout.h"
-#include "adapters/x11/XTestConnection.h"
+#include "adapters/linux/KeyHolder.h"
+#include "adapters/linux/KeyServer.h"
 #include "platform/Keyboard.h"
 
 namespace orvelle::linux {
 
 class X11Keyboard : public Keyboard {
+    KeyServer server;
+
 public:
     // `display` "" is the environment's. `guardFile` is the key guard's program, by its full path.
-    X11Keyboard(std::string display, std::string guardFile);
-    ~X11Keyboard() override { ReleaseAll(); }
+    X11Keyboard(EventLoop& loop, const std::string& display, std::string guardFile);
 
     // The virtual key alone decides which key it is (VirtualKeys.h), since every stroke bears the extended flag; the
     // scan byte decides where the virtual key is unknown.
@@ -28,23 +26,7 @@ public:
     // Never "": a code without a key is named by its number in brackets. In UTF-8.
     std::string GetKeyNameTextA(Long keyMessage, Long size) override;
 
-    // Whether the key of that X key code is down because of this program.
-    bool Holds(int keyCode) const { return held.Contains(keyCode); }
-    // To be called at the program's end, whichever it is.
-    void ReleaseAll();
-    // What keeps keys from being pressed, or from being let go whatever happens; one sentence, "" if all is well.
-    std::string Problem();
-
-private:
-    XTestConnection& Server();
-    std::string CharacterOf(Long code);
-
-    std::string display;
-    HeldKeys held;
-    KeyGuard guard;
-    bool guardFailed = false;
-    std::optional<XTestConnection> server;
-    std::optional<KeyLayout> layout;
+    KeyHolder Keys;  // by the X server's key codes
 };
 
 }  // namespace orvelle::linux

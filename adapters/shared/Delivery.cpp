@@ -7,17 +7,12 @@ namespace orvelle {
 Delivery::Delivery(EventLoop& eventLoop) : loop(eventLoop) {}
 
 void Delivery::Raise(std::function<void()> event) {
-    if (stopped) return;
     waiting.push_back(std::move(event));
-    Schedule(delay, [this] {
+    RaiseAfter(delay, [this] {
         const std::function<void()> next = std::move(waiting.front());
         waiting.pop_front();
         next();
     });
-}
-
-void Delivery::RaiseAfter(Long milliseconds, std::function<void()> event) {
-    if (!stopped) Schedule(milliseconds, std::move(event));
 }
 
 void Delivery::Drop() {
@@ -25,17 +20,12 @@ void Delivery::Drop() {
     waiting.clear();
 }
 
-void Delivery::Stop() {
-    Drop();
-    stopped = true;
-}
-
 // The event may end this object, so its ticket is put away first.
-void Delivery::Schedule(Long milliseconds, std::function<void()> task) {
+void Delivery::RaiseAfter(Long milliseconds, std::function<void()> event) {
     const auto ticket = tickets.emplace(tickets.end());
-    *ticket = loop.After(milliseconds, [this, ticket, task = std::move(task)] {
+    *ticket = loop.After(milliseconds, [this, ticket, event = std::move(event)] {
         tickets.erase(ticket);
-        task();
+        event();
     });
 }
 

@@ -1,6 +1,5 @@
 // How a stand-in brings its events: by tasks of the event loop, never from inside a call, after a delay that can be
-// set, and in the order in which they were raised. What waits dies with the owner, is dropped on demand, and nothing
-// is brought after Stop.
+// set, and in the order in which they were raised. What waits dies with the owner and is dropped on demand.
 #pragma once
 
 #include <deque>
@@ -25,16 +24,12 @@ public:
     void RaiseAfter(Long milliseconds, std::function<void()> event);
 
     void Drop();  // forgets what waits
-    void Stop();  // forgets what waits, and takes nothing any more
 
 private:
-    void Schedule(Long milliseconds, std::function<void()> task);
-
     EventLoop& loop;
     std::deque<std::function<void()>> waiting;  // in their order
     std::list<Ticket> tickets;                  // of all that are scheduled
     Long delay = 0;
-    bool stopped = false;
 };
 
 }  // namespace orvelle

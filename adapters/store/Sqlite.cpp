@@ -7,7 +7,7 @@ namespace orvelle::store {
 
 namespace {
 
-constexpr int BusyMilliseconds = 1000;
+constexpr Long OpeningMilliseconds = 1000;
 
 bool IsPlainText(const std::string& bytes) {
     return std::ranges::all_of(bytes, [](unsigned char byte) { return byte != 0 && byte < 0x80; });
@@ -20,10 +20,14 @@ Connection::Connection(const std::string& name, int flags) {
     const int code = sqlite3_open_v2(name.c_str(), &opened, flags, nullptr);
     handle.reset(opened);
     if (code != SQLITE_OK) throw SqliteError(code, opened ? sqlite3_errmsg(opened) : sqlite3_errstr(code));
-    sqlite3_busy_timeout(opened, BusyMilliseconds);
+    WaitForLock(OpeningMilliseconds);
 }
 
 void Connection::Run(const char* sql) const { Statement(*this, sql).Finish(); }
+
+void Connection::RollBack() const {
+    if (sqlite3_get_autocommit(handle.get()) == 0) Run("ROLLBACK");
+}
 
 Long Connection::Number(const char* sql) const {
     Statement statement(*this, sql);
@@ -64,6 +68,11 @@ Statement& Statement::Bind(int parameter, const StoredValue& value) {
     return *this;
 }
 
+Statement& Statement::BindWide(int parameter, std::int64_t number) {
+    Check(sqlite3_bind_int64(handle.get(), parameter, number));
+    return *this;
+}
+
 bool Statement::Step() {
     const int code = sqlite3_step(handle.get());
     if (code != SQLITE_ROW && code != SQLITE_DONE) Fail(code);
@@ -80,6 +89,17 @@ std::string Statement::Bytes(int column) const {
     const void* bytes = sqlite3_column_blob(handle.get(), column);
     const int size = sqlite3_column_bytes(handle.get(), column);
     return bytes ? std::string(static_cast<const char*>(bytes), static_cast<std::size_t>(size)) : "";
+}
+
+bool Statement::IsBytes(int column) const {
+    const int type = sqlite3_column_type(handle.get(), column);
+    return type == SQLITE_TEXT || type == SQLITE_BLOB;
+}
+
+bool Statement::IsAsBound(int column) const {
+    const int type = sqlite3_column_type(handle.get(), column);
+    if (type == SQLITE_TEXT || type == SQLITE_BLOB) return IsPlainText(Bytes(column)) == (type == SQLITE_TEXT);
+    return type != SQLITE_FLOAT;
 }
 
 StoredValue Statement::Value(int column) const {

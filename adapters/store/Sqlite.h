@@ -4,6 +4,7 @@
 
 #include <sqlite3.h>
 
+#include <cstdint>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -20,14 +21,17 @@ public:
 
 class Connection {
 public:
-    // Opens a file, or a URI if the flags say so.
+    // Opens a file, or a URI if the flags say so. It waits a second for a lock that somebody else holds.
     Connection(const std::string& name, int flags);
 
     sqlite3* Handle() const { return handle.get(); }
     void Run(const char* sql) const;
+    void RollBack() const;  // after an error inside a transaction, of which some have rolled it back already
     Long Number(const char* sql) const;       // the one number that a query gives
     std::string Text(const char* sql) const;  // the first text that a query gives
     bool ReadOnly() const { return sqlite3_db_readonly(handle.get(), "main") == 1; }
+    // From now on it waits so long for a lock, 0 for not at all.
+    void WaitForLock(Long milliseconds) const { sqlite3_busy_timeout(handle.get(), milliseconds); }
     // A connection that only looks leaves the write-ahead log as it is when it closes.
     void KeepLogAtClose(bool keep) const;
 
@@ -46,12 +50,17 @@ public:
     // blob. The bytes must stay until the statement has finished.
     Statement& Bind(int parameter, const std::string& bytes);
     Statement& Bind(int parameter, const StoredValue& value);
+    Statement& BindWide(int parameter, std::int64_t number);
 
     bool Step();    // True while there is a row
     void Finish();  // runs to the end, and makes ready for the next run
 
     std::string Bytes(int column) const;
     StoredValue Value(int column) const;
+    std::int64_t Wide(int column) const { return sqlite3_column_int64(handle.get(), column); }
+    // The column holds bytes; or what it holds is in the form in which Bind would have put it there.
+    bool IsBytes(int column) const;
+    bool IsAsBound(int column) const;
     Long Number(int column) const { return sqlite3_column_int(handle.get(), column); }
 
 private:

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <tuple>
 
-#include "adapters/store/StoreFile.h"
+#include "adapters/store/StoreOpening.h"
 
 namespace orvelle::store {
 
@@ -21,23 +21,24 @@ auto ListOrder(std::string_view name) {
     return std::tuple(!isNumber, digits, name.substr(zeros), name);
 }
 
-// The sections below `section`: behind its backslash, before the next character.
-std::pair<StoredPlaces::iterator, StoredPlaces::iterator> SubSections(StoredPlaces& sections,
-                                                                      const std::string& section) {
-    return {sections.lower_bound(section + "\\"), sections.lower_bound(section + "]")};
-}
-
 }  // namespace
 
-SqliteStore::SqliteStore(const std::filesystem::path& storeFile, Notice tellUser) : tell(std::move(tellUser)) {
-    StoreFile::Opened opened = StoreFile::Open(storeFile);
-    file = std::move(opened.File);
-    values = std::move(opened.Values);
-    fileName = storeFile.string();
+SqliteStore::SqliteStore(EventLoop& loop, const std::filesystem::path& file, Notice tellUser)
+    : SqliteStore(loop, OpenStore(file), std::move(tellUser)) {}
+
+SqliteStore::SqliteStore(EventLoop& loop, OpenedStore opened, Notice tellUser)
+    : tell(std::move(tellUser)),
+      memory(std::move(opened.Values)),
+      writer(loop, memory, std::move(opened.File),
+             opened.Sentence.empty() ? StoreWriter::Start::Clean : StoreWriter::Start::NotClean, tell) {
     if (!opened.Sentence.empty()) tell(opened.Sentence);
 }
 
-SqliteStore::~SqliteStore() { HandlerEnded(); }
+SqliteStore::~SqliteStore() {
+    if (const std::string sentence = Close(); !sentence.empty()) tell(sentence);
+}
+
+std::string SqliteStore::Close() { return writer.Close(); }
 
 Long SqliteStore::GetSettingLong(const std::string& section, const std::string& key, Long defaultValue) {
     return Read(StoredTable::Setting, section, key, defaultValue);
@@ -56,16 +57,11 @@ void SqliteStore::SaveSettingString(const std::string& section, const std::strin
     Write(StoredTable::Setting, section, key, value);
 }
 
-void SqliteStore::DeleteSettingSection(const std::string& section) {
-    StoredPlaces& sections = Table(StoredTable::Setting);
-    const auto [first, end] = SubSections(sections, section);
-    for (auto place = first; place != end;) Forget(StoredTable::Setting, place++);
-    if (const auto place = sections.find(section); place != sections.end()) Forget(StoredTable::Setting, place);
-}
+void SqliteStore::DeleteSettingSection(const std::string& section) { memory.ForgetSection(section); }
 
 void SqliteStore::OpenSettingList(const std::string& section) {
     listed.clear();
-    const auto [first, end] = SubSections(Table(StoredTable::Setting), section);
+    const auto [first, end] = memory.SubSections(section);
     for (auto place = first; place != end; ++place) {
         const std::string below = place->first.substr(section.size() + 1);
         const std::string name = below.substr(0, below.find('\\'));
@@ -85,19 +81,7 @@ bool SqliteStore::SettingListItem(Long index, std::string& name) {
 
 void SqliteStore::CloseSettingList() { listed.clear(); }
 
-// What can't be written now is tried again with the next handler's writes; until then it is kept in memory.
-void SqliteStore::HandlerEnded() {
-    const StoredChanges changes = Changes();
-    const std::string reason = changes.empty() ? "" : file->Write(changes);
-    if (reason.empty()) {
-        for (StoredPlaces& places : before) places.clear();
-        last.Before = nullptr;
-    } else if (!toldOfFailure) {
-        toldOfFailure = true;
-        tell("The settings file \"" + fileName + "\" could not be written (" + reason +
-             "). Changes are kept in memory and written as soon as that is possible again.");
-    }
-}
+void SqliteStore::HandlerEnded() { writer.HandlerEnded(); }
 
 // One root is in use, so the paths alone tell the values apart.
 void SqliteStore::WriteRegistryString(Long, const std::string& path, const std::string& name,
@@ -138,60 +122,15 @@ void SqliteStore::SetControlValue(const std::string& name, const std::string& va
 template <typename Value>
 Value SqliteStore::Read(StoredTable table, const std::string& place, const std::string& name,
                         const Value& defaultValue) {
-    if (!IsLast(table, place)) {
-        StoredPlaces& places = Table(table);
-        const auto names = places.find(place);
-        if (names == places.end()) return defaultValue;
-        last = {table, place, &names->second};
-    }
-    const auto found = last.Names->find(name);
-    if (found == last.Names->end()) return defaultValue;
-    if (const auto* value = std::get_if<Value>(&found->second)) return *value;
-    if (std::holds_alternative<NoValue>(found->second)) return defaultValue;
+    const StoredValue* found = memory.Find(table, place, name);
+    if (found == nullptr || std::holds_alternative<NoValue>(*found)) return defaultValue;
+    if (const auto* value = std::get_if<Value>(found)) return *value;
     TellOfWrongType(place, name, std::is_same_v<Value, Long> ? "a number" : "a text");
     return defaultValue;
 }
 
 void SqliteStore::Write(StoredTable table, const std::string& place, const std::string& name, StoredValue value) {
-    if (!IsLast(table, place)) last = {table, place, &Table(table)[place]};
-    StoredValue& stored = (*last.Names)[name];
-    if (Same(stored, value)) return;
-    if (file) {
-        if (last.Before == nullptr) last.Before = &before[static_cast<std::size_t>(table)][place];
-        last.Before->try_emplace(name, stored);
-    }
-    stored = std::move(value);
-}
-
-void SqliteStore::Forget(StoredTable table, StoredPlaces::iterator place) {
-    last = {};
-    auto names = Table(table).extract(place);
-    if (!file) return;
-    StoredPlaces& places = before[static_cast<std::size_t>(table)];
-    const auto kept = places.find(names.key());
-    if (kept == places.end())
-        places.insert(std::move(names));
-    else
-        kept->second.merge(names.mapped());
-}
-
-// What is deleted and written again as it was is no change: most rows of a table of which one is edited.
-StoredChanges SqliteStore::Changes() const {
-    static const StoredValue None;
-    StoredChanges changes;
-    for (const StoredTable table : {StoredTable::Setting, StoredTable::Registry, StoredTable::Control}) {
-        const StoredPlaces& places = values[static_cast<std::size_t>(table)];
-        for (const auto& [place, names] : before[static_cast<std::size_t>(table)]) {
-            const auto now = places.find(place);
-            for (const auto& [name, old] : names) {
-                const StoredValue* value = &None;
-                if (now != places.end())
-                    if (const auto found = now->second.find(name); found != now->second.end()) value = &found->second;
-                if (!Same(*value, old)) changes.push_back({table, &place, &name, value});
-            }
-        }
-    }
-    return changes;
+    memory.Put(table, place, name, std::move(value));
 }
 
 void SqliteStore::TellOfWrongType(const std::string& place, const std::string& name, const char* expected) {

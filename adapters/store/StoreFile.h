@@ -1,49 +1,59 @@
-// The SQLite file behind the store: opened, judged, read whole, and written one transaction at a time. Called by the
-// store only. A file that turns out damaged is set aside under a name of its own; one that can't be used is left alone.
+// The SQLite file behind the store while a panel runs: written one transaction at a time, copied once. Called by the
+// store's writer. It is made anew if somebody deletes it, and given up if somebody puts another one in its place.
 #pragma once
 
 #include <filesystem>
 #include <memory>
 #include <string>
-#include <vector>
 
+#include "adapters/store/DiskFile.h"
 #include "adapters/store/Sqlite.h"
+#include "adapters/store/StoreCopy.h"
+#include "adapters/store/StoreLock.h"
+#include "adapters/store/StoreRows.h"
+#include "adapters/store/StoreState.h"
 #include "adapters/store/StoredValue.h"
 
 namespace orvelle::store {
 
-struct FoundStore;
-
 class StoreFile {
 public:
-    struct Opened {
-        std::unique_ptr<StoreFile> File;  // null where nothing can be written
-        StoredTables Values;
-        std::string Sentence;  // for the user; "" where all is well
+    // WrittenAnew: the file had been deleted, and all values are in a new one. NotNow: nothing was written, for a
+    // reason that may pass. Replaced: another file has its name, and is left alone from now on.
+    enum class Outcome { Written, WrittenAnew, NotNow, Replaced };
+    struct Result {
+        Outcome What = Outcome::Written;
+        std::string Reason{};  // NotNow only
     };
 
-    // Opens the file, or makes it. Never throws.
-    static Opened Open(const std::filesystem::path& path);
+    StoreFile(std::filesystem::path path, Connection opened, const StoreState& state, StoreLock lock);
 
-    // Writes all or nothing, on disk when it returns. "" for success, else the reason.
-    std::string Write(const StoredChanges& changes);
+    const std::filesystem::path& Path() const { return path; }
+    // Writes all or nothing, on disk when it returns. It waits so long for a lock that somebody else holds; `values`
+    // are all that the store holds then.
+    Result Write(const StoredChanges& changes, const StoredTables& values, Long patienceMilliseconds);
+    // Makes the last good copy, a part at each call. True while there is more to do; a failure throws.
+    bool CopyOn();
 
 private:
-    explicit StoreFile(Connection opened);
+    struct Session {
+        explicit Session(Connection opened);
 
-    static Opened Replace(const std::filesystem::path& path);  // a damaged file
-    static std::unique_ptr<StoreFile> Take(FoundStore& found);
-    void WriteOne(const StoredChange& change);
-
-    struct TableStatements {
-        Statement Put;
-        Statement Delete;
+        Connection File;
+        Statement Begin;
+        Statement Commit;
+        StoreRows Rows;
+        std::unique_ptr<StoreCopying> Copying;
     };
 
-    Connection connection;
-    Statement begin;
-    Statement commit;
-    std::vector<TableStatements> tables;  // by StoredTable
+    void WriteHere(const StoredChanges& changes, Long patienceMilliseconds);
+    void MakeAnew(const StoredTables& values);
+
+    std::filesystem::path path;
+    std::unique_ptr<Session> session;  // null while a deleted file could not be made anew
+    StoreState state;
+    StoreLock lock;
+    FileIdentity identity;
 };
 
 }  // namespace orvelle::store

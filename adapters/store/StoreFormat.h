@@ -1,16 +1,19 @@
-// What the store's file looks like, and what a file that is found in its place is worth. A new file appears under its
-// name only when it is complete. Used by StoreFile only; SqliteError and filesystem_error mean that the file can't be
-// used now, and say nothing against what it holds.
+// What the store's file looks like, and how one is made: a new file appears under its name only when it is complete.
+// Used by what reads and writes it. SqliteError and filesystem_error mean that it can't be made now.
 #pragma once
 
 #include <array>
 #include <filesystem>
-#include <optional>
+#include <string>
 
 #include "adapters/store/Sqlite.h"
-#include "adapters/store/StoredValue.h"
+#include "adapters/store/StoreState.h"
 
 namespace orvelle::store {
+
+constexpr Long ApplicationId = 0x4F72766C;  // "Orvl"
+constexpr Long FormatVersion = 2;
+constexpr Long VersionWithoutChecks = 1;
 
 // By StoredTable
 constexpr std::array<const char*, StoredTableCount> StoreTableNames{"setting", "registry", "control"};
@@ -18,16 +21,16 @@ constexpr std::array<const char*, StoredTableCount> StoreTableNames{"setting", "
 // The parts of a store on disk that hold data: the file and its logs, in the order in which they may be moved.
 constexpr std::array<const char*, 3> StoreFileSuffixes{"-wal", "-journal", ""};
 
-enum class StoreVerdict { Good, ReadOnly, Newer, Damaged };
-
-struct FoundStore {
-    StoreVerdict Verdict = StoreVerdict::Damaged;
-    StoredTables Values{};
-    std::optional<Connection> Open{};  // Good only
-};
+// As SQLite wants them: in UTF-8, and for a file that is read as it stands, without its log and without a lock, which
+// is all that can be had where nothing can be written.
+std::string FileName(const std::filesystem::path& path);
+std::string ImmutableName(const std::filesystem::path& path);
 
 bool StoreFileExists(const std::filesystem::path& path);
-void MakeStoreFile(const std::filesystem::path& path);
-FoundStore ReadStoreFile(const std::filesystem::path& path);
+// The tables are as this version makes them, or the one without checks.
+bool HasOurTables(const Connection& file, Long version);
+// Takes a file of the version without checks over, in one transaction. The values are all that it holds.
+void Convert(const Connection& file, const StoredTables& values, const StoreState& state);
+void MakeStoreFile(const std::filesystem::path& path, const StoredTables& values, const StoreState& state);
 
 }  // namespace orvelle::store

@@ -40,7 +40,8 @@ struct StoredChange {
     StoredTable Table;
     const std::string* Place;
     const std::string* Name;
-    const StoredValue* Value;  // NoValue: it is deleted
+    const StoredValue* Value;   // NoValue: it is deleted
+    const StoredValue* Before;  // in the file; NoValue: it is not there
 };
 using StoredChanges = std::vector<StoredChange>;
 

@@ -1,6 +1,7 @@
 #include "adapters/x11/TopLevelWindows.h"
 
 #include <cstdlib>
+#include <span>
 #include <string_view>
 
 namespace orvelle {
@@ -19,6 +20,18 @@ constexpr std::uint32_t LongestProperty = 4096;
 template <typename Reply>
 auto Own(Reply* reply) {
     return std::unique_ptr<Reply, decltype(&std::free)>(reply, &std::free);
+}
+
+auto AskedFor(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t property) {
+    const auto question =
+        xcb_get_property(connection, 0, window, property, XCB_GET_PROPERTY_TYPE_ANY, 0, LongestProperty);
+    return Own(xcb_get_property_reply(connection, question, nullptr));
+}
+
+// The numbers that an answer holds, which lives longer; none where there is no answer or it holds something else.
+std::span<const std::uint32_t> NumbersIn(const xcb_get_property_reply_t* reply) {
+    if (reply == nullptr || reply->format != 32) return {};
+    return {static_cast<const std::uint32_t*>(xcb_get_property_value(reply)), reply->value_len};
 }
 
 }  // namespace
@@ -103,17 +116,15 @@ void TopLevelWindows::AskToBecomeIcon(xcb_window_t window) { TellManager(window,
 void TopLevelWindows::AskForFocus(xcb_window_t window) { TellManager(window, atoms[ActiveWindow], FromPager); }
 
 std::vector<std::uint32_t> TopLevelWindows::Property(xcb_window_t window, xcb_atom_t property) {
-    const auto question =
-        xcb_get_property(connection.get(), 0, window, property, XCB_GET_PROPERTY_TYPE_ANY, 0, LongestProperty);
-    const auto reply = Own(xcb_get_property_reply(connection.get(), question, nullptr));
-    if (!reply || reply->format != 32) return {};
-    const auto* const first = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
-    return std::vector<std::uint32_t>(first, first + reply->value_len);
+    const auto answer = AskedFor(connection.get(), window, property);
+    const auto numbers = NumbersIn(answer.get());
+    return {numbers.begin(), numbers.end()};
 }
 
 std::uint32_t TopLevelWindows::First(xcb_window_t window, xcb_atom_t property) {
-    const std::vector<std::uint32_t> value = Property(window, property);
-    return value.empty() ? 0 : value.front();
+    const auto answer = AskedFor(connection.get(), window, property);
+    const auto numbers = NumbersIn(answer.get());
+    return numbers.empty() ? 0 : numbers.front();
 }
 
 void TopLevelWindows::SetProperty(xcb_window_t window, xcb_atom_t property, xcb_atom_t type,

@@ -1,6 +1,7 @@
 // A connection to the X server that sends key strokes by its test extension. The keyboard and the key guard have one
 // each. Nothing of it ends the program: where there is no server, or it goes away, Problem() is one sentence and every
-// stroke does nothing.
+// stroke does nothing. Which keys are held can be noted on the server itself, as a property of its root window for each
+// user: there it outlives every process, and goes with the server whose keys they are.
 #pragma once
 
 #include <xcb/xcb.h>
@@ -8,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace orvelle {
 
@@ -20,8 +22,14 @@ public:
 
     // "" while strokes can be sent.
     std::string Problem() const;
+    // Whether another connection may help.
+    bool IsLost() const { return xcb_connection_has_error(connection.get()) != 0; }
     // The stroke is on its way to the server when this returns. `keyCode` is the server's own.
     void Send(int keyCode, KeyStroke stroke);
+    // Keeps the note, which is empty at first, in one order with the strokes; on its way with the next stroke or
+    // Finish.
+    void NoteHeldKeys(const std::vector<int>& keyCodes);
+    std::vector<int> NotedKeys();
     // Returns when the server has taken all strokes.
     void Finish();
     // Hands on the events that the server sent in the meantime; never waits.
@@ -34,7 +42,10 @@ private:
         void operator()(xcb_connection_t* server) const { xcb_disconnect(server); }
     };
 
+    xcb_window_t Root() const { return xcb_setup_roots_iterator(xcb_get_setup(connection.get())).data->root; }
+
     std::unique_ptr<xcb_connection_t, Disconnect> connection;
+    xcb_atom_t note = XCB_ATOM_NONE;
     std::string problem;
 };
 

@@ -28,9 +28,10 @@ std::string AutostartFolder() {
 }  // namespace
 
 struct ThisComputer::Parts {
-    explicit Parts(orvelle::Registry& keptRegistry) : Autostart(keptRegistry, AutostartFolder()) {}
+    Parts(EventLoop& loop, orvelle::Registry& keptRegistry)
+        : Keyboard(loop, "", linux::BesideOwnFile("orvelle-key-guard")), Autostart(keptRegistry, AutostartFolder()) {}
 
-    linux::X11Keyboard Keyboard{"", linux::BesideOwnFile("orvelle-key-guard")};
+    linux::X11Keyboard Keyboard;
     linux::LinuxProcesses Processes{""};
     linux::DesktopAutostart Autostart;
     linux::DynamicTeamSpeak TeamSpeak;
@@ -40,18 +41,21 @@ struct ThisComputer::Parts {
 };
 
 ThisComputer::ThisComputer(ThisProcess& process, EventLoop& loop, orvelle::Registry& keptRegistry)
-    : parts(std::make_unique<Parts>(keptRegistry)) {
+    : parts(std::make_unique<Parts>(loop, keptRegistry)) {
     // A held key is then told from one that is struck again and again.
     TellRepeatsAsPresses();
-    parts->ReleaseAtEnd = process.AtEnd([this] { parts->Keyboard.ReleaseAll(); });
+    parts->ReleaseAtEnd = process.AtEnd([this] { parts->Keyboard.Keys.ReleaseAll(); });
+    parts->Keyboard.Keys.Told = [this](const std::string& sentence) { Told(sentence); };
+    parts->Autostart.Told = [this](const std::string& sentence) { Told(sentence); };
     parts->Processes.Told = [this](const std::string& sentence) { ProgramTold(sentence); };
     parts->ProcessesReady = loop.WhenReadable(parts->Processes.Descriptor(), [this] { parts->Processes.Serve(); });
 }
 
 ThisComputer::~ThisComputer() = default;
 
+void ThisComputer::Begin() { parts->Keyboard.Keys.Begin(); }
 orvelle::Keyboard& ThisComputer::Keyboard() { return parts->Keyboard; }
-bool ThisComputer::HoldsKey(int nativeScanCode) const { return parts->Keyboard.Holds(nativeScanCode); }
+bool ThisComputer::HoldsKey(int nativeScanCode) const { return parts->Keyboard.Keys.Holds(nativeScanCode); }
 orvelle::Processes& ThisComputer::Processes() { return parts->Processes; }
 orvelle::Registry& ThisComputer::Registry() { return parts->Autostart; }
 TeamSpeakRemote* ThisComputer::TeamSpeak() { return parts->TeamSpeak.IsThere() ? &parts->TeamSpeak : nullptr; }

@@ -24,6 +24,7 @@ std::string ThisProcess::MissingDisplay() const { return orvelle::MissingDisplay
 std::string ThisProcess::WindowSystem() const { return "xcb"; }
 
 orvelle::Program& ThisProcess::Program() { return parts->Program; }
+std::string ThisProcess::Problem() const { return parts->Program.Problem(); }
 
 void ThisProcess::EndByError(const std::exception& error) {
     if (const auto* runtimeError = dynamic_cast<const RuntimeError*>(&error)) parts->Program.Fail(runtimeError->Number);

@@ -15,7 +15,7 @@ public:
     }
     Long MapVirtualKeyA(Long code, Long mapType) override { return Ask("MapVirtualKeyA", {code, mapType}, code); }
     std::string GetKeyNameTextA(Long keyMessage, Long size) override {
-        return Ask("GetKeyNameTextA", {keyMessage, size}, "K" + std::to_string(keyMessage >> 16));
+        return Ask("GetKeyNameTextA", {keyMessage, size}, std::string("K").append(std::to_string(keyMessage >> 16)));
     }
 };
 

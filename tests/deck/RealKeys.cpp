@@ -11,12 +11,10 @@
 namespace orvelle {
 namespace {
 
-constexpr int Patience = 20'000;  // milliseconds
-
 void Xdotool(const QStringList& arguments) {
     QProcess process;
     process.start("xdotool", arguments);
-    EXPECT_TRUE(WaitFor([&] { return process.state() == QProcess::NotRunning; }, Patience));
+    EXPECT_TRUE(WaitFor([&] { return process.state() == QProcess::NotRunning; }));
     EXPECT_EQ(process.exitCode(), 0) << "xdotool " << arguments.join(' ').toStdString();
 }
 
@@ -31,10 +29,10 @@ protected:
         TellRepeatsAsPresses();
         ConnectAll();
         ClickOn(field);
-        EXPECT_TRUE(WaitFor([this] { return field.hasFocus(); }, Patience));
+        EXPECT_TRUE(WaitFor([this] { return field.hasFocus(); }));
     }
     bool WaitForEvents(std::size_t count) {
-        return WaitFor([this, count] { return events.size() >= count; }, Patience);
+        return WaitFor([this, count] { return events.size() >= count; });
     }
 
     QWidget& field = At<QWidget>("KeyboardField");
@@ -44,7 +42,7 @@ TEST_F(DeckOnX, AHeldKeyRepeatsAndComesUpOnce) {
     Xdotool({"keydown", "F8"});
     EXPECT_TRUE(WaitForEvents(6));
     Xdotool({"keyup", "F8"});
-    EXPECT_TRUE(WaitFor([this] { return !events.empty() && events.back() == "key up F8"; }, Patience));
+    EXPECT_TRUE(WaitFor([this] { return !events.empty() && events.back() == "key up F8"; }));
     EXPECT_EQ(events.front(), "key down F8 in F8");
     EXPECT_EQ(std::ranges::count(events, "key up F8"), 1);
     EXPECT_EQ(std::ranges::count(events, "key down F8 in F8 repeat"), static_cast<std::ptrdiff_t>(events.size()) - 2);
@@ -65,7 +63,7 @@ TEST_F(DeckOnX, AnotherWindowThatTakesTheFocusEndsWhatIsHeld) {
     Xdotool({"keydown", "ctrl"});
     EXPECT_TRUE(WaitForEvents(1));
     ClickOn(other);
-    EXPECT_TRUE(WaitFor([this] { return !events.empty() && events.back() == "key up Ctrl"; }, Patience));
+    EXPECT_TRUE(WaitFor([this] { return !events.empty() && events.back() == "key up Ctrl"; }));
     Xdotool({"keyup", "ctrl"});
 }
 
@@ -74,13 +72,13 @@ TEST_F(DeckOnX, ClosingMinimisesAndEndsWhatIsHeld) {
     EXPECT_TRUE(WaitForEvents(1));
     // As the window manager brings it.
     CloseFromTheFrame(&window);
-    EXPECT_TRUE(WaitFor([this] { return !events.empty() && events.back() == "key up Ctrl"; }, Patience));
+    EXPECT_TRUE(WaitFor([this] { return !events.empty() && events.back() == "key up Ctrl"; }));
     const auto isSeen = [this] { return window.isActiveWindow() && window.windowHandle()->isExposed(); };
-    EXPECT_TRUE(WaitFor([&] { return !window.isActiveWindow() && !window.windowHandle()->isExposed(); }, Patience));
+    EXPECT_TRUE(WaitFor([&] { return !window.isActiveWindow() && !window.windowHandle()->isExposed(); }));
     Xdotool({"keyup", "ctrl"});
     // As a taskbar does it.
     Xdotool({"windowactivate", QString::number(window.winId())});
-    EXPECT_TRUE(WaitFor(isSeen, Patience));
+    EXPECT_TRUE(WaitFor(isSeen));
     EXPECT_FALSE(window.isMinimized());
 }
 
@@ -94,7 +92,7 @@ TEST(DeckBesideAPanel, OpensWithoutTakingTheFocus) {
     deck.OpenAt({200, 100});
     ASSERT_TRUE(WaitForWindowExposed(&deck));
     Xdotool({"type", "to the panel"});
-    EXPECT_TRUE(WaitFor([&] { return panel.text() == "to the panel"; }, Patience));
+    EXPECT_TRUE(WaitFor([&] { return panel.text() == "to the panel"; }));
 }
 
 }  // namespace

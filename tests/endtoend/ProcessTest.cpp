@@ -1,5 +1,6 @@
 // The panel as a program: how it begins and how it ends.
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include <QDir>
 #include <QProcess>
@@ -7,6 +8,7 @@
 
 #include "adapters/store/SqliteStore.h"
 #include "tests/endtoend/User.h"
+#include "tests/shared/HandLoop.h"
 
 namespace orvelle {
 
@@ -15,35 +17,37 @@ namespace {
 class ProcessTest : public testing::Test {
 protected:
     // A panel with settings of this test's own.
-    void Start(QProcess& process, const QString& display = qEnvironmentVariable("DISPLAY")) {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    void Start(QProcess& process, const QString& display = qEnvironmentVariable("DISPLAY"),
+               const QString& program = PANEL_PROGRAM) {
         environment.insert("XDG_DATA_HOME", folder.path());
         environment.remove("WAYLAND_DISPLAY");
         environment.insert("DISPLAY", display);
         process.setProcessEnvironment(environment);
-        process.start(PANEL_PROGRAM, QStringList());
+        process.start(program, QStringList());
     }
     static bool IsOver(const QProcess& process) {
         return ComesTrue([&] { return process.state() == QProcess::NotRunning; });
     }
-    // The panel's window is on the screen.
-    bool Shows(const QProcess& process) {
+    // The panel's window is on the screen; a message to the user is one more of the same name.
+    bool Shows(const QProcess& process, int windows = 1) {
         return ComesTrue([&] {
             QProcess search;
             search.start("xdotool", {"search", "--onlyvisible", "--all", "--pid", QString::number(process.processId()),
                                      "--name", "^Orvelle Control Panel$"});
             search.waitForFinished();
-            return !search.readAllStandardOutput().trimmed().isEmpty();
+            return search.readAllStandardOutput().count('\n') >= windows;
         });
     }
     store::SqliteStore Settings() {
         QDir(folder.path()).mkpath("OrvelleCP");
-        return {folder.filePath("OrvelleCP/settings.sqlite").toStdString(),
+        return {loop, folder.filePath("OrvelleCP/settings.sqlite").toStdString(),
                 [](const std::string& sentence) { ADD_FAILURE() << sentence; }};
     }
 
     QTemporaryDir folder;
+    HandLoop loop;
     User user;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
 };
 
 TEST_F(ProcessTest, ASecondInstanceEndsSilently) {
@@ -83,14 +87,58 @@ TEST_F(ProcessTest, AnotherMessageThroughTheDoorDoesNothing) {
 }
 
 TEST_F(ProcessTest, ADriverSettingOutOfRangeEndsTheProgramWithARunTimeError) {
-    store::SqliteStore settings = Settings();
-    settings.SaveSettingLong("OrvelleCP", "RWDriven", 7);
-    settings.HandlerEnded();
+    Settings().SaveSettingLong("OrvelleCP", "RWDriven", 7);
     QProcess panel;
     Start(panel);
     ASSERT_TRUE(IsOver(panel));
     EXPECT_EQ(panel.exitCode(), 70);
     EXPECT_EQ(panel.readAllStandardError(), "OrvelleCP: run-time error 9: subscript out of range\n");
+}
+
+// Another program writes to the settings file, and goes on with it.
+class LockedSettings {
+public:
+    explicit LockedSettings(const QString& file) {
+        EXPECT_EQ(sqlite3_open(file.toUtf8().constData(), &connection), SQLITE_OK);
+        EXPECT_EQ(sqlite3_exec(connection, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+    }
+    LockedSettings(const LockedSettings&) = delete;
+    LockedSettings& operator=(const LockedSettings&) = delete;
+    ~LockedSettings() { sqlite3_close(connection); }
+
+private:
+    sqlite3* connection = nullptr;
+};
+
+TEST_F(ProcessTest, WhatASignalledEndCannotWriteIsTold) {
+    QProcess panel;
+    Start(panel);
+    ASSERT_TRUE(Shows(panel));
+    const LockedSettings locked(folder.filePath("OrvelleCP/settings.sqlite"));
+    panel.terminate();
+    ASSERT_TRUE(IsOver(panel));
+    const QByteArray said = panel.readAllStandardError();
+    EXPECT_TRUE(said.contains("could not be written (database is locked). Lost are the changes of")) << said.data();
+}
+
+TEST_F(ProcessTest, WhatAnOrderlyEndCannotWriteIsToldInADialogToo) {
+    QProcess panel;
+    Start(panel);
+    ASSERT_TRUE(Shows(panel));
+    const LockedSettings locked(folder.filePath("OrvelleCP/settings.sqlite"));
+    QByteArray said;
+    const auto says = [&] {
+        said += panel.readAllStandardError();
+        return said.contains("Lost are the changes of");
+    };
+    ASSERT_TRUE(user.Input.SendDoorMessage("OrvelleCP Stub1", 1237, 0, 0));
+    ASSERT_TRUE(ComesTrue(says)) << said.data();
+    EXPECT_EQ(panel.state(), QProcess::Running);
+    EXPECT_TRUE(ComesTrue([&] {
+        if (panel.state() == QProcess::Running) user.Do({"key", "Return"});
+        return panel.state() == QProcess::NotRunning;
+    }));
+    EXPECT_EQ(panel.exitCode(), 0);
 }
 
 TEST_F(ProcessTest, WithoutADisplayOneSentenceTellsSo) {
@@ -100,6 +148,26 @@ TEST_F(ProcessTest, WithoutADisplayOneSentenceTellsSo) {
     EXPECT_EQ(panel.exitCode(), 1);
     const QByteArray said = panel.readAllStandardError();
     EXPECT_TRUE(said.startsWith("OrvelleCP: ") && said.count('\n') == 1 && said.contains("4242")) << said.toStdString();
+}
+
+TEST_F(ProcessTest, WithoutItsKeyGuardBesideItTellsSoAtTheStart) {
+    const QString alone = folder.filePath("orvelle-panel");
+    ASSERT_TRUE(QFile::copy(PANEL_PROGRAM, alone));
+    QProcess panel;
+    Start(panel, qEnvironmentVariable("DISPLAY"), alone);
+    EXPECT_TRUE(Shows(panel, 2));
+    ASSERT_TRUE(user.Input.SendDoorMessage("OrvelleCP Stub1", 1237, 0, 0));
+    EXPECT_TRUE(IsOver(panel));
+    EXPECT_EQ(panel.exitCode(), 0);
+}
+
+TEST_F(ProcessTest, WithoutALockTellsSoAtTheStart) {
+    QProcess panel;
+    environment.insert("XDG_RUNTIME_DIR", "/proc/none");
+    Start(panel);
+    EXPECT_TRUE(Shows(panel, 2));
+    ASSERT_TRUE(user.Input.SendDoorMessage("OrvelleCP Stub1", 1237, 0, 0));
+    EXPECT_TRUE(IsOver(panel));
 }
 
 TEST_F(ProcessTest, ADamagedStoreIsSetAsideAndToldAndThePanelLives) {

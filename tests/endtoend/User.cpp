@@ -9,10 +9,7 @@
 
 namespace orvelle {
 
-bool ComesTrue(const std::function<bool()>& isTrue) {
-    constexpr int BoundMilliseconds = 30000;
-    return WaitFor(isTrue, BoundMilliseconds);
-}
+bool ComesTrue(const std::function<bool()>& isTrue) { return WaitFor(isTrue); }
 
 void User::Do(const QStringList& words) {
     QProcess xdotool;

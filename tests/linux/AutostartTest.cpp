@@ -1,8 +1,15 @@
 #include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <iterator>
 #include <map>
 
@@ -41,6 +48,9 @@ private:
 
 class DesktopAutostartTest : public testing::Test {
 protected:
+    DesktopAutostartTest() {
+        registry.Told = [this](const std::string& sentence) { told += sentence; };
+    }
     ~DesktopAutostartTest() override { std::filesystem::remove_all(folder); }
 
     std::string Entry() const {
@@ -54,6 +64,7 @@ protected:
     }
 
     const std::string folder = NewFolder();
+    std::string told;
     KeptRegistry kept;
     DesktopAutostart registry{kept, folder + "/autostart"};
 };
@@ -92,6 +103,60 @@ TEST_F(DesktopAutostartTest, WhereNoEntryCanBeMadeTheValueIsKeptForTheOthers) {
     std::ofstream(folder + "/autostart") << "in the way";
     registry.WriteRegistryString(LocalMachine, RunPath, "OrvelleCP", "panel");
     EXPECT_EQ(kept.ReadRegistryString(LocalMachine, RunPath, "OrvelleCP", ""), "panel");
+    EXPECT_EQ(told, "The autostart entry " + folder +
+                        "/autostart/OrvelleCP.desktop could not be written: "
+                        "Not a directory.");
+}
+
+TEST_F(DesktopAutostartTest, AnEntryThatCannotBeTakenAwayIsTold) {
+    std::filesystem::create_directories(folder + "/autostart/OrvelleCP.desktop/in the way");
+    registry.DeleteRegistryValue(LocalMachine, RunPath, "OrvelleCP");
+    EXPECT_EQ(told, "The autostart entry " + folder +
+                        "/autostart/OrvelleCP.desktop could not be taken away: "
+                        "Directory not empty.");
+}
+
+TEST_F(DesktopAutostartTest, EntryAndFolderAreTheUsersAlone) {
+    const mode_t before = umask(0);
+    registry.WriteRegistryString(LocalMachine, RunPath, "OrvelleCP", "panel");
+    umask(before);
+    using std::filesystem::perms;
+    EXPECT_EQ(std::filesystem::status(folder + "/autostart").permissions(), perms::owner_all);
+    EXPECT_EQ(std::filesystem::status(folder + "/autostart/OrvelleCP.desktop").permissions(),
+              perms::owner_read | perms::owner_write);
+}
+
+// A file system of its own, as small as there is one, on the folder and full; where this user may not have that, no
+// file of this process can grow any more, and the message says so.
+void FillDisk(const std::string& folder) {
+    if (unshare(CLONE_NEWNS) == 0 && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+        mount("none", folder.c_str(), "tmpfs", 0, "size=16k") == 0)
+        return;
+    std::cerr << "NOT A FULL DISK HERE, for want of rights: files that may not grow; ";
+    signal(SIGXFSZ, SIG_IGN);
+    const rlimit nothing{0, 0};
+    setrlimit(RLIMIT_FSIZE, &nothing);
+}
+
+TEST_F(DesktopAutostartTest, OnAFullDiskTheGoodEntryStaysWholeAndItIsTold) {
+    const auto trial = [this] {
+        // What is there before, on the disk that is about to be full.
+        std::filesystem::create_directories(folder + "/autostart");
+        FillDisk(folder);
+        const bool isOwnDisk = !std::filesystem::exists(folder + "/autostart");
+        if (isOwnDisk) registry.WriteRegistryString(LocalMachine, RunPath, "OrvelleCP", "good");
+        const std::string good = Entry();
+        std::ofstream filling(folder + "/filling");
+        while (isOwnDisk && filling << 'x' << std::flush) continue;
+
+        registry.WriteRegistryString(LocalMachine, RunPath, "OrvelleCP", std::string(5000, 'x'));
+        const bool isWhole = Entry() == good && good.empty() != isOwnDisk;
+        const bool isClean = !std::filesystem::exists(folder + "/autostart/OrvelleCP.desktop.new");
+        std::cerr << told << (isWhole ? " whole" : " broken") << (isClean ? " clean" : " littered");
+        _exit(0);
+    };
+    EXPECT_EXIT(trial(), testing::ExitedWithCode(0),
+                "could not be written: (No space left on device|File too large)\\. whole clean$");
 }
 
 }  // namespace

@@ -37,6 +37,29 @@ TEST(CommandLine, BackslashesAndShellSignsAreOrdinary) {
               (Texts{R"(C:\Programs\rw.exe)", "a;b", "$HOME", "`id`", "*"}));
 }
 
+TEST(CommandLine, ChannelAndCallsignOfAJoinAreOneArgumentEach) {
+    EXPECT_EQ(Words("/opt/rw /join1 srv1/Innsbruck Tower /priority high /netspeed 2 /callsign Speed Bird 1"),
+              (Texts{"/opt/rw", "/join1", "srv1/Innsbruck Tower", "/priority", "high", "/netspeed", "2", "/callsign",
+                     "Speed Bird 1"}));
+    EXPECT_EQ(Words("rw /join1 srv1/EDDF - Ground / Tower /priority high"),
+              (Texts{"rw", "/join1", "srv1/EDDF - Ground / Tower", "/priority", "high"}));
+    EXPECT_EQ(Words("rw /join1 a  b /priority"), (Texts{"rw", "/join1", "a  b", "/priority"}));
+}
+
+TEST(CommandLine, AJoinWithoutACallsignEndsThere) {
+    EXPECT_EQ(Words("rw /join1 srv1/ /priority high /netspeed 2 /callsign "),
+              (Texts{"rw", "/join1", "srv1/", "/priority", "high", "/netspeed", "2", "/callsign"}));
+    EXPECT_EQ(Words("rw /callsign /leave"), (Texts{"rw", "/callsign", "/leave"}));
+    EXPECT_EQ(Words("rw /join1"), (Texts{"rw", "/join1"}));
+}
+
+TEST(CommandLine, WhatTheUserQuotedOrPartedByTabsStaysSo) {
+    EXPECT_EQ(Words("rw /join1 \"a b\" c"), (Texts{"rw", "/join1", "a b", "c"}));
+    EXPECT_EQ(Words("rw /join1 a\tb /leave"), (Texts{"rw", "/join1", "a", "b", "/leave"}));
+    EXPECT_EQ(Words("rw \"/join1\" a b"), (Texts{"rw", "/join1", "a", "b"}));
+    EXPECT_EQ(Words("rw /other a b"), (Texts{"rw", "/other", "a", "b"}));
+}
+
 TEST(CommandLine, AWordKnowsWhereItEndsAndWhetherItWasQuoted) {
     const auto words = SplitCommandLine(R"( a "b c" d)");
     ASSERT_EQ(words.size(), 3U);

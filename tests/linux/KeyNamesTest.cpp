@@ -7,6 +7,7 @@
 #include "adapters/shared/ScanCodes.h"
 #include "tests/linux/XClient.h"
 #include "tests/linux/XServer.h"
+#include "tests/shared/HandLoop.h"
 
 namespace orvelle::linux {
 namespace {
@@ -67,21 +68,24 @@ constexpr Named CommonNames[] = {
 };
 
 TEST(KeyNames, WithoutADisplayAreThoseOfAUsKeyboard) {
-    X11Keyboard keyboard(NoDisplay, KEY_GUARD);
+    HandLoop loop;
+    X11Keyboard keyboard(loop, NoDisplay, KEY_GUARD);
     for (const Named& key : CommonNames) EXPECT_EQ(Name(keyboard, key.Code), key.Name) << key.Code;
 }
 
 TEST(KeyNames, OnAUsLayoutAreTheSame) {
     XServer server;
     server.SetLayout("us");
-    X11Keyboard keyboard(server.Display(), KEY_GUARD);
+    HandLoop loop;
+    X11Keyboard keyboard(loop, server.Display(), KEY_GUARD);
     for (const Named& key : CommonNames) EXPECT_EQ(Name(keyboard, key.Code), key.Name) << key.Code;
 }
 
 TEST(KeyNames, OfCharacterKeysFollowTheLayoutAsItIsNow) {
     XServer server;
     server.SetLayout("us");
-    X11Keyboard keyboard(server.Display(), KEY_GUARD);
+    HandLoop loop;
+    X11Keyboard keyboard(loop, server.Display(), KEY_GUARD);
     EXPECT_EQ(Name(keyboard, 16), "Q");
 
     server.SetLayout("fr");
@@ -101,7 +105,8 @@ TEST(KeyNames, OfCharacterKeysFollowTheLayoutAsItIsNow) {
 }
 
 TEST(KeyNames, ExistForEachCodeWithAKeyAndDiffer) {
-    X11Keyboard keyboard(NoDisplay, KEY_GUARD);
+    HandLoop loop;
+    X11Keyboard keyboard(loop, NoDisplay, KEY_GUARD);
     std::set<std::string> names;
     for (Long code = 0; code < KeyCodes; ++code) {
         const std::string name = Name(keyboard, code);
@@ -112,7 +117,8 @@ TEST(KeyNames, ExistForEachCodeWithAKeyAndDiffer) {
 }
 
 TEST(KeyNames, FitIntoTheBuffer) {
-    X11Keyboard keyboard(NoDisplay, KEY_GUARD);
+    HandLoop loop;
+    X11Keyboard keyboard(loop, NoDisplay, KEY_GUARD);
     EXPECT_EQ(keyboard.GetKeyNameTextA(54 << 16, 6), "Right");
     EXPECT_EQ(keyboard.GetKeyNameTextA(54 << 16, 1), "");
     EXPECT_EQ(keyboard.GetKeyNameTextA(54 << 16, 0), "");
@@ -120,7 +126,8 @@ TEST(KeyNames, FitIntoTheBuffer) {
 }
 
 TEST(VirtualKeys, AreDifferentForAllCodesAndLeadBackToThem) {
-    X11Keyboard keyboard(NoDisplay, KEY_GUARD);
+    HandLoop loop;
+    X11Keyboard keyboard(loop, NoDisplay, KEY_GUARD);
     std::set<Long> seen;
     for (Long code = 0; code < KeyCodes; ++code) {
         const Long virtualKey = keyboard.MapVirtualKeyA(code, MapScanCodeToVirtualKeyExtended);
@@ -130,7 +137,8 @@ TEST(VirtualKeys, AreDifferentForAllCodesAndLeadBackToThem) {
 }
 
 TEST(VirtualKeys, HaveTheNumbersThatAreKnown) {
-    X11Keyboard keyboard(NoDisplay, KEY_GUARD);
+    HandLoop loop;
+    X11Keyboard keyboard(loop, NoDisplay, KEY_GUARD);
     const auto mapped = [&](Long code) { return keyboard.MapVirtualKeyA(code, MapScanCodeToVirtualKeyExtended); };
     EXPECT_EQ(mapped(29), 0xA2);
     EXPECT_EQ(mapped(ExtendedKey + 29), 0xA3);
@@ -141,7 +149,8 @@ TEST(VirtualKeys, HaveTheNumbersThatAreKnown) {
 }
 
 TEST(VirtualKeys, OfWhatIsNoCodeAreZero) {
-    X11Keyboard keyboard(NoDisplay, KEY_GUARD);
+    HandLoop loop;
+    X11Keyboard keyboard(loop, NoDisplay, KEY_GUARD);
     EXPECT_EQ(keyboard.MapVirtualKeyA(-1, MapScanCodeToVirtualKeyExtended), 0);
     EXPECT_EQ(keyboard.MapVirtualKeyA(512, MapScanCodeToVirtualKeyExtended), 0);
     EXPECT_EQ(keyboard.MapVirtualKeyA(29, 0), 0);

@@ -5,6 +5,7 @@
 #include "tests/linux/WaitUntil.h"
 #include "tests/linux/XClient.h"
 #include "tests/linux/XServer.h"
+#include "tests/shared/HandLoop.h"
 
 namespace orvelle::linux {
 namespace {
@@ -24,9 +25,15 @@ int XKey(Long code) { return static_cast<int>(LinuxKeyOfScanCode(code) + XKeyCod
 
 class KeyStrokes : public testing::Test {
 protected:
+    KeyStrokes() {
+        keyboard.Keys.Told = [this](const std::string& sentence) { told += sentence; };
+    }
+
+    std::string told;
     XServer server;
     XClient client{server.Display()};
-    X11Keyboard keyboard{server.Display(), KEY_GUARD};
+    HandLoop loop;
+    X11Keyboard keyboard{loop, server.Display(), KEY_GUARD};
 };
 
 TEST_F(KeyStrokes, OfEveryCodeWithAKeyReachAnotherClient) {
@@ -39,7 +46,7 @@ TEST_F(KeyStrokes, OfEveryCodeWithAKeyReachAnotherClient) {
         ++keys;
     }
     EXPECT_GT(keys, 130);
-    EXPECT_EQ(keyboard.Problem(), "");
+    EXPECT_EQ(told, "");
 }
 
 TEST_F(KeyStrokes, OfCodesWithoutAKeyDoNothing) {
@@ -83,55 +90,14 @@ TEST_F(KeyStrokes, OfAllHeldKeysEndWithReleaseAll) {
     for (const Long code : {29, 46, ExtendedKey + 29, 88}) Press(keyboard, code);
     Release(keyboard, 46);
     client.NextStrokes(5);
-    keyboard.ReleaseAll();
+    keyboard.Keys.ReleaseAll();
     EXPECT_EQ(client.KeysDown(), std::vector<int>{});
     EXPECT_EQ(client.NextStrokes(3).size(), 3U);
 
     // Nothing is released twice.
-    keyboard.ReleaseAll();
+    keyboard.Keys.ReleaseAll();
     Press(keyboard, 1);
     EXPECT_EQ(client.NextStrokes(1), (Strokes{{9, true}}));
-}
-
-TEST(KeyboardProblem, WithoutAServerIsOneSentence) {
-    X11Keyboard keyboard(":65000", KEY_GUARD);
-    Press(keyboard, 29);
-    Release(keyboard, 29);
-    keyboard.ReleaseAll();
-    EXPECT_EQ(keyboard.Problem(), "There is no X server to reach, so no key can be pressed on this computer.");
-}
-
-TEST(KeyboardProblem, WithoutTheTestExtensionIsOneSentence) {
-    XServer server({"-extension", "XTEST"});
-    X11Keyboard keyboard(server.Display(), KEY_GUARD);
-    Press(keyboard, 29);
-    EXPECT_EQ(keyboard.Problem(), "The X server lacks the XTEST extension, so no key can be pressed on this computer.");
-    EXPECT_EQ(keyboard.GetKeyNameTextA(30 << 16, 255), "A");
-}
-
-TEST(KeyboardProblem, OfALostServerIsOneSentence) {
-    XServer server;
-    X11Keyboard keyboard(server.Display(), KEY_GUARD);
-    Press(keyboard, 29);
-    EXPECT_EQ(keyboard.Problem(), "");
-    server.End();
-    Release(keyboard, 29);
-    Press(keyboard, 30);
-    EXPECT_EQ(keyboard.GetKeyNameTextA(30 << 16, 255), "A");
-    keyboard.ReleaseAll();
-    EXPECT_EQ(keyboard.Problem(), "The connection to the X server is lost, so no key can be pressed on this computer.");
-}
-
-TEST(KeyboardProblem, OfAMissingGuardIsToldAndKeysWorkAllTheSame) {
-    XServer server;
-    XClient client(server.Display());
-    X11Keyboard keyboard(server.Display(), "/nowhere/orvelle-key-guard");
-    EXPECT_EQ(keyboard.Problem(), "");
-    Press(keyboard, 30);
-    EXPECT_EQ(client.NextStrokes(1), (Strokes{{38, true}}));
-    EXPECT_EQ(keyboard.Problem(),
-              "The program /nowhere/orvelle-key-guard can't be started, so a key that is held down stays down if the "
-              "panel is killed.");
 }
 
 }  // namespace

@@ -12,7 +12,7 @@ public:
     static std::unique_ptr<EventLoop> NewLoop() { return std::make_unique<PollEventLoop>(); }
 
     bool Until(EventLoop& loop, const std::function<bool()>& isTrue) {
-        constexpr Long Bound = 20000;
+        constexpr Long Bound = 60'000;
         auto& served = static_cast<PollEventLoop&>(loop);
         bool isOver = isTrue();
         const Ticket bound = served.After(Bound, [&] {

@@ -21,7 +21,7 @@ using Texts = std::vector<std::string>;
 class Processes : public testing::Test {
 protected:
     Processes() {
-        mkdtemp(folder.data());
+        EXPECT_NE(mkdtemp(folder.data()), nullptr);
         setenv("WRITES_DOWN_INTO", Path("written").c_str(), 1);
         processes.Told = [this](const std::string& sentence) { told.push_back(sentence); };
     }

@@ -17,7 +17,7 @@ namespace {
 
 class SingleInstance : public testing::Test {
 protected:
-    SingleInstance() { mkdtemp(folder.data()); }
+    SingleInstance() { EXPECT_NE(mkdtemp(folder.data()), nullptr); }
     ~SingleInstance() override { std::filesystem::remove_all(folder); }
 
     std::vector<std::string> Panel() const { return {PANEL_STAND_IN, ":65000", KEY_GUARD, folder}; }
@@ -82,6 +82,30 @@ TEST_F(SingleInstance, IsNotKeptFromStartingByAFolderThatIsNotTheUsersAlone) {
     InstanceLock two(folder, "panel");
     EXPECT_TRUE(one.Take());
     EXPECT_TRUE(two.Take());
+    EXPECT_EQ(one.Problem(), "Whether the panel runs a second time can't be known, since the folder " + folder +
+                                 " is not this user's alone.");
+}
+
+TEST_F(SingleInstance, TellsWhereThereIsNoLock) {
+    ChildProcess first(Panel());
+    EXPECT_EQ(first.Ask("instance"), "first");
+    const std::string target = folder + "/elsewhere";
+    const std::string link = folder + "/link.lock";
+    std::filesystem::create_symlink(target, link);
+    std::filesystem::create_directory_symlink(folder, folder + "/folder");
+
+    const std::string always = "Whether the panel runs a second time can't be known, since ";
+    ProcessProgram linked(InstanceLock(folder, "link"));
+    EXPECT_FALSE(linked.PrevInstance());
+    EXPECT_EQ(linked.Problem(), always + link + " can't be opened: Too many levels of symbolic links.");
+    EXPECT_FALSE(std::filesystem::exists(target));
+    ProcessProgram elsewhere(InstanceLock(folder + "/folder", "panel"));
+    EXPECT_FALSE(elsewhere.PrevInstance());
+    EXPECT_EQ(elsewhere.Problem(), always + "the folder " + folder + "/folder is not this user's alone.");
+
+    ProcessProgram good(InstanceLock(folder, "good"));
+    EXPECT_FALSE(good.PrevInstance());
+    EXPECT_EQ(good.Problem(), "");
 }
 
 TEST_F(SingleInstance, MakesItsFolder) {

@@ -43,11 +43,19 @@ using Texts = std::vector<std::string>;
 TEST_F(TeamSpeak, CallsReachTheLibraryAndResultsComeBackIn16Bits) {
     DynamicTeamSpeak teamSpeak({Library});
     EXPECT_EQ(teamSpeak.tsrConnect("teamspeak://srv1?nickname=ABC123"), 0);
-    EXPECT_EQ(teamSpeak.tsrConnect("elsewhere"), -2);
+    EXPECT_EQ(teamSpeak.tsrConnect("TeamSpeak://srv1"), -2);
     EXPECT_EQ(teamSpeak.tsrDisconnect(), 0);
     EXPECT_EQ(teamSpeak.tsrSwitchChannelID(-5, ""), -2);
-    EXPECT_EQ(Calls(), (Texts{"tsrConnect teamspeak://srv1?nickname=ABC123", "tsrConnect elsewhere", "tsrDisconnect",
-                              "tsrSwitchChannelID -5 []"}));
+    EXPECT_EQ(Calls(), (Texts{"tsrConnect teamspeak://srv1?nickname=ABC123", "tsrConnect TeamSpeak://srv1",
+                              "tsrDisconnect", "tsrSwitchChannelID -5 []"}));
+}
+
+TEST_F(TeamSpeak, UrlsOfAnotherSchemeDoNotReachTheLibrary) {
+    DynamicTeamSpeak teamSpeak({Library});
+    for (const char* url : {"file:///etc/passwd?nickname=ABC123", "http://srv1", "srv1", "", "teamspeak",
+                            "teamspeaks://a", " teamspeak://srv1", "javascript:teamspeak://srv1"})
+        EXPECT_EQ(teamSpeak.tsrConnect(url), DynamicTeamSpeak::OtherScheme) << url;
+    EXPECT_TRUE(Calls().empty());
 }
 
 TEST_F(TeamSpeak, RecordsAreFilledInPlace) {

@@ -14,8 +14,6 @@
 namespace orvelle {
 namespace {
 
-constexpr int Patience = 20'000;  // milliseconds
-
 class ElidedLabelTest : public testing::Test {
 protected:
     ElidedLabelTest() {
@@ -78,7 +76,7 @@ TEST_F(ElidedLabelTest, HasItsOwnTipWhereItIsNot) {
     EXPECT_EQ(QToolTip::text(), "");
     label.setToolTip(QStringLiteral("own"));
     AskForTip();
-    EXPECT_TRUE(WaitFor([] { return QToolTip::text() == QStringLiteral("own"); }, Patience));
+    EXPECT_TRUE(WaitFor([] { return QToolTip::text() == QStringLiteral("own"); }));
 }
 
 }  // namespace

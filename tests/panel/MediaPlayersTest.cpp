@@ -9,50 +9,15 @@
 namespace orvelle {
 namespace {
 
-constexpr int CannotCreateObject = 429;
-
-// Has one player at most.
-class FewMediaPlayers : public MediaPlayerFactory {
-public:
-    FewMediaPlayers(replay::World& outside, int playerCount) : world(outside), count(playerCount) {}
-
-    std::unique_ptr<MediaPlayer> New(Long radio) override {
-        if (radio >= count) throw RuntimeError(CannotCreateObject);
-        return world.Players.New(radio);
-    }
-
-private:
-    replay::World& world;
-    const int count;
-};
-
 class MediaPlayersTest : public testing::TestWithParam<int> {};
 
 TEST_P(MediaPlayersTest, AMissingPlayerChangesNothingInTheOutcome) {
     std::ostringstream out;
     replay::World world{out};
-    FewMediaPlayers players(world, GetParam());
-    FrmOrvelle panel(Platform{
-        .Velmarc = world.Velmarc,
-        .Settings = world.Store,
-        .Registry = world.Registry,
-        .Tessaly = world.Tessaly,
-        .VVL = world.VVL,
-        .VolumeControl = world.VolumeControl,
-        .VolumeControlHP = world.VolumeControlHP,
-        .TSRemote = world.TSRemote,
-        .MediaPlayers = players,
-        .Dialog = world.Dialog,
-        .Messages = world.Messages,
-        .Keyboard = world.Keyboard,
-        .Queue = world.Queue,
-        .Windows = world.Windows,
-        .Clock = world.Kernel,
-        .Processes = world.Kernel,
-        .Program = world.App,
-        .Tray = world.Tray,
-        .Urls = world.Urls,
-    });
+    const int playersThere = GetParam();
+    world.Given.Give("WMPCOM1.New", {{playersThere > 0}});
+    world.Given.Give("WMPCOM2.New", {{playersThere > 1}});
+    FrmOrvelle panel(world.Outside());
     panel.Show();
     EXPECT_TRUE(panel.Visible);
     EXPECT_EQ(panel.WMPCOM1, nullptr);

@@ -55,16 +55,6 @@ TEST_F(DeliveryTest, ForgetsWhatWasDroppedAndTakesNewEvents) {
     EXPECT_EQ(brought, std::vector{3});
 }
 
-TEST_F(DeliveryTest, TakesNothingAfterStop) {
-    Raise(1);
-    delivery->Stop();
-    Raise(2);
-    delivery->RaiseAfter(10, [this] { brought.push_back(3); });
-    loop.Run(100);
-    EXPECT_TRUE(brought.empty());
-    EXPECT_TRUE(loop.Idle());
-}
-
 TEST_F(DeliveryTest, BringsNothingAfterItsEnd) {
     Raise(1);
     delivery->RaiseAfter(10, [this] { brought.push_back(2); });

@@ -44,6 +44,7 @@ struct FaultyDisk::FileCalls {
     static int SectorSize(sqlite3_file* file) { return On(file).xSectorSize(Real(file)); }
     static int Traits(sqlite3_file* file) { return On(file).xDeviceCharacteristics(Real(file)); }
     static int ShareMap(sqlite3_file* file, int page, int size, int extend, void volatile** map) {
+        if (!static_cast<File*>(file)->Disk->hasSharedMemory) return SQLITE_IOERR_SHMSIZE;
         return On(file).xShmMap(Real(file), page, size, extend, map);
     }
     static int ShareLock(sqlite3_file* file, int offset, int count, int flags) {

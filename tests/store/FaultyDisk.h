@@ -19,6 +19,8 @@ public:
     void FailAt(long write, Fault fault);
     void FailFromNowOn() { FailAt(writes + 1, Fault::Full); }
     void Heal() { FailAt(0, Fault::None); }
+    // As on a full disk: the memory that connections share can't be made.
+    void FailSharedMemory() { hasSharedMemory = false; }
     long Writes() const { return writes; }
 
 private:
@@ -37,6 +39,7 @@ private:
     long writes = 0;
     long faultAt = 0;
     Fault fault = Fault::None;
+    bool hasSharedMemory = true;
 };
 
 }  // namespace orvelle::store

@@ -18,7 +18,7 @@ protected:
         board->Told = [this](const std::string& message) { messages.push_back(message); };
     }
     void OpenStore() {
-        store.emplace(folder.Path(), [this](const std::string& sentence) { board->Tell(sentence); });
+        store.emplace(loop, folder.Path(), [this](const std::string& sentence) { board->Tell(sentence); });
     }
 
     const FaultyDisk disk;
@@ -31,7 +31,7 @@ protected:
 
 TEST_F(NoticesTest, AHealthyStoreGivesNone) {
     OpenStore();
-    loop.Run();
+    loop.Run(60000);
     EXPECT_TRUE(messages.empty());
     EXPECT_TRUE(loop.Idle());
 }

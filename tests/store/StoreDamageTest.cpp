@@ -166,7 +166,7 @@ TEST_F(StoreDamageTest, AChangedByteNeverEndsTheProgram) {
 
 TEST_F(StoreDamageTest, ANewerFileIsLeftAsItIs) {
     folder.Fill();
-    folder.Run("PRAGMA user_version = 2");
+    folder.Run("PRAGMA user_version = 3");
     ExpectInMemory(folder, "is of a newer version and was left as it is", 1);
 }
 
@@ -176,7 +176,7 @@ TEST_F(StoreDamageTest, ANewerFileIsLeftAsItIsWhereOnlyItsLogTellsTheVersion) {
     std::string log;
     {
         const auto store = folder.Open();
-        folder.Run("PRAGMA user_version = 2");
+        folder.Run("PRAGMA user_version = 3");
         main = BytesOf(folder.Path());
         log = BytesOf(folder.Path("OrvelleCP.sqlite-wal"));
         ASSERT_FALSE(log.empty());

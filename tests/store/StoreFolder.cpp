@@ -53,7 +53,7 @@ std::vector<std::string> StoreFolder::Files() const {
 }
 
 SqliteStore StoreFolder::Open(const std::string& name) {
-    return {Path(name), [this](const std::string& sentence) { Sentences.push_back(sentence); }};
+    return {Loop, Path(name), [this](const std::string& sentence) { Sentences.push_back(sentence); }};
 }
 
 void StoreFolder::Fill() {
@@ -61,6 +61,14 @@ void StoreFolder::Fill() {
     for (Long row = 1; row <= 100; ++row)
         store.SaveSettingString("OrvelleCP\\Joy2Key\\" + std::to_string(row), "J2KJoy", std::string(50, 'j'));
     store.SaveSettingLong("OrvelleCP", "Left", 7);
+}
+
+void StoreFolder::MakeWithoutChecks(const std::string& sql) const {
+    std::string make = "PRAGMA journal_mode = WAL; PRAGMA application_id = 0x4F72766C; PRAGMA user_version = 1;";
+    for (const char* table : {"setting", "registry", "control"})
+        make +=
+            std::string("CREATE TABLE ") + table + " (place, name, value, PRIMARY KEY (place, name)) WITHOUT ROWID;";
+    Run(make + sql);
 }
 
 void StoreFolder::Run(const std::string& sql, const std::string& name) const { Query(Path(name), sql); }

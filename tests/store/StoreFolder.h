@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "adapters/store/SqliteStore.h"
+#include "tests/shared/HandLoop.h"
 
 namespace orvelle::store {
 
@@ -22,9 +23,12 @@ public:
     // Opens the store there; what it tells the user goes to Sentences.
     SqliteStore Open(const std::string& name = "OrvelleCP.sqlite");
     std::vector<std::string> Sentences;
+    HandLoop Loop;
 
     void Fill();  // a hundred rows, and "Left" 7
 
+    // Makes a file as the first version did, without checks, and runs SQL on it.
+    void MakeWithoutChecks(const std::string& sql) const;
     // Runs SQL on the store's file, beside the store.
     void Run(const std::string& sql, const std::string& name = "OrvelleCP.sqlite") const;
     std::string Text(const std::string& sql) const;  // the first value of the first row

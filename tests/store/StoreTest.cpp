@@ -190,7 +190,7 @@ TEST_F(StoreTest, RemembersWhatAMapRemembers) {
     for (int step = 0; step < 5000; ++step) {
         if (!store || random() % 50 == 0) {
             store.reset();
-            store.emplace(folder.Path(), [](const std::string& sentence) { FAIL() << sentence; });
+            store.emplace(folder.Loop, folder.Path(), [](const std::string& sentence) { FAIL() << sentence; });
             for (const std::string& section : sections)
                 for (const std::string& key : keys) {
                     const auto found = expected.find({section, key});
@@ -242,8 +242,7 @@ TEST_F(StoreTest, AListingIsOpenUntilItIsClosed) {
 TEST(StoreTypesTest, AValueOfTheWrongTypeReadsAsTheDefaultAndIsToldOnce) {
     const FaultyDisk disk;
     StoreFolder folder;
-    folder.Open();
-    folder.Run(
+    folder.MakeWithoutChecks(
         "INSERT OR REPLACE INTO setting VALUES ('OrvelleCP', 'Left', 'seven'), ('OrvelleCP', 'Top', 2147483648),"
         "('OrvelleCP', 'Topmost', 1.5), ('OrvelleCP', 'RWPath', 5), ('OrvelleCP', 'TSPath', NULL);"
         "INSERT INTO registry VALUES ('Run', 'OrvelleCP', 1)");

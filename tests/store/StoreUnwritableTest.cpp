@@ -57,7 +57,7 @@ void WriteAndEnd(StoreFolder& folder) {
         _exit(0);
     }
     ASSERT_EQ(waitpid(child, nullptr, 0), child);
-    ASSERT_EQ(folder.Files().size(), 3U);
+    ASSERT_EQ(folder.Files().size(), 4U);  // with the log, the shared memory, and the lock
 }
 
 TEST(StoreReadOnlyTest, AReadOnlyFileIsReadWithItsLog) {
@@ -165,8 +165,7 @@ TEST_F(StoreFullDiskTest, AFullDiskIsToldOnceAndWrittenToWhenItHasRoomAgain) {
         EXPECT_NE(folder.Sentences[0].find("could not be written (database or disk is full)"), std::string::npos);
         disk.Heal();
         EXPECT_EQ(folder.Text("SELECT value FROM setting WHERE name = 'Left'"), "1");
-        store.SaveSettingLong("OrvelleCP", "Topmost", 1);
-        store.HandlerEnded();
+        folder.Loop.Run(10000);
         EXPECT_EQ(folder.Text("SELECT value FROM setting WHERE name = 'Left'"), "4");
     }
     auto store = folder.Open();

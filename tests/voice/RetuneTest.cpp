@@ -58,36 +58,11 @@ protected:
         return {played.Calls.begin(), second == played.Calls.end() ? second : second + 1};
     }
 
-    Platform Outside() {
-        const Platform scripted = world.Outside();
-        return {
-            .Velmarc = scripted.Velmarc,
-            .Settings = scripted.Settings,
-            .Registry = scripted.Registry,
-            .Tessaly = scripted.Tessaly,
-            .VVL = scripted.VVL,
-            .VolumeControl = scripted.VolumeControl,
-            .VolumeControlHP = scripted.VolumeControlHP,
-            .TSRemote = teamSpeak,
-            .MediaPlayers = scripted.MediaPlayers,
-            .Dialog = scripted.Dialog,
-            .Messages = scripted.Messages,
-            .Keyboard = scripted.Keyboard,
-            .Queue = scripted.Queue,
-            .Windows = scripted.Windows,
-            .Clock = scripted.Clock,
-            .Processes = scripted.Processes,
-            .Program = scripted.Program,
-            .Tray = scripted.Tray,
-            .Urls = scripted.Urls,
-        };
-    }
-
     PlayedTeamSpeak& played = Played();
     linux::DynamicTeamSpeak teamSpeak{{PLAYED_LIBRARY}};
     std::ostringstream output;
     replay::World world{output};
-    FrmOrvelle panel{Outside()};
+    FrmOrvelle panel{world.Outside(teamSpeak)};
 };
 
 TEST_F(RetuneTest, TheChannelIsSwitchedOnTheRunningConnection) {

@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QTimer>
 
 #include "adapters/looks/Text.h"
 
@@ -12,6 +13,7 @@ namespace orvelle::qt {
 namespace {
 
 constexpr Long FileMustExist = 4096;
+constexpr Long Endless = -1;
 
 // A dialog over a hidden window would be hidden with it.
 QWidget* Shown(const DialogParent& parentOf) {
@@ -39,9 +41,12 @@ void QtFileDialog::ShowOpen() {
         fileName = FromQt(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
 }
 
-void QtMessageBox::MsgBox(const std::string& text) {
+void QtMessageBox::MsgBox(const std::string& text) { MsgBox(text, Endless); }
+
+void QtMessageBox::MsgBox(const std::string& text, Long milliseconds) {
     QMessageBox box(QMessageBox::NoIcon, "Orvelle Control Panel", ToQt(text), QMessageBox::Ok, Shown(parentOf));
     box.setTextFormat(Qt::PlainText);
+    if (milliseconds != Endless) QTimer::singleShot(milliseconds, &box, [&box] { box.done(QMessageBox::Ok); });
     box.exec();
 }
 

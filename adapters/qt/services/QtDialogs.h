@@ -35,6 +35,8 @@ public:
     explicit QtMessageBox(DialogParent dialogParent) : parentOf(std::move(dialogParent)) {}
 
     void MsgBox(const std::string& text) override;
+    // Goes by itself when the time is over.
+    void MsgBox(const std::string& text, Long milliseconds);
 
 private:
     const DialogParent parentOf;

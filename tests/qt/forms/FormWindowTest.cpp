@@ -9,16 +9,10 @@
 #include "adapters/qt/windows/MainWindow.h"
 #include "panel/Controls.h"
 #include "tests/qt/forms/WindowManager.h"
-#include "tests/qt/shell/WidgetInput.h"
+#include "tests/qt/shell/Waiting.h"
 
 namespace orvelle::qt {
 namespace {
-
-template <typename Condition>
-bool ComesTrue(Condition condition) {
-    constexpr int BoundMilliseconds = 20000;
-    return WaitFor(condition, BoundMilliseconds);
-}
 
 class FormWindowTest : public testing::Test {
 protected:

@@ -35,7 +35,7 @@ struct QtDriver {
 
     static std::unique_ptr<EventLoop> NewLoop() { return std::make_unique<qt::QtEventLoop>(); }
     static bool Until(EventLoop&, const std::function<bool()>& isTrue) {
-        const QDeadlineTimer deadline(20000);
+        const QDeadlineTimer deadline(60'000);
         while (!isTrue() && !deadline.hasExpired()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
         return isTrue();
     }

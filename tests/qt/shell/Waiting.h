@@ -1,4 +1,4 @@
-// Tests wait for what must come, never for a time; the bound only ends a test that fails.
+// Tests wait for what must come, never for a time.
 #pragma once
 
 #include "tests/qt/shell/WidgetInput.h"
@@ -7,8 +7,7 @@ namespace orvelle::qt {
 
 template <typename Condition>
 bool ComesTrue(Condition condition) {
-    constexpr int BoundMilliseconds = 20000;
-    return WaitFor(condition, BoundMilliseconds);
+    return WaitFor(condition);
 }
 
 // Serves everything that waits, so that what should not come would have.

@@ -5,6 +5,12 @@
 
 namespace orvelle {
 
+namespace {
+
+constexpr int BoundMilliseconds = 60'000;
+
+}  // namespace
+
 void ClickKey(QWidget* widget, Qt::Key key, Qt::KeyboardModifiers modifiers) {
     QTest::keyClick(widget, key, modifiers);
 }
@@ -39,12 +45,10 @@ void CloseFromTheFrame(QWidget* window) {
     QCoreApplication::instance()->notify(window, &event);
 }
 
-bool WaitFor(const std::function<bool()>& isSo, int boundMilliseconds) {
-    return QTest::qWaitFor(isSo, boundMilliseconds);
-}
+bool WaitFor(const std::function<bool()>& isSo) { return QTest::qWaitFor(isSo, BoundMilliseconds); }
 
-bool WaitForWindowActive(QWidget* window) { return QTest::qWaitForWindowActive(window); }
+bool WaitForWindowActive(QWidget* window) { return QTest::qWaitForWindowActive(window, BoundMilliseconds); }
 
-bool WaitForWindowExposed(QWidget* window) { return QTest::qWaitForWindowExposed(window); }
+bool WaitForWindowExposed(QWidget* window) { return QTest::qWaitForWindowExposed(window, BoundMilliseconds); }
 
 }  // namespace orvelle

@@ -12,7 +12,7 @@
 
 #include "adapters/qt/services/QtTray.h"
 #include "platform/controls/Form.h"
-#include "tests/qt/shell/WidgetInput.h"
+#include "tests/qt/shell/Waiting.h"
 
 namespace orvelle::qt {
 namespace {
@@ -20,12 +20,6 @@ namespace {
 constexpr const char* WatcherName = "org.kde.StatusNotifierWatcher";
 constexpr const char* WatcherPath = "/StatusNotifierWatcher";
 constexpr Long CallbackMessage = 1125;
-
-template <typename Condition>
-bool ComesTrue(Condition condition) {
-    constexpr int BoundMilliseconds = 20000;
-    return WaitFor(condition, BoundMilliseconds);
-}
 
 bool StandInShows() {
     for (const QWidget* widget : QApplication::topLevelWidgets())

@@ -1,0 +1,22 @@
+// What the texts of a voice record and a callsign may hold, since the panel sets them into a voice program's command
+// line or URL as they come from the network. A text must stay one argument and one part of the query there. Asked by
+// the near end of the framework link, which refuses what doesn't.
+//
+// Names with blanks are ordinary and pass: what starts a program takes all words of such a text for one argument, up to
+// the next that begins with a slash, so no word of it may begin like an option. "EDDF - Tower" and "a/b" pass.
+#pragma once
+
+#include <string>
+
+#include "platform/SessionSetting.h"
+
+namespace orvelle::ends {
+
+// The first part of the record for which it is refused, "server" for one, by its name; "" for a record that is let
+// through. What is asked depends on the record's software.
+std::string RefusedPart(const RadioVoiceSetting& record);
+
+// The same rules for all software together: the callsign goes wherever a record goes.
+bool IsAllowedCallsign(const std::string& callsign);
+
+}  // namespace orvelle::ends
