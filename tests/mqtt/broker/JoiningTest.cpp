@@ -64,7 +64,9 @@ TEST_F(JoiningTest, AnotherKeyAndAnUnknownNumberAreRefused) {
 }
 
 TEST_F(JoiningTest, WhereNobodyListensOrAnswersItEndsInTime) {
+    auto begin = std::chrono::steady_clock::now();
     EXPECT_EQ(Try(At(FreePort())), JoinOutcome::Unreachable);
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(2)) << "the system tells that at once";
     const linux::FileDescriptor silent(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
     sockaddr_in address{};
     address.sin_family = AF_INET;
@@ -73,7 +75,7 @@ TEST_F(JoiningTest, WhereNobodyListensOrAnswersItEndsInTime) {
     ASSERT_EQ(bind(silent.Number(), reinterpret_cast<sockaddr*>(&address), size), 0);
     ASSERT_EQ(listen(silent.Number(), 8), 0);
     ASSERT_EQ(getsockname(silent.Number(), reinterpret_cast<sockaddr*>(&address), &size), 0);
-    const auto begin = std::chrono::steady_clock::now();
+    begin = std::chrono::steady_clock::now();
     EXPECT_EQ(Try(At(ntohs(address.sin_port))), JoinOutcome::Unreachable);
     EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(15));
     EXPECT_EQ(Kept(), std::nullopt);
