@@ -154,6 +154,7 @@ void BrokerConnection::Watch() {
 }
 
 void BrokerConnection::Read() {
+    if (!isConnected) return;
     heardAt = std::chrono::steady_clock::now();
     int result = MOSQ_ERR_SUCCESS;
     int messages = 0;
@@ -169,8 +170,14 @@ bool BrokerConnection::HasDeciphered() const {
     return protection != nullptr && SSL_pending(protection) > 0;
 }
 
+// Room to write for the first time: the socket is connected or has failed to be. The library does not see the latter,
+// though it has taken the socket's error, but a socket that failed has nobody at its other end.
 void BrokerConnection::Write() {
-    isConnected = true;
+    sockaddr_storage peer{};
+    socklen_t size = sizeof peer;
+    if (!std::exchange(isConnected, true) &&
+        getpeername(mosquitto_socket(client.get()), reinterpret_cast<sockaddr*>(&peer), &size) != 0)
+        return Fail(BrokerTrouble::Unreachable);
     Settle(mosquitto_loop_write(client.get(), 1));
 }
 

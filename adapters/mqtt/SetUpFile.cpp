@@ -16,13 +16,13 @@ constexpr Long Version = 1;
 constexpr Long LastPort = 65535;
 constexpr std::size_t LongestHost = 253;  // the longest name that the domain name system has
 
-bool IsHost(const std::string& text) {
+}  // namespace
+
+bool IsHost(std::string_view text) {
     return !text.empty() && text.size() <= LongestHost && std::all_of(text.begin(), text.end(), [](char character) {
         return static_cast<unsigned char>(character) > ' ' && character != '\x7F';
     });
 }
-
-}  // namespace
 
 std::optional<SetUpSetting> ReadSetUp(std::string_view text) {
     JsonReading reading(text);
