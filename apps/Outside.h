@@ -1,5 +1,6 @@
 // What the outside is to the panel: the two links, the voice engine, the mixers and the voice programs, each by the
-// medium or device that serves now. Everything is embedded here so far, and the far sides are for the flight deck.
+// medium or device that serves now. A computer that has joined no set-up practises with the embedded one, whose far
+// sides are for the flight deck; one that has joined has its links over the set-up's broker.
 #pragma once
 
 #include <string>
@@ -9,20 +10,40 @@
 #include "adapters/ends/FrameworkEnd.h"
 #include "adapters/ends/MicrophoneGuard.h"
 #include "adapters/ends/SimulatorEnd.h"
+#include "adapters/mqtt/BrokerFrameworkLine.h"
+#include "adapters/mqtt/BrokerSimulatorLine.h"
 
 namespace orvelle {
 
+// This computer as it is told to the others of a set-up, and to the panel.
+struct ComputerNames {
+    std::string Name;
+    std::string WindowSystem;
+};
+
 class Outside {
 public:
-    // `controlValues` keeps the links' own values. `thisComputer` lists the names of this computer. `realTeamSpeak` is
-    // TeamSpeak's own remote control, null where this computer has none. All outlive this object.
-    Outside(EventLoop& loop, ControlValues& controlValues, std::vector<std::string> thisComputer,
+    // `controlValues` keeps the links' own values. `realTeamSpeak` is TeamSpeak's own remote control, null where this
+    // computer has none. Both outlive this object.
+    Outside(EventLoop& loop, ControlValues& controlValues, const ComputerNames& thisComputer,
             TeamSpeakRemote* realTeamSpeak);
+
+    // From now on the links lead to that set-up's broker, or to the embedded set-up.
+    void Join(const mqtt::SetUpSetting& setUp);
+    void Practise();
+    bool IsPractising() const { return !brokers.HasJoined(); }
+    // To be called at the program's end.
+    void SayGoodbye() { brokers.SayGoodbye(); }
 
     embedded::SetUp Practice;
 
 private:
-    // Every server's name leads to the embedded set-up.
+    void ChooseLines();
+
+    mqtt::Brokers brokers;
+    mqtt::BrokerSimulatorLine simulatorLine;
+    mqtt::BrokerFrameworkLine frameworkLine;
+    // Every server's name leads to the one line or to the other.
     ends::LineTable<SimulatorLine> simulatorLines{Practice.SimulatorLink};
     ends::LineTable<FrameworkLine> frameworkLines{Practice.NetworkLink};
 

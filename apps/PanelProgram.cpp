@@ -16,7 +16,7 @@ constexpr Long LongestLastWord = 30000;  // milliseconds
 PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile)
     : Settings(process, loop, settingsFile),
       Computer(process, loop, Settings.Store),
-      Outside(loop, Settings.Store, {Computer.Name()}, Computer.TeamSpeak()),
+      Outside(loop, Settings.Store, {Computer.Name(), process.WindowSystem()}, Computer.TeamSpeak()),
       Panel(Platform{
           .Velmarc = Outside.Velmarc,
           .Settings = Settings.Store,
@@ -37,15 +37,25 @@ PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile
           .Program = process.Program(),
           .Tray = Desktop.Tray,
           .Urls = urlFunctions,
-      }) {
+      }),
+      setUpFile(std::filesystem::path(settingsFile).parent_path() / "setup.json") {
     Desktop.Show(Panel);
     Computer.OpenDoor(Desktop.Table, Panel.Stub1);
     Settings.Notices.Told = [this](const std::string& message) { Desktop.Messages.MsgBox(message); };
     Computer.Told = [this](const std::string& sentence) { Settings.Notices.Tell(sentence); };
     if (const std::string problem = process.Problem(); !problem.empty()) Settings.Notices.Tell(problem);
     Computer.ProgramTold = [this](const std::string& sentence) { TellOfProgram(sentence); };
-    Outside.Tessaly.Refused = [this](const std::string& sentence) { TellOfProgram(sentence); };
+    Outside.Tessaly.Refused = [this](const std::string& sentence) {
+        Outside.IsPractising() ? TellOfProgram(sentence) : Settings.Notices.Tell(sentence);
+    };
+    goodbyeAtEnd = process.AtEnd([this] { Outside.SayGoodbye(); });
     microphonesCloseAtEnd = process.AtEnd([this] { Outside.VVL.CloseAll(); });
+    TakeUpSetUp();
+    Computer.FileChanged = [this] {
+        TakeUpSetUp();
+        ShowDeckWherePractising();
+    };
+    Computer.WatchFile(setUpFile.string());
     // A session that ends is not held up by a question.
     Settings.LostAtEnd = [this](const std::string& sentence) {
         if (!isEndAsked) Desktop.Messages.MsgBox(sentence, LongestLastWord);
@@ -60,10 +70,33 @@ void PanelProgram::Open() {
     Computer.Begin();
     Panel.Show();
     // The deck waits for the panel to be seen.
-    loop.Post([this] { OpenDeck(); });
+    loop.Post([this] {
+        isOpen = true;
+        ShowDeckWherePractising();
+    });
 }
 
 void PanelProgram::End() { Desktop.Table.Deliver(Panel.Stub1, Stub::TerminationMessage, 0, 0); }
+
+// A file that can't be read counts as none.
+void PanelProgram::TakeUpSetUp() {
+    const mqtt::FoundSetUp found = mqtt::ReadSetUpFile(setUpFile);
+    if (!found.Sentence.empty()) Settings.Notices.Tell(found.Sentence);
+    if (found.Setting)
+        Outside.Join(*found.Setting);
+    else if (!Outside.IsPractising())
+        Outside.Practise();
+}
+
+void PanelProgram::ShowDeckWherePractising() {
+    if (!isOpen) return;
+    if (!Outside.IsPractising()) {
+        ownStrokes.reset();
+        Deck.reset();
+    } else if (!Deck) {
+        OpenDeck();
+    }
+}
 
 void PanelProgram::OpenDeck() {
     FarSides sides = Outside.Practice.Sides();
@@ -77,7 +110,7 @@ void PanelProgram::OpenDeck() {
 void PanelProgram::TellOfProgram(const std::string& sentence) {
     if (Deck)
         Deck->TellOfProgram(sentence);
-    else
+    else if (Outside.IsPractising())
         untold.push_back(sentence);
 }
 

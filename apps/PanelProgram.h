@@ -3,6 +3,7 @@
 // object stands below those that it uses, so that it goes before them.
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -33,7 +34,7 @@ public:
     orvelle::Outside Outside;
     orvelle::Desktop Desktop;
     FrmOrvelle Panel;
-    std::unique_ptr<DeckWindow> Deck;  // from the loop's first turn after Open
+    std::unique_ptr<DeckWindow> Deck;  // from the loop's first turn after Open; none in a set-up
 
     // Loads and shows the panel, then opens the flight deck beside it.
     void Open();
@@ -41,12 +42,17 @@ public:
     void End();
 
 private:
+    void TakeUpSetUp();
+    void ShowDeckWherePractising();
     void OpenDeck();
     void TellOfProgram(const std::string& sentence);
 
+    const std::filesystem::path setUpFile;   // by which this computer belongs to a set-up
     std::unique_ptr<OwnStrokes> ownStrokes;  // kept out of the deck
     std::vector<std::string> untold;         // of programs and what they shall not be told, until there is a deck
     bool isEndAsked = false;                 // by a signal
+    bool isOpen = false;
+    Ticket goodbyeAtEnd;
     Ticket microphonesCloseAtEnd;
     Ticket endAsked;
 };

@@ -36,10 +36,13 @@ public:
     orvelle::Registry& Registry();
     TeamSpeakRemote* TeamSpeak();  // its own remote control; null where that is not there
     std::string Name() const;
+    // Tells by FileChanged when that file comes, changes or goes, from now on.
+    void WatchFile(const std::string& file);
     // Opens the door by which other programs' messages reach the control's window.
     void OpenDoor(const WindowTable& table, Control& control);
 
-    Event<const std::string&> Told;         // a sentence for the user about what this computer can't do
+    Event<const std::string&> Told;  // a sentence for the user about what this computer can't do
+    Event<> FileChanged;
     Event<const std::string&> ProgramTold;  // a sentence about a program that was started, or was not
 
 private:

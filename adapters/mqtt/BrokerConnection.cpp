@@ -202,7 +202,8 @@ void BrokerConnection::Settle(int result) {
 void BrokerConnection::Subscribe() {
     isAnswered = true;
     for (const Subscription& each : plan.Subscriptions)
-        mosquitto_subscribe_v5(client.get(), nullptr, each.Pattern.c_str(), each.Quality, 0, nullptr);
+        mosquitto_subscribe_v5(client.get(), nullptr, each.Pattern.c_str(), each.Quality,
+                               each.Kept == KeptMessages::LeftOut ? MQTT_SUB_OPT_SEND_RETAIN_NEVER : 0, nullptr);
 }
 
 void BrokerConnection::OnConnected(int reason) {

@@ -32,9 +32,12 @@ struct Publication {
     int ExpirySeconds = 0;  // after which the broker forgets it; 0 for never
 };
 
+enum class KeptMessages { Brought, LeftOut };  // what the broker had before
+
 struct Subscription {
     std::string Pattern;
     int Quality = 1;
+    KeptMessages Kept = KeptMessages::Brought;
 };
 
 // What a connection is made with. The last will is published retained and empty.

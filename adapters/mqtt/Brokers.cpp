@@ -4,6 +4,22 @@
 
 namespace orvelle::mqtt {
 
+void Brokers::Join(const SetUpSetting& joined) {
+    if (setUp == joined) return;
+    setUp = joined;
+    byHost.clear();
+}
+
+void Brokers::Leave() {
+    setUp.reset();
+    byHost.clear();
+}
+
+void Brokers::SayGoodbye() {
+    for (const auto& [host, known] : byHost)
+        if (const std::shared_ptr<PanelAtBroker> at = known.lock()) at->Close();
+}
+
 std::shared_ptr<PanelAtBroker> Brokers::At(const std::string& server) {
     if (!setUp) return nullptr;
     const std::string host = HostOf(server);

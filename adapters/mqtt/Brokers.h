@@ -21,8 +21,12 @@ public:
         : loop(eventLoop), tell(std::move(describe)) {}
 
     // Which set-up the computer belongs to from now on; lines that are open are to be opened anew.
-    void Join(const SetUpSetting& joined) { setUp = joined; }
-    void Leave() { setUp.reset(); }
+    void Join(const SetUpSetting& joined);
+    void Leave();
+    bool HasJoined() const { return setUp.has_value(); }
+
+    // To be called at the program's end, where the loop runs no more: ends what is published and hangs up.
+    void SayGoodbye();
 
     // The panel at the broker that a server's name leads to; kept as long as somebody keeps it. Null where the computer
     // belongs to no set-up.

@@ -50,7 +50,8 @@ std::string Unwritable(const std::filesystem::path& file, const std::string& rea
 OwnSetUp::Found OwnSetUp::Read() const {
     const auto [text, reason] = ReadPrivateFile(KeysFile(), LongestKeys);
     if (!text && reason.empty()) return {};
-    if (!text) return {std::nullopt, "The computers' keys in " + KeysFile().string() + " can't be read: " + reason + "."};
+    if (!text)
+        return {std::nullopt, "The computers' keys in " + KeysFile().string() + " can't be read: " + reason + "."};
     std::optional<ComputerKeys> keys = ReadKeys(*text);
     if (!keys) return {std::nullopt, "What " + KeysFile().string() + " holds are no keys. It was left as it is."};
     return {std::move(keys), ""};

@@ -22,6 +22,7 @@ public:
     ~PanelAtBroker() { member.Close(); }
 
     void Open(const SetUpSetting& setUp, const std::string& host) { member.Open(setUp, host); }
+    void Close() { member.Close(); }
     bool IsThere() const { return member.IsThere(); }
     int Identity() const { return member.Identity(); }
     const Presences& Others() const { return member.Others(); }

@@ -7,6 +7,7 @@
 
 #include "adapters/linux/DesktopAutostart.h"
 #include "adapters/linux/DynamicTeamSpeak.h"
+#include "adapters/linux/FileWatch.h"
 #include "adapters/linux/LinuxProcesses.h"
 #include "adapters/linux/OwnFile.h"
 #include "adapters/linux/X11Keyboard.h"
@@ -29,13 +30,17 @@ std::string AutostartFolder() {
 
 struct ThisComputer::Parts {
     Parts(EventLoop& loop, orvelle::Registry& keptRegistry)
-        : Keyboard(loop, "", linux::BesideOwnFile("orvelle-key-guard")), Autostart(keptRegistry, AutostartFolder()) {}
+        : Loop(loop),
+          Keyboard(loop, "", linux::BesideOwnFile("orvelle-key-guard")),
+          Autostart(keptRegistry, AutostartFolder()) {}
 
+    EventLoop& Loop;
     linux::X11Keyboard Keyboard;
     linux::LinuxProcesses Processes{""};
     linux::DesktopAutostart Autostart;
     linux::DynamicTeamSpeak TeamSpeak;
     std::optional<orvelle::Door> Door;
+    std::optional<linux::FileWatch> File;
     Ticket ReleaseAtEnd;
     Ticket ProcessesReady;
 };
@@ -60,6 +65,11 @@ orvelle::Processes& ThisComputer::Processes() { return parts->Processes; }
 orvelle::Registry& ThisComputer::Registry() { return parts->Autostart; }
 TeamSpeakRemote* ThisComputer::TeamSpeak() { return parts->TeamSpeak.IsThere() ? &parts->TeamSpeak : nullptr; }
 std::string ThisComputer::Name() const { return FromQt(QSysInfo::machineHostName()); }
+void ThisComputer::WatchFile(const std::string& file) {
+    parts->File.emplace(parts->Loop, file);
+    parts->File->Changed = [this] { FileChanged(); };
+}
+
 void ThisComputer::OpenDoor(const WindowTable& table, Control& control) { parts->Door.emplace(table, control); }
 
 }  // namespace orvelle
