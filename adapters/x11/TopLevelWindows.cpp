@@ -1,7 +1,8 @@
 #include "adapters/x11/TopLevelWindows.h"
 
-#include <cstdlib>
 #include <string_view>
+
+#include "adapters/x11/XReply.h"
 
 namespace orvelle {
 
@@ -15,11 +16,6 @@ constexpr std::uint32_t IconicState = 3;
 // EWMH: a request from a pager, which is obeyed always.
 constexpr std::uint32_t FromPager = 2;
 constexpr std::uint32_t LongestProperty = 4096;
-
-template <typename Reply>
-auto Own(Reply* reply) {
-    return std::unique_ptr<Reply, decltype(&std::free)>(reply, &std::free);
-}
 
 }  // namespace
 
@@ -47,12 +43,12 @@ void TopLevelWindows::FindAtoms() {
         questions[name] = xcb_intern_atom(connection.get(), 0, static_cast<std::uint16_t>(NamesOfAtoms[name].size()),
                                           NamesOfAtoms[name].data());
     for (int name = 0; name < Names; ++name)
-        if (const auto reply = Own(xcb_intern_atom_reply(connection.get(), questions[name], nullptr)))
+        if (const auto reply = OwnReply(xcb_intern_atom_reply(connection.get(), questions[name], nullptr)))
             atoms[name] = reply->atom;
 }
 
 std::optional<TopLevelWindows::Change> TopLevelWindows::Next() {
-    while (const auto event = Own(xcb_poll_for_event(connection.get()))) {
+    while (const auto event = OwnReply(xcb_poll_for_event(connection.get()))) {
         switch (event->response_type & 0x7F) {
             case XCB_CREATE_NOTIFY: {
                 const auto& created = *reinterpret_cast<const xcb_create_notify_event_t*>(event.get());
@@ -105,7 +101,7 @@ void TopLevelWindows::AskForFocus(xcb_window_t window) { TellManager(window, ato
 std::vector<std::uint32_t> TopLevelWindows::Property(xcb_window_t window, xcb_atom_t property) {
     const auto question =
         xcb_get_property(connection.get(), 0, window, property, XCB_GET_PROPERTY_TYPE_ANY, 0, LongestProperty);
-    const auto reply = Own(xcb_get_property_reply(connection.get(), question, nullptr));
+    const auto reply = OwnReply(xcb_get_property_reply(connection.get(), question, nullptr));
     if (!reply || reply->format != 32) return {};
     const auto* const first = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
     return std::vector<std::uint32_t>(first, first + reply->value_len);
