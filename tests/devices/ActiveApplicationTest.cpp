@@ -26,9 +26,10 @@ protected:
     }
     void Manage() {
         manager.emplace(std::vector<std::string>{"openbox"});
-        linux::XClient client(server.Display());
-        ASSERT_TRUE(linux::WaitUntil([&] { return client.HasWindowManager(); }));
         windows.emplace(server.Display());
+        // It is ready when it has taken a window into its list.
+        const linux::XClient client(server.Display());
+        ASSERT_TRUE(linux::WaitUntil([&] { return windows->List().size() == 1; }));
     }
     xcb_window_t WindowOf(const linux::ChildProcess& program) {
         xcb_window_t found = XCB_NONE;
@@ -41,7 +42,8 @@ protected:
     }
     void AskForFocus(xcb_window_t window) {
         windows->AskForFocus(window);
-        windows->Next();
+        while (windows->Next()) {
+        }
     }
 
     linux::XServer server;
