@@ -1,5 +1,6 @@
 #include "tests/devices/MockedDevices.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -57,6 +58,7 @@ std::string Answers(int number, const MockedDevice& device) {
     for (const int kind : {2, 4, 5, 0x11, 0x12}) answer("EVIOCGBIT(" + std::to_string(kind) + ")", Bits({}, OtherBytes));
     answer("EVIOCGBIT(21)", Bits({}, EffectBytes));
     answer("EVIOCGKEY", Bits(device.KeysDown, KeyBytes));
+    for (const char* const state : {"EVIOCGLED", "EVIOCGSW"}) answer(state, Bits({}, OtherBytes));
     for (const int axis : device.Axes)
         answer("EVIOCGABS(" + std::to_string(axis) + ")", Padded("", sizeof(input_absinfo)));
     return text;
@@ -64,7 +66,9 @@ std::string Answers(int number, const MockedDevice& device) {
 
 }  // namespace
 
-MockedDevices::MockedDevices() : testbed(umockdev_testbed_new()) {}
+MockedDevices::MockedDevices() : testbed(umockdev_testbed_new()) {
+    std::filesystem::create_directories(RealFolder().parent_path());
+}
 
 MockedDevices::~MockedDevices() { g_object_unref(testbed); }
 
@@ -81,6 +85,13 @@ void MockedDevices::Add(int number, const MockedDevice& device) {
 
 void MockedDevices::Remove(int number) {
     umockdev_testbed_remove_device(testbed, ("/sys/devices/mocked" + std::to_string(number)).c_str());
+    std::filesystem::remove(RealFolder() / ("event" + std::to_string(number)));
+}
+
+void MockedDevices::Break(int number) {
+    const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
+    dup2(nowhere, umockdev_testbed_get_dev_fd(testbed, NodeName(number).c_str()));
+    close(nowhere);
 }
 
 void MockedDevices::Tell(int number, int type, int code, int value) {
@@ -95,8 +106,6 @@ void MockedDevices::Tell(int number, int type, int code, int value) {
     const input_event events[] = {at(type, code, value), at(EV_SYN, SYN_REPORT, 0)};
     EXPECT_EQ(write(node, events, sizeof events), static_cast<ssize_t>(sizeof events));
 }
-
-std::filesystem::path MockedDevices::NodeOf(int number) const { return NodeName(number); }
 
 std::filesystem::path MockedDevices::RealFolder() const {
     gchar* const root = umockdev_testbed_get_root_dir(testbed);

@@ -27,9 +27,9 @@ public:
 
     void Add(int number, const MockedDevice& device);
     void Remove(int number);
-    // Hides the node from the folder and puts it back, as one that comes while the folder is watched.
+    // From now on reading it fails, as of a device that was pulled out while its node is still there.
+    void Break(int number);
     void Tell(int number, int type, int code, int value);
-    std::filesystem::path NodeOf(int number) const;
     // How the system under it names the folder, past all mocking.
     std::filesystem::path RealFolder() const;
 
