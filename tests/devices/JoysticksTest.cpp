@@ -81,7 +81,7 @@ TEST_F(JoysticksTest, AreFoundWhenTheyComeAndLetGoWhenTheyGo) {
     devices.Remove(7);
     ASSERT_TRUE(Until([&] { return joysticks.Names().empty(); }));
     EXPECT_TRUE(side.HeldButtons().empty());
-    devices.Add(7, Throttle);
+    devices.Add(8, Throttle);
     ASSERT_TRUE(Until([&] { return joysticks.Names() == Lines{"Throttle"}; }));
     EXPECT_EQ(changes, 3);
 }
