@@ -86,16 +86,6 @@ TEST_F(JoysticksTest, AreFoundWhenTheyComeAndLetGoWhenTheyGo) {
     EXPECT_EQ(changes, 3);
 }
 
-TEST_F(JoysticksTest, ThatCanNotBeReadAnyMoreAreGone) {
-    devices.Add(7, Stick);
-    const Joysticks joysticks(loop, side);
-    Press(7, BTN_TRIGGER);
-    ASSERT_TRUE(Until([&] { return !side.HeldButtons().empty(); }));
-    devices.Break(7);
-    EXPECT_TRUE(Until([&] { return side.HeldButtons().empty(); }));
-    EXPECT_TRUE(joysticks.Names().empty());
-}
-
 TEST_F(JoysticksTest, KeepSilentOfSwitchesThatStoodWhenTheyWereFound) {
     devices.Add(3, Throttle);
     const Joysticks joysticks(loop, side);

@@ -1,6 +1,5 @@
 #include "tests/devices/MockedDevices.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -86,12 +85,6 @@ void MockedDevices::Add(int number, const MockedDevice& device) {
 void MockedDevices::Remove(int number) {
     umockdev_testbed_remove_device(testbed, ("/sys/devices/mocked" + std::to_string(number)).c_str());
     std::filesystem::remove(RealFolder() / ("event" + std::to_string(number)));
-}
-
-void MockedDevices::Break(int number) {
-    const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
-    dup2(nowhere, umockdev_testbed_get_dev_fd(testbed, NodeName(number).c_str()));
-    close(nowhere);
 }
 
 void MockedDevices::Tell(int number, int type, int code, int value) {

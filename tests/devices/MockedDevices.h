@@ -27,8 +27,6 @@ public:
 
     void Add(int number, const MockedDevice& device);
     void Remove(int number);
-    // From now on reading it fails, as of a device that was pulled out while its node is still there.
-    void Break(int number);
     void Tell(int number, int type, int code, int value);
     // How the system under it names the folder, past all mocking.
     std::filesystem::path RealFolder() const;
