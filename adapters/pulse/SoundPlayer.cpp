@@ -11,6 +11,9 @@ namespace {
 
 // What a sound may take beyond its length before the server counts as hanging.
 constexpr Long PatienceMilliseconds = 3000;
+// What the server holds of a sound; by itself it holds two seconds, and may begin as much later.
+constexpr pa_usec_t BufferedMicroseconds = 100000;
+constexpr auto ServersChoice = static_cast<std::uint32_t>(-1);
 // Sounds at one time; the panel asks for two.
 constexpr std::size_t MostSounds = 8;
 
@@ -75,7 +78,10 @@ void SoundPlayer::Begin(Sound& sound) {
             asked.Player.Write(asked, room);
         },
         &sound);
-    pa_stream_connect_playback(sound.Stream, nullptr, nullptr, PA_STREAM_NOFLAGS, nullptr, nullptr);
+    pa_buffer_attr buffer{};
+    buffer.maxlength = buffer.prebuf = buffer.minreq = buffer.fragsize = ServersChoice;
+    buffer.tlength = static_cast<std::uint32_t>(pa_usec_to_bytes(BufferedMicroseconds, &form));
+    pa_stream_connect_playback(sound.Stream, nullptr, &buffer, PA_STREAM_ADJUST_LATENCY, nullptr, nullptr);
 }
 
 void SoundPlayer::Write(Sound& sound, std::size_t room) {
