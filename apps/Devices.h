@@ -1,7 +1,8 @@
 // The devices of the simulator's computer, joined to the far side of the simulator link: its keys and joysticks are
-// pressed there, it is told whether the simulator is the active application, and the sounds that panels ask for there are
-// played here. For the simulator's program; needs no window. In a Wayland session the kernel's keyboards stand for those
-// of the X server. Nothing fails: what can't be read is a sentence for the user. Loop and far side outlive this object.
+// pressed there, it is told whether the simulator is the active application, and the sounds that panels ask for there
+// are played here. For the simulator's program; needs no window. In a Wayland session the kernel's keyboards stand for
+// those of the X server. Nothing fails: what can't be read is a sentence for the user. Loop and far side outlive this
+// object.
 #pragma once
 
 #include <filesystem>
@@ -19,11 +20,11 @@ namespace orvelle {
 struct DevicesSetting {
     // The files of the simulators' programs, and the names of their windows where a program can't be told.
     std::vector<std::string> Simulators = {"fgfs", "FlightGear", "X-Plane-x86_64", "X-Plane"};
-    std::string Display;                   // "" is the environment's
-    std::string SessionType;               // of the desktop's session, as the environment's XDG_SESSION_TYPE: "wayland"
+    std::string Display;      // "" is the environment's
+    std::string SessionType;  // of the desktop's session, as the environment's XDG_SESSION_TYPE: "wayland"
     std::filesystem::path Inputs = "/dev/input";
-    std::filesystem::path Sounds;          // the folder of sounds
-    std::string SoundServer;               // "" is the user's own
+    std::filesystem::path Sounds;  // the folder of sounds
+    std::string SoundServer;       // "" is the user's own
 };
 
 // Where this program's sounds lie, installed or in the build folder.

@@ -31,7 +31,8 @@ EvdevKeyboards::EvdevKeyboards(EventLoop& loop, SimulatorSide& simulator, const 
 
 std::string EvdevKeyboards::Problem() const {
     if (!keyboards.empty()) return "";
-    return "In this Wayland session keys can be read only by members of the group \"input\", so no key of this computer is "
+    return "In this Wayland session keys can be read only by members of the group \"input\", so no key of this "
+           "computer is "
            "read; joysticks are.";
 }
 

@@ -1,8 +1,8 @@
-// The user's keys as the kernel tells them, for sessions whose X server hears only the keys of X windows: told to the far
-// side of the simulator link by their places (adapters/shared/KeyNames.h), since no layout is known here. What is held when
-// a keyboard is found is pressed then, and let go when the keyboard goes; a repeat is told once. Reading needs rights that
-// the system gives few users: Problem() is one sentence while there is no keyboard that may be read. Loop and far side
-// outlive this object.
+// The user's keys as the kernel tells them, for sessions whose X server hears only the keys of X windows: told to the
+// far side of the simulator link by their places (adapters/shared/KeyNames.h), since no layout is known here. What is
+// held when a keyboard is found is pressed then, and let go when the keyboard goes; a repeat is told once. Reading
+// needs rights that the system gives few users: Problem() is one sentence while there is no keyboard that may be read.
+// Loop and far side outlive this object.
 #pragma once
 
 #include <filesystem>

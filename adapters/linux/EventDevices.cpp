@@ -29,10 +29,7 @@ std::optional<int> NumberOf(std::string_view name) {
 }  // namespace
 
 EventDevices::EventDevices(EventLoop& eventLoop, std::filesystem::path folder, Wanted* isWanted)
-    : loop(eventLoop),
-      folder(std::move(folder)),
-      isWanted(isWanted),
-      watch(inotify_init1(IN_NONBLOCK | IN_CLOEXEC)) {}
+    : loop(eventLoop), folder(std::move(folder)), isWanted(isWanted), watch(inotify_init1(IN_NONBLOCK | IN_CLOEXEC)) {}
 
 void EventDevices::Begin() {
     if (watch) watched = loop.WhenReadable(watch.Number(), [this] { ServeWatch(); });

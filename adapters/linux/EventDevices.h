@@ -1,7 +1,7 @@
-// The input devices that the kernel offers in a folder of nodes, "event0" and so on: which of them somebody wants, found
-// at the start and as they come, and what they tell. Nothing is grabbed, so other programs hear the same. A node that
-// may not be opened is tried again when its rights change, since those come after the node. What a device was not heard
-// telling is made up for. Loop and handlers outlive this object.
+// The input devices that the kernel offers in a folder of nodes, "event0" and so on: which of them somebody wants,
+// found at the start and as they come, and what they tell. Nothing is grabbed, so other programs hear the same. A node
+// that may not be opened is tried again when its rights change, since those come after the node. What a device was not
+// heard telling is made up for. Loop and handlers outlive this object.
 #pragma once
 
 #include <libevdev/libevdev.h>

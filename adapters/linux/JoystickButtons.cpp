@@ -28,8 +28,8 @@ bool HasAxis(const libevdev& device) {
 }  // namespace
 
 bool IsJoystick(const libevdev& device) {
-    const bool isTablet = HasKey(device, BTN_DIGI, BTN_TOOL_QUADTAP) ||
-                          libevdev_has_property(&device, INPUT_PROP_ACCELEROMETER);
+    const bool isTablet =
+        HasKey(device, BTN_DIGI, BTN_TOOL_QUADTAP) || libevdev_has_property(&device, INPUT_PROP_ACCELEROMETER);
     const bool isMouse = HasKey(device, BTN_LEFT, BTN_MIDDLE);
     const bool isKeyboard = HasKey(device, KEY_Q, KEY_P);
     if (isTablet || isMouse || isKeyboard) return false;
@@ -40,7 +40,8 @@ bool IsJoystick(const libevdev& device) {
 std::string JoystickName(const libevdev& device) {
     std::string name = libevdev_get_name(&device);
     std::erase(name, '.');
-    std::ranges::replace_if(name, [](char each) { return static_cast<unsigned char>(each) < ' '; }, ' ');
+    std::ranges::replace_if(
+        name, [](char each) { return static_cast<unsigned char>(each) < ' '; }, ' ');
     name = std::string(FirstCharacters(ToUtf8(name), LongestName));
     name.erase(0, name.find_first_not_of(' '));
     name.erase(name.find_last_not_of(' ') + 1);

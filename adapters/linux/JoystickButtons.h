@@ -10,8 +10,8 @@
 
 namespace orvelle::linux {
 
-// By the kernel's usual rule: it has buttons of a joystick or a gamepad, or an axis of one and other buttons; a mouse, a
-// tablet, a touchpad and a keyboard are none whatever else they have.
+// By the kernel's usual rule: it has buttons of a joystick or a gamepad, or an axis of one and other buttons; a mouse,
+// a tablet, a touchpad and a keyboard are none whatever else they have.
 bool IsJoystick(const libevdev& device);
 
 // The device's name for the user and for the link: in UTF-8, without full stops, as one parts device and button there.

@@ -1,7 +1,8 @@
 // The joysticks of this computer: their buttons and hats are told to the far side of the simulator link by the names of
-// JoystickButtons.h, "Stick" and "Button 3". Of two joysticks of one name the later has a number behind it, "Stick 2". What
-// is down when a joystick is found counts from its next press on: a switch that stands on a throttle must not open a
-// microphone by being plugged in. A joystick that goes lets go of all that it held. Loop and far side outlive this object.
+// JoystickButtons.h, "Stick" and "Button 3". Of two joysticks of one name the later has a number behind it, "Stick 2".
+// What is down when a joystick is found counts from its next press on: a switch that stands on a throttle must not open
+// a microphone by being plugged in. A joystick that goes lets go of all that it held. Loop and far side outlive this
+// object.
 #pragma once
 
 #include <filesystem>

@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <limits>
 
-// The library leaves these types to the loop. Each runs its task for as long as it is wanted; an ended ticket is how one
-// that is freed inside its own call is not touched any more.
+// The library leaves these types to the loop. Each runs its task for as long as it is wanted; an ended ticket is how
+// one that is freed inside its own call is not touched any more.
 using orvelle::EventLoop;
 using orvelle::Long;
 using orvelle::Ticket;

@@ -1,5 +1,5 @@
-// Plays sounds by name from a folder, through the user's sound server, to whatever it has chosen for them. Called by the
-// program when a panel asks for a sound. Nothing waits and nothing fails: a sound that can't be had, or that plays
+// Plays sounds by name from a folder, through the user's sound server, to whatever it has chosen for them. Called by
+// the program when a panel asks for a sound. Nothing waits and nothing fails: a sound that can't be had, or that plays
 // already, passes in silence. A server that is not there, or hangs, is left, and sought again at the next sound.
 #pragma once
 

@@ -1,5 +1,6 @@
-// A file of sound, and where such files lie. Read are files of PCM with 16 bits, one or two channels, 8 to 48 kHz, of at
-// most 8 MiB; anything else, a damaged file, a device or a pipe is none, without waiting for it. Called by the player.
+// A file of sound, and where such files lie. Read are files of PCM with 16 bits, one or two channels, 8 to 48 kHz, of
+// at most 8 MiB; anything else, a damaged file, a device or a pipe is none, without waiting for it. Called by the
+// player.
 #pragma once
 
 #include <cstdint>

@@ -6,13 +6,11 @@
 namespace orvelle {
 
 void DeviceInputs::Press(Held input) {
-    const bool isHeld = std::ranges::any_of(held, [&](const Held& each) {
-        return each.Device == input.Device && each.Number == input.Number;
-    });
+    const bool isHeld = std::ranges::any_of(
+        held, [&](const Held& each) { return each.Device == input.Device && each.Number == input.Number; });
     if (isHeld || input.Name.empty()) return;
-    const bool isNew = std::ranges::none_of(held, [&](const Held& each) {
-        return each.Joystick == input.Joystick && each.Name == input.Name;
-    });
+    const bool isNew = std::ranges::none_of(
+        held, [&](const Held& each) { return each.Joystick == input.Joystick && each.Name == input.Name; });
     if (isNew) {
         if (input.Joystick.empty())
             simulator.PressKey(input.Name);
@@ -35,15 +33,13 @@ void DeviceInputs::ReleaseAll() {
 }
 
 void DeviceInputs::KeepIf(const std::function<bool(int, int)>& isSo) {
-    const auto gone = std::ranges::stable_partition(held, [&](const Held& each) {
-        return isSo(each.Device, each.Number);
-    });
+    const auto gone =
+        std::ranges::stable_partition(held, [&](const Held& each) { return isSo(each.Device, each.Number); });
     const std::vector<Held> released(std::make_move_iterator(gone.begin()), std::make_move_iterator(gone.end()));
     held.erase(gone.begin(), gone.end());
     for (const Held& input : released) {
-        const bool isElsewhere = std::ranges::any_of(held, [&](const Held& each) {
-            return each.Joystick == input.Joystick && each.Name == input.Name;
-        });
+        const bool isElsewhere = std::ranges::any_of(
+            held, [&](const Held& each) { return each.Joystick == input.Joystick && each.Name == input.Name; });
         if (isElsewhere) continue;
         if (input.Joystick.empty())
             simulator.ReleaseKey(input.Name);

@@ -40,9 +40,8 @@ void ActiveApplication::Begin() {
     root = screen.data->root;
     constexpr std::string_view NamesOfAtoms[Names] = {"_NET_ACTIVE_WINDOW", "_NET_CLIENT_LIST"};
     for (int name = 0; name < Names; ++name) {
-        const auto question =
-            xcb_intern_atom(connection.get(), 0, static_cast<std::uint16_t>(NamesOfAtoms[name].size()),
-                            NamesOfAtoms[name].data());
+        const auto question = xcb_intern_atom(
+            connection.get(), 0, static_cast<std::uint16_t>(NamesOfAtoms[name].size()), NamesOfAtoms[name].data());
         if (const auto reply = OwnReply(xcb_intern_atom_reply(connection.get(), question, nullptr)))
             atoms[name] = reply->atom;
     }
@@ -123,8 +122,7 @@ std::vector<xcb_window_t> ActiveApplication::Focused() {
 }
 
 std::optional<std::vector<xcb_window_t>> ActiveApplication::Property(Name name) {
-    const auto question =
-        xcb_get_property(connection.get(), 0, root, atoms[name], XCB_ATOM_WINDOW, 0, LongestList);
+    const auto question = xcb_get_property(connection.get(), 0, root, atoms[name], XCB_ATOM_WINDOW, 0, LongestList);
     const auto reply = OwnReply(xcb_get_property_reply(connection.get(), question, nullptr));
     if (!reply || reply->format != 32) return std::nullopt;
     const auto* const first = static_cast<const xcb_window_t*>(xcb_get_property_value(reply.get()));

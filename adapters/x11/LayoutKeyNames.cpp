@@ -18,9 +18,14 @@ struct Range {
 
 // What lies beyond U+00BF without being a letter and may stand on a key: signs, spacing accents, punctuation and
 // symbols of all scripts, private characters.
-constexpr auto NoLetters = std::to_array<Range>(
-    {{0xD7, 0xD7}, {0xF7, 0xF7}, {0x2B0, 0x36F}, {0x2000, 0x2BFF}, {0x3000, 0x3004}, {0x3008, 0x3030},
-     {0xE000, 0xF8FF}, {0xFF00, 0xFF20}});
+constexpr auto NoLetters = std::to_array<Range>({{0xD7, 0xD7},
+                                                 {0xF7, 0xF7},
+                                                 {0x2B0, 0x36F},
+                                                 {0x2000, 0x2BFF},
+                                                 {0x3000, 0x3004},
+                                                 {0x3008, 0x3030},
+                                                 {0xE000, 0xF8FF},
+                                                 {0xFF00, 0xFF20}});
 
 bool IsLetter(char32_t character) {
     if (character < 0x80) return character >= U'A' && character <= U'Z';

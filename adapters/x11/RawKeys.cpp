@@ -20,7 +20,8 @@ constexpr std::uint16_t Minor = 1;
 
 // "" where the server tells raw keys, else one sentence. Asked before all else, as the extension demands.
 std::string Announce(xcb_connection_t* connection) {
-    if (xcb_connection_has_error(connection)) return "There is no X server to reach, so no key of this computer is read.";
+    if (xcb_connection_has_error(connection))
+        return "There is no X server to reach, so no key of this computer is read.";
     const xcb_query_extension_reply_t* const input = xcb_get_extension_data(connection, &xcb_input_id);
     if (input && input->present) {
         const auto question = xcb_input_xi_query_version(connection, Major, Minor);
@@ -94,7 +95,8 @@ void RawKeys::LookAtKeyboards() {
     keyboards.Read();
     std::map<int, std::vector<int>> down;
     for (const int device : keyboards.All()) down[device] = keyboards.KeysDown(device);
-    held.KeepIf([&](int device, int keyCode) { return std::ranges::find(down[device], keyCode) != down[device].end(); });
+    held.KeepIf(
+        [&](int device, int keyCode) { return std::ranges::find(down[device], keyCode) != down[device].end(); });
     for (const auto& [device, keyCodes] : down)
         for (const int keyCode : keyCodes) Press(device, keyCode);
     Serve();  // what came with the answers is inside the connection, where no descriptor tells of it

@@ -16,8 +16,8 @@ constexpr std::string_view TestDeviceProperty = "XTEST Device";
 }  // namespace
 
 ServerKeyboards::ServerKeyboards(xcb_connection_t* connection) : connection(connection) {
-    const auto question =
-        xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(TestDeviceProperty.size()), TestDeviceProperty.data());
+    const auto question = xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(TestDeviceProperty.size()),
+                                          TestDeviceProperty.data());
     if (const auto reply = OwnReply(xcb_intern_atom_reply(connection, question, nullptr))) testDevice = reply->atom;
     Read();
 }

@@ -1,6 +1,6 @@
-// The keyboards of an X server, past its masters: which there are, and which keys each holds. Those of the server's test
-// extension are left out, since what comes from them was sent by a program, maybe our own, and not by the user. Over a
-// connection whose owner keeps it and hands on its events; where it fails there are none.
+// The keyboards of an X server, past its masters: which there are, and which keys each holds. Those of the server's
+// test extension are left out, since what comes from them was sent by a program, maybe our own, and not by the user.
+// Over a connection whose owner keeps it and hands on its events; where it fails there are none.
 #pragma once
 
 #include <xcb/xcb.h>

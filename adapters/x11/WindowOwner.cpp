@@ -25,8 +25,8 @@ WindowOwner::WindowOwner(xcb_connection_t* connection) : connection(connection) 
     if (const auto reply = OwnReply(xcb_intern_atom_reply(connection, question, nullptr))) processId = reply->atom;
     const xcb_query_extension_reply_t* const resources = xcb_get_extension_data(connection, &xcb_res_id);
     if (!resources || !resources->present) return;
-    const auto version = OwnReply(
-        xcb_res_query_version_reply(connection, xcb_res_query_version(connection, Major, Minor), nullptr));
+    const auto version =
+        OwnReply(xcb_res_query_version_reply(connection, xcb_res_query_version(connection, Major, Minor), nullptr));
     knowsClients = version && (version->server_major > Major || version->server_minor >= Minor);
 }
 

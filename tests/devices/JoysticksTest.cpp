@@ -7,9 +7,8 @@
 namespace orvelle::linux {
 namespace {
 
-const MockedDevice Stick{"Maker Inc. Stick",
-                         {BTN_TRIGGER, BTN_THUMB, BTN_THUMB2, BTN_TOP},
-                         {ABS_X, ABS_Y, ABS_HAT0X, ABS_HAT0Y}};
+const MockedDevice Stick{
+    "Maker Inc. Stick", {BTN_TRIGGER, BTN_THUMB, BTN_THUMB2, BTN_TOP}, {ABS_X, ABS_Y, ABS_HAT0X, ABS_HAT0Y}};
 const MockedDevice Throttle{"Throttle", {BTN_0, BTN_1, BTN_TRIGGER_HAPPY1}, {ABS_THROTTLE}, {BTN_1}};
 
 class JoysticksTest : public DeviceRig {

@@ -33,8 +33,7 @@ std::string Padded(std::string text, std::size_t size) {
 
 std::string Bits(const std::vector<int>& numbers, std::size_t bytes) {
     std::string bits(bytes, '\0');
-    for (const int number : numbers)
-        bits[static_cast<std::size_t>(number) / 8] |= static_cast<char>(1 << (number % 8));
+    for (const int number : numbers) bits[static_cast<std::size_t>(number) / 8] |= static_cast<char>(1 << (number % 8));
     return Hex(bits);
 }
 
@@ -51,10 +50,12 @@ std::string Answers(int number, const MockedDevice& device) {
     answer("EVIOCGPHYS", Padded("mocked/" + std::to_string(number), NameBytes));
     answer("EVIOCGUNIQ", Padded("", NameBytes));
     answer("EVIOCGPROP", Bits({}, OtherBytes));
-    answer("EVIOCGBIT(0)", Bits(device.Axes.empty() ? std::vector{EV_SYN, EV_KEY} : std::vector{EV_SYN, EV_KEY, EV_ABS}, OtherBytes));
+    answer("EVIOCGBIT(0)",
+           Bits(device.Axes.empty() ? std::vector{EV_SYN, EV_KEY} : std::vector{EV_SYN, EV_KEY, EV_ABS}, OtherBytes));
     answer("EVIOCGBIT(1)", Bits(device.Keys, KeyBytes));
     answer("EVIOCGBIT(3)", Bits(device.Axes, OtherBytes));
-    for (const int kind : {2, 4, 5, 0x11, 0x12}) answer("EVIOCGBIT(" + std::to_string(kind) + ")", Bits({}, OtherBytes));
+    for (const int kind : {2, 4, 5, 0x11, 0x12})
+        answer("EVIOCGBIT(" + std::to_string(kind) + ")", Bits({}, OtherBytes));
     answer("EVIOCGBIT(21)", Bits({}, EffectBytes));
     answer("EVIOCGKEY", Bits(device.KeysDown, KeyBytes));
     for (const char* const state : {"EVIOCGLED", "EVIOCGSW"}) answer(state, Bits({}, OtherBytes));
@@ -76,10 +77,12 @@ void MockedDevices::Add(int number, const MockedDevice& device) {
     const std::string node = "input/event" + std::to_string(number);
     const std::string answers = RealFolder().parent_path().parent_path() / ("answers" + std::to_string(number));
     std::ofstream(answers) << Answers(number, device);
-    EXPECT_TRUE(umockdev_testbed_load_ioctl(testbed, nullptr, answers.c_str(), &error)) << (error ? error->message : "");
+    EXPECT_TRUE(umockdev_testbed_load_ioctl(testbed, nullptr, answers.c_str(), &error))
+        << (error ? error->message : "");
     const std::string description = "P: /devices/mocked" + std::to_string(number) + "\nN: " + node +
                                     "\nE: DEVNAME=/dev/" + node + "\nE: SUBSYSTEM=input\n";
-    EXPECT_TRUE(umockdev_testbed_add_from_string(testbed, description.c_str(), &error)) << (error ? error->message : "");
+    EXPECT_TRUE(umockdev_testbed_add_from_string(testbed, description.c_str(), &error))
+        << (error ? error->message : "");
 }
 
 void MockedDevices::Remove(int number) {

@@ -31,8 +31,8 @@ TEST_F(RawKeysTest, ReachTheLinkByTheNamesThatThePanelShowsInTheirOrder) {
     for (const int key : {F8Key, ControlKey}) user.Release(key);
     for (const int key : {RightControlKey, KeypadEnterKey, AKey}) user.Press(key);
     ASSERT_TRUE(Until([&] { return side.Said.size() == 7; }));
-    EXPECT_EQ(side.Said, (Lines{"Ctrl", "Ctrl+F8", "Ctrl", "", "Right Ctrl", "Right Ctrl+Num Enter",
-                                "Right Ctrl+Num Enter+A"}));
+    EXPECT_EQ(side.Said,
+              (Lines{"Ctrl", "Ctrl+F8", "Ctrl", "", "Right Ctrl", "Right Ctrl+Num Enter", "Right Ctrl+Num Enter+A"}));
     EXPECT_EQ(keys.Problem(), "");
 }
 

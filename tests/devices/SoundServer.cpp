@@ -16,18 +16,18 @@ SoundServer::SoundServer(std::filesystem::path where) : folder(std::move(where))
     // All that the server keeps for a user lies there, too.
     for (const char* const name : {"HOME", "XDG_RUNTIME_DIR", "PULSE_RUNTIME_PATH", "PULSE_STATE_PATH"})
         setenv(name, folder.c_str(), 1);
-    process = std::make_unique<linux::ChildProcess>(std::vector<std::string>{
-        "pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no", "--disable-shm=yes",
-        "--high-priority=no", "--realtime=no", "-L",
-        "module-native-protocol-unix auth-anonymous=1 socket=" + (folder / "socket").string(), "-L",
-        "module-null-sink sink_name=nowhere rate=22050 channels=1 format=s16le"});
+    process = std::make_unique<linux::ChildProcess>(
+        std::vector<std::string>{"pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no",
+                                 "--disable-shm=yes", "--high-priority=no", "--realtime=no", "-L",
+                                 "module-native-protocol-unix auth-anonymous=1 socket=" + (folder / "socket").string(),
+                                 "-L", "module-null-sink sink_name=nowhere rate=22050 channels=1 format=s16le"});
     EXPECT_TRUE(linux::WaitUntil([this] {
         return linux::ChildProcess({"pactl", "--server", Address(), "info"}).Wait() == 0;
     }));
     const std::string recording = folder / "heard";
-    recorder = std::make_unique<linux::ChildProcess>(std::vector<std::string>{
-        "parec", "--server", Address(), "--device", "nowhere.monitor", "--raw", "--format=s16le", "--rate=22050",
-        "--channels=1", "--latency-msec=10", recording});
+    recorder = std::make_unique<linux::ChildProcess>(
+        std::vector<std::string>{"parec", "--server", Address(), "--device", "nowhere.monitor", "--raw",
+                                 "--format=s16le", "--rate=22050", "--channels=1", "--latency-msec=10", recording});
     EXPECT_TRUE(linux::WaitUntil([this] { return !Heard().empty(); }));
 }
 
