@@ -92,7 +92,8 @@ TEST_F(ActiveApplicationTest, IsToldByTheInputFocusWithoutAManager) {
 TEST_F(ActiveApplicationTest, CountsAsTheSimulatorWithoutAServer) {
     Manage();
     auto simulator = Show();
-    linux::XClient other(server.Display());
+    WindowOf(*simulator);
+    const linux::XClient other(server.Display());
     Watch();
     ASSERT_TRUE(Until([&] { return !side.SimulatorActive(); }));
     server.End();
