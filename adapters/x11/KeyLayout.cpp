@@ -55,12 +55,12 @@ void KeyLayout::Notice(const xcb_generic_event_t& event) {
 }
 
 void KeyLayout::Read() {
+    isCurrent = true;
     state.reset();
     keymap.reset();
     if (device < 0 || !context || xcb_connection_has_error(connection)) return;
     keymap.reset(xkb_x11_keymap_new_from_device(context.get(), connection, device, XKB_KEYMAP_COMPILE_NO_FLAGS));
     if (keymap) state.reset(xkb_x11_state_new_from_device(keymap.get(), connection, device));
-    isCurrent = true;
 }
 
 std::string KeyLayout::Character(int keyCode) {

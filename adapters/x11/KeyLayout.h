@@ -16,6 +16,8 @@ public:
     explicit KeyLayout(xcb_connection_t* connection);
 
     void Notice(const xcb_generic_event_t& event);
+    // Whether the next answer reads the layout first, which takes some milliseconds.
+    bool HasChanged() const { return !isCurrent; }
     // The character of the unshifted key in upper case, in UTF-8; "" where the layout has none that can be shown.
     std::string Character(int keyCode);
 

@@ -1,8 +1,9 @@
 #include "adapters/x11/TopLevelWindows.h"
 
-#include <cstdlib>
 #include <span>
 #include <string_view>
+
+#include "adapters/x11/XReply.h"
 
 namespace orvelle {
 
@@ -17,15 +18,10 @@ constexpr std::uint32_t IconicState = 3;
 constexpr std::uint32_t FromPager = 2;
 constexpr std::uint32_t LongestProperty = 4096;
 
-template <typename Reply>
-auto Own(Reply* reply) {
-    return std::unique_ptr<Reply, decltype(&std::free)>(reply, &std::free);
-}
-
 auto AskedFor(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t property) {
     const auto question =
         xcb_get_property(connection, 0, window, property, XCB_GET_PROPERTY_TYPE_ANY, 0, LongestProperty);
-    return Own(xcb_get_property_reply(connection, question, nullptr));
+    return OwnReply(xcb_get_property_reply(connection, question, nullptr));
 }
 
 // The numbers that an answer holds, which lives longer; none where there is no answer or it holds something else.
@@ -60,12 +56,12 @@ void TopLevelWindows::FindAtoms() {
         questions[name] = xcb_intern_atom(connection.get(), 0, static_cast<std::uint16_t>(NamesOfAtoms[name].size()),
                                           NamesOfAtoms[name].data());
     for (int name = 0; name < Names; ++name)
-        if (const auto reply = Own(xcb_intern_atom_reply(connection.get(), questions[name], nullptr)))
+        if (const auto reply = OwnReply(xcb_intern_atom_reply(connection.get(), questions[name], nullptr)))
             atoms[name] = reply->atom;
 }
 
 std::optional<TopLevelWindows::Change> TopLevelWindows::Next() {
-    while (const auto event = Own(xcb_poll_for_event(connection.get()))) {
+    while (const auto event = OwnReply(xcb_poll_for_event(connection.get()))) {
         switch (event->response_type & 0x7F) {
             case XCB_CREATE_NOTIFY: {
                 const auto& created = *reinterpret_cast<const xcb_create_notify_event_t*>(event.get());

@@ -4,18 +4,11 @@
 #include <xcb/xcb.h>
 
 #include <cstdlib>
-#include <memory>
 #include <string>
 
+#include "adapters/x11/XReply.h"
+
 namespace orvelle {
-
-struct XFree {
-    void operator()(void* reply) const { std::free(reply); }
-};
-
-// What the server answered; null where the request failed.
-template <typename Reply>
-using XReply = std::unique_ptr<Reply, XFree>;
 
 // Null where Qt shows its windows on something else.
 xcb_connection_t* XConnection();
