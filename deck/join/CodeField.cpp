@@ -50,6 +50,7 @@ void CodeField::Group() {
         grouped += each.toUpper();
         if (++count == before) cursor = grouped.size();
     }
+    if (before > count) cursor = grouped.size();
     if (grouped != text()) {
         setText(grouped);
         setCursorPosition(static_cast<int>(cursor));

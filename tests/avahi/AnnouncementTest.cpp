@@ -19,7 +19,7 @@ TEST_F(Announcing, ASetUpIsFoundUntilItsAnnouncementEnds) {
     StartBus();
     StartDaemon();
     std::optional<ServiceAnnouncement> announcement(std::in_place, loop, "Home", 8884);
-    const FoundService home{"Home", "cockpit.local", 8884};
+    const FoundService home{"Home", "localhost.local", 8884};
     EXPECT_TRUE(Finds(home));
     EXPECT_TRUE(Until([&] { return announcement->Known() == "Home"; }));
     announcement.reset();
@@ -33,8 +33,8 @@ TEST_F(Announcing, OfTwoSetUpsOfOneNameTheLaterIsKnownByTheNext) {
     EXPECT_TRUE(Until([&] { return first.Known() == "Home"; }));
     const ServiceAnnouncement second(loop, "Home", 8884);
     EXPECT_TRUE(Until([&] { return second.Known() == "Home #2"; }));
-    EXPECT_TRUE(Finds({"Home", "cockpit.local", 8883}));
-    EXPECT_TRUE(Finds({"Home", "cockpit.local", 8884})) << "its own name stays";
+    EXPECT_TRUE(Finds({"Home", "localhost.local", 8883}));
+    EXPECT_TRUE(Finds({"Home", "localhost.local", 8884})) << "its own name stays";
 }
 
 TEST_F(Announcing, ADaemonThatComesLaterOrGoesAndComesBackIsTold) {
@@ -45,7 +45,7 @@ TEST_F(Announcing, ADaemonThatComesLaterOrGoesAndComesBackIsTold) {
     StartBus();
     for (int round = 0; round < 2; ++round) {
         StartDaemon();
-        EXPECT_TRUE(Finds({"Home", "cockpit.local", 8883}));
+        EXPECT_TRUE(Finds({"Home", "localhost.local", 8883}));
         StopDaemon();
         EXPECT_TRUE(Until([&] { return announcement.Known().empty() && browser.Found().empty(); }));
     }
@@ -59,7 +59,7 @@ TEST_F(Announcing, ANameThatIsTooLongIsCut) {
     for (int count = 0; count < 200; ++count) longName += "\xC3\xA4";
     const ServiceAnnouncement announcement(loop, longName, 8883);
     EXPECT_TRUE(Until([&] { return announcement.Known() == longName.substr(0, 62); }));
-    EXPECT_TRUE(Finds({longName.substr(0, 248), "cockpit.local", 8883}));
+    EXPECT_TRUE(Finds({longName.substr(0, 248), "localhost.local", 8883}));
 }
 
 }  // namespace

@@ -25,7 +25,7 @@ constexpr const char* BusConfiguration = R"(
 </policy></busconfig>)";
 
 constexpr const char* DaemonConfiguration =
-    "[server]\nhost-name=cockpit\ndomain-name=local\nuse-ipv6=no\nallow-interfaces=lo\nenable-dbus=yes\n"
+    "[server]\nhost-name=localhost\ndomain-name=local\nuse-ipv6=no\nallow-interfaces=lo\nenable-dbus=yes\n"
     "disallow-other-stacks=no\n[publish]\npublish-workstation=no\n";
 
 // Its process id file and its socket have fixed places.

@@ -32,13 +32,13 @@ TEST_F(Browsing, SetUpsComeAndGo) {
     StartDaemon();
     Browse();
     auto home = Announce("Home", 8883, {"version=1", "setup=Home"});
-    EXPECT_TRUE(Tells({"came Home cockpit.local:8883"}));
+    EXPECT_TRUE(Tells({"came Home localhost.local:8883"}));
     const auto club = Announce("Club", 8884, {"setup=Club \xC3\xA4", "version=1", "more=unknown"});
-    EXPECT_TRUE(Tells({"came Club \xC3\xA4 cockpit.local:8884"}));
+    EXPECT_TRUE(Tells({"came Club \xC3\xA4 localhost.local:8884"}));
     EXPECT_EQ(browser->Found().size(), 2);
     home.reset();
     EXPECT_TRUE(Tells({"went Home"}));
-    EXPECT_TRUE(browser->IsThere({"Club \xC3\xA4", "cockpit.local", 8884}));
+    EXPECT_TRUE(browser->IsThere({"Club \xC3\xA4", "localhost.local", 8884}));
     EXPECT_TRUE(sentences.empty());
 }
 
@@ -53,7 +53,7 @@ TEST_F(Browsing, WhatIsAnnouncedWronglyIsLeftOut) {
     wrong.push_back(Announce("E", 8883, {"version=1", "setup=\xFF"}));
     Browse();
     const auto right = Announce("Home", 8883, {"version=1", "setup=Home"});
-    EXPECT_TRUE(Tells({"came Home cockpit.local:8883"}));
+    EXPECT_TRUE(Tells({"came Home localhost.local:8883"}));
 }
 
 TEST_F(Browsing, ADaemonThatComesLaterOrGoesAndComesBackIsFollowed) {
@@ -63,7 +63,7 @@ TEST_F(Browsing, ADaemonThatComesLaterOrGoesAndComesBackIsFollowed) {
     for (int round = 0; round < 2; ++round) {
         StartDaemon();
         const auto home = Announce("Home", 8883, {"version=1", "setup=Home"});
-        EXPECT_TRUE(Tells({"came Home cockpit.local:8883"}));
+        EXPECT_TRUE(Tells({"came Home localhost.local:8883"}));
         StopDaemon();
         EXPECT_TRUE(Tells({"went Home"}));
     }
@@ -77,7 +77,7 @@ TEST_F(Browsing, WithoutAMessageBusItIsToldOnceAndTheBusIsTakenWhenItComes) {
         StartBus();
         StartDaemon();
         const auto home = Announce("Home", 8883, {"version=1", "setup=Home"});
-        EXPECT_TRUE(Tells({"came Home cockpit.local:8883"}));
+        EXPECT_TRUE(Tells({"came Home localhost.local:8883"}));
         StopBus();
         EXPECT_TRUE(Tells({"went Home"}));
         StopDaemon();
