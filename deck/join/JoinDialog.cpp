@@ -20,6 +20,7 @@ namespace orvelle::deck {
 namespace {
 
 constexpr int ShownSetUps = 4;
+constexpr int WantedCharacters = 80;  // the window's width
 constexpr int SentenceLines = 3;
 constexpr int PlaceRole = Qt::UserRole;
 constexpr Long Red = 0x0000FF;  // 0x00BBGGRR
@@ -58,6 +59,7 @@ JoinDialog::JoinDialog(JoinSide& joinSide, QWidget* parent)
     seen->setObjectName("SeenSetUps");
     seen->setToolTip("Set-ups that are found on the network by themselves; picking one fills in its host");
     seen->setMinimumHeight(ShownSetUps * (seen->fontMetrics().height() + Unit));
+    seen->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(seen, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* item) {
         if (item) host->setText(item->data(PlaceRole).toString());
     });
@@ -70,7 +72,11 @@ JoinDialog::JoinDialog(JoinSide& joinSide, QWidget* parent)
         connect(field, &QLineEdit::returnPressed, this, [this] { (join->isEnabled() ? join : move)->click(); });
     progress->setObjectName("JoinProgress");
     progress->setTextVisible(false);
-    progress->setRange(0, 0);
+    progress->setFixedHeight(Unit / 2);
+    // Its place stays, so that nothing jumps.
+    QSizePolicy policy = progress->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    progress->setSizePolicy(policy);
     sentence->setObjectName("JoinSentence");
     sentence->setTextFormat(Qt::PlainText);
     sentence->setWordWrap(true);
@@ -94,6 +100,7 @@ JoinDialog::JoinDialog(JoinSide& joinSide, QWidget* parent)
     column->addWidget(other, 1);
     column->addWidget(sentence);
 
+    resize(sizeHint().expandedTo({fontMetrics().averageCharWidth() * WantedCharacters, 0}));
     side.Look(Looking::Yes);
     ShowState();
     code->setFocus();
@@ -109,14 +116,16 @@ void JoinDialog::ShowState() {
     const bool isTrying = side.State() == JoinState::Trying;
     setUp->Show(joined ? QString("%1, as computer %2").arg(ToQt(joined->Name)).arg(joined->Number) : "None");
     broker->Show(joined ? ToQt(joined->Place) : "None");
+    if (joined) code->clear();
     leave->setEnabled(joined && !isTrying);
     code->setEnabled(!joined && !isTrying);
     host->setEnabled(!isTrying);
     join->setEnabled(!joined && !isTrying && code->IsRight());
     move->setEnabled(joined && !isTrying && !host->text().trimmed().isEmpty());
     cancel->setEnabled(isTrying);
-    // Its place stays, so that nothing jumps; it moves only while something is tried.
+    // It moves only while something is tried.
     progress->setRange(0, isTrying ? 0 : 1);
+    progress->setVisible(isTrying);
     ShowSeen();
     ShowSentence();
 }
@@ -131,6 +140,7 @@ void JoinDialog::ShowSeen() {
     seen->clear();
     for (const SeenSetUp& each : shown) {
         auto* item = new QListWidgetItem(ToQt(each.Name) + " at " + ToQt(each.Place), seen);
+        item->setToolTip(PlainTip(item->text()));
         item->setData(PlaceRole, ToQt(each.Place));
         if (item->data(PlaceRole) == picked) seen->setCurrentItem(item);
     }
