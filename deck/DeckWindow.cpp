@@ -2,13 +2,16 @@
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <algorithm>
 
 #include "adapters/looks/Text.h"
+#include "deck/fields/Fields.h"
 #include "deck/fields/Section.h"
+#include "deck/join/JoinDialog.h"
 #include "deck/pages/FaultsPage.h"
 #include "deck/pages/NetworkPage.h"
 #include "deck/pages/SimulatorPage.h"
@@ -67,6 +70,10 @@ DeckWindow::DeckWindow(const FarSides& farSides) : sides(farSides) {
     if (simulator || network) AddPage(*tabs, SideBySide({simulator, network}), "Fl&ight");
     if (sides.VoiceEngine) AddPage(*tabs, new VoicePage(sides), "Voice &engine");
     AddPage(*tabs, new FaultsPage(sides), "Fa&ults");
+    if (sides.Join)
+        tabs->setCornerWidget(NewButton("JoinASetUp", "&Join a set-up ...",
+                                        "Let this computer work together with others, instead of practising alone",
+                                        [this] { OpenJoinDialog(); }));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(tabs);
@@ -84,6 +91,14 @@ void DeckWindow::OpenAt(const QPoint& position) {
 
 void DeckWindow::TellOfProgram(const std::string& sentence) {
     if (simulator) simulator->TellOfProgram(ToQt(sentence));
+}
+
+void DeckWindow::OpenJoinDialog() {
+    if (!joinDialog) joinDialog = new JoinDialog(*sides.Join, this);
+    joinDialog->setAttribute(Qt::WA_DeleteOnClose);
+    joinDialog->show();
+    joinDialog->raise();
+    joinDialog->activateWindow();
 }
 
 // Hidden it could not be brought back. Minimising hides it too, as far as its events go. Closed by the program, as at

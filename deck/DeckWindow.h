@@ -4,6 +4,7 @@
 // minimises it, so that the taskbar brings it back; what is held down there is let go, and the panel lives on.
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 #include <string>
 
@@ -12,8 +13,9 @@
 namespace orvelle {
 
 namespace deck {
+class JoinDialog;
 class SimulatorPage;
-}
+}  // namespace deck
 
 class DeckWindow : public QWidget {
 public:
@@ -32,8 +34,11 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    void OpenJoinDialog();
+
     const FarSides sides;
     deck::SimulatorPage* simulator = nullptr;  // null where no simulator is played here
+    QPointer<deck::JoinDialog> joinDialog;     // null while it is closed
 };
 
 }  // namespace orvelle

@@ -5,6 +5,7 @@
 namespace orvelle {
 
 class AudioDevices;
+class JoinSide;
 class LinkSide;
 class MixerSide;
 class NetworkSide;
@@ -22,6 +23,7 @@ struct FarSides {
     MixerSide* HeadsetMixer = nullptr;
     MixerSide* SpeakersMixer = nullptr;
     TeamSpeakSide* TeamSpeak = nullptr;
+    JoinSide* Join = nullptr;
     AudioDevices* Devices = nullptr;      // there whenever the engine or a mixer is
     orvelle::Notices* Notices = nullptr;  // that the settings' trouble goes to
 };

@@ -1,0 +1,114 @@
+#include "adapters/avahi/ServiceBrowser.h"
+
+#include <avahi-common/malloc.h>
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "adapters/shared/Utf8.h"
+
+namespace orvelle::avahi {
+
+namespace {
+
+constexpr std::size_t LongestName = 255;  // bytes
+
+// What comes from the network is shown: no blanks for a host, no signs that steer a terminal.
+bool IsShowable(std::string_view text, char least) {
+    return !text.empty() && text.size() <= LongestName && IsUtf8(text) && std::ranges::all_of(text, [=](char each) {
+        return static_cast<unsigned char>(each) >= static_cast<unsigned char>(least) && each != '\x7F';
+    });
+}
+
+std::string ValueOf(AvahiStringList* texts, const char* name) {
+    AvahiStringList* const found = avahi_string_list_find(texts, name);
+    char* value = nullptr;
+    std::size_t size = 0;
+    if (found == nullptr || avahi_string_list_get_pair(found, nullptr, &value, &size) != 0 || value == nullptr)
+        return "";
+    std::string text(value, size);
+    avahi_free(value);
+    return text;
+}
+
+std::optional<FoundService> ReadService(const char* host, std::uint16_t port, AvahiStringList* texts) {
+    FoundService service{ValueOf(texts, "setup"), host != nullptr ? host : "", port};
+    while (service.Host.ends_with('.')) service.Host.pop_back();
+    if (ValueOf(texts, "version") != "1" || port == 0 || !IsShowable(service.SetUp, ' ') ||
+        !IsShowable(service.Host, '!'))
+        return std::nullopt;
+    return service;
+}
+
+}  // namespace
+
+ServiceBrowser::ServiceBrowser(EventLoop& eventLoop) : loop(eventLoop), daemon(eventLoop) {
+    daemon.Ready = [this](AvahiClient* client) { Browse(client); };
+    daemon.Lost = [this] {
+        browser = nullptr;
+        seen.clear();
+        TellLater();
+    };
+    daemon.Told = [this](const std::string& sentence) { Told(sentence); };
+    daemon.Open();
+}
+
+void ServiceBrowser::Browse(AvahiClient* client) {
+    if (browser != nullptr) return;
+    const auto follow = [](AvahiServiceBrowser* from, AvahiIfIndex interface, AvahiProtocol protocol,
+                           AvahiBrowserEvent event, const char* name, const char*, const char* domain,
+                           AvahiLookupResultFlags, void* object) {
+        auto& self = *static_cast<ServiceBrowser*>(object);
+        if (event != AVAHI_BROWSER_NEW && event != AVAHI_BROWSER_REMOVE) return;
+        const Sighting sighting(interface, protocol, name, domain);
+        if (event == AVAHI_BROWSER_NEW) return self.See(avahi_service_browser_get_client(from), sighting);
+        const auto gone = self.seen.find(sighting);
+        if (gone == self.seen.end()) return;
+        if (gone->second.Resolver != nullptr) avahi_service_resolver_free(gone->second.Resolver);
+        self.seen.erase(gone);
+        self.TellLater();
+    };
+    browser = avahi_service_browser_new(client, AVAHI_IF_UNSPEC, AVAHI_PROTO_UNSPEC, ServiceType, nullptr,
+                                        AvahiLookupFlags{}, follow, this);
+}
+
+// The resolver stays, and tells a host or a port that changes.
+void ServiceBrowser::See(AvahiClient* client, const Sighting& sighting) {
+    const auto follow = [](AvahiServiceResolver* resolver, AvahiIfIndex, AvahiProtocol, AvahiResolverEvent event,
+                           const char*, const char*, const char*, const char* host, const AvahiAddress*,
+                           std::uint16_t port, AvahiStringList* texts, AvahiLookupResultFlags, void* object) {
+        static_cast<ServiceBrowser*>(object)->Resolve(
+            resolver, event == AVAHI_RESOLVER_FOUND ? ReadService(host, port, texts) : std::nullopt);
+    };
+    const auto& [interface, protocol, name, domain] = sighting;
+    Seen& entry = seen[sighting];
+    if (entry.Resolver != nullptr) return;
+    entry.Resolver = avahi_service_resolver_new(client, interface, protocol, name.c_str(), ServiceType, domain.c_str(),
+                                                AVAHI_PROTO_UNSPEC, AVAHI_LOOKUP_NO_ADDRESS, follow, this);
+}
+
+void ServiceBrowser::Resolve(AvahiServiceResolver* resolver, std::optional<FoundService> service) {
+    for (auto& [sighting, entry] : seen)
+        if (entry.Resolver == resolver) entry.Service = std::move(service);
+    TellLater();
+}
+
+void ServiceBrowser::TellLater() {
+    telling = loop.After(0, [this] { Tell(); });
+}
+
+void ServiceBrowser::Tell() {
+    std::set<FoundService> now;
+    for (const auto& [sighting, entry] : seen)
+        if (entry.Service) now.insert(*entry.Service);
+    std::vector<FoundService> came, went;
+    std::ranges::set_difference(now, told, std::back_inserter(came));
+    std::ranges::set_difference(told, now, std::back_inserter(went));
+    told = std::move(now);
+    for (const FoundService& each : went) Went(each);
+    for (const FoundService& each : came) Came(each);
+}
+
+}  // namespace orvelle::avahi
