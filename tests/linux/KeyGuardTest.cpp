@@ -14,6 +14,11 @@ namespace {
 
 class KeyGuardTest : public KeysDownTest {
 protected:
+    static bool IsReplaced(const ChildProcess& ofPanel, pid_t first) {
+        const std::vector<pid_t> guards = GuardsOf(ofPanel);
+        return guards.size() == 1 && guards.front() != first;
+    }
+
     const std::unique_ptr<ChildProcess> owned = NewPanel();
     ChildProcess& panel = *owned;
 };
@@ -50,7 +55,7 @@ TEST_F(KeyGuardTest, IsReplacedAtOnceWhereItIsKilledFirst) {
         const pid_t first = GuardOf(*victim);
         kill(first, SIGKILL);
         // The first one is not there as a zombie either.
-        ASSERT_TRUE(WaitUntil([&] { return GuardsOf(*victim).size() == 1 && GuardsOf(*victim).front() != first; }));
+        ASSERT_TRUE(WaitUntil([&] { return IsReplaced(*victim, first); }));
         victim->Kill(SIGKILL);
         victim->Wait();
         ExpectAllReleased(&panel);
@@ -61,7 +66,7 @@ TEST_F(KeyGuardTest, IsReplacedFromTheLoopAlsoWhileNoKeyIsHeld) {
     panel.Ask("begin");
     const pid_t first = GuardOf(panel);
     kill(first, SIGKILL);
-    EXPECT_TRUE(WaitUntil([&] { return GuardsOf(panel).size() == 1 && GuardsOf(panel).front() != first; }));
+    EXPECT_TRUE(WaitUntil([&] { return IsReplaced(panel, first); }));
 }
 
 TEST_F(KeyGuardTest, KilledTogetherWithThePanelIsMadeUpForAtTheNextStart) {

@@ -32,8 +32,8 @@ std::vector<pid_t> KeysDownTest::GuardsOf(const ChildProcess& panel) { return Ch
 
 pid_t KeysDownTest::GuardOf(const ChildProcess& panel) {
     EXPECT_TRUE(WaitUntil([&] { return GuardsOf(panel).size() == 1; }));
-    const std::vector<pid_t> guards = GuardsOf(panel);
-    return guards.empty() ? -1 : guards.front();
+    // Never a number that stands for several processes, since it is to be sent signals.
+    return GuardsOf(panel).at(0);
 }
 
 void KeysDownTest::HoldThreeKeys(ChildProcess& panel) {
