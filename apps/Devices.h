@@ -20,11 +20,11 @@ namespace orvelle {
 struct DevicesSetting {
     // The files of the simulators' programs, and the names of their windows where a program can't be told.
     std::vector<std::string> Simulators = {"fgfs", "FlightGear", "X-Plane-x86_64", "X-Plane"};
-    std::string Display;      // "" is the environment's
-    std::string SessionType;  // of the desktop's session, as the environment's XDG_SESSION_TYPE: "wayland"
+    std::string Display{};      // "" is the environment's
+    std::string SessionType{};  // of the desktop's session, as the environment's XDG_SESSION_TYPE: "wayland"
     std::filesystem::path Inputs = "/dev/input";
     std::filesystem::path Sounds;  // the folder of sounds
-    std::string SoundServer;       // "" is the user's own
+    std::string SoundServer{};     // "" is the user's own
 };
 
 // Where this program's sounds lie, installed or in the build folder.
