@@ -23,7 +23,7 @@ constexpr int MostEnds = 5;                // in a row
 constexpr Long WellAgainAfter = 10'000;    // milliseconds without an end
 constexpr Long FirstPause = 100;           // before it is started again, doubled each time
 constexpr int EndMilliseconds = 3000;      // until an end is forced
-constexpr std::size_t LongestLine = 4096;  // bytes; names of clients may be longer, and count as too many then
+constexpr std::size_t LongestLine = 4096;  // bytes; the broker itself cuts its lines before
 constexpr std::size_t MostNames = 16;      // of one user; two are usual
 
 // Systems have it where a usual user's path doesn't lead.
@@ -36,10 +36,14 @@ std::string FindMosquitto() {
     return "";
 }
 
+std::string CantBeStarted() {
+    return "The broker mosquitto can't be started: " + std::generic_category().message(errno) + ".";
+}
+
 // Between fork and exec: nothing but system calls, since other threads may have held locks.
 [[noreturn]] void Become(char* const* arguments, int errors, pid_t parent) {
     // It must not outlive us. Whoever died before this was said is not told of any more.
-    if (prctl(PR_SET_PDEATHSIG, SIGTERM) != 0 || getppid() != parent) _exit(127);
+    if (prctl(PR_SET_PDEATHSIG, SIGKILL) != 0 || getppid() != parent) _exit(127);
     // What ends us by the terminal must not end it before us.
     setsid();
     sigset_t none;
@@ -64,20 +68,20 @@ std::string BrokerChild::Start() {
     std::string option = "-c";
     std::string name = configuration.string();
     const std::array<char*, 4> arguments{file.data(), option.data(), name.data(), nullptr};
-    std::array<int, 2> ends2{};
-    if (pipe2(ends2.data(), O_CLOEXEC | O_NONBLOCK) != 0) return "The broker can't be started: " + Reason() + ".";
-    errors = FileDescriptor(ends2[0]);
-    const FileDescriptor theirs(ends2[1]);
+    std::array<int, 2> pipeEnds{};
     // A pipe without room loses what is said; the broker must not wait for us.
+    if (pipe2(pipeEnds.data(), O_CLOEXEC | O_NONBLOCK) != 0) return CantBeStarted();
+    errors = FileDescriptor(pipeEnds[0]);
+    const FileDescriptor theirs(pipeEnds[1]);
     const pid_t parent = getpid();
     process = fork();
     if (process == 0) Become(arguments.data(), theirs.Number(), parent);
-    if (process < 0)
-        return "The broker can't be started: " + std::generic_category().message(errno) + ".";
+    if (process < 0) return CantBeStarted();
     end = FileDescriptor(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
     part.clear();
     problem.clear();
     clients.clear();
+    isSomebodyUnknown = false;
     readable = loop.WhenReadable(errors.Number(), [this] { Read(); });
     ended = loop.WhenReadable(end.Number(), [this] { Ended(); });
     return "";
@@ -107,15 +111,17 @@ void BrokerChild::Reload() {
 
 BrokerChild::ClientNames BrokerChild::ClientsOf(const std::string& user) const {
     const auto found = clients.find(user);
-    return found == clients.end() ? ClientNames{} : found->second;
+    ClientNames names = found == clients.end() ? ClientNames{} : found->second;
+    names.TooMany = names.TooMany || isSomebodyUnknown;
+    return names;
 }
 
-void BrokerChild::Read() {
+bool BrokerChild::Read() {
     std::array<char, 4096> bytes{};
     const ssize_t count = read(errors.Number(), bytes.data(), bytes.size());
     if (count <= 0) {
         if (count == 0) readable.End();
-        return;
+        return false;
     }
     const pid_t before = process;
     part.append(bytes.data(), static_cast<std::size_t>(count));
@@ -124,7 +130,8 @@ void BrokerChild::Read() {
         part.erase(0, feed + 1);
         TakeLine(line);
     }
-    if (part.size() > LongestLine) part.erase(0, part.size() - LongestLine);
+    if (part.size() > LongestLine) part.clear();
+    return process == before;
 }
 
 void BrokerChild::TakeLine(const std::string& line) {
@@ -145,8 +152,10 @@ void BrokerChild::TakeClient(const std::string& line) {
     const std::size_t rest = line.rfind(" (p");
     const std::size_t user = line.rfind("u'");
     if (name == std::string::npos || rest == std::string::npos || user == std::string::npos || user < rest ||
-        !line.ends_with("')."))
+        !line.ends_with("').")) {
+        isSomebodyUnknown = true;
         return;
+    }
     ClientNames& known = clients[line.substr(user + 2, line.size() - 3 - user - 2)];
     if (known.Names.size() < MostNames)
         known.Names.insert(line.substr(name + 4, rest - name - 4));
@@ -155,10 +164,7 @@ void BrokerChild::TakeClient(const std::string& line) {
 }
 
 void BrokerChild::Ended() {
-    for (std::size_t before = std::string::npos; readable.IsAttached() && before != part.size();) {
-        before = part.size();
-        Read();
-    }
+    while (Read()) continue;
     ended.End();
     readable.End();
     waitpid(std::exchange(process, -1), nullptr, 0);

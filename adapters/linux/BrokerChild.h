@@ -34,8 +34,8 @@ public:
     void Reload();
 
     bool Serves() const { return serves; }
-    // Under which names a user has come since the broker runs. Empty with `TooMany` for somebody who changes them again
-    // and again.
+    // Under which names a user has come since the broker runs. `TooMany` if there may be more, as for
+    // somebody who changes them again and again.
     struct ClientNames {
         std::set<std::string> Names;
         bool TooMany = false;
@@ -48,7 +48,7 @@ public:
     Event<const std::string&> GaveUp;   // one sentence: it can't be had
 
 private:
-    void Read();
+    bool Read();
     void TakeLine(const std::string& line);
     void TakeClient(const std::string& line);
     void Ended();
@@ -64,6 +64,7 @@ private:
     std::string problem;    // the last line that told of an error
     int ends = 0;           // by itself, in a row
     std::map<std::string, ClientNames> clients;
+    bool isSomebodyUnknown = false;  // whose name was too long to be told
     Ticket ended, readable, again, wellAgain;
 };
 

@@ -32,15 +32,9 @@ fs::path SettingFile(const fs::path& folder) { return folder / "set-up.json"; }
 class ChangeLock {
 public:
     explicit ChangeLock(const fs::path& folder) {
-        std::error_code error;
-        fs::create_directories(folder.parent_path(), error);
-        if (mkdir(folder.c_str(), S_IRWXU) != 0 && errno != EEXIST) return Fail(folder);
-        // Also where it was made by other hands, or under a strange umask.
-        if (chmod(folder.c_str(), S_IRWXU) != 0) return Fail(folder);
-        descriptor = open((folder / "changes.lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-        if (descriptor < 0) return Fail(folder);
-        while (flock(descriptor, LOCK_EX) != 0)
-            if (errno != EINTR) return Fail(folder);
+        if (!Take(folder))
+            sentence =
+                "The folder " + folder.string() + " can't be written: " + std::generic_category().message(errno) + ".";
     }
     ChangeLock(const ChangeLock&) = delete;
     ChangeLock& operator=(const ChangeLock&) = delete;
@@ -51,9 +45,17 @@ public:
     const std::string& Sentence() const { return sentence; }
 
 private:
-    void Fail(const fs::path& folder) {
-        sentence =
-            "The folder " + folder.string() + " can't be written: " + std::generic_category().message(errno) + ".";
+    bool Take(const fs::path& folder) {
+        std::error_code error;
+        fs::create_directories(folder.parent_path(), error);
+        if (mkdir(folder.c_str(), S_IRWXU) != 0 && errno != EEXIST) return false;
+        // Also where it was made under a strange umask.
+        if (chmod(folder.c_str(), S_IRWXU) != 0) return false;
+        descriptor = open((folder / "changes.lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+        if (descriptor < 0) return false;
+        while (flock(descriptor, LOCK_EX) != 0)
+            if (errno != EINTR) return false;
+        return true;
     }
 
     int descriptor = -1;
