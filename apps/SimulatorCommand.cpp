@@ -1,0 +1,117 @@
+#include "apps/SimulatorCommand.h"
+
+#include <charconv>
+#include <cstdlib>
+#include <string_view>
+
+#include "adapters/mqtt/Topics.h"
+
+namespace orvelle {
+
+namespace {
+
+using Task = SimulatorCommand::Task;
+
+std::string Variable(const char* name) {
+    const char* const value = std::getenv(name);
+    return value ? value : "";
+}
+
+// The same that Qt calls GenericDataLocation, without Qt.
+std::filesystem::path UsualData() {
+    const std::string folder = Variable("XDG_DATA_HOME");
+    if (folder.starts_with('/')) return std::filesystem::path(folder) / "OrvelleCP";
+    return std::filesystem::path(Variable("HOME")) / ".local/share/OrvelleCP";
+}
+
+// 0 for none.
+int PortOf(std::string_view text) {
+    int port = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), port);
+    return error == std::errc() && end == text.data() + text.size() && port >= 1 && port <= 65535 ? port : 0;
+}
+
+// HOST, HOST:PORT, [ADDRESS]:PORT; an address with several colons has no port.
+bool TakeHost(std::string_view text, SimulatorCommand& command) {
+    std::string_view host = text;
+    const std::size_t colon = text.rfind(':');
+    const bool isBracketed = text.starts_with('[');
+    if (colon != std::string_view::npos && (isBracketed ? text[colon - 1] == ']' : text.find(':') == colon)) {
+        host = text.substr(0, colon);
+        command.Port = PortOf(text.substr(colon + 1));
+        if (command.Port == 0) return false;
+    }
+    if (isBracketed) {
+        if (!host.ends_with(']')) return false;
+        host = host.substr(1, host.size() - 2);
+    }
+    command.Host = host;
+    return !host.empty() && host.find_first_of(" \t\n") == std::string_view::npos;
+}
+
+std::optional<Task> TaskOf(std::string_view word) {
+    if (word == "--add") return Task::Add;
+    if (word == "--list") return Task::List;
+    if (word == "--remove") return Task::Remove;
+    if (word == "--no-window") return Task::ServeWithoutWindow;
+    if (word == "--help") return Task::Help;
+    if (word == "--version") return Task::Version;
+    return std::nullopt;
+}
+
+}  // namespace
+
+const char* SimulatorCommand::Help() {
+    return R"(orvelle-sim: the simulator's computer of a set-up of several computers
+
+It makes the set-up at its first start, brings the broker, and serves until it is ended.
+
+  orvelle-sim [OPTION...]     serve
+  orvelle-sim --no-window     serve without a display
+  orvelle-sim --add           add a computer; prints the code to type on it, alone on one line
+  orvelle-sim --list          print the computers: identity, name or "-", "there" or "away", parted by tabs
+  orvelle-sim --remove c07    take a computer out of the set-up; it is cut off at once
+  orvelle-sim --help, --version
+
+  --data FOLDER               keep everything in this folder (usually ~/.local/share/OrvelleCP)
+  --port N                    the broker's port from now on (8883 at first)
+  --host HOST[:PORT]          use the broker that runs there instead of bringing one; it needs the keys and the
+                              access list that lie in FOLDER/broker
+
+--add, --list and --remove work beside a running orvelle-sim or without one.
+Exit status: 0, or 1 with one line on standard error.
+)";
+}
+
+ReadCommand ReadSimulatorCommand(int count, const char* const* words) {
+    SimulatorCommand command;
+    command.Data = UsualData();
+    bool hasTask = false;
+    for (int index = 1; index < count; ++index) {
+        const std::string_view word = words[index];
+        const auto value = [&] { return std::string_view(index + 1 < count ? words[++index] : ""); };
+        if (const std::optional<Task> task = TaskOf(word)) {
+            if (hasTask) return {std::nullopt, "one task at a time"};
+            hasTask = true;
+            command.What = *task;
+            if (task != Task::Remove) continue;
+            const std::string_view identity = value();
+            command.Identity = mqtt::ReadIdentity(identity).value_or(0);
+            if (command.Identity == 0)
+                return {std::nullopt, "\"" + std::string(identity) + "\" is no computer; they are c01 to c99"};
+        } else if (word == "--data") {
+            command.Data = value();
+            if (command.Data.empty()) return {std::nullopt, "--data needs a folder"};
+        } else if (word == "--port") {
+            command.Port = PortOf(value());
+            if (command.Port == 0) return {std::nullopt, "--port needs a number from 1 to 65535"};
+        } else if (word == "--host") {
+            if (!TakeHost(value(), command)) return {std::nullopt, "--host needs HOST or HOST:PORT"};
+        } else {
+            return {std::nullopt, "\"" + std::string(word) + "\" is not understood; --help tells what is"};
+        }
+    }
+    return {command, ""};
+}
+
+}  // namespace orvelle

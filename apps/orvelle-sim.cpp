@@ -1,0 +1,65 @@
+// The program of the simulator's computer: it makes a set-up of several computers, brings its broker and serves it.
+#include <cstdlib>
+#include <iostream>
+
+#include "adapters/linux/PollEventLoop.h"
+#include "adapters/linux/TerminationSignals.h"
+#include "apps/SimulatorErrands.h"
+#include "apps/SimulatorProgram.h"
+
+using namespace orvelle;
+
+namespace {
+
+void Say(const std::string& sentence) { std::cerr << "orvelle-sim: " << sentence << std::endl; }
+
+// No toolkit is loaded on this way. Its end is an orderly one also where a signal asks for it.
+int ServeWithoutWindow(linux::TerminationSignals& endings, const SimulatorCommand& command) {
+    linux::PollEventLoop loop;
+    SimulatorProgram program(loop, command);
+    int status = EXIT_SUCCESS;
+    program.Told = Say;
+    program.Ends = [&](const std::string& sentence) {
+        Say(sentence);
+        status = EXIT_FAILURE;
+        loop.Stop();
+    };
+    if (const std::string sentence = program.Open(); !sentence.empty()) {
+        Say(sentence);
+        return EXIT_FAILURE;
+    }
+    const Ticket ended = loop.WhenReadable(endings.Descriptor(), [&] {
+        if (endings.Take() != 0) loop.Stop();
+    });
+    loop.Run();
+    program.Close();
+    return status;
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+    linux::TerminationSignals endings;
+    const auto [command, sentence] = ReadSimulatorCommand(count, words);
+    if (!command) {
+        Say(sentence);
+        return EXIT_FAILURE;
+    }
+    using Task = SimulatorCommand::Task;
+    switch (command->What) {
+        case Task::Help:
+            std::cout << SimulatorCommand::Help();
+            return EXIT_SUCCESS;
+        case Task::Version:
+            std::cout << "orvelle-sim " ORVELLE_VERSION "\n";
+            return EXIT_SUCCESS;
+        case Task::Add:
+        case Task::List:
+        case Task::Remove:
+            return RunErrand(*command);
+        case Task::Serve:  // the window is joined here
+        case Task::ServeWithoutWindow:
+            return ServeWithoutWindow(endings, *command);
+    }
+    return EXIT_FAILURE;
+}

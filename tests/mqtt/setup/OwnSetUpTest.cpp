@@ -1,0 +1,101 @@
+// The set-up that a computer makes, as it is kept in a folder.
+#include "adapters/mqtt/OwnSetUp.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <fstream>
+#include <sstream>
+
+namespace orvelle::mqtt {
+namespace {
+
+namespace fs = std::filesystem;
+
+class OwnSetUpTest : public testing::Test {
+protected:
+    OwnSetUpTest() {
+        std::string pattern = fs::temp_directory_path() / "orvelle-own-XXXXXX";
+        data = mkdtemp(pattern.data());
+    }
+    ~OwnSetUpTest() override { fs::remove_all(data); }
+
+    std::string Text(const char* name) const {
+        std::ostringstream text;
+        text << std::ifstream(data / name).rdbuf();
+        return text.str();
+    }
+    void Write(const char* name, const std::string& text) const { std::ofstream(data / name) << text; }
+
+    fs::path data;
+};
+
+TEST_F(OwnSetUpTest, FilesAreTheirUsersAloneWhateverTheUmask) {
+    const mode_t before = umask(0);
+    const OwnSetUp setUp(data / "deep" / "folder");
+    const auto made = setUp.ReadOrMake("Home", 0);
+    umask(before);
+    ASSERT_TRUE(made.Setting) << made.Sentence;
+    EXPECT_EQ(fs::status(setUp.Folder()).permissions(), fs::perms::owner_all);
+    for (const char* name : {"keys", "access", "mosquitto.conf", "set-up.json"})
+        EXPECT_EQ(fs::status(setUp.Folder() / name).permissions(), fs::perms::owner_read | fs::perms::owner_write)
+            << name;
+}
+
+TEST_F(OwnSetUpTest, ComputersAreAddedUntilItIsFullAndAFreedNumberIsTheNext) {
+    const OwnSetUp setUp(data);
+    ASSERT_TRUE(setUp.ReadOrMake("Home", 0).Setting);
+    for (int number = 2; number <= 99; ++number) {
+        const auto added = setUp.Add();
+        ASSERT_TRUE(added.Code) << added.Sentence;
+        ASSERT_EQ(added.Code->Number, number);
+    }
+    EXPECT_NE(setUp.Add().Sentence.find("full"), std::string::npos);
+    const Key before = setUp.Read().Setting->Keys.at(7);
+    EXPECT_EQ(setUp.Remove(7), "");
+    EXPECT_NE(setUp.Remove(7), "");
+    EXPECT_NE(setUp.Remove(1), "");
+    const auto again = setUp.Add();
+    ASSERT_TRUE(again.Code);
+    EXPECT_EQ(again.Code->Number, 7);
+    EXPECT_NE(again.Code->Key, before);
+    EXPECT_EQ(setUp.Read().Setting->Keys.size(), 99U);
+    EXPECT_NE(Text("broker/keys").find("c07:" + WriteKey(again.Code->Key) + "\n"), std::string::npos);
+}
+
+TEST_F(OwnSetUpTest, ADamagedFileIsToldAndLeftAlone) {
+    const OwnSetUp setUp(data);
+    ASSERT_TRUE(setUp.ReadOrMake("Home", 0).Setting);
+    const std::string whole = Text("broker/set-up.json");
+    for (const std::string& damaged : {std::string(), whole.substr(0, whole.size() / 2), std::string("{}")}) {
+        Write("broker/set-up.json", damaged);
+        EXPECT_NE(setUp.ReadOrMake("Home", 0).Sentence, "");
+        EXPECT_NE(setUp.Add().Sentence, "");
+        EXPECT_NE(setUp.Remove(2), "");
+        EXPECT_EQ(Text("broker/set-up.json"), damaged);
+    }
+}
+
+TEST_F(OwnSetUpTest, ASetUpFileOfAnotherSetUpIsNotOverwritten) {
+    const OwnSetUp setUp(data);
+    const auto made = setUp.ReadOrMake("Home", 0);
+    ASSERT_TRUE(made.Setting);
+    for (const std::string& other : {WriteSetUp({"Club", "elsewhere", 8883, 5, Key{}}), std::string("{damaged")}) {
+        Write("setup.json", other);
+        EXPECT_NE(setUp.JoinThisComputer(*made.Setting, "localhost", 8883), "");
+        EXPECT_EQ(Text("setup.json"), other);
+    }
+    fs::remove(data / "setup.json");
+    EXPECT_EQ(setUp.JoinThisComputer(*made.Setting, "localhost", 8883), "");
+    EXPECT_EQ(setUp.OfThisComputer(*made.Setting)->Host, "localhost");
+    EXPECT_EQ(setUp.JoinThisComputer(*made.Setting, "simpc", 8884), "");
+    EXPECT_EQ(setUp.OfThisComputer(*made.Setting)->Port, 8884);
+}
+
+TEST_F(OwnSetUpTest, ADataFolderThatCannotBeMadeIsTold) {
+    Write("file", "");
+    EXPECT_NE(OwnSetUp(data / "file").ReadOrMake("Home", 0).Sentence, "");
+}
+
+}  // namespace
+}  // namespace orvelle::mqtt
