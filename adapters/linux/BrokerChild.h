@@ -60,6 +60,7 @@ private:
     FileDescriptor end;     // of the process
     FileDescriptor errors;  // its standard error
     bool serves = false;
+    bool reloads = false;   // when it serves
     std::string part;       // of a line
     std::string problem;    // the last line that told of an error
     int ends = 0;           // by itself, in a row
