@@ -96,7 +96,8 @@ void SimulatorProgram::CutOff() {
         std::vector<std::string> names(known.Names.begin(), known.Names.end());
         // Of an existing broker's clients the usual names are known.
         if (!command.Host.empty())
-            names = {mqtt::ClientId(identity, mqtt::Program::Panel), mqtt::ClientId(identity, mqtt::Program::Simulator)};
+            names = {mqtt::ClientId(identity, mqtt::Program::Panel),
+                     mqtt::ClientId(identity, mqtt::Program::Simulator)};
         restarts = restarts || known.TooMany;
         if (!names.empty()) ending.push_back(std::make_unique<mqtt::ClientsEnd>(loop, own, names));
     }

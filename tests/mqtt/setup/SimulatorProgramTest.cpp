@@ -109,7 +109,8 @@ TEST_F(SimulatorProgramTest, NobodyComesWithoutAKeyOfTheSetUp) {
     PlayedMember withUnknownName(loop, unknown, Program::Panel);
     EXPECT_TRUE(Until([&] { return withWrongKey.AtBroker.Trouble() == BrokerTrouble::Refused; }));
     EXPECT_TRUE(Until([&] { return withUnknownName.AtBroker.Trouble() == BrokerTrouble::Refused; }));
-    linux::ChildProcess withNoKey({"mosquitto_pub", "-h", "127.0.0.1", "-p", std::to_string(port), "-t", "a", "-m", "b"});
+    linux::ChildProcess withNoKey(
+        {"mosquitto_pub", "-h", "127.0.0.1", "-p", std::to_string(port), "-t", "a", "-m", "b"});
     EXPECT_NE(withNoKey.Wait(), 0);
 }
 
