@@ -8,7 +8,7 @@ Outside::Outside(EventLoop& loop, ControlValues& controlValues, const ComputerNa
       brokers(loop,
               [thisComputer] {
                   return mqtt::PresenceSetting{
-                      .Name = thisComputer.Name, .Address = "", .Desktop = thisComputer.WindowSystem};
+                      .Name = thisComputer.Name, .Address = "", .Desktop = thisComputer.Desktop};
               }),
       simulatorLine(loop, brokers),
       frameworkLine(loop, brokers),

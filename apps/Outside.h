@@ -18,7 +18,7 @@ namespace orvelle {
 // This computer as it is told to the others of a set-up, and to the panel.
 struct ComputerNames {
     std::string Name;
-    std::string WindowSystem;
+    std::string Desktop;
 };
 
 class Outside {

@@ -16,7 +16,7 @@ constexpr Long LongestLastWord = 30000;  // milliseconds
 PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile)
     : Settings(process, loop, settingsFile),
       Computer(process, loop, Settings.Store),
-      Outside(loop, Settings.Store, {Computer.Name(), process.WindowSystem()}, Computer.TeamSpeak()),
+      Outside(loop, Settings.Store, {Computer.Name(), ThisComputer::DesktopName}, Computer.TeamSpeak()),
       Panel(Platform{
           .Velmarc = Outside.Velmarc,
           .Settings = Settings.Store,

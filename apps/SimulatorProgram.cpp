@@ -37,8 +37,6 @@ SimulatorProgram::SimulatorProgram(EventLoop& eventLoop, const SimulatorCommand&
     Simulator.SetLink(LinkState::Up);
     Network.SetLink(LinkState::Up);
     broker.Served = [this] {
-        // What was changed while it started it may have read before.
-        broker.Reload();
         if (AtBroker.Identity() == 0) AtBroker.Open(own);
     };
     broker.Reloaded = [this] { CutOff(); };

@@ -36,6 +36,7 @@ public:
     orvelle::Registry& Registry();
     TeamSpeakRemote* TeamSpeak();  // its own remote control; null where that is not there
     std::string Name() const;
+    static const char* const DesktopName;  // as the other computers are told
     // Tells by FileChanged when that file comes, changes or goes, from now on.
     void WatchFile(const std::string& file);
     // Opens the door by which other programs' messages reach the control's window.

@@ -106,7 +106,11 @@ void BrokerChild::Restart() {
 }
 
 void BrokerChild::Reload() {
-    if (serves) kill(process, SIGHUP);
+    // It may have read the keys already, and would not live through a signal, while it starts.
+    if (!serves)
+        reloads = true;
+    else
+        kill(process, SIGHUP);
 }
 
 BrokerChild::ClientNames BrokerChild::ClientsOf(const std::string& user) const {
@@ -142,6 +146,7 @@ void BrokerChild::TakeLine(const std::string& line) {
         serves = true;
         wellAgain = loop.After(WellAgainAfter, [this] { ends = 0; });
         Served();
+        if (std::exchange(reloads, false)) Reload();
     }
 }
 

@@ -42,10 +42,10 @@ public:
     };
     ClientNames ClientsOf(const std::string& user) const;
 
-    Event<> Served;                     // connections are taken from now on
-    Event<> Reloaded;                   // the keys are those of the file
-    Event<const std::string&> Told;     // one sentence for the user: it ended and is started again
-    Event<const std::string&> GaveUp;   // one sentence: it can't be had
+    Event<> Served;                    // connections are taken from now on
+    Event<> Reloaded;                  // the keys are those of the file
+    Event<const std::string&> Told;    // one sentence for the user: it ended and is started again
+    Event<const std::string&> GaveUp;  // one sentence: it can't be had
 
 private:
     bool Read();
@@ -60,9 +60,10 @@ private:
     FileDescriptor end;     // of the process
     FileDescriptor errors;  // its standard error
     bool serves = false;
-    std::string part;       // of a line
-    std::string problem;    // the last line that told of an error
-    int ends = 0;           // by itself, in a row
+    bool reloads = false;  // when it serves
+    std::string part;      // of a line
+    std::string problem;   // the last line that told of an error
+    int ends = 0;          // by itself, in a row
     std::map<std::string, ClientNames> clients;
     bool isSomebodyUnknown = false;  // whose name was too long to be told
     Ticket ended, readable, again, wellAgain;

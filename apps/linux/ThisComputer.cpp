@@ -45,6 +45,8 @@ struct ThisComputer::Parts {
     Ticket ProcessesReady;
 };
 
+const char* const ThisComputer::DesktopName = "X11";
+
 ThisComputer::ThisComputer(ThisProcess& process, EventLoop& loop, orvelle::Registry& keptRegistry)
     : parts(std::make_unique<Parts>(loop, keptRegistry)) {
     // A held key is then told from one that is struck again and again.
