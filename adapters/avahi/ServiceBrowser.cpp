@@ -90,8 +90,9 @@ void ServiceBrowser::See(AvahiClient* client, const Sighting& sighting) {
 }
 
 void ServiceBrowser::Resolve(AvahiServiceResolver* resolver, std::optional<FoundService> service) {
-    for (auto& [sighting, entry] : seen)
-        if (entry.Resolver == resolver) entry.Service = std::move(service);
+    const auto of = std::ranges::find_if(seen, [=](const auto& each) { return each.second.Resolver == resolver; });
+    if (of == seen.end()) return;
+    of->second.Service = std::move(service);
     TellLater();
 }
 
