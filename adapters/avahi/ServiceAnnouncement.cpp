@@ -26,7 +26,7 @@ std::string FirstBytes(std::string text, std::size_t most) {
 
 }  // namespace
 
-ServiceAnnouncement::ServiceAnnouncement(EventLoop& eventLoop, std::string setUpName, int brokerPort)
+ServiceAnnouncement::ServiceAnnouncement(EventLoop& eventLoop, const std::string& setUpName, int brokerPort)
     : setUp(FirstBytes(ToUtf8(setUpName), LongestSetUp)),
       port(brokerPort),
       instance(FirstBytes(setUp, LongestInstance)),

@@ -14,7 +14,7 @@ namespace orvelle::avahi {
 class ServiceAnnouncement {
 public:
     // The port is the broker's, 1 to 65535. A name that is too long for the network is cut.
-    ServiceAnnouncement(EventLoop& eventLoop, std::string setUpName, int brokerPort);
+    ServiceAnnouncement(EventLoop& eventLoop, const std::string& setUpName, int brokerPort);
     ServiceAnnouncement(const ServiceAnnouncement&) = delete;
     ServiceAnnouncement& operator=(const ServiceAnnouncement&) = delete;
 

@@ -3,6 +3,7 @@
 #include <avahi-common/malloc.h>
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -90,8 +91,9 @@ void ServiceBrowser::See(AvahiClient* client, const Sighting& sighting) {
 }
 
 void ServiceBrowser::Resolve(AvahiServiceResolver* resolver, std::optional<FoundService> service) {
-    for (auto& [sighting, entry] : seen)
-        if (entry.Resolver == resolver) entry.Service = std::move(service);
+    const auto of = std::ranges::find_if(seen, [=](const auto& each) { return each.second.Resolver == resolver; });
+    if (of == seen.end()) return;
+    of->second.Service = std::move(service);
     TellLater();
 }
 
@@ -104,8 +106,8 @@ void ServiceBrowser::Tell() {
     for (const auto& [sighting, entry] : seen)
         if (entry.Service) now.insert(*entry.Service);
     std::vector<FoundService> came, went;
-    std::ranges::set_difference(now, told, std::back_inserter(came));
-    std::ranges::set_difference(told, now, std::back_inserter(went));
+    std::set_difference(now.begin(), now.end(), told.begin(), told.end(), std::back_inserter(came));
+    std::set_difference(told.begin(), told.end(), now.begin(), now.end(), std::back_inserter(went));
     told = std::move(now);
     for (const FoundService& each : went) Went(each);
     for (const FoundService& each : came) Came(each);

@@ -5,7 +5,6 @@
 
 #include <avahi-client/lookup.h>
 
-#include <compare>
 #include <map>
 #include <optional>
 #include <set>
@@ -22,7 +21,10 @@ struct FoundService {
     std::string SetUp;  // its name
     std::string Host;   // without the last dot
     int Port = 0;
-    auto operator<=>(const FoundService&) const = default;
+    bool operator==(const FoundService&) const = default;
+    bool operator<(const FoundService& other) const {
+        return std::tie(SetUp, Host, Port) < std::tie(other.SetUp, other.Host, other.Port);
+    }
 };
 
 class ServiceBrowser {

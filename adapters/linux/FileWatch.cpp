@@ -28,7 +28,7 @@ bool IsSame(const struct stat& one, const struct stat& other) {
 
 }  // namespace
 
-FileWatch::FileWatch(EventLoop& eventLoop, fs::path watchedFile)
+FileWatch::FileWatch(EventLoop& eventLoop, const fs::path& watchedFile)
     : loop(eventLoop),
       file(fs::absolute(watchedFile).lexically_normal()),
       events(inotify_init1(IN_CLOEXEC | IN_NONBLOCK)) {

@@ -17,7 +17,7 @@ namespace orvelle::linux {
 
 class FileWatch {
 public:
-    FileWatch(EventLoop& eventLoop, std::filesystem::path watchedFile);
+    FileWatch(EventLoop& eventLoop, const std::filesystem::path& watchedFile);
     FileWatch(const FileWatch&) = delete;
     FileWatch& operator=(const FileWatch&) = delete;
 
