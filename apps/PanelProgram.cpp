@@ -38,6 +38,7 @@ PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile
           .Tray = Desktop.Tray,
           .Urls = urlFunctions,
       }),
+      joining(loop, std::filesystem::path(settingsFile).parent_path()),
       setUpFile(std::filesystem::path(settingsFile).parent_path() / "setup.json") {
     Desktop.Show(Panel);
     Computer.OpenDoor(Desktop.Table, Panel.Stub1);
@@ -92,7 +93,11 @@ void PanelProgram::ShowDeckWherePractising() {
     if (!isOpen) return;
     if (!Outside.IsPractising()) {
         ownStrokes.reset();
-        Deck.reset();
+        // Its window for joining may be what has just joined.
+        if (Deck) {
+            Deck->hide();
+            Deck.release()->deleteLater();
+        }
     } else if (!Deck) {
         OpenDeck();
     }
@@ -101,6 +106,7 @@ void PanelProgram::ShowDeckWherePractising() {
 void PanelProgram::OpenDeck() {
     FarSides sides = Outside.Practice.Sides();
     sides.Notices = &Settings.Notices;
+    sides.Join = &joining;
     Deck = std::make_unique<DeckWindow>(sides);
     ownStrokes = std::make_unique<OwnStrokes>(Computer, *Deck);
     for (const std::string& sentence : std::exchange(untold, {})) TellOfProgram(sentence);

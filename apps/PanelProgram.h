@@ -13,6 +13,7 @@
 #include "apps/Desktop.h"
 #include "apps/Outside.h"
 #include "apps/OwnStrokes.h"
+#include "apps/SetUpDesk.h"
 #include "apps/ThisComputer.h"
 #include "apps/UserSettings.h"
 #include "deck/DeckWindow.h"
@@ -47,6 +48,7 @@ private:
     void OpenDeck();
     void TellOfProgram(const std::string& sentence);
 
+    SetUpDesk joining;                       // for the deck
     const std::filesystem::path setUpFile;   // by which this computer belongs to a set-up
     std::unique_ptr<OwnStrokes> ownStrokes;  // kept out of the deck
     std::vector<std::string> untold;         // of programs and what they shall not be told, until there is a deck

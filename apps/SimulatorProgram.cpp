@@ -38,6 +38,7 @@ SimulatorProgram::SimulatorProgram(EventLoop& eventLoop, const SimulatorCommand&
     Network.SetLink(LinkState::Up);
     broker.Served = [this] {
         if (AtBroker.Identity() == 0) AtBroker.Open(own);
+        Announce();
     };
     broker.Reloaded = [this] { CutOff(); };
     broker.Told = [this](const std::string& sentence) { Told(sentence); };
@@ -68,6 +69,13 @@ void SimulatorProgram::Close() {
     ending.clear();
     AtBroker.Close();
     broker.Stop();
+}
+
+// From when the broker serves for the first time.
+void SimulatorProgram::Announce() {
+    if (announcement) return;
+    announcement.emplace(loop, setting->Name, setting->Port);
+    announcement->Told = [this](const std::string& sentence) { Told(sentence); };
 }
 
 // Another process added or removed computers. Its files are written already.

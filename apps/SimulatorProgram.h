@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "adapters/avahi/ServiceAnnouncement.h"
 #include "adapters/linux/BrokerChild.h"
 #include "adapters/linux/FileWatch.h"
 #include "adapters/linux/InstanceLock.h"
@@ -43,7 +44,7 @@ public:
     Event<> ComputersChanged;        // one was added or removed
 
 private:
-    std::string StartBroker();
+    void Announce();
     void TakeUp();
     void CutOff();
     void TellOfDevices();
@@ -51,6 +52,7 @@ private:
     const SimulatorCommand command;
     linux::InstanceLock lock;
     linux::BrokerChild broker;
+    std::optional<avahi::ServiceAnnouncement> announcement;
     std::optional<linux::FileWatch> watch;
     std::optional<mqtt::OwnSetting> setting;
     mqtt::SetUpSetting own;

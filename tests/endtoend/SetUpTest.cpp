@@ -1,4 +1,5 @@
 // A whole panel that has joined a set-up, whose simulator's computer is played by a shell script.
+#include <csignal>
 #include <memory>
 
 #include "tests/endtoend/PanelTest.h"
@@ -61,7 +62,8 @@ TEST_F(SetUpTest, ASimulatorsComputerThatIsKilledHoldsNothingHere) {
     ASSERT_TRUE(ComesTrue([this] { return panel.Variables().ActiveVoiceSoftware == RogerWilco; }));
     simulator->WriteLine(R"(["F8"] [])");
     ASSERT_TRUE(ComesTrue([this] { return user.SeesDown(TalkKey); }));
-    simulator.reset();
+    // With all that it has started.
+    kill(-simulator->Id(), SIGKILL);
     EXPECT_TRUE(ComesTrue([this] { return !user.SeesDown(TalkKey); }));
     EXPECT_TRUE(ComesTrue([this] { return !panel.Panels(4).Enabled; }));
 }
