@@ -121,6 +121,7 @@ void SimulatorProgram::TellOfDevices() {
     const std::vector<std::string> before = std::exchange(toldOfDevices, Devices.Problems());
     for (const std::string& sentence : toldOfDevices)
         if (std::ranges::find(before, sentence) == before.end()) Told(sentence);
+    DevicesChanged();
 }
 
 }  // namespace orvelle

@@ -42,6 +42,7 @@ public:
     Event<const std::string&> Told;  // a sentence for the user
     Event<const std::string&> Ends;  // it can't go on, for the reason of that sentence
     Event<> ComputersChanged;        // one was added or removed
+    Event<> DevicesChanged;
 
 private:
     void Announce();

@@ -1,7 +1,10 @@
 // The program of the simulator's computer: it makes a set-up of several computers, brings its broker and serves it.
+#include <unistd.h>
+
 #include <cstdlib>
 #include <iostream>
 
+#include "adapters/linux/OwnFile.h"
 #include "adapters/linux/PollEventLoop.h"
 #include "adapters/linux/TerminationSignals.h"
 #include "apps/SimulatorErrands.h"
@@ -36,6 +39,13 @@ int ServeWithoutWindow(linux::TerminationSignals& endings, const SimulatorComman
     return status;
 }
 
+// The one with a window is a program of its own, beside this one. It returns where there is none, or no display.
+void BecomeProgramWithWindow(char** words) {
+    if (std::getenv("DISPLAY") == nullptr) return Say("There is no display, so it serves without a window.");
+    execv(linux::BesideOwnFile("orvelle-sim-window").c_str(), words);
+    Say("Its window is not installed, so it serves without one.");
+}
+
 }  // namespace
 
 int main(int count, char** words) {
@@ -57,7 +67,9 @@ int main(int count, char** words) {
         case Task::List:
         case Task::Remove:
             return RunErrand(*command);
-        case Task::Serve:  // the window is joined here
+        case Task::Serve:
+            BecomeProgramWithWindow(words);
+            [[fallthrough]];
         case Task::ServeWithoutWindow:
             return ServeWithoutWindow(endings, *command);
     }

@@ -1,0 +1,60 @@
+// The simulator's program with its window; orvelle-sim becomes it where there is a display.
+#include <QMessageBox>
+#include <iostream>
+
+#include "adapters/linux/TerminationSignals.h"
+#include "adapters/looks/Text.h"
+#include "adapters/looks/Theme.h"
+#include "adapters/qt/services/Application.h"
+#include "adapters/qt/services/QtEventLoop.h"
+#include "adapters/x11/Display.h"
+#include "apps/SimulatorProgram.h"
+#include "apps/SimulatorWindow.h"
+
+using namespace orvelle;
+
+namespace {
+
+[[noreturn]] void FailBy(const std::exception& error) {
+    std::cerr << "orvelle-sim: internal error: " << error.what() << std::endl;
+    std::exit(EXIT_FAILURE);
+}
+
+// Beside the window, which goes on.
+void Show(QWidget& window, const std::string& sentence) {
+    auto* box = new QMessageBox(QMessageBox::Warning, window.windowTitle(), ToQt(sentence), QMessageBox::Ok, &window);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+    linux::TerminationSignals endings;
+    const auto [command, sentence] = ReadSimulatorCommand(count, words);
+    if (!command || !MissingDisplay().empty()) {
+        std::cerr << "orvelle-sim: " << (command ? MissingDisplay() : sentence) << std::endl;
+        return EXIT_FAILURE;
+    }
+    qt::Application application("orvelle-sim", "xcb", FailBy);
+    qt::Application::setDesktopFileName("net.orvelle.OrvelleCP.Simulator");
+    ApplyTheme(SystemScheme());
+    qt::QtEventLoop loop;
+    SimulatorProgram program(loop, *command);
+    SimulatorWindow window(program);
+    program.Told = [&](const std::string& told) { Show(window, told); };
+    program.Ends = [&](const std::string& reason) {
+        std::cerr << "orvelle-sim: " << reason << std::endl;
+        QMessageBox::critical(&window, window.windowTitle(), ToQt(reason));
+        qt::Application::exit(EXIT_FAILURE);
+    };
+    const Ticket ended = loop.WhenReadable(endings.Descriptor(), [&] {
+        if (endings.Take() != 0) qt::Application::exit(EXIT_SUCCESS);
+    });
+    const int status = application.Run([&] {
+        window.show();
+        if (const std::string reason = program.Open(); !reason.empty()) program.Ends(reason);
+    });
+    program.Close();
+    return status;
+}
