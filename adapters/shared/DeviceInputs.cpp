@@ -33,10 +33,10 @@ void DeviceInputs::ReleaseAll() {
 }
 
 void DeviceInputs::KeepIf(const std::function<bool(int, int)>& isSo) {
-    const auto gone =
-        std::ranges::stable_partition(held, [&](const Held& each) { return isSo(each.Device, each.Number); });
-    const std::vector<Held> released(std::make_move_iterator(gone.begin()), std::make_move_iterator(gone.end()));
-    held.erase(gone.begin(), gone.end());
+    const auto gone = std::stable_partition(held.begin(), held.end(),
+                                            [&](const Held& each) { return isSo(each.Device, each.Number); });
+    const std::vector<Held> released(std::make_move_iterator(gone), std::make_move_iterator(held.end()));
+    held.erase(gone, held.end());
     for (const Held& input : released) {
         const bool isElsewhere = std::ranges::any_of(
             held, [&](const Held& each) { return each.Joystick == input.Joystick && each.Name == input.Name; });
