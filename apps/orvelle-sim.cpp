@@ -16,7 +16,7 @@ namespace {
 
 void Say(const std::string& sentence) { std::cerr << "orvelle-sim: " << sentence << std::endl; }
 
-// No toolkit is loaded on this way. Its end is an orderly one also where a signal asks for it.
+// Its end is an orderly one also where a signal asks for it.
 int ServeWithoutWindow(linux::TerminationSignals& endings, const SimulatorCommand& command) {
     linux::PollEventLoop loop;
     SimulatorProgram program(loop, command);

@@ -29,7 +29,6 @@ PanelAtBroker::PanelAtBroker(EventLoop& loop, std::function<PresenceSetting()> d
     };
     member.OthersChanged = [this] { Changed.Tell(); };
     member.Heard = [this](const Topic& topic, const std::string& payload) { Hear(topic, payload); };
-    member.Failed = [this](BrokerTrouble why) { Failed.Tell(why); };
 }
 
 void PanelAtBroker::SayRecord(Long number, const RecordContent& content) {

@@ -26,7 +26,6 @@ public:
     bool IsThere() const { return member.IsThere(); }
     int Identity() const { return member.Identity(); }
     const Presences& Others() const { return member.Others(); }
-    BrokerTrouble Trouble() const { return member.Trouble(); }
     void CountRefused() { member.CountRefused(); }
 
     // Sessions and records, of this computer too, as the broker brought them on this connection.
@@ -41,7 +40,6 @@ public:
     Observers<> Coming;   // all that the broker kept was heard, and nobody knows yet that this panel is there
     Observers<> Changed;  // it is there or no more; others came or went, or say something else of themselves
     Observers<const Topic&, const std::string&> Heard;  // but for presence
-    Observers<BrokerTrouble> Failed;
 
 private:
     void Hear(const Topic& topic, const std::string& payload);

@@ -22,12 +22,6 @@ const PresenceSetting* Presences::Find(ProgramAt program) const {
     return found != there.end() ? &found->second.Said : nullptr;
 }
 
-std::vector<ProgramAt> Presences::All() const {
-    std::vector<ProgramAt> programs;
-    for (const auto& [program, present] : there) programs.push_back(program);
-    return programs;
-}
-
 int Presences::SimulatorOffering(bool PresenceSetting::*offer) const {
     for (const auto& [program, present] : there)
         if (program.Kind == Program::Simulator && present.Said.*offer) return program.Identity;

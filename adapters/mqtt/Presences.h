@@ -33,7 +33,6 @@ public:
     // What it said last; null while it is not there.
     const PresenceSetting* Find(ProgramAt program) const;
     bool IsThere(ProgramAt program) const { return Find(program) != nullptr; }
-    std::vector<ProgramAt> All() const;
     // The simulator's program that serves a link: of those that offer it, the one of the lowest identity. 0 for none.
     int SimulatorOffering(bool PresenceSetting::*offer) const;
 

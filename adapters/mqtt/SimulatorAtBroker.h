@@ -28,7 +28,6 @@ public:
     const std::string& Host() const { return host; }
     const Presences& Others() const { return member.Others(); }
     std::size_t Refused() const { return member.Refused(); }
-    BrokerTrouble Trouble() const { return member.Trouble(); }
 
     // Whether a link is offered, by the member of PresenceSetting that tells it.
     void Offer(bool PresenceSetting::*link, bool offered);

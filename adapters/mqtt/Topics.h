@@ -10,9 +10,6 @@
 
 namespace orvelle::mqtt {
 
-// Every topic of the set-up, for subscribing.
-constexpr const char* AllTopics = "orvelle/1/#";
-
 constexpr int LastIdentity = 99;
 constexpr Long LastRecord = 65535;
 

@@ -2,10 +2,10 @@
 
 #include <unistd.h>
 
-#include <chrono>
 #include <cstdlib>
 #include <fstream>
 
+#include "tests/linux/ServeUntil.h"
 #include "tests/linux/WaitUntil.h"
 
 namespace orvelle::avahi {
@@ -82,18 +82,6 @@ std::unique_ptr<linux::ChildProcess> AvahiRig::Announce(const std::string& name,
     return std::make_unique<linux::ChildProcess>(command);
 }
 
-bool AvahiRig::Until(const std::function<bool()>& isSo) {
-    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(30);
-    bool holds = false;
-    Ticket next;
-    const std::function<void()> look = [&] {
-        holds = isSo();
-        if (holds || std::chrono::steady_clock::now() > end) return loop.Stop();
-        next = loop.After(1, look);
-    };
-    loop.Post(look);
-    loop.Run();
-    return holds;
-}
+bool AvahiRig::Until(const std::function<bool()>& isSo) { return linux::ServeUntil(loop, isSo); }
 
 }  // namespace orvelle::avahi

@@ -1,6 +1,6 @@
 #include "tests/devices/DeviceRig.h"
 
-#include <chrono>
+#include "tests/linux/ServeUntil.h"
 
 namespace orvelle {
 
@@ -11,18 +11,6 @@ void WrittenSide::SayInput(const SimulatorInput& input) {
     Said.push_back(line);
 }
 
-bool DeviceRig::Until(const std::function<bool()>& isSo) {
-    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(30);
-    bool holds = false;
-    Ticket next;
-    const std::function<void()> look = [&] {
-        holds = isSo();
-        if (holds || std::chrono::steady_clock::now() > end) return loop.Stop();
-        next = loop.After(1, look);
-    };
-    loop.Post(look);
-    loop.Run();
-    return holds;
-}
+bool DeviceRig::Until(const std::function<bool()>& isSo) { return linux::ServeUntil(loop, isSo); }
 
 }  // namespace orvelle

@@ -4,11 +4,11 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
-#include <chrono>
 #include <cstdlib>
 #include <fstream>
 
 #include "adapters/linux/PollEventLoop.h"
+#include "tests/linux/ServeUntil.h"
 
 namespace orvelle::linux {
 namespace {
@@ -37,19 +37,7 @@ protected:
         std::ofstream(file.string() + ".new") << content;
         fs::rename(file.string() + ".new", file);
     }
-    bool Until(const std::function<bool()>& isSo) {
-        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(30);
-        Ticket next;
-        bool holds = false;
-        const std::function<void()> look = [&] {
-            holds = isSo();
-            if (holds || std::chrono::steady_clock::now() > end) return loop.Stop();
-            next = loop.After(1, look);
-        };
-        loop.Post(look);
-        loop.Run();
-        return holds;
-    }
+    bool Until(const std::function<bool()>& isSo) { return ServeUntil(loop, isSo); }
     bool Reads(const std::string& content) {
         return Until([&] { return !told.empty() && told.back() && text == content; });
     }

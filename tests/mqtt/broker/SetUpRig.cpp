@@ -1,6 +1,6 @@
 #include "tests/mqtt/broker/SetUpRig.h"
 
-#include <chrono>
+#include "tests/linux/ServeUntil.h"
 
 namespace orvelle::mqtt {
 
@@ -53,19 +53,7 @@ LinesOfAPanel::LinesOfAPanel(EventLoop& loop, const SetUpSetting& setUp)
     Framework.Open("localhost");
 }
 
-bool SetUpRig::Until(const std::function<bool()>& isSo) {
-    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(30);
-    bool holds = false;
-    Ticket next;
-    const std::function<void()> look = [&] {
-        holds = isSo();
-        if (holds || std::chrono::steady_clock::now() > end) return loop.Stop();
-        next = loop.After(1, look);
-    };
-    loop.Post(look);
-    loop.Run();
-    return holds;
-}
+bool SetUpRig::Until(const std::function<bool()>& isSo) { return linux::ServeUntil(loop, isSo); }
 
 void SetUpRig::ServeFor(Long milliseconds) {
     const Ticket end = loop.After(milliseconds, [this] { loop.Stop(); });
