@@ -1,6 +1,5 @@
 // The panel as a program: how it begins and how it ends.
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
 #include <QDir>
 #include <QProcess>
@@ -9,6 +8,7 @@
 #include "adapters/store/SqliteStore.h"
 #include "tests/endtoend/User.h"
 #include "tests/shared/HandLoop.h"
+#include "tests/store/LockedStore.h"
 
 namespace orvelle {
 
@@ -95,26 +95,11 @@ TEST_F(ProcessTest, ADriverSettingOutOfRangeEndsTheProgramWithARunTimeError) {
     EXPECT_EQ(panel.readAllStandardError(), "OrvelleCP: run-time error 9: subscript out of range\n");
 }
 
-// Another program writes to the settings file, and goes on with it.
-class LockedSettings {
-public:
-    explicit LockedSettings(const QString& file) {
-        EXPECT_EQ(sqlite3_open(file.toUtf8().constData(), &connection), SQLITE_OK);
-        EXPECT_EQ(sqlite3_exec(connection, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
-    }
-    LockedSettings(const LockedSettings&) = delete;
-    LockedSettings& operator=(const LockedSettings&) = delete;
-    ~LockedSettings() { sqlite3_close(connection); }
-
-private:
-    sqlite3* connection = nullptr;
-};
-
 TEST_F(ProcessTest, WhatASignalledEndCannotWriteIsTold) {
     QProcess panel;
     Start(panel);
     ASSERT_TRUE(Shows(panel));
-    const LockedSettings locked(folder.filePath("OrvelleCP/settings.sqlite"));
+    const store::LockedStore locked(folder.filePath("OrvelleCP/settings.sqlite").toStdString());
     panel.terminate();
     ASSERT_TRUE(IsOver(panel));
     const QByteArray said = panel.readAllStandardError();
@@ -125,7 +110,7 @@ TEST_F(ProcessTest, WhatAnOrderlyEndCannotWriteIsToldInADialogToo) {
     QProcess panel;
     Start(panel);
     ASSERT_TRUE(Shows(panel));
-    const LockedSettings locked(folder.filePath("OrvelleCP/settings.sqlite"));
+    const store::LockedStore locked(folder.filePath("OrvelleCP/settings.sqlite").toStdString());
     QByteArray said;
     const auto says = [&] {
         said += panel.readAllStandardError();

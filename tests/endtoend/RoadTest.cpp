@@ -1,7 +1,11 @@
 // The road of one radio change, by real clicks and keys from end to end.
+#include <QApplication>
+#include <QElapsedTimer>
 #include <QListWidget>
+#include <QTimer>
 
 #include "tests/endtoend/PanelTest.h"
+#include "tests/store/LockedStore.h"
 
 namespace orvelle {
 
@@ -77,6 +81,35 @@ TEST_F(RoadTest, ALostLinkReleasesTheTalkKeyThatIsHeld) {
     EXPECT_TRUE(ComesTrue([this] { return !user.SeesDown(TalkKey) && !panel.Panels(4).Enabled; }));
     EXPECT_EQ(panel.Variables().RWPTTKeyState, "");
     user.KeyUp("F8");
+}
+
+// A change that can't be written waits meanwhile, and was told.
+TEST_F(RoadTest, TheTalkKeyComesAndGoesWhileAnotherProgramHoldsTheSettings) {
+    ASSERT_NO_FATAL_FAILURE(HoldTheTalkKey());
+    user.KeyUp("F8");
+    const store::LockedStore locked(folder.filePath("settings.sqlite").toStdString());
+    int told = 0;
+    QTimer reads;
+    QObject::connect(&reads, &QTimer::timeout, [&told] {
+        QWidget* const box = QApplication::activeModalWidget();
+        if (box && box->close()) ++told;
+    });
+    reads.start(100);
+    house.Settings.Store.SaveSettingLong("OrvelleCP", "Left", 1);
+    house.Settings.Store.HandlerEnded();
+    ASSERT_TRUE(ComesTrue([&told] { return told == 1; }));
+
+    user.Click(OfDeck("KeyboardField"));
+    QElapsedTimer time;
+    time.start();
+    for (int stroke = 1; stroke <= 5; ++stroke) {
+        user.KeyDown("F8");
+        ASSERT_TRUE(ComesTrue([this] { return user.SeesDown(TalkKey); }));
+        user.KeyUp("F8");
+        ASSERT_TRUE(ComesTrue([this] { return !user.SeesDown(TalkKey); }));
+    }
+    RecordProperty("MillisecondsOfFiveStrokes", std::to_string(time.elapsed()));
+    EXPECT_EQ(told, 1);
 }
 
 TEST_F(RoadTest, ARoleThatAnotherComputerHoldsIsNotServedHereUntilItIsDropped) {

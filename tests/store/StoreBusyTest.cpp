@@ -1,32 +1,17 @@
 // While another program holds the store's lock no handler waits: what can't be written comes from the loop.
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
 #include <chrono>
 #include <optional>
 
 #include "tests/store/FaultyDisk.h"
+#include "tests/store/LockedStore.h"
 #include "tests/store/StoreFolder.h"
 
 namespace orvelle::store {
 namespace {
 
 constexpr Long LongEnough = 10000;  // milliseconds of the loop's own clock, for every pause between tries
-
-// Another program that writes to the file, for as long as this stands.
-class OtherProgram {
-public:
-    explicit OtherProgram(const std::filesystem::path& file) {
-        EXPECT_EQ(sqlite3_open(file.c_str(), &connection), SQLITE_OK);
-        EXPECT_EQ(sqlite3_exec(connection, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
-    }
-    OtherProgram(const OtherProgram&) = delete;
-    OtherProgram& operator=(const OtherProgram&) = delete;
-    ~OtherProgram() { sqlite3_close(connection); }
-
-private:
-    sqlite3* connection = nullptr;
-};
 
 class StoreBusyTest : public testing::Test {
 protected:
@@ -40,7 +25,7 @@ protected:
 
 TEST_F(StoreBusyTest, NoHandlerWaitsForALock) {
     auto store = folder.Open();
-    const OtherProgram other(folder.Path());
+    const LockedStore other(folder.Path());
     const auto start = std::chrono::steady_clock::now();
     for (Long value = 1; value <= 50; ++value) {
         store.SaveSettingLong("OrvelleCP", "Left", value);
@@ -56,7 +41,7 @@ TEST_F(StoreBusyTest, NoHandlerWaitsForALock) {
 TEST_F(StoreBusyTest, WhatWaitedIsWrittenFromTheLoop) {
     auto store = folder.Open();
     {
-        const OtherProgram other(folder.Path());
+        const LockedStore other(folder.Path());
         store.SaveSettingLong("OrvelleCP", "Left", 1);
         store.HandlerEnded();
         store.SaveSettingLong("OrvelleCP", "Top", 2);
@@ -75,7 +60,7 @@ TEST_F(StoreBusyTest, AFailureAfterASuccessIsToldAnew) {
     auto store = folder.Open();
     for (Long time = 1; time <= 3; ++time) {
         {
-            const OtherProgram other(folder.Path());
+            const LockedStore other(folder.Path());
             store.SaveSettingLong("OrvelleCP", "Left", time);
             store.HandlerEnded();
             folder.Loop.Run(LongEnough);
@@ -89,7 +74,7 @@ TEST_F(StoreBusyTest, AFailureAfterASuccessIsToldAnew) {
 TEST_F(StoreBusyTest, TheEndTriesOnceMore) {
     auto store = folder.Open();
     {
-        const OtherProgram other(folder.Path());
+        const LockedStore other(folder.Path());
         store.SaveSettingLong("OrvelleCP", "Left", 1);
         store.HandlerEnded();
     }
@@ -100,7 +85,7 @@ TEST_F(StoreBusyTest, TheEndTriesOnceMore) {
 
 TEST_F(StoreBusyTest, WhatIsLostAtTheEndIsToldByName) {
     auto store = folder.Open();
-    const OtherProgram other(folder.Path());
+    const LockedStore other(folder.Path());
     store.SaveSettingLong("OrvelleCP", "Left", 1);
     store.SetControlValue("Velmarc.Server", "cockpit");
     store.HandlerEnded();
@@ -110,7 +95,7 @@ TEST_F(StoreBusyTest, WhatIsLostAtTheEndIsToldByName) {
 }
 
 TEST_F(StoreBusyTest, AStoreThatGoesTellsWhatIsLost) {
-    std::optional<OtherProgram> other;
+    std::optional<LockedStore> other;
     {
         auto store = folder.Open();
         other.emplace(folder.Path());
