@@ -96,7 +96,9 @@ std::string SimulatorProgram::ServeOwn() {
     own->Changed = [this] { SetUpChanged(); };
     own->Told = [this](const std::string& sentence) { Told(sentence); };
     own->GaveUp = [this](const std::string& sentence) { Ends(sentence); };
-    return own->Open(ComputerName());
+    std::string sentence = own->Open(ComputerName());
+    SetUpChanged();
+    return sentence;
 }
 
 void SimulatorProgram::GoTo(const mqtt::SetUpSetting& setUp) {
