@@ -6,6 +6,7 @@
 
 #include "adapters/linux/PollEventLoop.h"
 #include "adapters/mqtt/Topics.h"
+#include "apps/OneLine.h"
 #include "apps/SetUpDesk.h"
 
 namespace orvelle {
@@ -21,11 +22,14 @@ constexpr const char* Help =
     "  --leave                           leave the set-up\n"
     "  --show                            tell which set-up this computer is in; the status is 1 if in none\n"
     "  --data FOLDER                     keep setup.json in another folder\n"
-    "  --help, --version\n";
+    "  --help, --version\n"
+    "\n"
+    "A set-up that is full, with 99 computers, gives no code: orvelle-sim says so where one is asked for. Each code\n"
+    "has its place, until the computer is removed there.\n";
 
 int TellShown(const SetUpDesk& desk, std::ostream& output, std::ostream& errors) {
     if (const auto joined = desk.Joined()) {
-        output << "This computer is " << mqtt::WriteIdentity(joined->Number) << " of the set-up " << joined->Name
+        output << "This computer is " << mqtt::WriteIdentity(joined->Number) << " of the set-up " << OneLine(joined->Name)
                << ", whose broker is " << joined->Place << ".\n";
         return EXIT_SUCCESS;
     }
@@ -89,7 +93,7 @@ int RunSetUpCommand(const SetUpCommand& command, std::ostream& output, std::ostr
         desk.Leave();
     loop.Run();
     const bool isWell = desk.State() == JoinState::Succeeded;
-    (isWell ? output : errors) << desk.Sentence() << "\n";
+    (isWell ? output : errors) << OneLine(desk.Sentence()) << "\n";
     return isWell ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 

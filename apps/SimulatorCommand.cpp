@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "adapters/mqtt/OwnSetUp.h"
 #include "adapters/mqtt/Topics.h"
 
 namespace orvelle {
@@ -31,24 +32,6 @@ int PortOf(std::string_view text) {
     return error == std::errc() && end == text.data() + text.size() && port >= 1 && port <= 65535 ? port : 0;
 }
 
-// HOST, HOST:PORT, [ADDRESS]:PORT; an address with several colons has no port.
-bool TakeHost(std::string_view text, SimulatorCommand& command) {
-    std::string_view host = text;
-    const std::size_t colon = text.rfind(':');
-    const bool isBracketed = text.starts_with('[');
-    if (colon != std::string_view::npos && (isBracketed ? text[colon - 1] == ']' : text.find(':') == colon)) {
-        host = text.substr(0, colon);
-        command.Port = PortOf(text.substr(colon + 1));
-        if (command.Port == 0) return false;
-    }
-    if (isBracketed) {
-        if (!host.ends_with(']')) return false;
-        host = host.substr(1, host.size() - 2);
-    }
-    command.Host = host;
-    return !host.empty() && host.find_first_of(" \t\n") == std::string_view::npos;
-}
-
 std::optional<Task> TaskOf(std::string_view word) {
     if (word == "--add") return Task::Add;
     if (word == "--list") return Task::List;
@@ -74,11 +57,15 @@ It makes the set-up at its first start, brings the broker, and serves until it i
   orvelle-sim --help, --version
 
   --data FOLDER               keep everything in this folder (usually ~/.local/share/OrvelleCP)
+  --name NAME                 call the set-up so from now on (at first it has this computer's name); beside a
+                              running orvelle-sim it is that one's set-up that is called so
   --port N                    the broker's port from now on (8883 at first)
   --host HOST[:PORT]          use the broker that runs there instead of bringing one; it needs the keys and the
                               access list that lie in FOLDER/broker
+  --own                       serve a set-up of this computer's own, leaving the one that it has joined
 
---add, --list and --remove work beside a running orvelle-sim or without one.
+A set-up has up to 99 computers. --add, --list and --remove work beside a running orvelle-sim or without one. A
+computer that has joined another one's set-up serves there, and brings no broker.
 Exit status: 0, or 1 with one line on standard error.
 )";
 }
@@ -102,15 +89,25 @@ ReadCommand ReadSimulatorCommand(int count, const char* const* words) {
         } else if (word == "--data") {
             command.Data = value();
             if (command.Data.empty()) return {std::nullopt, "--data needs a folder"};
+        } else if (word == "--name") {
+            command.Name = value();
+            if (!mqtt::IsSetUpName(command.Name))
+                return {std::nullopt, "--name needs a name of 1 to 63 bytes, without control characters"};
+        } else if (word == "--own") {
+            command.Own = true;
         } else if (word == "--port") {
             command.Port = PortOf(value());
             if (command.Port == 0) return {std::nullopt, "--port needs a number from 1 to 65535"};
         } else if (word == "--host") {
-            if (!TakeHost(value(), command)) return {std::nullopt, "--host needs HOST or HOST:PORT"};
+            command.Broker = mqtt::ReadHostAndPort(value());
+            if (!command.Broker) return {std::nullopt, "--host needs HOST or HOST:PORT"};
         } else {
             return {std::nullopt, "\"" + std::string(word) + "\" is not understood; --help tells what is"};
         }
     }
+    if (command.Own && !command.Serves()) return {std::nullopt, "--own is for an orvelle-sim that serves"};
+    if (command.Broker && command.Port != 0)
+        return {std::nullopt, "--port is for a broker that orvelle-sim brings; with --host it is HOST:PORT"};
     return {command, ""};
 }
 

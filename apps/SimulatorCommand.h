@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "adapters/mqtt/HostAndPort.h"
+
 namespace orvelle {
 
 struct SimulatorCommand {
@@ -13,8 +15,12 @@ struct SimulatorCommand {
     Task What = Task::Serve;
     std::filesystem::path Data;  // where all is kept
     int Identity = 0;            // that is removed
+    std::string Name;            // of the set-up from now on, "" for the kept or the usual one
     int Port = 0;                // of the broker, 0 for the kept or the usual one
-    std::string Host;            // of an existing broker, "" for one of our own
+    bool Own = false;            // leaves the set-up of another computer that was joined
+    std::optional<mqtt::HostAndPort> Broker{};  // an existing one in place of one of our own
+
+    bool Serves() const { return What == Task::Serve || What == Task::ServeWithoutWindow; }
 
     static const char* Help();
 };

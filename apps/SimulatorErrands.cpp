@@ -6,11 +6,13 @@
 #include <iostream>
 #include <map>
 
+#include "adapters/linux/InstanceLock.h"
 #include "adapters/linux/PollEventLoop.h"
 #include "adapters/mqtt/BrokerConnection.h"
 #include "adapters/mqtt/OwnSetUp.h"
 #include "adapters/mqtt/Payloads.h"
 #include "adapters/mqtt/Topics.h"
+#include "apps/OneLine.h"
 
 namespace orvelle {
 
@@ -48,22 +50,31 @@ std::map<int, std::string> Present(const mqtt::SetUpSetting& own) {
     return names;
 }
 
-// A name is another computer's word: it must not end a line or a column, or speak to the terminal.
-std::string Printable(std::string name) {
-    for (char& character : name)
-        if (static_cast<unsigned char>(character) < ' ' || character == '\x7F') character = ' ';
-    return name.empty() ? "-" : name;
+void Print(int identity, const std::string* name) {
+    std::cout << mqtt::WriteIdentity(identity) << "\t" << (name && !name->empty() ? OneLine(*name) : "-") << "\t"
+              << (name ? "there" : "away") << "\n";
+}
+
+// For a person alone: scripts read a computer a line.
+void PrintName(const std::string& setUp) {
+    if (isatty(STDOUT_FILENO) != 0) std::cout << "Set-up " << OneLine(setUp) << "\n";
 }
 
 int List(const mqtt::OwnSetUp& setUp) {
+    // All that another one's set-up tells of its computers is which are there.
+    if (const auto joined = setUp.JoinedElsewhere()) {
+        PrintName(joined->Name);
+        for (const auto& [identity, name] : Present(*joined)) Print(identity, &name);
+        return EXIT_SUCCESS;
+    }
     const auto [setting, sentence] = setUp.Read();
     if (!setting) return Fail(sentence.empty() ? "This computer has made no set-up yet." : sentence);
     const auto own = setUp.OfThisComputer(*setting);
     const std::map<int, std::string> present = own ? Present(*own) : std::map<int, std::string>{};
+    PrintName(setting->Name);
     for (const auto& [identity, key] : setting->Keys) {
         const auto found = present.find(identity);
-        std::cout << mqtt::WriteIdentity(identity)
-                  << (found == present.end() ? "\t-\taway" : "\t" + Printable(found->second) + "\tthere") << "\n";
+        Print(identity, found == present.end() ? nullptr : &found->second);
     }
     return EXIT_SUCCESS;
 }
@@ -75,18 +86,27 @@ int Add(const mqtt::OwnSetUp& setUp) {
     return EXIT_SUCCESS;
 }
 
-int Remove(const mqtt::OwnSetUp& setUp, int identity) {
-    const std::string sentence = setUp.Remove(identity);
-    return sentence.empty() ? EXIT_SUCCESS : Fail(sentence);
-}
+int EndFor(const std::string& sentence) { return sentence.empty() ? EXIT_SUCCESS : Fail(sentence); }
 
 }  // namespace
 
 int RunErrand(const SimulatorCommand& command) {
+    using Task = SimulatorCommand::Task;
     const mqtt::OwnSetUp setUp(command.Data);
-    if (command.What == SimulatorCommand::Task::Add) return Add(setUp);
-    if (command.What == SimulatorCommand::Task::Remove) return Remove(setUp, command.Identity);
-    return List(setUp);
+    const bool changes = command.What != Task::List || !command.Name.empty();
+    if (const auto joined = setUp.JoinedElsewhere(); joined && changes)
+        return Fail("This computer belongs to the set-up \"" + OneLine(joined->Name) +
+                    "\" of another one; that is changed on the computer that made it.");
+    if (!command.Name.empty())
+        if (const std::string sentence = setUp.Rename(command.Name); !sentence.empty()) return Fail(sentence);
+    if (command.What == Task::Add) return Add(setUp);
+    if (command.What == Task::Remove) return EndFor(setUp.Remove(command.Identity));
+    return command.What == Task::List ? List(setUp) : EXIT_SUCCESS;
+}
+
+bool IsServed(const SimulatorCommand& command) {
+    const mqtt::OwnSetUp setUp(command.Data);
+    return std::filesystem::exists(setUp.File()) && !linux::InstanceLock(setUp.Folder().string(), "orvelle-sim").Take();
 }
 
 }  // namespace orvelle

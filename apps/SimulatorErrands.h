@@ -1,11 +1,16 @@
-// What orvelle-sim does beside a running one or none, and then ends: adding, listing and removing computers.
+// What orvelle-sim does beside a running one or none, and then ends: adding, listing and removing computers, and giving
+// the set-up another name.
 #pragma once
 
 #include "apps/SimulatorCommand.h"
 
 namespace orvelle {
 
-// The exit status, 0 or 1; what there is to say is said on standard output, why it failed on standard error.
+// The exit status, 0 or 1; what there is to say is said on standard output, why it failed on standard error. A command
+// to serve only gives the set-up its name.
 int RunErrand(const SimulatorCommand& command);
+
+// Whether an orvelle-sim serves this set-up now.
+bool IsServed(const SimulatorCommand& command);
 
 }  // namespace orvelle

@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "adapters/mqtt/Topics.h"
+#include "adapters/mqtt/HostAndPort.h"
 
 namespace orvelle {
 
@@ -32,88 +32,104 @@ SimulatorProgram::SimulatorProgram(EventLoop& eventLoop, const SimulatorCommand&
                [] { return mqtt::PresenceSetting{.Name = ComputerName(), .Address = "", .Desktop = DesktopName()}; }),
       Devices(eventLoop, Simulator, {.SessionType = DesktopName(), .Sounds = OwnSounds()}),
       command(asked),
-      lock(SetUp.Folder().string(), "orvelle-sim"),
-      broker(eventLoop, SetUp.ConfigurationFile()) {
+      lock(SetUp.Folder().string(), "orvelle-sim") {
     Simulator.SetLink(LinkState::Up);
     Network.SetLink(LinkState::Up);
-    broker.Served = [this] {
-        if (AtBroker.Identity() == 0) AtBroker.Open(own);
-        Announce();
-    };
-    broker.Reloaded = [this] { CutOff(); };
-    broker.Told = [this](const std::string& sentence) { Told(sentence); };
-    broker.GaveUp = [this](const std::string& sentence) { Ends(sentence); };
+    troubleWatch = AtBroker.Observe([this] { TellOfTrouble(); });
 }
 
 std::string SimulatorProgram::Open() {
-    const bool isOwnBroker = command.Host.empty();
-    mqtt::OwnSetUp::Outcome made = SetUp.ReadOrMake(ComputerName(), isOwnBroker ? command.Port : 0);
-    if (!made.Setting) return made.Sentence;
-    setting = std::move(made.Setting);
+    if (std::string sentence = SetUp.MakeFolder(); !sentence.empty()) return sentence;
     if (!lock.Take()) return "Another orvelle-sim serves this set-up already.";
-    const std::string host = isOwnBroker ? "localhost" : command.Host;
-    const int port = isOwnBroker || command.Port == 0 ? setting->Port : command.Port;
-    if (std::string sentence = SetUp.JoinThisComputer(*setting, host, port); !sentence.empty()) return sentence;
-    own = *SetUp.OfThisComputer(*setting);
-    watch.emplace(loop, SetUp.File());
-    watch->Changed = [this] { TakeUp(); };
+    if (!lock.Problem().empty()) Told(lock.Problem());
+    watch.emplace(loop, SetUp.PanelFile());
+    watch->Changed = [this] { TakeUpFile(); };
     Devices.Changed = [this] { TellOfDevices(); };
     TellOfDevices();
-    if (isOwnBroker) return broker.Start();
-    AtBroker.Open(own);
+    const std::optional<mqtt::SetUpSetting> joined = command.Own ? std::nullopt : SetUp.JoinedElsewhere();
+    if (!joined) return ServeOwn();
+    if (command.Broker || command.Port != 0 || !command.Name.empty())
+        return "This computer belongs to the set-up \"" + joined->Name +
+               "\" of another one, which decides on its name and broker; --own makes or serves one of its own.";
+    GoTo(*joined);
     return "";
 }
 
 void SimulatorProgram::Close() {
     watch.reset();
-    ending.clear();
     AtBroker.Close();
-    broker.Stop();
+    own.reset();
 }
 
-// From when the broker serves for the first time.
-void SimulatorProgram::Announce() {
-    if (announcement) return;
-    announcement.emplace(loop, setting->Name, setting->Port);
-    announcement->Told = [this](const std::string& sentence) { Told(sentence); };
+std::string SimulatorProgram::Trouble() const {
+    if (!member || AtBroker.IsThere()) return "";
+    // The broker's own end is told by itself.
+    const mqtt::BrokerTrouble trouble = AtBroker.Trouble();
+    if (own && own->BringsBroker() && trouble == mqtt::BrokerTrouble::Unreachable) return "";
+    const std::string place = mqtt::WriteHostAndPort({member->Host, member->Port});
+    using enum mqtt::BrokerTrouble;
+    switch (trouble) {
+        case None:
+            return "";
+        case HostUnknown:
+            return "There is no computer by the name " + member->Host + ", where the set-up's broker should be.";
+        case Unreachable:
+            return "The set-up's broker can't be reached at " + place + ": nobody answers.";
+        case NotEncrypted:
+            return "What answers at " + place + " isn't encrypted by keys, so it is not used as the set-up's broker.";
+        case Refused:
+            return "The set-up's broker at " + place + " doesn't take this computer's key: it is another set-up's, or this "
+                   "computer was removed.";
+        case WrongProtocol:
+            return "What answers at " + place + " is no broker of a set-up: it doesn't speak MQTT 5.";
+        case TakenOver:
+            return "Another orvelle-sim came to the set-up's broker as the same computer.";
+    }
+    return "";
 }
 
-// Another process added or removed computers. Its files are written already.
-void SimulatorProgram::TakeUp() {
-    mqtt::OwnSetUp::Outcome found = SetUp.Read();
-    if (!found.Setting) {
-        const std::string sentence = found.Sentence.empty() ? "The set-up's own file is gone." : found.Sentence;
-        if (std::exchange(toldLast, sentence) != sentence) Told(sentence);
-        return;
-    }
-    toldLast.clear();
-    if (found.Setting == setting) return;
-    for (const auto& [identity, key] : setting->Keys) {
-        const auto kept = found.Setting->Keys.find(identity);
-        if (kept == found.Setting->Keys.end() || kept->second != key) removed.push_back(identity);
-    }
-    setting = std::move(found.Setting);
-    if (command.Host.empty())
-        broker.Reload();
-    else
-        CutOff();
-    ComputersChanged();
+std::string SimulatorProgram::ServeOwn() {
+    own.emplace(loop, SetUp, command);
+    own->Served = [this] {
+        if (!member) GoTo(own->ThisComputer());
+    };
+    own->Changed = [this] { SetUpChanged(); };
+    own->Told = [this](const std::string& sentence) { Told(sentence); };
+    own->GaveUp = [this](const std::string& sentence) { Ends(sentence); };
+    std::string sentence = own->Open(ComputerName());
+    SetUpChanged();
+    return sentence;
 }
 
-void SimulatorProgram::CutOff() {
-    std::erase_if(ending, [](const auto& each) { return each->IsDone(); });
-    bool restarts = false;
-    for (const int identity : std::exchange(removed, {})) {
-        const linux::BrokerChild::ClientNames known = broker.ClientsOf(mqtt::WriteIdentity(identity));
-        std::vector<std::string> names(known.Names.begin(), known.Names.end());
-        // Of an existing broker's clients the usual names are known.
-        if (!command.Host.empty())
-            names = {mqtt::ClientId(identity, mqtt::Program::Panel),
-                     mqtt::ClientId(identity, mqtt::Program::Simulator)};
-        restarts = restarts || known.TooMany;
-        if (!names.empty()) ending.push_back(std::make_unique<mqtt::ClientsEnd>(loop, own, names));
-    }
-    if (restarts) broker.Restart();
+void SimulatorProgram::GoTo(const mqtt::SetUpSetting& setUp) {
+    member = setUp;
+    toldOfTrouble.clear();
+    AtBroker.Open(setUp);
+    SetUpChanged();
+}
+
+// setup.json, which orvelle-setup writes. A running program does what a start would do, but for two things: the set-up
+// that this computer made is served on for the others where the computer only leaves it, and none is made unasked.
+void SimulatorProgram::TakeUpFile() {
+    const mqtt::FoundSetUp found = mqtt::ReadSetUpFile(SetUp.PanelFile());
+    if (std::exchange(toldOfFile, found.Sentence) != found.Sentence && !found.Sentence.empty()) Told(found.Sentence);
+    const bool isOwn = found.Setting && !SetUp.JoinedElsewhere();
+    if (isOwn || (own && !found.Setting) || found.Setting == member) return;
+    AtBroker.Close();
+    member.reset();
+    own.reset();
+    if (found.Setting) return GoTo(*found.Setting);
+    if (found.Sentence.empty())
+        Told("This computer has left its set-up, so nothing is served. Started again, orvelle-sim makes one of its own.");
+    SetUpChanged();
+}
+
+// Each reason once, until the broker was reached.
+void SimulatorProgram::TellOfTrouble() {
+    const std::string sentence = Trouble();
+    if (AtBroker.IsThere()) toldOfTrouble.clear();
+    if (sentence.empty() || std::exchange(toldOfTrouble, sentence) == sentence) return;
+    Told(sentence);
 }
 
 // Each once, until it is over.

@@ -1,22 +1,19 @@
-// The program of the simulator's computer without its window: the set-up that it makes, the broker that it brings, and
-// itself as a member of it. A window or devices act on its two far sides. Made on a loop of any kind.
+// The program of the simulator's computer without its window: itself as a member of a set-up, either the one that this
+// computer has made, which it serves with its broker, or the one of another computer that was joined. A window or
+// devices act on its two far sides. Made on a loop of any kind.
 #pragma once
 
-#include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
-#include "adapters/avahi/ServiceAnnouncement.h"
-#include "adapters/linux/BrokerChild.h"
 #include "adapters/linux/FileWatch.h"
 #include "adapters/linux/InstanceLock.h"
 #include "adapters/mqtt/BrokerNetworkSide.h"
 #include "adapters/mqtt/BrokerSimulatorSide.h"
-#include "adapters/mqtt/ClientsEnd.h"
-#include "adapters/mqtt/OwnSetUp.h"
 #include "adapters/mqtt/SimulatorAtBroker.h"
 #include "apps/Devices.h"
-#include "apps/SimulatorCommand.h"
+#include "apps/OwnServing.h"
 
 namespace orvelle {
 
@@ -37,30 +34,33 @@ public:
     mqtt::BrokerNetworkSide Network{AtBroker};
     orvelle::Devices Devices;
 
-    const std::optional<mqtt::OwnSetting>& Setting() const { return setting; }
+    // The set-up that this computer has made, while it is served; nothing where another one's was joined.
+    std::optional<mqtt::OwnSetting> Made() const { return own ? own->Setting() : std::nullopt; }
+    // As the set-up knows this computer; nothing while it belongs to none.
+    const std::optional<mqtt::SetUpSetting>& Member() const { return member; }
+    // Why the set-up's broker can't be had, "" where it can.
+    std::string Trouble() const;
 
     Event<const std::string&> Told;  // a sentence for the user
     Event<const std::string&> Ends;  // it can't go on, for the reason of that sentence
-    Event<> ComputersChanged;        // one was added or removed
+    Event<> SetUpChanged;            // another one, another name, a computer was added or removed
     Event<> DevicesChanged;
 
 private:
-    void Announce();
-    void TakeUp();
-    void CutOff();
+    std::string ServeOwn();
+    void GoTo(const mqtt::SetUpSetting& setUp);
+    void TakeUpFile();
+    void TellOfTrouble();
     void TellOfDevices();
 
     const SimulatorCommand command;
     linux::InstanceLock lock;
-    linux::BrokerChild broker;
-    std::optional<avahi::ServiceAnnouncement> announcement;
+    std::optional<OwnServing> own;
+    std::optional<mqtt::SetUpSetting> member;
     std::optional<linux::FileWatch> watch;
-    std::optional<mqtt::OwnSetting> setting;
-    mqtt::SetUpSetting own;
-    std::vector<int> removed;  // and not cut off yet
-    std::vector<std::unique_ptr<mqtt::ClientsEnd>> ending;
-    std::string toldLast;
+    std::string toldOfFile, toldOfTrouble;
     std::vector<std::string> toldOfDevices;
+    Ticket troubleWatch;
 };
 
 }  // namespace orvelle

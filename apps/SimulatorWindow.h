@@ -1,43 +1,44 @@
-// The window of the simulator's program: the set-up with its computers, what is held on this one, and the deck's
-// own boxes by which session and radios are set by hand. Closing it minimises it; the program goes on.
+// The window of the simulator's program: a page with the set-up and this computer's part in it, and one with the deck's
+// own boxes by which session and radios are set by hand. With an icon in the notification area closing the window hides
+// it, and the program goes on; where the desktop has no such area it is a window like any other, whose closing ends the
+// program after a question.
 #pragma once
 
 #include <QWidget>
+#include <string>
 
+#include "apps/SimulatorTray.h"
+#include "platform/Event.h"
 #include "platform/Ticket.h"
-
-class QLabel;
-class QListWidget;
-class QPushButton;
 
 namespace orvelle {
 
 class SimulatorProgram;
+class SimulatorSetUpPage;
 
 class SimulatorWindow : public QWidget {
 public:
-    // The program outlives the window; its ComputersChanged and DevicesChanged are the window's.
+    // The program outlives the window; its SetUpChanged and DevicesChanged are the window's.
     explicit SimulatorWindow(SimulatorProgram& simulatorProgram);
+
+    // A sentence for the user: in the window, and while that is hidden by the icon, too.
+    void Tell(const std::string& sentence);
+    SimulatorTray& Tray() { return tray; }
+
+    Event<> EndAsked;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    QWidget* NewSetUpPart();
-    void AddComputer();
-    void RemoveComputer();
-    int SelectedComputer() const;  // the number of its identity, 0 for none
-    void ShowAll();
-    void ShowComputers();
+    void BringUp();
+    void AskToEnd();
+    void ShowState();
+    QString Tip() const;
 
     SimulatorProgram& program;
-    QLabel* name;
-    QListWidget* computers;
-    QPushButton* remove;
-    QLabel* code;
-    QLabel* held;
-    QLabel* joysticks;
-    QLabel* refused;
+    SimulatorTray tray;
+    SimulatorSetUpPage* setUp;
     Ticket watch;
 };
 

@@ -43,8 +43,8 @@ bool PanelIsGone(int line) {
 }  // namespace
 
 int main(int count, char** arguments) {
-    const linux::FileDescriptor line(linux::KeyGuard::LineDescriptor);
-    linux::HeldKeys held{linux::FileDescriptor(linux::KeyGuard::HeldKeysDescriptor)};
+    const FileDescriptor line(linux::KeyGuard::LineDescriptor);
+    linux::HeldKeys held{FileDescriptor(linux::KeyGuard::HeldKeysDescriptor)};
     if (count != 2 || held.Descriptor() < 0) return 2;
     linux::LeaveControlGroup("orvelle-key-guard");
 

@@ -20,13 +20,6 @@ namespace {
     std::exit(EXIT_FAILURE);
 }
 
-// Beside the window, which goes on.
-void Show(QWidget& window, const std::string& sentence) {
-    auto* box = new QMessageBox(QMessageBox::Warning, window.windowTitle(), ToQt(sentence), QMessageBox::Ok, &window);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
-}
-
 }  // namespace
 
 int main(int count, char** words) {
@@ -42,18 +35,22 @@ int main(int count, char** words) {
     qt::QtEventLoop loop;
     SimulatorProgram program(loop, *command);
     SimulatorWindow window(program);
-    program.Told = [&](const std::string& told) { Show(window, told); };
+    program.Told = [&](const std::string& told) { window.Tell(told); };
     program.Ends = [&](const std::string& reason) {
         std::cerr << "orvelle-sim: " << reason << std::endl;
         QMessageBox::critical(&window, window.windowTitle(), ToQt(reason));
         qt::Application::exit(EXIT_FAILURE);
     };
+    window.EndAsked = [] { qt::Application::exit(EXIT_SUCCESS); };
     const Ticket ended = loop.WhenReadable(endings.Descriptor(), [&] {
         if (endings.Take() != 0) qt::Application::exit(EXIT_SUCCESS);
     });
     const int status = application.Run([&] {
         window.show();
-        if (const std::string reason = program.Open(); !reason.empty()) program.Ends(reason);
+        // From the loop: what hasn't begun to run can't be ended.
+        loop.Post([&] {
+            if (const std::string reason = program.Open(); !reason.empty()) program.Ends(reason);
+        });
     });
     program.Close();
     return status;

@@ -55,6 +55,8 @@ int main(int count, char** words) {
         Say(sentence);
         return EXIT_FAILURE;
     }
+    // Another name for the set-up of the one that runs is an errand, too.
+    if (command->Serves() && !command->Name.empty() && IsServed(*command)) return RunErrand(*command);
     using Task = SimulatorCommand::Task;
     switch (command->What) {
         case Task::Help:

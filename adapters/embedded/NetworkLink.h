@@ -12,10 +12,11 @@
 #include "adapters/embedded/PlayedLink.h"
 #include "adapters/shared/SessionDesk.h"
 #include "platform/FrameworkLine.h"
+#include "platform/sides/PlayedNetworkSide.h"
 
 namespace orvelle::embedded {
 
-class NetworkLink : public FrameworkLine, public SessionDesk, public PlayedLink {
+class NetworkLink : public FrameworkLine, public SessionDesk, public PlayedLink, public PlayedNetworkSide {
 public:
     explicit NetworkLink(EventLoop& loop) : PlayedLink(loop) {}
 
@@ -30,6 +31,8 @@ public:
     void SayWrite(Long id, const RecordParameters& written) override;
 
     Ticket Observe(std::function<void()> observer) override { return PlayedLink::Observe(std::move(observer)); }
+
+    PlayedNetworkSide* PlayedNetwork() override { return this; }
 
     // The records.
     Long Claim(const std::string& owner, const std::string& role, const std::string& type) override;

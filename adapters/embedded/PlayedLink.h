@@ -11,15 +11,17 @@
 #include "adapters/shared/Changes.h"
 #include "adapters/shared/Delivery.h"
 #include "platform/sides/LinkSide.h"
+#include "platform/sides/PlayedLinkSide.h"
 
 namespace orvelle::embedded {
 
-class PlayedLink : public LinkSide {
+class PlayedLink : public LinkSide, public PlayedLinkSide {
 public:
     void SetLink(LinkState state) override;
     LinkState Link() const override { return link; }
     bool IsUp() const override { return isUp; }
     std::string Server() const override { return server; }
+    PlayedLinkSide* Played() override { return this; }
     void SeeServer(const std::string& name) override;
     const std::vector<std::string>& ServersSeen() const override { return serversSeen; }
     void SetDelay(Long milliseconds) override { delivery.SetDelay(milliseconds); }

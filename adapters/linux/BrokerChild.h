@@ -10,7 +10,7 @@
 #include <set>
 #include <string>
 
-#include "adapters/linux/FileDescriptor.h"
+#include "adapters/shared/FileDescriptor.h"
 #include "platform/Event.h"
 #include "platform/EventLoop.h"
 

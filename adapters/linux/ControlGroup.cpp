@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "adapters/linux/FileDescriptor.h"
+#include "adapters/shared/FileDescriptor.h"
 
 namespace orvelle::linux {
 

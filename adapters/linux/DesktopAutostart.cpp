@@ -2,7 +2,7 @@
 
 #include <system_error>
 
-#include "adapters/linux/WholeFile.h"
+#include "adapters/shared/WholeFile.h"
 #include "platform/RegistryPaths.h"
 
 namespace orvelle::linux {

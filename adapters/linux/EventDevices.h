@@ -12,7 +12,7 @@
 #include <memory>
 #include <string>
 
-#include "adapters/linux/FileDescriptor.h"
+#include "adapters/shared/FileDescriptor.h"
 #include "platform/Event.h"
 #include "platform/EventLoop.h"
 

@@ -9,7 +9,7 @@
 #include <filesystem>
 #include <string>
 
-#include "adapters/linux/FileDescriptor.h"
+#include "adapters/shared/FileDescriptor.h"
 #include "platform/Event.h"
 #include "platform/EventLoop.h"
 

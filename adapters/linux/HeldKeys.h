@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "adapters/linux/FileDescriptor.h"
+#include "adapters/shared/FileDescriptor.h"
 
 namespace orvelle::linux {
 

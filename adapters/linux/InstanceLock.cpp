@@ -63,7 +63,7 @@ bool InstanceLock::Take() {
 }
 
 bool InstanceLock::GoOnWithout(const std::string& reason) {
-    problem = "Whether the panel runs a second time can't be known, since " + reason + ".";
+    problem = "Whether the program runs a second time can't be known, since " + reason + ".";
     return true;
 }
 

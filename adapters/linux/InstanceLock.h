@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "adapters/linux/FileDescriptor.h"
+#include "adapters/shared/FileDescriptor.h"
 
 namespace orvelle::linux {
 

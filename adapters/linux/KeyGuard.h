@@ -9,7 +9,7 @@
 #include <chrono>
 #include <string>
 
-#include "adapters/linux/FileDescriptor.h"
+#include "adapters/shared/FileDescriptor.h"
 
 namespace orvelle::linux {
 

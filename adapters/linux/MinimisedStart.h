@@ -12,7 +12,7 @@
 #include <set>
 #include <string>
 
-#include "adapters/linux/FileDescriptor.h"
+#include "adapters/shared/FileDescriptor.h"
 #include "adapters/x11/TopLevelWindows.h"
 
 namespace orvelle::linux {

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "adapters/linux/FileDescriptor.h"
+#include "adapters/shared/FileDescriptor.h"
 
 namespace orvelle::linux {
 

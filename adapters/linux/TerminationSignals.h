@@ -3,7 +3,7 @@
 // the process. To be made first in main, before anything that starts a thread.
 #pragma once
 
-#include "adapters/linux/FileDescriptor.h"
+#include "adapters/shared/FileDescriptor.h"
 
 namespace orvelle::linux {
 

@@ -1,13 +1,14 @@
 #include "adapters/mqtt/BrokerNetworkSide.h"
 
-#include <ctime>
+#include <random>
 
 namespace orvelle::mqtt {
 
 namespace {
 
-// No session of this run has the handle of one of an earlier run.
-Long HandleBeforeAll() { return static_cast<Long>(std::time(nullptr) & 0x3FFFFFFF); }
+// No session of this run has the handle of one of an earlier run. By the clock two runs could have the same, as it may
+// be set back.
+Long HandleBeforeAll() { return static_cast<Long>(std::random_device()() & 0x3FFFFFFF); }
 
 }  // namespace
 

@@ -1,5 +1,5 @@
 // The far side of the framework link over a broker, in the simulator's program: the session that all panels see, and
-// their records, to which this program writes as another party. It makes no record of its own and refuses nothing.
+// their records, to which this program writes as another party. It makes no record of its own.
 #pragma once
 
 #include <cstddef>
@@ -17,14 +17,11 @@ class BrokerNetworkSide : public SessionDesk, public OfferedLink {
 public:
     explicit BrokerNetworkSide(SimulatorAtBroker& simulatorProgram);
 
-    Long Claim(const std::string&, const std::string&, const std::string&) override { return 0; }
-    bool DropClaim(Long) override { return false; }
-    bool AnnounceChange(Long) override { return false; }
     bool WriteParameter(Long id, Long index, Long value) override { return Write(id, {{{index, value}}, {}}); }
     bool WriteText(Long id, Long index, const std::string& text) override { return Write(id, {{}, {{index, text}}}); }
     std::map<Long, InterfaceRecord> Records() const override;
     std::size_t Writes() const override { return writes; }
-    NetworkRefusals& Refuse() override { return refuse; }
+    PlayedNetworkSide* PlayedNetwork() override { return nullptr; }
     Ticket Observe(std::function<void()> observer) override { return OfferedLink::Observe(std::move(observer)); }
 
 private:
@@ -32,7 +29,6 @@ private:
     bool Write(Long id, const RecordParameters& written);
 
     std::size_t writes = 0;
-    NetworkRefusals refuse;
 };
 
 }  // namespace orvelle::mqtt

@@ -12,6 +12,8 @@
 #include <thread>
 #include <utility>
 
+#include "adapters/shared/FileDescriptor.h"
+
 namespace orvelle::mqtt {
 
 namespace {
@@ -37,28 +39,21 @@ std::vector<std::string> AddressesOf(const std::string& host) {
 
 // What asker and thread share. The thread writes the addresses, then the event; the asker reads them after it.
 struct HostLookup::Asked {
-    Asked() : Event(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {}
-    Asked(const Asked&) = delete;
-    Asked& operator=(const Asked&) = delete;
-    ~Asked() {
-        if (Event >= 0) close(Event);
-    }
-
-    const int Event;
+    const FileDescriptor Event{eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)};
     std::vector<std::string> Addresses;
 };
 
 HostLookup::HostLookup(EventLoop& loop, const std::string& host, Answer whenKnown)
     : answer(std::move(whenKnown)), asked(std::make_shared<Asked>()) {
-    if (asked->Event < 0) {
+    if (!asked->Event) {
         ready = loop.After(0, [this] { Take(); });
         return;
     }
-    ready = loop.WhenReadable(asked->Event, [this] { Take(); });
+    ready = loop.WhenReadable(asked->Event.Number(), [this] { Take(); });
     const auto work = [shared = asked, host] {
         shared->Addresses = AddressesOf(host);
         const std::uint64_t one = 1;
-        [[maybe_unused]] const auto written = write(shared->Event, &one, sizeof one);
+        [[maybe_unused]] const auto written = write(shared->Event.Number(), &one, sizeof one);
     };
     try {
         std::thread(work).detach();

@@ -1,11 +1,10 @@
-// A link as the simulator's program offers it to the panels of the set-up: the switch of its far side. The way there is
-// as slow as the network is, so a delay can't be set.
+// A link as the simulator's program offers it to the panels of the set-up: the switch of its far side. Which servers there
+// are, and how slow the way is, the network tells by itself.
 #pragma once
 
 #include <functional>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "adapters/mqtt/SimulatorAtBroker.h"
 #include "platform/sides/LinkSide.h"
@@ -19,10 +18,9 @@ public:
     // Told to all panels that are there.
     bool IsUp() const override { return Link() == LinkState::Up && program.IsThere(); }
     std::string Server() const override { return program.Host(); }
-    void SeeServer(const std::string& name) override { seen.push_back(name); }
-    const std::vector<std::string>& ServersSeen() const override { return seen; }
-    void SetDelay(Long) override {}
-    Long Delay() const override { return 0; }
+    PlayedLinkSide* Played() override { return nullptr; }
+    // The computer that serves it, of all that offer it; 0 for none.
+    int ServedBy() const { return program.ServedBy(link); }
     Ticket Observe(std::function<void()> observer) override { return program.Observe(std::move(observer)); }
 
 protected:
@@ -33,7 +31,6 @@ protected:
 
 private:
     bool PresenceSetting::*const link;
-    std::vector<std::string> seen;
 };
 
 }  // namespace orvelle::mqtt

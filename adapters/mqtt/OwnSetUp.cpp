@@ -4,8 +4,8 @@
 #include <sys/file.h>
 #include <sys/random.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <system_error>
 
@@ -15,6 +15,9 @@
 #include "adapters/mqtt/JsonWriting.h"
 #include "adapters/mqtt/PrivateFile.h"
 #include "adapters/mqtt/Topics.h"
+#include "adapters/shared/FileDescriptor.h"
+#include "adapters/shared/Utf8.h"
+#include "adapters/shared/WholeFile.h"
 
 namespace orvelle::mqtt {
 
@@ -25,39 +28,31 @@ namespace fs = std::filesystem;
 constexpr Long Version = 1;
 constexpr Long LastPort = 65535;
 constexpr int ThisComputer = 1;
+constexpr std::size_t LongestName = 63;  // bytes that DNS-SD carries
+constexpr const char* UsualName = "OrvelleCP";
 
 // One change at a time: held from the reading of what is there to the writing of what shall be.
 class ChangeLock {
 public:
-    explicit ChangeLock(const fs::path& folder) {
-        if (!Take(folder))
-            sentence =
-                "The folder " + folder.string() + " can't be written: " + std::generic_category().message(errno) + ".";
-    }
-    ChangeLock(const ChangeLock&) = delete;
-    ChangeLock& operator=(const ChangeLock&) = delete;
-    ~ChangeLock() {
-        if (descriptor >= 0) close(descriptor);
+    explicit ChangeLock(const OwnSetUp& setUp) : sentence(setUp.MakeFolder()) {
+        if (sentence.empty() && !Take(setUp.Folder() / "changes.lock"))
+            sentence = "The folder " + setUp.Folder().string() +
+                       " can't be written: " + std::generic_category().message(errno) + ".";
     }
 
     const std::string& Sentence() const { return sentence; }
 
 private:
-    bool Take(const fs::path& folder) {
-        std::error_code error;
-        fs::create_directories(folder.parent_path(), error);
-        if (mkdir(folder.c_str(), S_IRWXU) != 0 && errno != EEXIST) return false;
-        // Also where it was made under a strange umask.
-        if (chmod(folder.c_str(), S_IRWXU) != 0) return false;
-        descriptor = open((folder / "changes.lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-        if (descriptor < 0) return false;
-        while (flock(descriptor, LOCK_EX) != 0)
+    bool Take(const fs::path& path) {
+        file = FileDescriptor(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600));
+        if (!file) return false;
+        while (flock(file.Number(), LOCK_EX) != 0)
             if (errno != EINTR) return false;
         return true;
     }
 
-    int descriptor = -1;
     std::string sentence;
+    FileDescriptor file;
 };
 
 std::optional<Key> NewKey() {
@@ -70,6 +65,12 @@ constexpr const char* NoRandomness = "The system gives no random numbers for a k
 constexpr const char* NoSetUp = "This computer has made no set-up yet; orvelle-sim makes one when it is started.";
 
 }  // namespace
+
+bool IsSetUpName(std::string_view text) {
+    const auto isControl = [](char each) { return static_cast<unsigned char>(each) < ' ' || each == '\x7F'; };
+    return text.size() <= LongestName && text.find_first_not_of(' ') != text.npos &&
+           std::ranges::none_of(text, isControl) && IsUtf8(text);
+}
 
 std::optional<OwnSetting> ReadOwnSetting(std::string_view text) {
     JsonReading reading(text);
@@ -114,30 +115,45 @@ OwnSetUp::Outcome OwnSetUp::Read() const {
     return {std::move(setting), ""};
 }
 
-OwnSetUp::Outcome OwnSetUp::ReadOrMake(const std::string& name, int port) const {
-    const ChangeLock lock(folder);
+OwnSetUp::Outcome OwnSetUp::ReadOrMake(const std::string& firstName, int port) const {
+    const ChangeLock lock(*this);
     if (!lock.Sentence().empty()) return {std::nullopt, lock.Sentence()};
     Outcome found = Read();
     if (!found.Sentence.empty()) return found;
     if (!found.Setting) {
         const std::optional<Key> key = NewKey();
         if (!key) return {std::nullopt, NoRandomness};
-        found.Setting = OwnSetting{.Name = WrittenText(name), .Port = UsualPort, .Keys = {{ThisComputer, *key}}};
+        std::string name = WrittenText(firstName);
+        if (!IsSetUpName(name)) name = UsualName;
+        found.Setting = OwnSetting{.Name = std::move(name), .Port = UsualPort, .Keys = {{ThisComputer, *key}}};
     }
     if (port != 0) found.Setting->Port = port;
     const std::string sentence = Keep(*found.Setting);
     return sentence.empty() ? found : Outcome{std::nullopt, sentence};
 }
 
+std::string OwnSetUp::Rename(const std::string& name) const {
+    if (!IsSetUpName(name)) return "A set-up's name has 1 to 63 bytes and no control characters.";
+    const ChangeLock lock(*this);
+    if (!lock.Sentence().empty()) return lock.Sentence();
+    auto [setting, sentence] = Read();
+    if (!setting) return sentence.empty() ? NoSetUp : sentence;
+    setting->Name = name;
+    sentence = Keep(*setting);
+    const std::optional<SetUpSetting> own = OfThisComputer(*setting);
+    return sentence.empty() && own ? JoinThisComputer(*setting, own->Host, own->Port) : sentence;
+}
+
 OwnSetUp::Added OwnSetUp::Add() const {
-    const ChangeLock lock(folder);
+    const ChangeLock lock(*this);
     if (!lock.Sentence().empty()) return {std::nullopt, lock.Sentence()};
     auto [setting, sentence] = Read();
     if (!setting) return {std::nullopt, sentence.empty() ? NoSetUp : sentence};
     int number = ThisComputer + 1;
     while (setting->Keys.contains(number)) ++number;
     if (number > LastIdentity)
-        return {std::nullopt, "The set-up is full: it has " + std::to_string(LastIdentity) + " computers already."};
+        return {std::nullopt, "The set-up is full: it has " + std::to_string(LastIdentity) +
+                                  " computers already; remove one to add another."};
     const std::optional<Key> key = NewKey();
     if (!key) return {std::nullopt, NoRandomness};
     setting->Keys.emplace(number, *key);
@@ -148,7 +164,7 @@ OwnSetUp::Added OwnSetUp::Add() const {
 
 std::string OwnSetUp::Remove(int identity) const {
     if (identity == ThisComputer) return "c01 is the computer that made the set-up; it can't be removed from it.";
-    const ChangeLock lock(folder);
+    const ChangeLock lock(*this);
     if (!lock.Sentence().empty()) return lock.Sentence();
     auto [setting, sentence] = Read();
     if (!setting) return sentence.empty() ? NoSetUp : sentence;
@@ -166,10 +182,13 @@ std::string OwnSetUp::Keep(const OwnSetting& setting) const {
     return WriteBrokerFiles(folder, setting.Port, setting.Keys);
 }
 
-std::string OwnSetUp::JoinThisComputer(const OwnSetting& setting, const std::string& host, int port) const {
+std::string OwnSetUp::JoinThisComputer(const OwnSetting& setting, const std::string& host, int port,
+                                       OtherSetUp other) const {
     const FoundSetUp found = ReadSetUpFile(panelFile);
-    if (!found.Sentence.empty()) return found.Sentence + " Remove that file, or leave the set-up, first.";
-    if (found.Setting && !OfThisComputer(setting))
+    const bool isElsewhere = found.Setting && !OfThisComputer(setting);
+    if (other == OtherSetUp::Stays && !found.Sentence.empty())
+        return found.Sentence + " Remove that file, or leave the set-up, first.";
+    if (other == OtherSetUp::Stays && isElsewhere)
         return "This computer belongs to the set-up \"" + found.Setting->Name + "\" already (" + panelFile.string() +
                "); it must leave that one before it can have one of its own.";
     const SetUpSetting wanted{setting.Name, host, port, ThisComputer, setting.Keys.at(ThisComputer)};
@@ -180,6 +199,20 @@ std::optional<SetUpSetting> OwnSetUp::OfThisComputer(const OwnSetting& setting) 
     std::optional<SetUpSetting> found = ReadSetUpFile(panelFile).Setting;
     if (!found || found->Identity != ThisComputer || found->Key != setting.Keys.at(ThisComputer)) return std::nullopt;
     return found;
+}
+
+std::optional<SetUpSetting> OwnSetUp::JoinedElsewhere() const {
+    const Outcome own = Read();
+    // Which set-up the file belongs to can't be known then.
+    if (!own.Sentence.empty() || (own.Setting && OfThisComputer(*own.Setting))) return std::nullopt;
+    return ReadSetUpFile(panelFile).Setting;
+}
+
+std::string OwnSetUp::MakeFolder() const {
+    std::error_code error = MakeOwnFolder(folder);
+    // Also where it was made under a strange umask.
+    if (!error && chmod(folder.c_str(), S_IRWXU) != 0) error = {errno, std::generic_category()};
+    return error ? "The folder " + folder.string() + " can't be written: " + error.message() + "." : "";
 }
 
 }  // namespace orvelle::mqtt

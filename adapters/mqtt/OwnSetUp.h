@@ -20,6 +20,10 @@ struct OwnSetting {
     bool operator==(const OwnSetting&) const = default;
 };
 
+// Whether a set-up can be called so: 1 to 63 bytes of UTF-8, as the network can tell it, not all of them blank, and no
+// control characters.
+bool IsSetUpName(std::string_view text);
+
 std::optional<OwnSetting> ReadOwnSetting(std::string_view text);
 std::string WriteOwnSetting(const OwnSetting& setting);
 
@@ -34,8 +38,11 @@ public:
     };
 
     Outcome Read() const;
-    // Makes the set-up where there is none; `port` 0 leaves the port as it is, or takes the usual one.
-    Outcome ReadOrMake(const std::string& name, int port) const;
+    // Makes the set-up where there is none, under that name, or under a usual one where that can't be a name; `port` 0
+    // leaves the port as it is, or takes the usual one.
+    Outcome ReadOrMake(const std::string& firstName, int port) const;
+    // Also for the panel of this computer; "" for success.
+    std::string Rename(const std::string& name) const;
 
     struct Added {
         std::optional<JoinCode> Code;
@@ -46,14 +53,21 @@ public:
     // Takes the computer's key away; "" for success.
     std::string Remove(int identity) const;
 
-    // Lets the panel of this computer belong to the set-up, whose broker is there. A file of another set-up stays as it
-    // is, and so does one that can't be read; "" for success.
-    std::string JoinThisComputer(const OwnSetting& setting, const std::string& host, int port) const;
+    // A file of another set-up, or one that can't be read: stays as it is, or the computer leaves that set-up.
+    enum class OtherSetUp { Stays, IsLeft };
+    // Lets the panel of this computer belong to the set-up, whose broker is there; "" for success.
+    std::string JoinThisComputer(const OwnSetting& setting, const std::string& host, int port,
+                                 OtherSetUp other = OtherSetUp::Stays) const;
     // What the panel of this computer knows, if it belongs to this set-up.
     std::optional<SetUpSetting> OfThisComputer(const OwnSetting& setting) const;
+    // What it knows if it belongs to another one, which this computer has joined.
+    std::optional<SetUpSetting> JoinedElsewhere() const;
 
+    // Makes the folder of the set-up, its user's alone; "" for success.
+    std::string MakeFolder() const;
     const std::filesystem::path& Folder() const { return folder; }
     std::filesystem::path File() const { return folder / "set-up.json"; }
+    const std::filesystem::path& PanelFile() const { return panelFile; }
     std::filesystem::path ConfigurationFile() const { return folder / "mosquitto.conf"; }
 
 private:

@@ -6,8 +6,10 @@
 
 #include <array>
 #include <cerrno>
-#include <cstdlib>
 #include <system_error>
+
+#include "adapters/shared/FileDescriptor.h"
+#include "adapters/shared/WholeFile.h"
 
 namespace orvelle::mqtt {
 
@@ -17,24 +19,8 @@ namespace fs = std::filesystem;
 
 std::string SystemReason() { return std::generic_category().message(errno); }
 
-class OpenFile {
-public:
-    explicit OpenFile(int opened) : number(opened) {}
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
-    ~OpenFile() {
-        if (number >= 0) close(number);
-    }
-
-    explicit operator bool() const { return number >= 0; }
-    int Number() const { return number; }
-
-private:
-    const int number;
-};
-
 // The bytes of the file, up to one more than `most`.
-std::optional<std::string> ReadUpTo(const OpenFile& file, std::size_t most) {
+std::optional<std::string> ReadUpTo(const FileDescriptor& file, std::size_t most) {
     std::string text;
     std::array<char, 4096> part{};
     while (text.size() <= most) {
@@ -48,23 +34,6 @@ std::optional<std::string> ReadUpTo(const OpenFile& file, std::size_t most) {
     return text;
 }
 
-bool WriteAll(const OpenFile& file, std::string_view text) {
-    while (!text.empty()) {
-        const ssize_t count = write(file.Number(), text.data(), text.size());
-        if (count >= 0)
-            text.remove_prefix(static_cast<std::size_t>(count));
-        else if (errno != EINTR)
-            return false;
-    }
-    return fsync(file.Number()) == 0;
-}
-
-// So that the new name, too, survives a loss of power. Not every file system can; the file is there all the same.
-void KeepNames(const fs::path& folder) {
-    const OpenFile opened(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (opened) fsync(opened.Number());
-}
-
 }  // namespace
 
 PrivateText ReadPrivateFile(const fs::path& file, std::size_t most) {
@@ -75,7 +44,7 @@ PrivateText ReadPrivateFile(const fs::path& file, std::size_t most) {
         return {std::nullopt, isMissing ? "" : SystemReason()};
     }
     if (!S_ISREG(state.st_mode)) return {std::nullopt, "it is no plain file"};
-    const OpenFile opened(open(file.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    const FileDescriptor opened(open(file.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
     if (!opened || fstat(opened.Number(), &state) != 0) return {std::nullopt, SystemReason()};
     if (!S_ISREG(state.st_mode)) return {std::nullopt, "it is no plain file"};
 
@@ -86,29 +55,14 @@ PrivateText ReadPrivateFile(const fs::path& file, std::size_t most) {
 }
 
 std::string WritePrivateFile(const fs::path& file, std::string_view text) {
-    std::error_code error;
-    fs::create_directories(file.parent_path(), error);
-    if (error) return error.message();
-
-    // Made with mode 0600 from the beginning, and with a name of its own, since two may write at a time.
-    std::string unfinished = file.string() + ".XXXXXX";
-    const OpenFile opened(mkostemp(unfinished.data(), O_CLOEXEC));
-    if (!opened) return SystemReason();
-    if (!WriteAll(opened, text) || rename(unfinished.c_str(), file.c_str()) != 0) {
-        std::string reason = SystemReason();
-        unlink(unfinished.c_str());
-        return reason;
-    }
-    KeepNames(file.parent_path());
-    return "";
+    const std::error_code error = WriteWholeFile(file, text);
+    return error ? error.message() : "";
 }
 
 std::string RemovePrivateFile(const fs::path& file) {
-    if (unlink(file.c_str()) == 0)
-        KeepNames(file.parent_path());
-    else if (errno != ENOENT && errno != ENOTDIR)
-        return SystemReason();
-    return "";
+    if (unlink(file.c_str()) != 0) return errno == ENOENT || errno == ENOTDIR ? "" : SystemReason();
+    const std::error_code error = SyncFolder(file.parent_path());
+    return error ? error.message() : "";
 }
 
 }  // namespace orvelle::mqtt

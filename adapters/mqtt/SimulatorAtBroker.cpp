@@ -50,6 +50,12 @@ void SimulatorAtBroker::Offer(bool PresenceSetting::*link, bool offered) {
     changes.Mark();
 }
 
+int SimulatorAtBroker::ServedBy(bool PresenceSetting::*link) const {
+    const int other = Others().SimulatorOffering(link);
+    const bool isOwn = IsThere() && Offers(link) && (other == 0 || Identity() < other);
+    return isOwn ? Identity() : other;
+}
+
 void SimulatorAtBroker::SayInput(const SimulatorInput& held) {
     input.Held = held;
     SayInputAgain();

@@ -25,6 +25,7 @@ public:
     void Close() { member.Close(); }
     bool IsThere() const { return member.IsThere(); }
     int Identity() const { return member.Identity(); }
+    BrokerTrouble Trouble() const { return member.Trouble(); }
     const std::string& Host() const { return host; }
     const Presences& Others() const { return member.Others(); }
     std::size_t Refused() const { return member.Refused(); }
@@ -32,6 +33,9 @@ public:
     // Whether a link is offered, by the member of PresenceSetting that tells it.
     void Offer(bool PresenceSetting::*link, bool offered);
     bool Offers(bool PresenceSetting::*link) const { return offers.*link; }
+    // The computer that serves the link now: of all that are there and offer it, this one included, the lowest identity.
+    // 0 for none.
+    int ServedBy(bool PresenceSetting::*link) const;
     // Says all that is held, and says it again every 100 ms while something is.
     void SayInput(const SimulatorInput& input);
     void SaySession(const SessionSetting& said);

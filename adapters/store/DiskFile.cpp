@@ -7,6 +7,9 @@
 #include <cerrno>
 #include <system_error>
 
+#include "adapters/shared/FileDescriptor.h"
+#include "adapters/shared/WholeFile.h"
+
 namespace orvelle::store {
 
 namespace {
@@ -14,22 +17,12 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr mode_t OwnFile = S_IRUSR | S_IWUSR;
-constexpr mode_t OwnFolder = S_IRWXU;
 
 [[noreturn]] void Fail(const char* what, const fs::path& path) {
     throw fs::filesystem_error(what, path, std::error_code(errno, std::generic_category()));
 }
 
-void Sync(const fs::path& path, int flags) {
-    const OpenFile file(open(path.c_str(), flags | O_CLOEXEC));
-    if (!file || fsync(file.Number()) != 0) Fail("cannot sync", path);
-}
-
 }  // namespace
-
-OpenFile::~OpenFile() {
-    if (number >= 0) close(number);
-}
 
 PathKind KindOf(const fs::path& path) {
     struct stat status;
@@ -49,7 +42,7 @@ FileIdentity IdentityOf(const fs::path& path) {
 }
 
 std::string StartOf(const fs::path& path, std::size_t size) {
-    const OpenFile file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    const FileDescriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     std::string bytes(size, '\0');
     const ssize_t got = file ? read(file.Number(), bytes.data(), size) : -1;
     bytes.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
@@ -57,18 +50,13 @@ std::string StartOf(const fs::path& path, std::size_t size) {
 }
 
 void MakeFolder(const fs::path& folder) {
-    if (folder.empty() || fs::is_directory(folder)) return;
-    MakeFolder(folder.parent_path());
-    if (mkdir(folder.c_str(), OwnFolder) != 0 && errno != EEXIST) Fail("cannot make the folder", folder);
-    if (!fs::is_directory(folder)) {
-        errno = ENOTDIR;
-        Fail("cannot use the folder", folder);
-    }
+    if (const std::error_code error = MakeOwnFolder(folder))
+        throw fs::filesystem_error("cannot make the folder", folder, error);
 }
 
 void MakeEmptyFile(const fs::path& path) {
     fs::remove(path);
-    if (!OpenFile(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, OwnFile)))
+    if (!FileDescriptor(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, OwnFile)))
         Fail("cannot make", path);
 }
 
@@ -79,10 +67,9 @@ void MakePrivate(const fs::path& path) {
     if ((status.st_mode & (S_IRWXG | S_IRWXO)) != 0) chmod(path.c_str(), status.st_mode & S_IRWXU);
 }
 
-void RenameForGood(const fs::path& from, const fs::path& to) {
-    Sync(from, O_RDWR);
-    fs::rename(from, to);
-    Sync(to.has_parent_path() ? to.parent_path() : ".", O_RDONLY | O_DIRECTORY);
+void PutInPlace(const fs::path& from, const fs::path& to) {
+    if (const std::error_code error = RenameForGood(from, to))
+        throw fs::filesystem_error("cannot put in place", to, error);
 }
 
 }  // namespace orvelle::store

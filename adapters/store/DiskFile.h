@@ -7,28 +7,8 @@
 #include <cstddef>
 #include <filesystem>
 #include <string>
-#include <utility>
 
 namespace orvelle::store {
-
-// An open file that closes itself; empty (-1) where nothing was opened.
-class OpenFile {
-public:
-    OpenFile() = default;
-    explicit OpenFile(int number) : number(number) {}
-    OpenFile(OpenFile&& other) noexcept : number(std::exchange(other.number, -1)) {}
-    OpenFile& operator=(OpenFile&& other) noexcept {
-        std::swap(number, other.number);
-        return *this;
-    }
-    ~OpenFile();
-
-    int Number() const { return number; }
-    explicit operator bool() const { return number >= 0; }
-
-private:
-    int number = -1;
-};
 
 // Links are followed, but for one that leads nowhere.
 enum class PathKind { Missing, File, Characters, Folder, LinkToNowhere, Other };
@@ -52,6 +32,6 @@ void MakeEmptyFile(const std::filesystem::path& path);
 // Takes a file of the user's from all others; leaves alone what is somebody else's.
 void MakePrivate(const std::filesystem::path& path);
 // Both files are in one folder. On disk under its new name when it returns.
-void RenameForGood(const std::filesystem::path& from, const std::filesystem::path& to);
+void PutInPlace(const std::filesystem::path& from, const std::filesystem::path& to);
 
 }  // namespace orvelle::store

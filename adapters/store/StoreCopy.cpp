@@ -44,7 +44,7 @@ bool StoreCopying::Step() {
     backup.reset();
     if (code != SQLITE_DONE) throw SqliteError(code, sqlite3_errstr(code));
     copy.reset();
-    RenameForGood(unfinished, path);
+    PutInPlace(unfinished, path);
     return false;
 }
 

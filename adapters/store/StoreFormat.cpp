@@ -97,7 +97,7 @@ void MakeStoreFile(const fs::path& path, const StoredTables& values, const Store
         file.Run("COMMIT");
         file.Run("PRAGMA journal_mode = WAL");
     }
-    RenameForGood(unfinished, path);
+    PutInPlace(unfinished, path);
 }
 
 }  // namespace orvelle::store

@@ -24,7 +24,7 @@ StoreLock::StoreLock(const std::filesystem::path& storeFile) : path(std::filesys
 
 StoreLock::Outcome StoreLock::Take() {
     constexpr int Flags = O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
-    OpenFile opened(open(path.c_str(), O_RDWR | Flags, S_IRUSR | S_IWUSR));
+    FileDescriptor opened(open(path.c_str(), O_RDWR | Flags, S_IRUSR | S_IWUSR));
     struct stat status;
     if (!opened || fstat(opened.Number(), &status) != 0 || !S_ISREG(status.st_mode)) return Outcome::Unavailable;
     if (flock(opened.Number(), LOCK_EX | LOCK_NB) != 0)
@@ -35,7 +35,7 @@ StoreLock::Outcome StoreLock::Take() {
 
 // While the held file has its name, it can't be locked once more.
 void StoreLock::TakeAgain() {
-    OpenFile held = std::move(file);
+    FileDescriptor held = std::move(file);
     if (Take() != Outcome::Taken) file = std::move(held);
 }
 

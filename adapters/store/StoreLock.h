@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <optional>
 
-#include "adapters/store/DiskFile.h"
+#include "adapters/shared/FileDescriptor.h"
 #include "adapters/store/StoreState.h"
 
 namespace orvelle::store {
@@ -34,7 +34,7 @@ public:
 
 private:
     std::filesystem::path path;
-    OpenFile file;
+    FileDescriptor file;
 };
 
 }  // namespace orvelle::store

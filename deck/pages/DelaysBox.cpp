@@ -6,6 +6,7 @@
 #include "platform/sides/FarSides.h"
 #include "platform/sides/LinkSide.h"
 #include "platform/sides/MixerSide.h"
+#include "platform/sides/PlayedLinkSide.h"
 
 namespace orvelle::deck {
 
@@ -16,14 +17,18 @@ QSpinBox* NewPeerDelay(const QString& name, const QString& toolTip, Peer& peer) 
     return NewDelay(name, toolTip, peer.Delay(), [&peer](int milliseconds) { peer.SetDelay(milliseconds); });
 }
 
+// Null where the link is real or not here.
+PlayedLinkSide* PlayedOf(LinkSide* link) { return link ? link->Played() : nullptr; }
+
 }  // namespace
 
 DelaysBox::DelaysBox(const FarSides& sides) : Section("Delays", "Delays", 2) {
     const auto addRow = [this](const QString& label, const QString& name, const QString& toolTip, auto* peer) {
         if (peer) AddRow(label, {NewPeerDelay(name, toolTip, *peer), new QWidget});
     };
-    addRow("Simulator", "SimulatorDelay", "From the simulator's computer to the panel", sides.SimulatorLink);
-    addRow("Network", "NetworkDelay", "From the network to the panel", sides.NetworkLink);
+    addRow("Simulator", "SimulatorDelay", "From the simulator's computer to the panel",
+           PlayedOf(sides.SimulatorLink));
+    addRow("Network", "NetworkDelay", "From the network to the panel", PlayedOf(sides.NetworkLink));
     addRow("Headset mixer", "HeadsetMixerDelay", "From the mixer of microphone and headset to the panel",
            sides.HeadsetMixer);
     addRow("Speakers mixer", "SpeakersMixerDelay", "From the mixer of the speakers to the panel", sides.SpeakersMixer);

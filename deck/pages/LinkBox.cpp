@@ -8,7 +8,7 @@
 #include "deck/fields/Fields.h"
 #include "deck/fields/Readout.h"
 #include "deck/fields/SignalLight.h"
-#include "platform/sides/LinkSide.h"
+#include "platform/sides/PlayedLinkSide.h"
 
 namespace orvelle::deck {
 
@@ -25,27 +25,31 @@ QString Joined(const std::vector<std::string>& names) {
 LinkBox::LinkBox(const QString& name, const QString& title, const QString& switchLabel, LinkSide& linkSide)
     : Section(name, title, 3),
       link(linkSide),
+      played(link.Played()),
       up(NewCheck(name + "Link", switchLabel, "The link as this side wants it",
                   [this](bool on) { link.SetLink(on ? LinkState::Up : LinkState::Down); })),
       state(new SignalLight(name + "State")),
-      seen(new QLineEdit),
-      allSeen(new Readout(name + "ServersSeen")),
       watch(link.Observe([this] { ShowState(); })) {
     // A click doesn't take the focus, so that keys stay held while a link goes.
     up->setFocusPolicy(Qt::TabFocus);
+    AddRow("Link", {up, state});
+    if (played) AddServers(name);
+    ShowState();
+}
+
+void LinkBox::AddServers(const QString& name) {
+    seen = new QLineEdit;
+    allSeen = new Readout(name + "ServersSeen");
     seen->setObjectName(name + "ServerSeen");
     seen->setToolTip("A name or an address that is reported to the panel as a server on the network");
     connect(seen, &QLineEdit::returnPressed, this, [this] { SeeServer(); });
     auto* see = NewButton(name + "SeeServer", "See server", "Report this server to the panel", [this] { SeeServer(); });
-
-    AddRow("Link", {up, state});
     AddRow("Server seen", {seen, see, allSeen});
-    ShowState();
 }
 
 void LinkBox::SeeServer() {
     if (seen->text().isEmpty()) return;
-    link.SeeServer(FromQt(seen->text()));
+    played->SeeServer(FromQt(seen->text()));
     seen->selectAll();
 }
 
@@ -57,7 +61,7 @@ void LinkBox::ShowState() {
     const std::string server = link.Server();
     up->setChecked(wanted);
     state->Show(sign, text + ", server " + (server.empty() ? "(empty)" : ToQt(server)));
-    allSeen->Show(Joined(link.ServersSeen()));
+    if (played) allSeen->Show(Joined(played->ServersSeen()));
 }
 
 }  // namespace orvelle::deck

@@ -1,5 +1,5 @@
-// One of the two links, from the far side: the switch, what the panel knows of it and which server it uses, and reports
-// of servers seen on the network.
+// One of the two links, from the far side: the switch, what the panel knows of it and which server it uses; where the
+// link is played, also reports of servers seen on the network.
 #pragma once
 
 #include "deck/fields/Section.h"
@@ -8,10 +8,6 @@
 
 class QCheckBox;
 class QLineEdit;
-
-namespace orvelle {
-class LinkSide;
-}  // namespace orvelle
 
 namespace orvelle::deck {
 
@@ -24,14 +20,16 @@ public:
     LinkBox(const QString& name, const QString& title, const QString& switchLabel, LinkSide& linkSide);
 
 private:
+    void AddServers(const QString& name);
     void SeeServer();
     void ShowState();
 
     LinkSide& link;
+    PlayedLinkSide* const played;  // null where the link is real: then it has no servers' row
     QCheckBox* up;
     SignalLight* state;
-    QLineEdit* seen;
-    Readout* allSeen;
+    QLineEdit* seen = nullptr;
+    Readout* allSeen = nullptr;
     Ticket watch;
 };
 

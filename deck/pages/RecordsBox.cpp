@@ -10,7 +10,9 @@
 #include "adapters/looks/Text.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/Tables.h"
+#include "platform/VoiceRoles.h"
 #include "platform/sides/NetworkSide.h"
+#include "platform/sides/PlayedNetworkSide.h"
 
 namespace orvelle::deck {
 
@@ -39,21 +41,26 @@ QWidget* RowOf(const QList<QWidget*>& widgets) {
 RecordsBox::RecordsBox(NetworkSide& framework)
     : Section("RecordSection", "Interface records", 2),
       network(framework),
+      played(framework.PlayedNetwork()),
       table(NewTable("Records", "The interface records of all computers", {"Id", "Type", "Role", "Owner", "Parameters"},
                      Parameters)),
-      computer(new QLineEdit("COCKPIT2")),
       watch(network.Observe([this] { ShowState(); })) {
     table->setEditTriggers(QTableWidget::NoEditTriggers);
     AddWide(table, 1);
+    if (played) AddOtherComputer();
+    ShowState();
+}
 
+void RecordsBox::AddOtherComputer() {
+    computer = new QLineEdit("COCKPIT2");
     computer->setObjectName("OtherComputer");
     computer->setToolTip("The name of the computer that claims and drops roles");
     connect(computer, &QLineEdit::textChanged, this, [this] { ShowClaims(); });
     AddRow("Selected",
            {NewButton("DropRecord", "Drop", "The owner, if it is another computer, removes the selected record",
-                      [this] { network.DropClaim(SelectedId()); }),
+                      [this] { played->DropClaim(SelectedId()); }),
             NewButton("AnnounceRecord", "Announce change", "Report to the panel that the selected record changed",
-                      [this] { network.AnnounceChange(SelectedId()); })});
+                      [this] { played->AnnounceChange(SelectedId()); })});
     AddRow("Other computer", {computer});
 
     QList<QWidget*> boxes = {new QLabel("holds")};
@@ -67,7 +74,6 @@ RecordsBox::RecordsBox(NetworkSide& framework)
         boxes << box;
     }
     AddWide(RowOf(boxes));
-    ShowState();
 }
 
 Long RecordsBox::ClaimOf(const std::string& role) const {
@@ -83,9 +89,9 @@ Long RecordsBox::SelectedId() const {
 
 void RecordsBox::Claim(const std::string& role, bool on) {
     if (on)
-        network.Claim(FromQt(computer->text()), role);
+        played->Claim(FromQt(computer->text()), role);
     else
-        network.DropClaim(ClaimOf(role));
+        played->DropClaim(ClaimOf(role));
 }
 
 void RecordsBox::ShowState() {

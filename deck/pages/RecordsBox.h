@@ -1,5 +1,5 @@
-// The interface records in which the panels of several computers meet: all that are there, and what another computer
-// does with its own: it claims a voice role or drops it again.
+// The interface records in which the panels of several computers meet: all that are there, and where the network is
+// played what another computer does with its own: it claims a voice role or drops it again.
 #pragma once
 
 #include <map>
@@ -15,6 +15,7 @@ class QTableWidget;
 
 namespace orvelle {
 class NetworkSide;
+class PlayedNetworkSide;
 }  // namespace orvelle
 
 namespace orvelle::deck {
@@ -24,6 +25,7 @@ public:
     explicit RecordsBox(NetworkSide& framework);
 
 private:
+    void AddOtherComputer();
     Long ClaimOf(const std::string& role) const;  // the other computer's record of the role, 0 for none
     Long SelectedId() const;                      // likewise
     void Claim(const std::string& role, bool on);
@@ -31,8 +33,9 @@ private:
     void ShowClaims();
 
     NetworkSide& network;
+    PlayedNetworkSide* const played;  // null where the network is real: then the other computers do their own
     QTableWidget* table;
-    QLineEdit* computer;
+    QLineEdit* computer = nullptr;
     std::map<std::string, QCheckBox*> claims;  // by role
     Ticket watch;
 };

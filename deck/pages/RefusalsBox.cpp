@@ -10,6 +10,7 @@
 #include "platform/VoiceRoles.h"
 #include "platform/sides/FarSides.h"
 #include "platform/sides/NetworkSide.h"
+#include "platform/sides/PlayedNetworkSide.h"
 
 namespace orvelle::deck {
 
@@ -35,11 +36,11 @@ QLineEdit* NewPlainEdit(const QString& name, const QString& text, const QString&
 }  // namespace
 
 RefusalsBox::RefusalsBox(const FarSides& sides) : Section("Refusals", "Refusals and notices", 3) {
-    if (sides.Network) AddNetwork(*sides.Network);
+    if (sides.Network && sides.Network->PlayedNetwork()) AddNetwork(*sides.Network->PlayedNetwork());
     if (sides.Notices) AddNotices(*sides.Notices);
 }
 
-void RefusalsBox::AddNetwork(NetworkSide& network) {
+void RefusalsBox::AddNetwork(PlayedNetworkSide& network) {
     NetworkRefusals& refuse = network.Refuse();
     AddRow("Refused", {NewRefusal("RefuseSession", "Open session", refuse.OpenSession),
                        NewRefusal("RefuseCreate", "Create record", refuse.CreateInterface),

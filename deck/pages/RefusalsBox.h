@@ -5,8 +5,8 @@
 #include "deck/fields/Section.h"
 
 namespace orvelle {
-class NetworkSide;
 class Notices;
+class PlayedNetworkSide;
 struct FarSides;
 }  // namespace orvelle
 
@@ -17,7 +17,7 @@ public:
     explicit RefusalsBox(const FarSides& sides);
 
 private:
-    void AddNetwork(NetworkSide& network);
+    void AddNetwork(PlayedNetworkSide& network);
     void AddNotices(Notices& notices);
 };
 

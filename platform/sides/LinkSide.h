@@ -1,15 +1,15 @@
-// A link from its far side, whichever of the two it is: whoever plays or tests the far side takes it up and down, makes
-// it slow, and reports servers. What the panel does there shows after each call of an observer.
+// A link from its far side, whichever of the two it is: whoever is or plays the far side takes it up and down. What the
+// panel does there shows after each call of an observer.
 #pragma once
 
 #include <functional>
 #include <string>
-#include <vector>
 
 #include "platform/Ticket.h"
-#include "platform/Types.h"
 
 namespace orvelle {
+
+class PlayedLinkSide;
 
 enum class LinkState { Down, Up };
 
@@ -21,12 +21,8 @@ public:
     virtual LinkState Link() const = 0;      // as wanted here
     virtual bool IsUp() const = 0;           // as the panel was told
     virtual std::string Server() const = 0;  // the name by which the panel came here; "" while it has not
-    // Reports a server on the network to the panel, by a name or an address.
-    virtual void SeeServer(const std::string& name) = 0;
-    virtual const std::vector<std::string>& ServersSeen() const = 0;  // each once
-    // How long what happens here takes to the panel, milliseconds.
-    virtual void SetDelay(Long milliseconds) = 0;
-    virtual Long Delay() const = 0;
+    // What can be done to it besides where it is played; null for a real one.
+    virtual PlayedLinkSide* Played() = 0;
 
     // Called from the loop after changes.
     [[nodiscard]] virtual Ticket Observe(std::function<void()> observer) = 0;

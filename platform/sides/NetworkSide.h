@@ -1,5 +1,5 @@
 // The far side of the framework link: the user's session on the network with its radios, the interface records of all
-// computers, and what other computers and other parties do with them. Acted on by whatever is, or plays, the framework.
+// computers, and what other parties write into them. Acted on by whatever is, or plays, the framework.
 #pragma once
 
 #include <cstddef>
@@ -10,7 +10,6 @@
 #include "platform/SessionSetting.h"
 #include "platform/Ticket.h"
 #include "platform/Types.h"
-#include "platform/VoiceRoles.h"
 
 namespace orvelle {
 
@@ -33,12 +32,7 @@ struct InterfaceRecord {
     std::map<Long, ParameterSetting<std::string>> Texts{};
 };
 
-// Failures on demand: every such call of the panel fails.
-struct NetworkRefusals {
-    bool OpenSession = false;
-    bool CreateInterface = false;
-    bool OpenInterface = false;
-};
+class PlayedNetworkSide;
 
 class NetworkSide {
 public:
@@ -55,18 +49,14 @@ public:
     virtual void SetTransmit(const std::string& selection) = 0;
     virtual void SetVoice(Long radio, const RadioVoiceSetting& voice) = 0;
 
-    // The records. Another computer makes one and ends it; another party announces a change or writes, which reaches a
-    // record while the link stands.
-    virtual Long Claim(const std::string& owner, const std::string& role,
-                       const std::string& type = VoiceRecordType) = 0;
-    virtual bool DropClaim(Long id) = 0;  // False for a record of the panel or none
-    virtual bool AnnounceChange(Long id) = 0;
+    // The records. What another party writes reaches a record while the link stands.
     virtual bool WriteParameter(Long id, Long index, Long value) = 0;
     virtual bool WriteText(Long id, Long index, const std::string& text) = 0;
     virtual std::map<Long, InterfaceRecord> Records() const = 0;  // by id
     virtual std::size_t Writes() const = 0;                       // so far, to all records
 
-    virtual NetworkRefusals& Refuse() = 0;
+    // What can be done besides where the network is played; null for a real one.
+    virtual PlayedNetworkSide* PlayedNetwork() = 0;
 
     // Called from the loop after changes.
     [[nodiscard]] virtual Ticket Observe(std::function<void()> observer) = 0;

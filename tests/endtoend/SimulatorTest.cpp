@@ -1,42 +1,184 @@
-// The window of the simulator's program over its own broker.
-#include <gtest/gtest.h>
-
+// The window of the simulator's program over its own broker, on a desktop with a notification area and on one without.
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
+#include <QProcess>
 #include <QPushButton>
-#include <QTemporaryDir>
 
 #include "adapters/looks/Text.h"
-#include "adapters/qt/services/QtEventLoop.h"
-#include "apps/SimulatorProgram.h"
-#include "apps/SimulatorWindow.h"
-#include "tests/endtoend/User.h"
-#include "tests/mqtt/broker/BrokerProcess.h"
+#include "adapters/mqtt/Member.h"
+#include "tests/endtoend/SimulatorRig.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle {
 
 namespace {
 
-SimulatorCommand Serving(const QString& folder) {
-    SimulatorCommand command;
-    command.Data = folder.toStdString();
-    command.Port = mqtt::FreePort();
-    return command;
+// Another computer's program of the set-up.
+struct Other {
+    Other(EventLoop& loop, const SimulatorProgram& program, int identity, mqtt::Program kind)
+        : AtBroker(loop, kind, {}, [this] { return Presence; }) {
+        Presence = {.Name = "COCKPIT2", .Address = "", .Desktop = "X11"};
+        Presence.OffersSimulator = Presence.OffersFramework = kind == mqtt::Program::Simulator;
+        mqtt::SetUpSetting setUp = *program.Member();
+        setUp.Identity = identity;
+        setUp.Key = program.SetUp.Read().Setting->Keys.at(identity);
+        AtBroker.Open(setUp, "127.0.0.1");
+    }
+
+    mqtt::PresenceSetting Presence;
+    mqtt::Member AtBroker;
+};
+
+class SimulatorTest : public SimulatorRig {
+protected:
+    // Two presses on the icon are no double click.
+    SimulatorTest() { QApplication::setDoubleClickInterval(0); }
+
+    const QWidget* TrayIcon() {
+        for (const QWidget* widget : QApplication::topLevelWidgets())
+            if (widget->inherits("QSystemTrayIconSys") && widget->isVisible() &&
+                user.Input.MiddleOf(*widget).x() > TrayBegins)
+                return widget;
+        return nullptr;
+    }
+
+    // The tray lies at the right of the screen.
+    static constexpr int TrayBegins = 700;
+
+    User user;
+};
+
+TEST_F(SimulatorTest, AnAddedComputerHasACodeAndIsListedUntilItIsRemoved) {
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_TRUE(IsThere());
+    EXPECT_TRUE(ComesTrue([&] { return Row(0) == "c01|this computer|simulator|-|keys, session"; })) << Row(0);
+    At<QPushButton>("AddComputer").click();
+    const auto code = mqtt::ReadJoinCode(FromQt(At<QLineEdit>("Code").text()));
+    ASSERT_TRUE(code);
+    EXPECT_EQ(code->Number, 2);
+    EXPECT_EQ(At<QLabel>("Answer").text(), "Type this code on the new computer, which will be c02.");
+    EXPECT_TRUE(ComesTrue([&] { return Row(1) == "c02|-|away|-|-"; })) << Row(1);
+
+    At<QTableWidget>("Computers").selectRow(1);
+    At<QPushButton>("RemoveComputer").click();
+    auto* question = window->findChild<QMessageBox*>();
+    ASSERT_NE(question, nullptr);
+    question->button(QMessageBox::Yes)->click();
+    EXPECT_TRUE(ComesTrue([&] { return Row(1).empty(); })) << Row(1);
+    EXPECT_EQ(At<QLineEdit>("Code").text(), "");
 }
 
-TEST(SimulatorTest, AnAddedComputerHasACodeAndIsListed) {
-    const QTemporaryDir folder;
-    qt::QtEventLoop loop;
-    SimulatorProgram program(loop, Serving(folder.filePath("data")));
-    SimulatorWindow window(program);
-    ASSERT_EQ(program.Open(), "");
-    window.show();
-    auto& computers = *window.findChild<QListWidget*>("Computers");
-    ASSERT_TRUE(ComesTrue([&] { return program.AtBroker.IsThere() && computers.count() == 1; }));
-    window.findChild<QPushButton*>("AddComputer")->click();
-    EXPECT_TRUE(mqtt::ReadJoinCode(FromQt(window.findChild<QLabel*>("Code")->text())));
-    EXPECT_TRUE(ComesTrue([&] { return computers.count() == 2 && computers.item(1)->text() == "c02"; }));
-    program.Close();
+TEST_F(SimulatorTest, AFullSetUpIsToldInOneSentence) {
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_TRUE(IsThere());
+    for (int number = 2; number <= 99; ++number) ASSERT_TRUE(program->SetUp.Add().Code);
+    At<QPushButton>("AddComputer").click();
+    EXPECT_EQ(At<QLabel>("Answer").text(),
+              "The set-up is full: it has 99 computers already; remove one to add another.");
+    EXPECT_EQ(At<QLineEdit>("Code").text(), "");
+    EXPECT_TRUE(ComesTrue([&] { return Row(98) == "c99|-|away|-|-"; })) << Row(98);
+}
+
+TEST_F(SimulatorTest, ComputersThatAreThereAreToldWithWhatTheyHoldAndServe) {
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_TRUE(IsThere());
+    for (int number = 2; number <= 3; ++number) ASSERT_TRUE(program->SetUp.Add().Code);
+    Other panel(loop, *program, 2, mqtt::Program::Panel);
+    Other simulator(loop, *program, 3, mqtt::Program::Simulator);
+    ASSERT_TRUE(ComesTrue([&] { return panel.AtBroker.IsThere(); }));
+    panel.AtBroker.Say(mqtt::TopicKind::Record, R"({"type":"VOICE","role":"VVL"})", 1, mqtt::Retain::Yes, 1);
+    EXPECT_TRUE(ComesTrue([&] { return Row(1) == "c02|COCKPIT2|panel|VVL|-"; })) << Row(1);
+    EXPECT_TRUE(ComesTrue([&] { return Row(2) == "c03|COCKPIT2|simulator|-|-"; })) << Row(2);
+    program->Simulator.SetLink(LinkState::Down);
+    EXPECT_TRUE(ComesTrue([&] { return Row(2) == "c03|COCKPIT2|simulator|-|keys"; })) << Row(2);
+    EXPECT_TRUE(ComesTrue([&] {
+        return At<QLabel>("SimulatorLinkText").text() == "Not offered here, served by c03 COCKPIT2" &&
+               At<QLabel>("FrameworkLinkText").text() == "Served by this computer";
+    }));
+    panel.AtBroker.Say(mqtt::TopicKind::Record, "{", 1, mqtt::Retain::No, 2);
+    EXPECT_TRUE(ComesTrue([&] { return At<QLabel>("Refused").text().startsWith("1 "); }));
+}
+
+TEST_F(SimulatorTest, AnotherNameIsTakenUpAndAWrongOneTold) {
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_TRUE(IsThere());
+    auto& name = At<QLineEdit>("SetUpName");
+    EXPECT_EQ(name.text(), "Home");
+    const auto type = [&](const QString& text) {
+        name.selectAll();
+        TypeText(&name, text);
+        ClickKey(&name, Qt::Key_Return);
+    };
+    type("Club");
+    EXPECT_TRUE(ComesTrue([&] { return program->Made()->Name == "Club"; }));
+    EXPECT_EQ(mqtt::ReadSetUpFile(program->SetUp.PanelFile()).Setting->Name, "Club");
+    EXPECT_TRUE(ComesTrue([&] { return window->Tray().Tip().startsWith("Club\n"); }));
+    const int before = At<QListWidget>("Tellings").count();
+    type(QString(64, 'x'));
+    EXPECT_EQ(At<QListWidget>("Tellings").count(), before + 1);
+    EXPECT_EQ(name.text(), "Club");
+}
+
+TEST_F(SimulatorTest, ClosingHidesItAndItsIconBringsItBackAndEndsIt) {
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_TRUE(IsThere());
+    ASSERT_TRUE(ComesTrue([this] { return TrayIcon() != nullptr; }));
+    CloseFromTheFrame(window.get());
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_TRUE(program->AtBroker.IsThere());
+    user.Click(*TrayIcon());
+    EXPECT_TRUE(ComesTrue([this] { return window->isVisible(); }));
+    user.Click(*TrayIcon());
+    EXPECT_TRUE(ComesTrue([this] { return !window->isVisible(); }));
+    window->Tray().Menu().actions().front()->trigger();
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(endsAsked, 0);
+    window->Tray().Menu().actions().back()->trigger();
+    EXPECT_EQ(endsAsked, 1);
+}
+
+TEST_F(SimulatorTest, ItsTipTellsTheSetUpTheLinksAndHowManyAreThere) {
+    ASSERT_NO_FATAL_FAILURE(Open());
+    EXPECT_TRUE(ComesTrue([&] {
+        return window->Tray().Tip() == "Home\nKeys and sounds: Served by this computer\n"
+                                       "Session: Served by this computer\n1 computer is there";
+    })) << FromQt(window->Tray().Tip());
+    ASSERT_TRUE(program->SetUp.Add().Code);
+    Other panel(loop, *program, 2, mqtt::Program::Panel);
+    EXPECT_TRUE(ComesTrue([&] { return window->Tray().Tip().endsWith("2 computers are there"); }));
+}
+
+class SimulatorWithoutTrayTest : public SimulatorTest {};
+
+TEST_F(SimulatorWithoutTrayTest, ClosingItAsksAndEndsIt) {
+    ASSERT_NO_FATAL_FAILURE(Open());
+    const auto answer = [&](QMessageBox::StandardButton button) {
+        CloseFromTheFrame(window.get());
+        EXPECT_TRUE(window->isVisible());
+        auto* question = window->findChild<QMessageBox*>("AsksToEnd");
+        ASSERT_NE(question, nullptr);
+        question->button(button)->click();
+        EXPECT_TRUE(ComesTrue([&] { return window->findChild<QMessageBox*>("AsksToEnd") == nullptr; }));
+    };
+    answer(QMessageBox::No);
+    EXPECT_EQ(endsAsked, 0);
+    answer(QMessageBox::Yes);
+    EXPECT_EQ(endsAsked, 1);
+}
+
+TEST_F(SimulatorWithoutTrayTest, AnAreaThatComesTakesTheIconAndOneThatGoesGivesTheWindowBack) {
+    ASSERT_NO_FATAL_FAILURE(Open());
+    EXPECT_FALSE(window->Tray().IsThere());
+    QProcess tray;
+    tray.start("trayer", {"--edge", "top", "--align", "right", "--height", "32"});
+    EXPECT_TRUE(ComesTrue([&] { return window->Tray().IsThere(); }));
+    CloseFromTheFrame(window.get());
+    EXPECT_TRUE(window->isHidden());
+    tray.kill();
+    EXPECT_TRUE(ComesTrue([&] { return !window->Tray().IsThere() && !window->isHidden(); }));
+    tray.waitForFinished();
 }
 
 }  // namespace

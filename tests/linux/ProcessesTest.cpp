@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "adapters/linux/FileDescriptor.h"
+#include "adapters/shared/FileDescriptor.h"
 #include "adapters/linux/LinuxProcesses.h"
 #include "tests/linux/WaitUntil.h"
 

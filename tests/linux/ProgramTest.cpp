@@ -82,7 +82,7 @@ TEST_F(SingleInstance, IsNotKeptFromStartingByAFolderThatIsNotTheUsersAlone) {
     InstanceLock two(folder, "panel");
     EXPECT_TRUE(one.Take());
     EXPECT_TRUE(two.Take());
-    EXPECT_EQ(one.Problem(), "Whether the panel runs a second time can't be known, since the folder " + folder +
+    EXPECT_EQ(one.Problem(), "Whether the program runs a second time can't be known, since the folder " + folder +
                                  " is not this user's alone.");
 }
 
@@ -94,7 +94,7 @@ TEST_F(SingleInstance, TellsWhereThereIsNoLock) {
     std::filesystem::create_symlink(target, link);
     std::filesystem::create_directory_symlink(folder, folder + "/folder");
 
-    const std::string always = "Whether the panel runs a second time can't be known, since ";
+    const std::string always = "Whether the program runs a second time can't be known, since ";
     ProcessProgram linked(InstanceLock(folder, "link"));
     EXPECT_FALSE(linked.PrevInstance());
     EXPECT_EQ(linked.Problem(), always + link + " can't be opened: Too many levels of symbolic links.");

@@ -25,7 +25,7 @@ sockaddr_in Loopback(int port) {
 }
 
 bool Listens(int port) {
-    const linux::FileDescriptor socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    const FileDescriptor socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
     const sockaddr_in address = Loopback(port);
     return connect(socket.Number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
 }
@@ -39,7 +39,7 @@ Key KeyOf(int identity) {
 }  // namespace
 
 int FreePort() {
-    const linux::FileDescriptor socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    const FileDescriptor socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
     sockaddr_in address = Loopback(0);
     socklen_t size = sizeof address;
     if (bind(socket.Number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||

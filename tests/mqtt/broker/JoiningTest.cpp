@@ -6,7 +6,7 @@
 
 #include <fstream>
 
-#include "adapters/linux/FileDescriptor.h"
+#include "adapters/shared/FileDescriptor.h"
 #include "tests/linux/WaitUntil.h"
 #include "tests/mqtt/OwnFolder.h"
 #include "tests/mqtt/broker/SetUpRig.h"
@@ -67,7 +67,7 @@ TEST_F(JoiningTest, WhereNobodyListensOrAnswersItEndsInTime) {
     auto begin = std::chrono::steady_clock::now();
     EXPECT_EQ(Try(At(FreePort())), JoinOutcome::Unreachable);
     EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(2)) << "the system tells that at once";
-    const linux::FileDescriptor silent(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    const FileDescriptor silent(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);

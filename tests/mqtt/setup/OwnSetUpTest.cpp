@@ -92,6 +92,61 @@ TEST_F(OwnSetUpTest, ASetUpFileOfAnotherSetUpIsNotOverwritten) {
     EXPECT_EQ(setUp.OfThisComputer(*made.Setting)->Port, 8884);
 }
 
+TEST_F(OwnSetUpTest, ItIsLeftForAnOwnOneByChoiceAlone) {
+    const OwnSetUp setUp(data);
+    const auto made = setUp.ReadOrMake("Home", 0);
+    for (const std::string& other : {WriteSetUp({"Club", "elsewhere", 8883, 5, Key{}}), std::string("{damaged")}) {
+        Write("setup.json", other);
+        EXPECT_EQ(setUp.JoinThisComputer(*made.Setting, "localhost", 8883, OwnSetUp::OtherSetUp::IsLeft), "");
+        EXPECT_EQ(setUp.OfThisComputer(*made.Setting)->Name, "Home");
+    }
+}
+
+TEST_F(OwnSetUpTest, AnotherOneThatWasJoinedIsKnown) {
+    const OwnSetUp setUp(data);
+    EXPECT_FALSE(setUp.JoinedElsewhere());
+    const SetUpSetting club{"Club", "elsewhere", 8883, 5, Key{}};
+    Write("setup.json", WriteSetUp(club));
+    EXPECT_EQ(setUp.JoinedElsewhere(), club);
+    const auto made = setUp.ReadOrMake("Home", 0);
+    EXPECT_EQ(setUp.JoinedElsewhere(), club);
+    fs::remove(data / "setup.json");
+    EXPECT_EQ(setUp.JoinThisComputer(*made.Setting, "localhost", 8883), "");
+    EXPECT_FALSE(setUp.JoinedElsewhere());
+    // Whose that file is can't be told then.
+    Write("broker/set-up.json", "{damaged");
+    EXPECT_FALSE(setUp.JoinedElsewhere());
+}
+
+TEST_F(OwnSetUpTest, AnotherNameIsKeptAndToldToThisComputersPanel) {
+    const OwnSetUp setUp(data);
+    EXPECT_NE(setUp.Rename("Club"), "") << "there is none";
+    const auto made = setUp.ReadOrMake("Home", 0);
+    EXPECT_EQ(setUp.JoinThisComputer(*made.Setting, "simpc", 8884), "");
+    EXPECT_EQ(setUp.Rename("M\u00fcnchen \"2\""), "");
+    EXPECT_EQ(setUp.Read().Setting->Name, "M\u00fcnchen \"2\"");
+    EXPECT_EQ(setUp.Read().Setting->Keys, made.Setting->Keys);
+    const auto own = ReadSetUpFile(data / "setup.json").Setting;
+    ASSERT_TRUE(own);
+    EXPECT_EQ(own->Name, "M\u00fcnchen \"2\"");
+    EXPECT_EQ(own->Host, "simpc");
+    EXPECT_EQ(own->Port, 8884);
+    for (const std::string& none : {std::string(), std::string("  "), std::string("a\nb"), std::string("\xFF"),
+                                    std::string(64, 'x')}) {
+        EXPECT_FALSE(IsSetUpName(none));
+        EXPECT_NE(setUp.Rename(none), "");
+    }
+    EXPECT_TRUE(IsSetUpName(std::string(63, 'x')));
+}
+
+TEST_F(OwnSetUpTest, IsNamedAsUsualWhereTheComputersNameIsNone) {
+    EXPECT_EQ(OwnSetUp(data).ReadOrMake("sim pc", 0).Setting->Name, "sim pc");
+    for (const std::string& none : {std::string(300, 'x'), std::string(" "), std::string("a\tb")}) {
+        fs::remove_all(data / "broker");
+        EXPECT_EQ(OwnSetUp(data).ReadOrMake(none, 0).Setting->Name, "OrvelleCP");
+    }
+}
+
 TEST_F(OwnSetUpTest, ADataFolderThatCannotBeMadeIsTold) {
     Write("file", "");
     EXPECT_NE(OwnSetUp(data / "file").ReadOrMake("Home", 0).Sentence, "");

@@ -5,7 +5,7 @@
 
 #include <utility>
 
-namespace orvelle::linux {
+namespace orvelle {
 
 class FileDescriptor {
 public:
@@ -28,4 +28,4 @@ private:
     int number = -1;
 };
 
-}  // namespace orvelle::linux
+}  // namespace orvelle

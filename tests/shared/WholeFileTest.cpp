@@ -1,4 +1,4 @@
-#include "adapters/linux/WholeFile.h"
+#include "adapters/shared/WholeFile.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -6,8 +6,9 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <thread>
 
-namespace orvelle::linux {
+namespace orvelle {
 namespace {
 
 namespace fs = std::filesystem;
@@ -62,6 +63,35 @@ TEST_F(WholeFileTest, WritesThroughNoLinkThatLiesInTheWay) {
     EXPECT_FALSE(fs::exists(folder / "elsewhere"));
 }
 
+TEST_F(WholeFileTest, IsWholeWhicheverOfSeveralWroteItLast) {
+    const auto writeOften = [this](char letter) {
+        for (int time = 0; time < 50; ++time) EXPECT_FALSE(WriteWholeFile(file, std::string(20'000, letter)));
+    };
+    std::thread other(writeOften, 'a');
+    writeOften('b');
+    other.join();
+    const std::string text = Text(file);
+    EXPECT_EQ(text.size(), 20'000U);
+    EXPECT_EQ(text.find_first_not_of(text.front()), std::string::npos);
+    EXPECT_EQ(std::distance(fs::directory_iterator(file.parent_path()), fs::directory_iterator()), 1);
+}
+
+TEST_F(WholeFileTest, IsPutInPlaceOfAnother) {
+    EXPECT_FALSE(WriteWholeFile(file, "old"));
+    const fs::path made = fs::path(file) += ".made";
+    std::ofstream(made) << "new";
+    EXPECT_FALSE(RenameForGood(made, file));
+    EXPECT_EQ(Text(file), "new");
+    EXPECT_EQ(RenameForGood(made, file), std::errc::no_such_file_or_directory);
+    EXPECT_EQ(Text(file), "new");
+}
+
+TEST_F(WholeFileTest, LiesInNoFolderWhoseLinkLeadsNowhere) {
+    fs::create_directory_symlink(folder / "nowhere", folder / "a");
+    EXPECT_EQ(WriteWholeFile(file, "text"), std::errc::no_such_file_or_directory);
+    EXPECT_FALSE(fs::exists(folder / "nowhere"));
+}
+
 TEST_F(WholeFileTest, TellsWhatFailed) {
     std::ofstream(folder / "a") << "in the way";
     EXPECT_EQ(WriteWholeFile(file, "text"), std::errc::not_a_directory);
@@ -69,4 +99,4 @@ TEST_F(WholeFileTest, TellsWhatFailed) {
 }
 
 }  // namespace
-}  // namespace orvelle::linux
+}  // namespace orvelle

@@ -1,0 +1,37 @@
+#include "apps/SimulatorLinks.h"
+
+#include "adapters/looks/Text.h"
+#include "adapters/mqtt/Topics.h"
+#include "apps/SimulatorProgram.h"
+
+namespace orvelle {
+
+LinkTold TellOfLink(const SimulatorProgram& program, const mqtt::OfferedLink& link) {
+    const bool isOffered = link.Link() == LinkState::Up;
+    const int server = link.ServedBy();
+    if (!isOffered && server == 0) return {Sign::Off, "Not offered"};
+    if (!isOffered) return {Sign::Off, "Not offered here, served by " + NameOf(program, server)};
+    if (server == 0) return {Sign::Waiting, "Offered, but the broker is not reached"};
+    if (server == program.AtBroker.Identity()) return {Sign::Good, "Served by this computer"};
+    return {Sign::Waiting, "Served by " + NameOf(program, server) + ", this one stands by"};
+}
+
+QString NameOf(const SimulatorProgram& program, int identity) {
+    const QString text = ToQt(mqtt::WriteIdentity(identity));
+    for (const auto kind : {mqtt::Program::Simulator, mqtt::Program::Panel})
+        if (const auto* said = program.AtBroker.Others().Find({identity, kind})) return text + " " + ToQt(said->Name);
+    return text;
+}
+
+int ComputersThere(const SimulatorProgram& program) {
+    int count = 0;
+    for (int identity = 1; identity <= mqtt::LastIdentity; ++identity) {
+        const bool isOwn = program.AtBroker.IsThere() && identity == program.AtBroker.Identity();
+        const mqtt::Presences& others = program.AtBroker.Others();
+        count += isOwn || others.IsThere({identity, mqtt::Program::Simulator}) ||
+                 others.IsThere({identity, mqtt::Program::Panel});
+    }
+    return count;
+}
+
+}  // namespace orvelle
