@@ -1,11 +1,14 @@
 // What the outside is to the panel: the two links, the voice engine, the mixers and the voice programs, each by the
 // medium or device that serves now. A computer that has joined no set-up practises with the embedded one, whose far
-// sides are for the flight deck; one that has joined has its links over the set-up's broker.
+// sides are for the flight deck; one that has joined has its links over the set-up's broker, and looks for servers on
+// the network.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "adapters/avahi/ServiceBrowser.h"
 #include "adapters/embedded/SetUp.h"
 #include "adapters/ends/FrameworkEnd.h"
 #include "adapters/ends/MicrophoneGuard.h"
@@ -35,12 +38,19 @@ public:
     // To be called at the program's end.
     void SayGoodbye() { brokers.SayGoodbye(); }
 
+    // A sentence for the user about what the links can't have for now; it needs no answer.
+    Event<const std::string&> Told;
+
     embedded::SetUp Practice;
 
 private:
     void ChooseLines();
+    void Look();
 
+    EventLoop& loop;
     mqtt::Brokers brokers;
+    std::optional<avahi::ServiceBrowser> browser;  // not while practising
+    bool isMissingTold = false;
     mqtt::BrokerSimulatorLine simulatorLine;
     mqtt::BrokerFrameworkLine frameworkLine;
     // Every server's name leads to the one line or to the other.

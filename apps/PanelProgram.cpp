@@ -49,6 +49,7 @@ PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile
     Outside.Tessaly.Refused = [this](const std::string& sentence) {
         Outside.IsPractising() ? TellOfProgram(sentence) : Settings.Notices.Tell(sentence);
     };
+    Outside.Told = [this](const std::string& sentence) { Desktop.Tray.Tell(sentence); };
     goodbyeAtEnd = process.AtEnd([this] { Outside.SayGoodbye(); });
     microphonesCloseAtEnd = process.AtEnd([this] { Outside.VVL.CloseAll(); });
     TakeUpSetUp();

@@ -1,43 +1,40 @@
 // The connection to this computer's Avahi daemon, kept whatever happens to the daemon: one that isn't there yet is
-// waited for, and one that went is waited for again. Used by the browser and the announcement, which make what they
-// need at each Ready and forget it at each Lost. These two come from inside the library, so that nothing but notes and
-// calls of the library are made there; Told comes from the loop.
+// waited for, and one that went is waited for again. On the library's thread: its calls ask the daemon and wait for the
+// answer, from one that hangs for 25 seconds.
 #pragma once
 
 #include <avahi-client/client.h>
 
-#include <string>
+#include <chrono>
 
-#include "adapters/avahi/AvahiLoop.h"
-#include "platform/Event.h"
+#include "adapters/avahi/DaemonWork.h"
 
 namespace orvelle::avahi {
 
 class DaemonConnection {
 public:
-    explicit DaemonConnection(EventLoop& eventLoop) : loop(eventLoop), avahiLoop(eventLoop) {}
+    DaemonConnection(const AvahiPoll* libraryPoll, DaemonWork& daemonWork) : poll(libraryPoll), work(daemonWork) {}
     DaemonConnection(const DaemonConnection&) = delete;
     DaemonConnection& operator=(const DaemonConnection&) = delete;
     ~DaemonConnection() { Free(); }
 
-    // Once, after the events are set.
-    void Open();
-
-    Event<AvahiClient*> Ready;       // the daemon serves; also again, as when the computer's own name has changed
-    Event<> Lost;                    // what was made with the client is to be forgotten: it goes with it
-    Event<const std::string&> Told;  // once: a sentence, where there is no daemon
+    // To be called in each turn of the thread: connects where it is time to. Gives the milliseconds until it shall be
+    // called again, -1 for when the library has something.
+    int Tend();
 
 private:
+    using Clock = std::chrono::steady_clock;
+    enum class State { Away, Kept, Broken };
+
     void Connect();
-    void Follow(AvahiClient* now, AvahiClientState state);
-    void TellMissing();
+    void Follow(AvahiClient* now, AvahiClientState newState);
     void Free();
 
-    EventLoop& loop;
-    const AvahiLoop avahiLoop;
+    const AvahiPoll* const poll;
+    DaemonWork& work;
     AvahiClient* client = nullptr;
-    bool isTold = false;
-    Ticket again, telling;
+    State state = State::Away;
+    Clock::time_point next;  // attempt, while away
 };
 
 }  // namespace orvelle::avahi

@@ -1,5 +1,6 @@
 #include "adapters/avahi/ServiceAnnouncement.h"
 
+#include <avahi-client/publish.h>
 #include <avahi-common/alternative.h>
 #include <avahi-common/domain.h>
 #include <avahi-common/error.h>
@@ -24,29 +25,49 @@ std::string FirstBytes(std::string text, std::size_t most) {
     return text;
 }
 
-}  // namespace
-
-ServiceAnnouncement::ServiceAnnouncement(EventLoop& eventLoop, const std::string& setUpName, int brokerPort)
-    : setUp(FirstBytes(ToUtf8(setUpName), LongestSetUp)),
-      port(brokerPort),
-      instance(FirstBytes(setUp, LongestInstance)),
-      daemon(eventLoop) {
-    daemon.Ready = [this](AvahiClient* client) { Announce(client); };
-    daemon.Lost = [this] {
-        group = nullptr;
-        known.clear();
+// On the library's thread.
+class Announcing : public DaemonWork {
+public:
+    struct Telling {
+        std::function<void(const std::string& name)> Known;  // "" for no more
+        std::function<void()> Missing;
     };
-    daemon.Told = [this](const std::string& sentence) { Told(sentence); };
-    daemon.Open();
-}
 
-void ServiceAnnouncement::Announce(AvahiClient* client) {
+    Announcing(std::shared_ptr<LoopInbox> inbox, const std::string& setUpName, int brokerPort, Telling telling)
+        : DaemonWork(std::move(inbox)),
+          setUp(FirstBytes(ToUtf8(setUpName), LongestSetUp)),
+          port(brokerPort),
+          inLoop(std::move(telling)),
+          instance(FirstBytes(setUp, LongestInstance)) {}
+
+    void Begin(AvahiClient* client) override;
+    void Forget() override {
+        group = nullptr;
+        Tell("");
+    }
+    void Miss() override { ToLoop(inLoop.Missing); }
+
+private:
+    void Follow(AvahiEntryGroup* of, AvahiEntryGroupState state);
+    void TakeNextName();
+    void Tell(const std::string& known) const {
+        ToLoop([tell = inLoop.Known, known] { tell(known); });
+    }
+
+    const std::string setUp;
+    const int port;
+    const Telling inLoop;
+    std::string instance;  // the name that is tried
+    AvahiEntryGroup* group = nullptr;
+};
+
+void Announcing::Begin(AvahiClient* client) {
     const auto follow = [](AvahiEntryGroup* of, AvahiEntryGroupState state, void* object) {
-        static_cast<ServiceAnnouncement*>(object)->Follow(of, state);
+        static_cast<Announcing*>(object)->Follow(of, state);
     };
     if (group == nullptr) group = avahi_entry_group_new(client, follow, this);
     if (group == nullptr) return;
-    known.clear();
+    Tell("");
     const std::string named = "setup=" + setUp;
     for (int tried = 0; tried < NamesToTry; ++tried) {
         avahi_entry_group_reset(group);
@@ -63,17 +84,30 @@ void ServiceAnnouncement::Announce(AvahiClient* client) {
 }
 
 // Called by the library, for the first time before it has given the group.
-void ServiceAnnouncement::Follow(AvahiEntryGroup* of, AvahiEntryGroupState state) {
-    if (state == AVAHI_ENTRY_GROUP_ESTABLISHED) known = instance;
+void Announcing::Follow(AvahiEntryGroup* of, AvahiEntryGroupState state) {
+    if (state == AVAHI_ENTRY_GROUP_ESTABLISHED) Tell(instance);
     if (state != AVAHI_ENTRY_GROUP_COLLISION) return;
     TakeNextName();
-    Announce(avahi_entry_group_get_client(of));
+    Begin(avahi_entry_group_get_client(of));
 }
 
-void ServiceAnnouncement::TakeNextName() {
+void Announcing::TakeNextName() {
     char* const next = avahi_alternative_service_name(instance.c_str());
     instance = next;
     avahi_free(next);
 }
+
+}  // namespace
+
+ServiceAnnouncement::ServiceAnnouncement(EventLoop& loop, const std::string& setUpName, int brokerPort)
+    : daemon(loop, [&](std::shared_ptr<LoopInbox> inbox) {
+          return std::make_unique<Announcing>(
+              std::move(inbox), setUpName, brokerPort,
+              Announcing::Telling{.Known = [this](const std::string& name) { known = name; },
+                                  .Missing =
+                                      [this] {
+                                          if (!std::exchange(isMissingTold, true)) Told(MissingSentence);
+                                      }});
+      }) {}
 
 }  // namespace orvelle::avahi

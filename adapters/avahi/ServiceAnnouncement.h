@@ -1,20 +1,19 @@
 // Tells the network of a set-up whose broker is on this computer, by DNS-SD, under its own name, or where another one
 // bears that already, under the next (as "Home #2"). Needs the Avahi daemon; one that comes later, or goes and comes
-// back, is told again. Called by the simulator's program.
+// back, is told again, and one that hangs holds nobody up. Called by the simulator's program.
 #pragma once
-
-#include <avahi-client/publish.h>
 
 #include <string>
 
-#include "adapters/avahi/DaemonConnection.h"
+#include "adapters/avahi/DaemonThread.h"
+#include "platform/Event.h"
 
 namespace orvelle::avahi {
 
 class ServiceAnnouncement {
 public:
     // The port is the broker's, 1 to 65535. A name that is too long for the network is cut.
-    ServiceAnnouncement(EventLoop& eventLoop, const std::string& setUpName, int brokerPort);
+    ServiceAnnouncement(EventLoop& loop, const std::string& setUpName, int brokerPort);
     ServiceAnnouncement(const ServiceAnnouncement&) = delete;
     ServiceAnnouncement& operator=(const ServiceAnnouncement&) = delete;
 
@@ -24,16 +23,9 @@ public:
     Event<const std::string&> Told;  // from the loop, once: a sentence, where there is no daemon
 
 private:
-    void Announce(AvahiClient* client);
-    void Follow(AvahiEntryGroup* of, AvahiEntryGroupState state);
-    void TakeNextName();
-
-    const std::string setUp;
-    const int port;
-    std::string instance;  // the name that is tried
     std::string known;
-    AvahiEntryGroup* group = nullptr;
-    DaemonConnection daemon;
+    bool isMissingTold = false;
+    DaemonThread daemon;
 };
 
 }  // namespace orvelle::avahi

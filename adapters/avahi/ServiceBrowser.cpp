@@ -1,9 +1,12 @@
 #include "adapters/avahi/ServiceBrowser.h"
 
+#include <avahi-client/lookup.h>
 #include <avahi-common/malloc.h>
 
 #include <algorithm>
 #include <iterator>
+#include <map>
+#include <optional>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -14,7 +17,8 @@ namespace orvelle::avahi {
 
 namespace {
 
-constexpr std::size_t LongestName = 255;  // bytes
+constexpr std::size_t LongestName = 255;    // bytes
+constexpr std::size_t MostSightings = 200;  // that somebody on the network may make us follow
 
 // What comes from the network is shown: no blanks for a host, no signs that steer a terminal.
 bool IsShowable(std::string_view text, char least) {
@@ -43,25 +47,44 @@ std::optional<FoundService> ReadService(const char* host, std::uint16_t port, Av
     return service;
 }
 
-}  // namespace
-
-ServiceBrowser::ServiceBrowser(EventLoop& eventLoop) : loop(eventLoop), daemon(eventLoop) {
-    daemon.Ready = [this](AvahiClient* client) { Browse(client); };
-    daemon.Lost = [this] {
-        browser = nullptr;
-        seen.clear();
-        TellLater();
+// On the library's thread: what there is, told to the loop as a whole after each change.
+class Browsing : public DaemonWork {
+public:
+    struct Telling {
+        std::function<void(const std::set<FoundService>& now)> Found;
+        std::function<void()> Missing;
     };
-    daemon.Told = [this](const std::string& sentence) { Told(sentence); };
-    daemon.Open();
-}
 
-void ServiceBrowser::Browse(AvahiClient* client) {
+    Browsing(std::shared_ptr<LoopInbox> inbox, Telling telling)
+        : DaemonWork(std::move(inbox)), inLoop(std::move(telling)) {}
+
+    void Begin(AvahiClient* client) override;
+    void Forget() override;
+    void Miss() override { ToLoop(inLoop.Missing); }
+
+private:
+    // A set-up shows once for each network that it is seen on.
+    using Sighting = std::tuple<AvahiIfIndex, AvahiProtocol, std::string, std::string>;
+    struct Seen {
+        AvahiServiceResolver* Resolver = nullptr;
+        std::optional<FoundService> Service;
+    };
+
+    void See(AvahiClient* client, const Sighting& sighting);
+    void Resolve(AvahiServiceResolver* resolver, std::optional<FoundService> service);
+    void Tell() const;
+
+    const Telling inLoop;
+    AvahiServiceBrowser* browser = nullptr;
+    std::map<Sighting, Seen> seen;
+};
+
+void Browsing::Begin(AvahiClient* client) {
     if (browser != nullptr) return;
     const auto follow = [](AvahiServiceBrowser* from, AvahiIfIndex interface, AvahiProtocol protocol,
                            AvahiBrowserEvent event, const char* name, const char*, const char* domain,
                            AvahiLookupResultFlags, void* object) {
-        auto& self = *static_cast<ServiceBrowser*>(object);
+        auto& self = *static_cast<Browsing*>(object);
         if (event != AVAHI_BROWSER_NEW && event != AVAHI_BROWSER_REMOVE) return;
         const Sighting sighting(interface, protocol, name, domain);
         if (event == AVAHI_BROWSER_NEW) return self.See(avahi_service_browser_get_client(from), sighting);
@@ -69,18 +92,25 @@ void ServiceBrowser::Browse(AvahiClient* client) {
         if (gone == self.seen.end()) return;
         if (gone->second.Resolver != nullptr) avahi_service_resolver_free(gone->second.Resolver);
         self.seen.erase(gone);
-        self.TellLater();
+        self.Tell();
     };
     browser = avahi_service_browser_new(client, AVAHI_IF_UNSPEC, AVAHI_PROTO_UNSPEC, ServiceType, nullptr,
                                         AvahiLookupFlags{}, follow, this);
 }
 
+void Browsing::Forget() {
+    browser = nullptr;
+    seen.clear();
+    Tell();
+}
+
 // The resolver stays, and tells a host or a port that changes.
-void ServiceBrowser::See(AvahiClient* client, const Sighting& sighting) {
+void Browsing::See(AvahiClient* client, const Sighting& sighting) {
+    if (seen.size() >= MostSightings) return;
     const auto follow = [](AvahiServiceResolver* resolver, AvahiIfIndex, AvahiProtocol, AvahiResolverEvent event,
                            const char*, const char*, const char*, const char* host, const AvahiAddress*,
                            std::uint16_t port, AvahiStringList* texts, AvahiLookupResultFlags, void* object) {
-        static_cast<ServiceBrowser*>(object)->Resolve(
+        static_cast<Browsing*>(object)->Resolve(
             resolver, event == AVAHI_RESOLVER_FOUND ? ReadService(host, port, texts) : std::nullopt);
     };
     const auto& [interface, protocol, name, domain] = sighting;
@@ -90,25 +120,38 @@ void ServiceBrowser::See(AvahiClient* client, const Sighting& sighting) {
                                                 AVAHI_PROTO_UNSPEC, AVAHI_LOOKUP_NO_ADDRESS, follow, this);
 }
 
-void ServiceBrowser::Resolve(AvahiServiceResolver* resolver, std::optional<FoundService> service) {
+void Browsing::Resolve(AvahiServiceResolver* resolver, std::optional<FoundService> service) {
     const auto of = std::ranges::find_if(seen, [=](const auto& each) { return each.second.Resolver == resolver; });
     if (of == seen.end()) return;
     of->second.Service = std::move(service);
-    TellLater();
+    Tell();
 }
 
-void ServiceBrowser::TellLater() {
-    telling = loop.After(0, [this] { Tell(); });
-}
-
-void ServiceBrowser::Tell() {
+void Browsing::Tell() const {
     std::set<FoundService> now;
     for (const auto& [sighting, entry] : seen)
         if (entry.Service) now.insert(*entry.Service);
+    ToLoop([tell = inLoop.Found, now] { tell(now); });
+}
+
+}  // namespace
+
+ServiceBrowser::ServiceBrowser(EventLoop& loop)
+    : daemon(loop, [this](std::shared_ptr<LoopInbox> inbox) {
+          return std::make_unique<Browsing>(
+              std::move(inbox), Browsing::Telling{.Found = [this](const std::set<FoundService>& now) { Tell(now); },
+                                                  .Missing =
+                                                      [this] {
+                                                          if (!std::exchange(isMissingTold, true))
+                                                              Told(MissingSentence);
+                                                      }});
+      }) {}
+
+void ServiceBrowser::Tell(const std::set<FoundService>& now) {
     std::vector<FoundService> came, went;
     std::set_difference(now.begin(), now.end(), told.begin(), told.end(), std::back_inserter(came));
     std::set_difference(told.begin(), told.end(), now.begin(), now.end(), std::back_inserter(went));
-    told = std::move(now);
+    told = now;
     for (const FoundService& each : went) Went(each);
     for (const FoundService& each : came) Came(each);
 }

@@ -1,21 +1,22 @@
 // Set-ups on the network, found by DNS-SD: which there are, which come and go. What is announced wrongly, or for
 // another version of the protocol, is left out. Needs the Avahi daemon; one that comes later, or goes and comes back,
-// is followed, and what it told goes with it. Events come from the loop; a handler doesn't end this object.
+// is followed, and what it told goes with it; one that hangs holds nobody up. Events come from the loop; a handler
+// doesn't end this object.
 #pragma once
 
-#include <avahi-client/lookup.h>
-
-#include <map>
-#include <optional>
 #include <set>
 #include <string>
 #include <tuple>
 
-#include "adapters/avahi/DaemonConnection.h"
+#include "adapters/avahi/DaemonThread.h"
+#include "platform/Event.h"
 
 namespace orvelle::avahi {
 
 constexpr const char* ServiceType = "_orvelle._tcp";
+// Where there is no daemon.
+constexpr const char* MissingSentence =
+    "Set-ups aren't found by themselves, as this computer has no Avahi daemon that runs; hosts can be named.";
 
 struct FoundService {
     std::string SetUp;  // its name
@@ -29,7 +30,7 @@ struct FoundService {
 
 class ServiceBrowser {
 public:
-    explicit ServiceBrowser(EventLoop& eventLoop);
+    explicit ServiceBrowser(EventLoop& loop);
     ServiceBrowser(const ServiceBrowser&) = delete;
     ServiceBrowser& operator=(const ServiceBrowser&) = delete;
 
@@ -42,25 +43,11 @@ public:
     Event<const std::string&> Told;  // once: a sentence, where there is no daemon
 
 private:
-    // A set-up shows once for each network that it is seen on.
-    using Sighting = std::tuple<AvahiIfIndex, AvahiProtocol, std::string, std::string>;
-    struct Seen {
-        AvahiServiceResolver* Resolver = nullptr;
-        std::optional<FoundService> Service;
-    };
+    void Tell(const std::set<FoundService>& now);
 
-    void Browse(AvahiClient* client);
-    void See(AvahiClient* client, const Sighting& sighting);
-    void Resolve(AvahiServiceResolver* resolver, std::optional<FoundService> service);
-    void TellLater();
-    void Tell();
-
-    EventLoop& loop;
-    AvahiServiceBrowser* browser = nullptr;
-    std::map<Sighting, Seen> seen;
     std::set<FoundService> told;
-    Ticket telling;
-    DaemonConnection daemon;
+    bool isMissingTold = false;
+    DaemonThread daemon;
 };
 
 }  // namespace orvelle::avahi

@@ -1,4 +1,4 @@
-// How much a message may hold. Readers refuse what is beyond, writers cut it.
+// How much a message may hold: readers refuse what is beyond, writers cut it. And how much of others is kept.
 #pragma once
 
 #include <cstddef>
@@ -14,5 +14,9 @@ constexpr std::size_t Text = 1000;                       // characters
 constexpr Long LastIndex = 999;                          // of a record's parameters
 constexpr Long LeastNumber = std::numeric_limits<Long>::min();
 constexpr Long GreatestNumber = std::numeric_limits<Long>::max();
+
+constexpr std::size_t RecordsOfOneComputer = 1000;
+constexpr std::size_t BytesOfOneComputer = std::size_t{4} * 1024 * 1024;  // payloads of its records together
+constexpr std::size_t FoundServers = 100;                                 // on the network
 
 }  // namespace orvelle::mqtt::bounds

@@ -248,6 +248,8 @@ void BrokerConnection::Fail(BrokerTrouble why) {
         again = loop.After(0, [this] { Connect(); });
         return;
     }
+    // Two programs of one name would end each other without a pause.
+    if (why == BrokerTrouble::TakenOver) pause = LastPause;
     again = loop.After(pause, [this] { Try(); });
     pause = std::min(2 * pause, LastPause);
     if (wasUp) Lost();

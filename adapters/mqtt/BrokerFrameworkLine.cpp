@@ -21,11 +21,17 @@ BrokerFrameworkLine::BrokerFrameworkLine(EventLoop& eventLoop, Brokers& setUpBro
 }
 
 void BrokerFrameworkLine::Open(const std::string& name) {
+    wanted = name;
+    moved = brokers.Changed.Attach([this] { Open(std::string(*wanted)); });
+    found = brokers.Found.Observe([this] { TellFound(); });
     std::shared_ptr<PanelAtBroker> next = brokers.At(name);
     if (next != at || !next) Join(std::move(next));
 }
 
 void BrokerFrameworkLine::Close() {
+    wanted.reset();
+    moved.End();
+    found.End();
     Join(nullptr);
     first.End();
     server = 0;
@@ -60,6 +66,7 @@ void BrokerFrameworkLine::Join(std::shared_ptr<PanelAtBroker> next) {
     }
     // What is so already is told from the loop.
     first = loop.After(0, [this] {
+        TellFound();
         if (at) {
             const std::map<std::string, std::string> kept = at->Kept();
             for (const auto& [topic, payload] : kept)
@@ -117,6 +124,12 @@ void BrokerFrameworkLine::Review() {
     if (before == 0) Up();
     if (before != now) TellSession();
     TellRecords();
+}
+
+// A handler may close the line.
+void BrokerFrameworkLine::TellFound() {
+    for (const std::string& host : brokers.Found.Hosts())
+        if (wanted) ServerFound(host);
 }
 
 void BrokerFrameworkLine::Hear(const Topic& topic, const std::string& payload) {

@@ -6,6 +6,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,7 @@ private:
 
     void Join(std::shared_ptr<PanelAtBroker> next);
     void Review();
+    void TellFound();
     void Hear(const Topic& topic, const std::string& payload);
     void HearRecord(const Topic& topic, const std::string& payload);
     void HearWrite(const Topic& topic, const std::string& payload);
@@ -43,6 +45,7 @@ private:
 
     EventLoop& loop;
     Brokers& brokers;
+    std::optional<std::string> wanted;  // the server's name while open
     std::shared_ptr<PanelAtBroker> at;  // null while closed
     bool wasThere = false;
     int server = 0;                          // the identity of the program that serves, 0 while the line is down
@@ -51,7 +54,7 @@ private:
     Missing missing = Missing::CountsAsEnded;
     std::vector<Long> taken;  // own records that gave way, to be told
     Long lastNumber = 0;      // of an own record
-    Ticket coming, changed, heard, first, waiting, telling;
+    Ticket moved, found, coming, changed, heard, first, waiting, telling;
 };
 
 }  // namespace orvelle::mqtt

@@ -11,6 +11,9 @@ constexpr Long SilenceMilliseconds = 400;
 }  // namespace
 
 void BrokerSimulatorLine::Open(const std::string& name) {
+    wanted = name;
+    moved = brokers.Changed.Attach([this] { Open(std::string(*wanted)); });
+    found = brokers.Found.Observe([this] { TellFound(); });
     std::shared_ptr<PanelAtBroker> next = brokers.At(name);
     if (next == at) return;
     Leave();
@@ -20,10 +23,16 @@ void BrokerSimulatorLine::Open(const std::string& name) {
         heard = at->Heard.Attach([this](const Topic& topic, const std::string& payload) { Hear(topic, payload); });
     }
     // What is so already is told from the loop.
-    first = loop.After(0, [this] { Review(); });
+    first = loop.After(0, [this] {
+        TellFound();
+        Review();
+    });
 }
 
 void BrokerSimulatorLine::Close() {
+    wanted.reset();
+    moved.End();
+    found.End();
     Leave();
     first.End();
     server = 0;
@@ -52,6 +61,8 @@ void BrokerSimulatorLine::Review() {
     const int now = at && at->IsThere() ? at->Others().SimulatorOffering(&PresenceSetting::OffersSimulator) : 0;
     const int before = std::exchange(server, now);
     if (now == before) return;
+    // With this link a panel forgets which servers of the other one were found.
+    brokers.Found.TellAgain();
     if (now == 0) {
         silence.End();
         held = {};
@@ -61,6 +72,12 @@ void BrokerSimulatorLine::Review() {
     } else {
         LetGo();
     }
+}
+
+// A handler may close the line.
+void BrokerSimulatorLine::TellFound() {
+    for (const std::string& host : brokers.Found.Hosts())
+        if (wanted) ServerFound(host);
 }
 
 void BrokerSimulatorLine::Hear(const Topic& topic, const std::string& payload) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "adapters/mqtt/Brokers.h"
@@ -24,15 +25,17 @@ public:
 private:
     void Leave();
     void Review();
+    void TellFound();
     void Hear(const Topic& topic, const std::string& payload);
     void LetGo();
 
     EventLoop& loop;
     Brokers& brokers;
+    std::optional<std::string> wanted;  // the server's name while open
     std::shared_ptr<PanelAtBroker> at;  // null while closed
     int server = 0;                     // the identity of the program that serves, 0 while the line is down
     SimulatorInput held;
-    Ticket changed, heard, first, silence;
+    Ticket moved, found, changed, heard, first, silence;
 };
 
 }  // namespace orvelle::mqtt

@@ -1,41 +1,136 @@
 #include "adapters/mqtt/Brokers.h"
 
+#include <utility>
+
+#include "adapters/mqtt/BrokerTroubles.h"
 #include "platform/ServerNames.h"
 
 namespace orvelle::mqtt {
 
+namespace {
+
+const HostAndPort Nowhere{"", 0};
+
+// Between the end of one connection and the other one that ended it
+constexpr std::chrono::seconds OneMoment{3};
+
+bool WasLately(const std::optional<std::chrono::steady_clock::time_point>& when) {
+    return when && std::chrono::steady_clock::now() - *when < OneMoment;
+}
+
+}  // namespace
+
+Brokers::Brokers(EventLoop& eventLoop, std::function<PresenceSetting()> describe)
+    : Found(eventLoop), loop(eventLoop), tell(std::move(describe)) {}
+
 void Brokers::Join(const SetUpSetting& joined) {
     if (setUp == joined) return;
+    Leave();
     setUp = joined;
-    byHost.clear();
+    automatic.emplace(loop, Found, joined);
+    automatic->Changed = [this] { Changed.Tell(); };
 }
 
 void Brokers::Leave() {
     setUp.reset();
-    byHost.clear();
+    automatic.reset();
+    automaticTroubles.reset();
+    byPlace.clear();
 }
 
 void Brokers::SayGoodbye() {
-    for (const auto& [host, known] : byHost)
-        if (const std::shared_ptr<PanelAtBroker> at = known.lock()) at->Close();
+    for (const auto& [place, known] : byPlace)
+        if (const std::shared_ptr<PanelAtBroker> at = known.At.lock()) at->Close();
 }
 
 std::shared_ptr<PanelAtBroker> Brokers::At(const std::string& server) {
     if (!setUp) return nullptr;
-    const std::string host = HostOf(server);
-    std::weak_ptr<PanelAtBroker>& known = byHost[host];
-    std::shared_ptr<PanelAtBroker> at = known.lock();
+    const HostAndPort place = PlaceOf(server);
+    Known& known = byPlace[place];
+    if (known.SameAs) {
+        if (std::shared_ptr<PanelAtBroker> same = byPlace[*known.SameAs].At.lock()) return same;
+        known.SameAs.reset();
+    }
+    std::shared_ptr<PanelAtBroker> at = known.At.lock();
     if (!at) {
-        known = at = std::make_shared<PanelAtBroker>(loop, tell);
-        at->Open(*setUp, host);
+        known.At = at = std::make_shared<PanelAtBroker>(loop, tell);
+        Follow(place, *at);
     }
     return at;
 }
 
-std::string Brokers::HostOf(const std::string& server) const {
-    if (server == AutomaticServer) return setUp->Host;
-    if (server == OwnServer || server == LocalHost) return LoopbackAddress;
-    return server;
+HostAndPort Brokers::PlaceOf(const std::string& server) {
+    if (server == AutomaticServer) return automatic->Place().value_or(Nowhere);
+    if (server.empty()) return Nowhere;
+    const bool isHere = server == OwnServer || server == LocalHost;
+    return InLowerCase({isHere ? LoopbackAddress : server, setUp->Port});
+}
+
+void Brokers::Follow(const HostAndPort& place, PanelAtBroker& at) {
+    if (place == Nowhere) return at.Await(*setUp);
+    Known& known = byPlace[place];
+    known.ReachedAt = known.TakenOverAt = std::nullopt;
+    known.Failures = 0;
+    known.Reached = at.Reached.Attach([this, place] { Reach(place); });
+    known.Failed = at.Failed.Attach([this, place](BrokerTrouble why) { Fail(place, why); });
+    if (!IsAutomatic(place)) TroublesAt(place).Rest();
+    at.Open(*setUp, place);
+}
+
+void Brokers::Reach(const HostAndPort& place) {
+    Known& known = byPlace[place];
+    known.ReachedAt = Clock::now();
+    known.Failures = 0;
+    TroublesAt(place).Reach();
+    if (IsAutomatic(place)) automatic->Reach();
+    for (const auto& [other, each] : byPlace)
+        if (other != place && !each.At.expired() && WasLately(each.TakenOverAt))
+            return Merge(HostAndPort(other), place);
+}
+
+void Brokers::Fail(const HostAndPort& place, BrokerTrouble why) {
+    Known& known = byPlace[place];
+    TroublesAt(place).Fail(why, place);
+    if (IsAutomatic(place)) automatic->Fail(why);
+    if (why != BrokerTrouble::TakenOver) {
+        if (++known.Failures > 1) Part(place);
+        return;
+    }
+    known.TakenOverAt = Clock::now();
+    for (const auto& [other, each] : byPlace)
+        if (other != place && !each.At.expired() && each.Failures == 0 && WasLately(each.ReachedAt))
+            return Merge(place, HostAndPort(other));
+}
+
+void Brokers::Merge(const HostAndPort& one, const HostAndPort& into) {
+    Known& known = byPlace[one];
+    known.SameAs = into;
+    known.TakenOverAt.reset();
+    TroublesAt(one).Rest();
+    Changed.Tell();
+}
+
+// A broker that can't be had any more may be another one by now.
+void Brokers::Part(const HostAndPort& place) {
+    bool hasParted = false;
+    for (auto& [other, each] : byPlace) {
+        if (each.SameAs != place) continue;
+        each.SameAs.reset();
+        hasParted = true;
+    }
+    if (hasParted) Changed.Tell();
+}
+
+// While "AUTOMATIC" goes from place to place, its trouble is one.
+TroubleTeller& Brokers::TroublesAt(const HostAndPort& place) {
+    std::unique_ptr<TroubleTeller>& troubles = IsAutomatic(place) ? automaticTroubles : byPlace[place].Troubles;
+    if (!troubles) {
+        troubles = std::make_unique<TroubleTeller>(loop);
+        troubles->Told = [this](BrokerTrouble why, const HostAndPort& where) {
+            if (!byPlace[where].At.expired()) Told(SentenceOf(why, where, setUp->Identity, KeyFrom::SetUpFile));
+        };
+    }
+    return *troubles;
 }
 
 }  // namespace orvelle::mqtt

@@ -1,6 +1,7 @@
 #include "adapters/mqtt/HostAndPort.h"
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 
 namespace orvelle::mqtt {
@@ -46,6 +47,11 @@ std::string WriteHostAndPort(const HostAndPort& place) {
     if (place.Port == UsualPort) return place.Host;
     const bool isVersion6 = place.Host.find(':') != std::string::npos;
     return (isVersion6 ? "[" + place.Host + "]" : place.Host) + ":" + std::to_string(place.Port);
+}
+
+HostAndPort InLowerCase(HostAndPort place) {
+    std::ranges::transform(place.Host, place.Host.begin(), [](unsigned char each) { return std::tolower(each); });
+    return place;
 }
 
 }  // namespace orvelle::mqtt

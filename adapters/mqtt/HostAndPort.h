@@ -2,6 +2,7 @@
 // "[2001:db8::7]:8884".
 #pragma once
 
+#include <compare>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,7 +14,7 @@ namespace orvelle::mqtt {
 struct HostAndPort {
     std::string Host;  // as SetUpSetting takes it
     int Port = UsualPort;
-    bool operator==(const HostAndPort&) const = default;
+    auto operator<=>(const HostAndPort&) const = default;
 };
 
 // Blanks around it are left out; an address of version 6 may stand without brackets if no port follows. Nothing for a
@@ -21,5 +22,7 @@ struct HostAndPort {
 std::optional<HostAndPort> ReadHostAndPort(std::string_view text);
 // Without the port where that is the usual one.
 std::string WriteHostAndPort(const HostAndPort& place);
+// As places are compared: case means nothing in the name of a host.
+HostAndPort InLowerCase(HostAndPort place);
 
 }  // namespace orvelle::mqtt

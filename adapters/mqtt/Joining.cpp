@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "adapters/mqtt/HostAndPort.h"
+#include "adapters/mqtt/BrokerTroubles.h"
 #include "adapters/mqtt/Topics.h"
 
 namespace orvelle::mqtt {
@@ -11,6 +11,24 @@ namespace {
 
 // None of the programs' names, so that one of them that runs stays connected.
 std::string ClientIdOfJoining(int identity) { return WriteIdentity(identity) + ".setup"; }
+
+JoinOutcome OutcomeOf(BrokerTrouble trouble) {
+    using enum BrokerTrouble;
+    switch (trouble) {
+        case HostUnknown:
+            return JoinOutcome::HostUnknown;
+        case Refused:
+            return JoinOutcome::Refused;
+        case NotEncrypted:
+        case WrongProtocol:
+            return JoinOutcome::NotASetUp;
+        case None:
+        case Unreachable:
+        case TakenOver:
+            break;
+    }
+    return JoinOutcome::Unreachable;
+}
 
 }  // namespace
 
@@ -25,6 +43,7 @@ void Joining::Try(const SetUpSetting& setUp) {
     wanted = setUp;
     isUnderWay = true;
     const auto joined = ReadSetUpFile(file).Setting;
+    origin = joined ? KeyFrom::SetUpFile : KeyFrom::TypedCode;
     if (joined && (joined->Identity != wanted.Identity || joined->Key != wanted.Key)) {
         bound = loop.After(0, [this, name = joined->Name] {
             End(JoinOutcome::InAnotherSetUp, "This computer is in the set-up " + name + " already; leave that first.");
@@ -54,24 +73,7 @@ void Joining::Keep() {
 }
 
 void Joining::EndFor(BrokerTrouble trouble) {
-    using enum BrokerTrouble;
-    switch (trouble) {
-        case HostUnknown:
-            return End(JoinOutcome::HostUnknown, "There is no computer by the name " + wanted.Host + ".");
-        case Refused:
-            return End(JoinOutcome::Refused,
-                       "The set-up at " + Place() + " doesn't take this code: it is another set-up's, or taken back.");
-        case NotEncrypted:
-            return End(JoinOutcome::NotASetUp,
-                       "What answers at " + Place() + " is no set-up: it isn't encrypted by keys.");
-        case WrongProtocol:
-            return End(JoinOutcome::NotASetUp,
-                       "What answers at " + Place() + " is no set-up: it doesn't speak MQTT 5.");
-        case None:
-        case Unreachable:
-        case TakenOver:
-            return End(JoinOutcome::Unreachable, "No set-up can be reached at " + Place() + ": nobody answers.");
-    }
+    End(OutcomeOf(trouble), SentenceOf(trouble, {wanted.Host, wanted.Port}, wanted.Identity, origin));
 }
 
 void Joining::End(JoinOutcome outcome, const std::string& sentence) {

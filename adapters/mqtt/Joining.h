@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <string>
 
-#include "adapters/mqtt/BrokerConnection.h"
+#include "adapters/mqtt/BrokerTroubles.h"
 #include "adapters/mqtt/SetUpFile.h"
 
 namespace orvelle::mqtt {
@@ -44,6 +44,7 @@ private:
     EventLoop& loop;
     const std::filesystem::path file;
     SetUpSetting wanted;
+    KeyFrom origin = KeyFrom::TypedCode;
     bool isUnderWay = false;
     BrokerConnection connection;
     Ticket bound;

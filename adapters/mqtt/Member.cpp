@@ -3,6 +3,8 @@
 #include <ctime>
 #include <utility>
 
+#include "adapters/mqtt/Bounds.h"
+
 namespace orvelle::mqtt {
 
 namespace {
@@ -30,6 +32,8 @@ Member::Member(EventLoop& eventLoop, Program program, std::vector<Subscription> 
     connection.Up = [this] {
         state = State::Coming;
         connection.Publish({.Topic = OwnTopic(TopicKind::Sync), .Payload = "1"});
+        AwaitWhatIsKept();
+        Reached();
     };
     connection.Lost = [this] {
         nextBeat.End();
@@ -81,6 +85,7 @@ void Member::Describe() {
 void Member::Hear(const std::string& text, const std::string& payload) {
     const auto topic = ReadTopic(text);
     if (!topic) return;
+    if (payload.size() > bounds::Payload) return CountRefused();
     const bool isOwn = topic->Identity == identity && topic->From == kind;
     if (topic->Kind == TopicKind::Sync) {
         if (isOwn && state == State::Coming) Come();
@@ -91,6 +96,14 @@ void Member::Hear(const std::string& text, const std::string& payload) {
         if (!presence && !payload.empty()) return CountRefused();
         presences.Hear({topic->Identity, topic->From}, presence);
     }
+}
+
+// Nothing else would notice a connection that breaks by now.
+void Member::AwaitWhatIsKept() {
+    nextBeat = loop.After(BeatMilliseconds, [this] {
+        AwaitWhatIsKept();
+        connection.GiveUpIfSilent(std::chrono::milliseconds(LeaseMilliseconds));
+    });
 }
 
 void Member::Come() {

@@ -43,6 +43,7 @@ public:
     void Describe();
     void CountRefused() { ++refused; }
 
+    Event<> Reached;                                // the broker takes it; before Coming
     Event<> Coming;                                 // what the broker has kept was heard: to end what must not live on
     Event<> Came;                                   // it is there: to publish what is
     Event<> Going;                                  // an orderly end: to end what is
@@ -55,6 +56,7 @@ private:
     enum class State { Away, Coming, There };
 
     void Hear(const std::string& text, const std::string& payload);
+    void AwaitWhatIsKept();
     void Come();
     void Beat();
     void Publish(TopicKind kind, const std::string& payload, int quality, Retain keep, Long record, int expirySeconds);
@@ -72,7 +74,7 @@ private:
     Long beats = 0;
     long long beatAt = 0;  // milliseconds, asleep ones included
     std::size_t refused = 0;
-    Ticket nextBeat;
+    Ticket nextBeat;  // or the next look at the connection, while it comes
 };
 
 }  // namespace orvelle::mqtt

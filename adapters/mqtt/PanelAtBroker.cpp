@@ -12,6 +12,7 @@ PanelAtBroker::PanelAtBroker(EventLoop& loop, std::function<PresenceSetting()> d
               {"orvelle/1/+/panel/write", 1},
               {"orvelle/1/+/sim/write", 1}},
              std::move(describe)) {
+    member.Reached = [this] { Reached.Tell(); };
     member.Coming = [this] {
         Coming.Tell();
         EndWhatWasLeft();
@@ -24,11 +25,19 @@ PanelAtBroker::PanelAtBroker(EventLoop& loop, std::function<PresenceSetting()> d
         for (const auto& [number, content] : own) member.Say(TopicKind::Record, "", 1, Retain::Yes, number);
     };
     member.Lost = [this] {
-        kept.clear();
+        kept.Clear();
+        below.clear();
         Changed.Tell();
     };
+    member.Failed = [this](BrokerTrouble why) { Failed.Tell(why); };
     member.OthersChanged = [this] { Changed.Tell(); };
     member.Heard = [this](const Topic& topic, const std::string& payload) { Hear(topic, payload); };
+}
+
+void PanelAtBroker::Open(SetUpSetting setUp, const HostAndPort& place) {
+    Await(setUp);
+    setUp.Port = place.Port;
+    member.Open(setUp, place.Host);
 }
 
 void PanelAtBroker::SayRecord(Long number, const RecordContent& content) {
@@ -42,22 +51,17 @@ void PanelAtBroker::EndRecord(Long number) {
 }
 
 void PanelAtBroker::Hear(const Topic& topic, const std::string& payload) {
-    if (topic.Kind == TopicKind::Session || topic.Kind == TopicKind::Record) {
-        if (payload.empty())
-            kept.erase(WriteTopic(topic));
-        else
-            kept.insert_or_assign(WriteTopic(topic), payload);
-    }
+    if (topic.Kind == TopicKind::Record && topic.Identity == identity)
+        payload.empty() ? static_cast<void>(below.erase(topic.Record)) : static_cast<void>(below.insert(topic.Record));
+    else if ((topic.Kind == TopicKind::Session || topic.Kind == TopicKind::Record) && !kept.Take(topic, payload))
+        return CountRefused();
     Heard.Tell(topic, payload);
 }
 
 // Of an earlier run, or of this one before a loss of the connection.
 void PanelAtBroker::EndWhatWasLeft() {
-    for (const auto& [text, payload] : kept) {
-        const auto topic = ReadTopic(text);
-        if (topic->Kind == TopicKind::Record && topic->Identity == Identity() && !own.contains(topic->Record))
-            member.Say(TopicKind::Record, "", 1, Retain::Yes, topic->Record);
-    }
+    for (const Long number : below)
+        if (!own.contains(number)) member.Say(TopicKind::Record, "", 1, Retain::Yes, number);
 }
 
 void PanelAtBroker::SayOwn() {

@@ -6,9 +6,12 @@
 
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 
+#include "adapters/mqtt/HostAndPort.h"
 #include "adapters/mqtt/Member.h"
+#include "adapters/mqtt/RetainedMessages.h"
 #include "platform/FrameworkLine.h"
 #include "platform/Observers.h"
 
@@ -21,15 +24,19 @@ public:
     PanelAtBroker& operator=(const PanelAtBroker&) = delete;
     ~PanelAtBroker() { member.Close(); }
 
-    void Open(const SetUpSetting& setUp, const std::string& host) { member.Open(setUp, host); }
+    // Belongs to the set-up, and goes nowhere yet.
+    void Await(const SetUpSetting& setUp) { identity = setUp.Identity; }
+    // Goes to its broker at another place than the set-up's own.
+    void Open(SetUpSetting setUp, const HostAndPort& place);
     void Close() { member.Close(); }
     bool IsThere() const { return member.IsThere(); }
-    int Identity() const { return member.Identity(); }
+    int Identity() const { return identity; }
     const Presences& Others() const { return member.Others(); }
     void CountRefused() { member.CountRefused(); }
+    std::size_t Refused() const { return member.Refused(); }
 
-    // Sessions and records, of this computer too, as the broker brought them on this connection.
-    const std::map<std::string, std::string>& Kept() const { return kept; }
+    // Sessions, and records of other computers, as the broker brought them on this connection.
+    const std::map<std::string, std::string>& Kept() const { return kept.All(); }
     void Say(TopicKind kind, const std::string& payload) { member.Say(kind, payload, 1, Retain::No); }
 
     // The panel's own records, by their numbers here.
@@ -37,9 +44,11 @@ public:
     void SayRecord(Long number, const RecordContent& content);
     void EndRecord(Long number);
 
+    Observers<> Reached;  // the broker takes this panel; before Coming
     Observers<> Coming;   // all that the broker kept was heard, and nobody knows yet that this panel is there
     Observers<> Changed;  // it is there or no more; others came or went, or say something else of themselves
-    Observers<const Topic&, const std::string&> Heard;  // but for presence
+    Observers<const Topic&, const std::string&> Heard;  // but for presence, and for what is beyond the bounds
+    Observers<BrokerTrouble> Failed;
 
 private:
     void Hear(const Topic& topic, const std::string& payload);
@@ -47,7 +56,9 @@ private:
     void SayOwn();
 
     Member member;
-    std::map<std::string, std::string> kept;
+    int identity = 0;
+    RetainedMessages kept;
+    std::set<Long> below;  // numbers of records that the broker keeps below this computer's own identity
     std::map<Long, RecordContent> own;
 };
 

@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 
@@ -83,5 +84,18 @@ std::unique_ptr<linux::ChildProcess> AvahiRig::Announce(const std::string& name,
 }
 
 bool AvahiRig::Until(const std::function<bool()>& isSo) { return linux::ServeUntil(loop, isSo); }
+
+long long AvahiRig::LongestTurnIn(std::chrono::milliseconds time) {
+    const auto begin = std::chrono::steady_clock::now();
+    auto before = begin;
+    auto longest = std::chrono::steady_clock::duration::zero();
+    Until([&] {
+        const auto now = std::chrono::steady_clock::now();
+        longest = std::max(longest, now - before);
+        before = now;
+        return now - begin >= time;
+    });
+    return std::chrono::duration_cast<std::chrono::milliseconds>(longest).count();
+}
 
 }  // namespace orvelle::avahi

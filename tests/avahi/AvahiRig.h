@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -25,12 +26,17 @@ protected:
     // Returns at once; programs wait for it.
     void StartDaemon();
     void StopDaemon() { daemon.reset(); }
+    // As SIGSTOP does, which lets them hang without an end.
+    void SignalBus(int signal) { bus->Kill(signal); }
+    void SignalDaemon(int signal) { daemon->Kill(signal); }
     // A set-up, or something like it, that another program announces until the object goes.
     static std::unique_ptr<linux::ChildProcess> Announce(const std::string& name, int port,
                                                          std::vector<std::string> texts);
 
     // Serves the loop until it is so. False where that takes longer than half a minute.
     bool Until(const std::function<bool()>& isSo);
+    // Serves the loop for that long; the longest time that one of its turns took, in milliseconds.
+    long long LongestTurnIn(std::chrono::milliseconds time);
 
     linux::PollEventLoop loop;
 

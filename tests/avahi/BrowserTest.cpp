@@ -1,9 +1,13 @@
 #include "adapters/avahi/ServiceBrowser.h"
 
+#include <csignal>
+
 #include "tests/avahi/AvahiRig.h"
 
 namespace orvelle::avahi {
 namespace {
+
+constexpr long long LongestTurn = 1000;  // milliseconds; the library waits for 25 seconds
 
 class Browsing : public AvahiRig {
 protected:
@@ -83,6 +87,37 @@ TEST_F(Browsing, WithoutAMessageBusItIsToldOnceAndTheBusIsTakenWhenItComes) {
         StopDaemon();
     }
     EXPECT_EQ(sentences.size(), 1);
+}
+
+// The daemon or the bus takes what is sent to it, and never answers.
+TEST_F(Browsing, ADaemonThatHangsHoldsNobodyUpAndIsTakenWhenItGoesOn) {
+    StartBus();
+    StartDaemon();
+    const auto home = Announce("Home", 8883, {"version=1", "setup=Home"});
+    SignalDaemon(SIGSTOP);
+    Browse();
+    EXPECT_LT(LongestTurnIn(std::chrono::seconds(3)), LongestTurn);
+    SignalDaemon(SIGCONT);
+    EXPECT_TRUE(Tells({"came Home localhost.local:8883"}));
+    SignalDaemon(SIGSTOP);
+    const auto begin = std::chrono::steady_clock::now();
+    browser.reset();
+    Browse();
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(LongestTurn));
+    EXPECT_LT(LongestTurnIn(std::chrono::seconds(1)), LongestTurn);
+    browser.reset();
+    SignalDaemon(SIGCONT);
+}
+
+TEST_F(Browsing, AMessageBusThatHangsHoldsNobodyUpAndIsTakenWhenItGoesOn) {
+    StartBus();
+    StartDaemon();
+    const auto home = Announce("Home", 8883, {"version=1", "setup=Home"});
+    SignalBus(SIGSTOP);
+    Browse();
+    EXPECT_LT(LongestTurnIn(std::chrono::seconds(3)), LongestTurn);
+    SignalBus(SIGCONT);
+    EXPECT_TRUE(Tells({"came Home localhost.local:8883"}));
 }
 
 }  // namespace

@@ -9,6 +9,8 @@ namespace orvelle::qt {
 
 namespace {
 
+constexpr int TimeToBePlaced = 1000;  // milliseconds
+
 QString Explanation() {
     return "This desktop has no notification area, so this icon stands in for it: a click shows or hides the panel.";
 }
@@ -34,6 +36,22 @@ void QtTray::Shell_NotifyIconA(Long command, const NotifyIconData& data) {
     });
 }
 
+void QtTray::Tell(const std::string& sentence) {
+    untold.append(ToQt(sentence));
+    QTimer::singleShot(0, &context, [this] { TellWhatWaits(); });
+}
+
+// A second balloon would take the place of the first.
+void QtTray::TellWhatWaits() {
+    if (untold.isEmpty() || (trayIcon == nullptr && standIn == nullptr)) return;
+    const QString words = untold.join('\n');
+    untold.clear();
+    if (trayIcon != nullptr)
+        trayIcon->showMessage("Orvelle Control Panel", words, trayIcon->icon());
+    else
+        standIn->Say(words);
+}
+
 void QtTray::Take(const NotifyIconData& data) {
     held.Window = data.Window;
     held.Id = data.Id;
@@ -57,12 +75,15 @@ void QtTray::Place() {
                          [this](QSystemTrayIcon::ActivationReason reason) { Activated(reason); });
         Dress();
         trayIcon->show();
+        // A balloon points at the icon, which the tray has yet to place.
+        QTimer::singleShot(TimeToBePlaced, &context, [this] { TellWhatWaits(); });
     } else {
         trayIcon.reset();
         if (standIn == nullptr)
             standIn = std::make_unique<StandInIcon>([this](StandInIcon::Mouse mouse) { Clicked(mouse); });
         Dress();
         standIn->Appear(ToQt(held.Tip), Explanation());
+        TellWhatWaits();
     }
 }
 

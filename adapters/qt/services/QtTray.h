@@ -5,9 +5,11 @@
 
 #include <QIcon>
 #include <QObject>
+#include <QStringList>
 #include <QSystemTrayIcon>
 #include <functional>
 #include <memory>
+#include <string>
 
 #include "adapters/qt/services/StandInIcon.h"
 #include "adapters/shared/WindowTable.h"
@@ -23,6 +25,8 @@ public:
     QtTray(const WindowTable& windowTable, IconSource iconSource) : table(windowTable), iconOf(std::move(iconSource)) {}
 
     void Shell_NotifyIconA(Long command, const NotifyIconData& data) override;
+    // A sentence that needs no answer, shown beside the icon for a while; as soon as there is one.
+    void Tell(const std::string& sentence);
 
 private:
     void Take(const NotifyIconData& data);
@@ -30,6 +34,7 @@ private:
     // Into the tray or the stand-in, whichever the desktop needs now.
     void Place();
     void Dress();
+    void TellWhatWaits();
     void Activated(QSystemTrayIcon::ActivationReason reason);
     void Clicked(StandInIcon::Mouse mouse);
     void Send(NotifyIconMouse message);
@@ -39,6 +44,7 @@ private:
     QObject context;
     bool isAdded = false;
     NotifyIconData held;
+    QStringList untold;
     std::unique_ptr<TrayHost> host;
     std::unique_ptr<QSystemTrayIcon> trayIcon;
     std::unique_ptr<StandInIcon> standIn;

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QScreen>
 #include <QWindow>
+#include <algorithm>
 #include <utility>
 
 namespace orvelle::qt {
@@ -49,6 +50,22 @@ void StandInIcon::Appear(const QString& tip, const QString& words) {
     raise();
 }
 
+void StandInIcon::Say(const QString& words) {
+    explanation->setText(words);
+    explanation->setFixedHeight(std::max(Size, explanation->heightForWidth(explanation->width())));
+    explanation->show();
+    isExplained = false;
+    Resize({explanation->x() + explanation->width() + Size, explanation->height()});
+    raise();
+}
+
+// The icon, in the lower right corner, stays where it is.
+void StandInIcon::Resize(QSize newSize) {
+    const QPoint place = pos() + QPoint(width() - newSize.width(), height() - newSize.height());
+    setFixedSize(newSize);
+    move(place);
+}
+
 void StandInIcon::PlaceInCorner() {
     const QRect free = screen()->availableGeometry();
     move(free.right() - ScreenMargin - width(), free.bottom() - ScreenMargin - height());
@@ -57,9 +74,7 @@ void StandInIcon::PlaceInCorner() {
 void StandInIcon::Use(Mouse mouse) {
     if (!std::exchange(isExplained, true)) {
         explanation->hide();
-        const QPoint iconPlace = pos() + QPoint(width() - Size, 0);
-        setFixedSize(Size, Size);
-        move(iconPlace);
+        Resize({Size, Size});
     }
     told(mouse);
 }
@@ -69,7 +84,7 @@ void StandInIcon::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), palette().window());
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    icon.paint(&painter, QRect(width() - Size, 0, Size, Size).marginsRemoved(QMargins() + IconMargin));
+    icon.paint(&painter, QRect(width() - Size, height() - Size, Size, Size).marginsRemoved(QMargins() + IconMargin));
 }
 
 void StandInIcon::keyPressEvent(QKeyEvent* event) {

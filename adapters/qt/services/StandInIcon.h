@@ -22,6 +22,8 @@ public:
     void SetIcon(const QIcon& newIcon);
     // `words` are one sentence on what this window is.
     void Appear(const QString& tip, const QString& words);
+    // Says that beside the icon until it is used.
+    void Say(const QString& words);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -34,6 +36,7 @@ protected:
 
 private:
     void PlaceInCorner();
+    void Resize(QSize newSize);
     void Use(Mouse mouse);
 
     const std::function<void(Mouse)> told;

@@ -1,0 +1,38 @@
+// When a panel's user is told why the broker can't be had: what has lasted for ten seconds, each reason once until the
+// broker was had for a minute; so a network that comes late, or goes for a moment, is not told. That another program
+// comes under this computer's name is told when it comes again, whatever lies between. Used by Brokers for each server
+// that a line wants.
+#pragma once
+
+#include <set>
+
+#include "adapters/mqtt/BrokerConnection.h"
+#include "adapters/mqtt/HostAndPort.h"
+
+namespace orvelle::mqtt {
+
+class TroubleTeller {
+public:
+    explicit TroubleTeller(EventLoop& eventLoop) : loop(eventLoop) {}
+
+    void Fail(BrokerTrouble why, const HostAndPort& place);
+    void Reach();
+    // Nobody wants that broker now. What was told stays told.
+    void Rest();
+
+    Event<BrokerTrouble, const HostAndPort&> Told;  // from the loop
+
+private:
+    void TellOnce();
+
+    EventLoop& loop;
+    BrokerTrouble trouble = BrokerTrouble::None;
+    HostAndPort where;
+    bool isWaiting = false;
+    bool lasts = false;
+    bool wasTakenOver = false;
+    std::set<BrokerTrouble> told;
+    Ticket waiting, standing;
+};
+
+}  // namespace orvelle::mqtt
