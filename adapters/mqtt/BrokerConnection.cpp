@@ -100,8 +100,13 @@ std::string BrokerConnection::OwnAddress() const {
     return text.data();
 }
 
+// What the system has still to send on this connection it forgets: old words must not reach the broker when the network
+// is back, and be heard beside those of the next connection.
 void BrokerConnection::GiveUp() {
-    if (isUp) Fail(BrokerTrouble::Unreachable);
+    if (!isUp) return;
+    const linger atOnce{1, 0};
+    setsockopt(mosquitto_socket(client.get()), SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
+    Fail(BrokerTrouble::Unreachable);
 }
 
 void BrokerConnection::GiveUpIfSilent(std::chrono::milliseconds silence) {

@@ -3,12 +3,11 @@
 // "flooded COUNT" when the broker has taken all of it. Ends with its input.
 //
 //   floods-broker SETUP.JSON MESSAGES-A-SECOND SECONDS
-#include <array>
+#include <algorithm>
 #include <cstdlib>
 
 #include "adapters/linux/PollEventLoop.h"
 #include "adapters/mqtt/Member.h"
-#include "platform/VoiceRoles.h"
 #include "tests/hosts/TellsAndAsks.h"
 
 namespace orvelle::hosts {
@@ -66,7 +65,7 @@ private:
     void SayOne(long long number) {
         const std::string value = std::to_string(number % 1000);
         const Long record = static_cast<Long>(number / 10 % Records) + 1;
-        const std::string ofType = std::string(R"({"type":")") + VoiceRecordType + R"(","role":"flood",)";
+        const std::string ofType = R"({"type":"VOICE","role":"flood",)";
         switch (number % 10) {
             case 0:
                 return simulator.Say(TopicKind::Input,

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
+#include <fstream>
 
 #include "adapters/mqtt/OwnSetUp.h"
 
@@ -50,6 +51,14 @@ void HostsTest::StartSimulator() {
         one.Start({"env", "DISPLAY=" + keyboard->Display(), SIMULATOR_PROGRAM, "--no-window", "--data", DataOf(1)}));
 }
 
+pid_t HostsTest::BrokerOfSimulator() const {
+    const std::string process = std::to_string(simulator->Id());
+    std::ifstream children("/proc/" + process + "/task/" + process + "/children");
+    pid_t child = 0;
+    children >> child;
+    return child;
+}
+
 void HostsTest::BringPlayedSimulator() {
     StartBroker();
     played = std::make_unique<ProgramThere>(one, std::vector<std::string>{SIMULATOR_AT_HOST, SetUpFileOf(1)});
@@ -63,7 +72,7 @@ void HostsTest::StartBroker() {
 PanelThere& HostsTest::AddPanel(int identity) { return panels.emplace_back(Host(identity), SetUpFileOf(identity)); }
 
 bool HostsTest::Until(const std::function<bool()>& isSo) {
-    const long long end = Now() + 60 * Second;
+    const long long end = Now() + 30 * Second;
     for (;;) {
         std::vector<pollfd> awaited;
         for (PanelThere& panel : panels) {
@@ -75,7 +84,10 @@ bool HostsTest::Until(const std::function<bool()>& isSo) {
             awaited.push_back({played->Process.Output(), POLLIN, 0});
         }
         if (isSo()) return true;
-        if (Now() > end) return false;
+        if (Now() > end) {
+            for (const PanelThere& panel : panels) std::cout << "    a panel told last:" << panel.LastTold() << '\n';
+            return false;
+        }
         poll(awaited.data(), awaited.size(), 5);
     }
 }

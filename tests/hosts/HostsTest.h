@@ -32,6 +32,7 @@ protected:
     // The real program of the simulator's computer, which brings the broker, with a keyboard before it.
     void BringSimulator();
     void StartSimulator();
+    pid_t BrokerOfSimulator() const;
     void PressTalkKey() { strokes->Press(TalkKeyCode); }
     void ReleaseTalkKey() { strokes->Release(TalkKeyCode); }
     // A broker by itself, and a simulator's program whose keys and session are played.
@@ -43,7 +44,7 @@ protected:
     std::string SetUpFileOf(int identity) const;
     std::string DataOf(int identity) const { return (folder / mqtt::WriteIdentity(identity)).string(); }
 
-    // Takes what the programs tell until it is so. False where that takes longer than a minute.
+    // Takes what the programs tell until it is so. False where that takes longer than half a minute.
     bool Until(const std::function<bool()>& isSo);
     // Time by which something is shown that must not happen, or in which traffic goes on.
     void Let(long long microseconds);

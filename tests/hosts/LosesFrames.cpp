@@ -5,7 +5,6 @@
 #include <arpa/inet.h>
 #include <linux/if_ether.h>
 #include <linux/if_packet.h>
-#include <linux/virtio_net.h>
 #include <net/if.h>
 #include <sys/socket.h>
 
@@ -25,7 +24,8 @@ using linux::FileDescriptor;
 
 // Sums that the sender left to its network card, and segments that it left whole, are told before each frame, and have
 // to be told again where it goes out.
-constexpr std::size_t LargestFrame = sizeof(virtio_net_hdr) + ETH_HLEN + 65535;
+constexpr std::size_t ToldBefore = 10;  // bytes of a virtio_net_hdr, whose header C++ can't read
+constexpr std::size_t LargestFrame = ToldBefore + ETH_HLEN + 65535;
 constexpr int IgnoreOutgoing = 23;  // PACKET_IGNORE_OUTGOING, which older headers lack
 
 FileDescriptor OpenInterface(const char* name) {

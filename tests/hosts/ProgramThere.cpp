@@ -39,6 +39,15 @@ std::optional<long long> ProgramThere::Told(const std::string& text, long long s
     return found != events.end() ? std::optional(found->At) : std::nullopt;
 }
 
+std::string ProgramThere::LastTold() const {
+    constexpr std::ptrdiff_t Shown = 12;
+    std::string text;
+    const auto count = std::min(Shown, std::ssize(events));
+    for (auto each = events.end() - count; each != events.end(); ++each)
+        text += "\n    " + std::to_string(each->At / 1000) + " ms  " + each->Text;
+    return text;
+}
+
 std::size_t ProgramThere::TimesTold(const std::string& beginning) const {
     return static_cast<std::size_t>(
         std::ranges::count_if(events, [&](const Event& each) { return each.Text.starts_with(beginning); }));

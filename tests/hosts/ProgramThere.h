@@ -23,6 +23,8 @@ public:
     void Take();
     // When it told that for the first time since; nothing while it has not.
     std::optional<long long> Told(const std::string& text, long long since = 0) const;
+    // The last that it told, for the log of a test that fails.
+    std::string LastTold() const;
     std::size_t TimesTold(const std::string& beginning) const;
 
     linux::ChildProcess Process;
