@@ -51,7 +51,9 @@ TEST_F(KillPanelTest, AKilledHolderLosesTheRoleAndFindsItHeldWhenItIsBack) {
     const long long begin = Now();
     panels.pop_back();
     ASSERT_TRUE(Until([this] { return AllHave(Inherited); }));
-    Print("the role is taken over", *watcher.Told("foreign " + std::to_string(Inherited) + " " + Role, begin) - begin);
+    const long long taken = *watcher.Told("foreign " + std::to_string(Inherited) + " " + Role, begin) - begin;
+    Print("the role is taken over", taken);
+    EXPECT_LT(taken, Second) << "the broker tells of the end at once";
     holder = &AddPanel(2);
     holder->Say(std::string("want ") + Role);
     ASSERT_TRUE(Until([this] { return IsAllRight(Inherited) && HoldsEverywhere(); }));
