@@ -100,8 +100,13 @@ std::string BrokerConnection::OwnAddress() const {
     return text.data();
 }
 
+// What the system has still to send on this connection it forgets: old words must not reach the broker when the network
+// is back, and be heard beside those of the next connection.
 void BrokerConnection::GiveUp() {
-    if (isUp) Fail(BrokerTrouble::Unreachable);
+    if (!isUp) return;
+    const linger atOnce{1, 0};
+    setsockopt(mosquitto_socket(client.get()), SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
+    Fail(BrokerTrouble::Unreachable);
 }
 
 void BrokerConnection::GiveUpIfSilent(std::chrono::milliseconds silence) {
@@ -147,7 +152,9 @@ void BrokerConnection::Watch() {
     if (descriptor < 0) return;
     if (!isWatched) readable = loop.WhenReadable(descriptor, [this] { Read(); });
     isWatched = true;
-    const bool wantsToWrite = !isConnected || mosquitto_want_write(client.get());
+    const auto* const protection = ProtectionUnderWay();
+    const bool wantsToWrite =
+        !isConnected || (protection ? SSL_want_write(protection) : mosquitto_want_write(client.get()));
     if (wantsToWrite == isWriting) return;
     isWriting = wantsToWrite;
     writable = wantsToWrite ? loop.WhenWritable(descriptor, [this] { Write(); }) : Ticket();
@@ -170,6 +177,13 @@ bool BrokerConnection::HasDeciphered() const {
     return protection != nullptr && SSL_pending(protection) > 0;
 }
 
+// Until the protection stands the library says nothing of it: whether it waits for room is known by the protection
+// itself, and it is only where the library reads that it goes on.
+const ssl_st* BrokerConnection::ProtectionUnderWay() const {
+    auto* const protection = static_cast<SSL*>(mosquitto_ssl_get(client.get()));
+    return protection != nullptr && !SSL_is_init_finished(protection) ? protection : nullptr;
+}
+
 // Room to write for the first time: the socket is connected or has failed to be. The library does not see the latter,
 // though it has taken the socket's error, but a socket that failed has nobody at its other end.
 void BrokerConnection::Write() {
@@ -178,7 +192,7 @@ void BrokerConnection::Write() {
     if (!std::exchange(isConnected, true) &&
         getpeername(mosquitto_socket(client.get()), reinterpret_cast<sockaddr*>(&peer), &size) != 0)
         return Fail(BrokerTrouble::Unreachable);
-    Settle(mosquitto_loop_write(client.get(), 1));
+    Settle(ProtectionUnderWay() ? mosquitto_loop_read(client.get(), 1) : mosquitto_loop_write(client.get(), 1));
 }
 
 // After each call of the library: it has been left, so that its notes may be acted on.

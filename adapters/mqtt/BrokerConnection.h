@@ -18,6 +18,7 @@
 #include "platform/EventLoop.h"
 
 struct mosquitto;
+struct ssl_st;
 
 namespace orvelle::mqtt {
 
@@ -100,6 +101,7 @@ private:
     void Read();
     void Write();
     bool HasDeciphered() const;
+    const ssl_st* ProtectionUnderWay() const;  // null where it stands
     void Settle(int result);
     void Subscribe();
     void OnConnected(int reason);

@@ -19,6 +19,7 @@ void HeardRecords::HearEnded(Long id) {
 
 void HeardRecords::ForgetHeard() {
     heard.clear();
+    shown.clear();
     pending.clear();
     LookAtAll();
 }
@@ -47,13 +48,16 @@ void HeardRecords::TellOf(Long id, Missing missing) {
     const RecordContent* now = Find(id);
     const auto known = told.find(id);
     if (now) {
+        shown.insert(id);
         if (known != told.end() && known->second == *now) return;
         const RecordContent content = *now;
         told.insert_or_assign(id, content);
         Said(id, content);
-    } else if (known != told.end() && (missing == Missing::CountsAsEnded || ended.contains(id))) {
+    } else if (known != told.end() &&
+               (missing == Missing::CountsAsEnded || ended.contains(id) || shown.contains(id))) {
         told.erase(known);
         ended.erase(id);
+        shown.erase(id);
         Ended(id);
     }
 }

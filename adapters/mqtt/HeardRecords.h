@@ -1,6 +1,7 @@
 // The interface records of the other computers' panels, as the broker brings them, against what the panel here was told
 // of them. A record counts while its owner's panel is there. Over a loss of the connection the panel keeps what it
-// knew; what has not shown up three seconds after the connection stands again is told as ended.
+// knew; what has not shown up three seconds after the connection stands again is told as ended. What has, ends at once
+// with its owner.
 #pragma once
 
 #include <functional>
@@ -43,6 +44,7 @@ private:
     std::function<bool(int)> ownerIsThere;
     std::map<Long, RecordContent> heard;  // on this connection
     std::map<Long, RecordContent> told;
+    std::set<Long> shown;    // on this connection, of owners that were there
     std::set<Long> ended;    // by their owners' word
     std::set<Long> pending;  // to be looked at
 };

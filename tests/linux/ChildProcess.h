@@ -23,6 +23,8 @@ public:
     void WriteLine(const std::string& line);
     // Without its line feed; "" at the end.
     std::string ReadLine();
+    // Its standard output, for whoever does not wait for lines.
+    int Output() const { return output.Number(); }
     // Writes a line and waits for the answering one.
     std::string Ask(const std::string& line);
     void Kill(int signal);

@@ -1,0 +1,124 @@
+#include "tests/hosts/HostsTest.h"
+
+#include <poll.h>
+
+#include <algorithm>
+#include <csignal>
+#include <cstdio>
+#include <fstream>
+
+#include "adapters/mqtt/OwnSetUp.h"
+
+namespace orvelle::hosts {
+
+namespace {
+
+constexpr int Identities = 4;
+
+}  // namespace
+
+HostsTest::HostsTest() {
+    std::string pattern = std::filesystem::temp_directory_path() / "orvelle-hosts-XXXXXX";
+    folder = mkdtemp(pattern.data());
+    const mqtt::OwnSetUp setUp(DataOf(1));
+    EXPECT_EQ(setUp.ReadOrMake("Hosts", 0).Sentence, "");
+    while (const auto code = setUp.Add().Code) {
+        const mqtt::SetUpSetting joined{"Hosts", one.Address(), mqtt::UsualPort, code->Number, code->Key};
+        EXPECT_EQ(mqtt::WriteSetUpFile(SetUpFileOf(code->Number), joined), "");
+        if (code->Number == Identities) break;
+    }
+    EXPECT_EQ(setUp.JoinThisComputer(*setUp.Read().Setting, "localhost", mqtt::UsualPort), "");
+}
+
+HostsTest::~HostsTest() {
+    panels.clear();
+    played.reset();
+    simulator.reset();
+    broker.reset();
+    std::filesystem::remove_all(folder);
+}
+
+std::string HostsTest::SetUpFileOf(int identity) const { return DataOf(identity) + "/setup.json"; }
+
+void HostsTest::BringSimulator() {
+    keyboard = std::make_unique<linux::XServer>();
+    strokes = std::make_unique<UserStrokes>(keyboard->Display());
+    StartSimulator();
+}
+
+void HostsTest::StartSimulator() {
+    simulator = std::make_unique<linux::ChildProcess>(
+        one.Start({"env", "DISPLAY=" + keyboard->Display(), SIMULATOR_PROGRAM, "--no-window", "--data", DataOf(1)}));
+}
+
+pid_t HostsTest::BrokerOfSimulator() const {
+    const std::string process = std::to_string(simulator->Id());
+    std::ifstream children("/proc/" + process + "/task/" + process + "/children");
+    pid_t child = 0;
+    children >> child;
+    return child;
+}
+
+void HostsTest::BringPlayedSimulator() {
+    StartBroker();
+    played = std::make_unique<ProgramThere>(one, std::vector<std::string>{SIMULATOR_AT_HOST, SetUpFileOf(1)});
+}
+
+void HostsTest::StartBroker() {
+    broker = std::make_unique<linux::ChildProcess>(
+        one.Start({"/usr/sbin/mosquitto", "-c", DataOf(1) + "/broker/mosquitto.conf"}));
+}
+
+PanelThere& HostsTest::AddPanel(int identity) { return panels.emplace_back(Host(identity), SetUpFileOf(identity)); }
+
+bool HostsTest::Until(const std::function<bool()>& isSo) {
+    const long long end = Now() + 30 * Second;
+    for (;;) {
+        std::vector<pollfd> awaited;
+        for (PanelThere& panel : panels) {
+            panel.Take();
+            awaited.push_back({panel.Process.Output(), POLLIN, 0});
+        }
+        if (played) {
+            played->Take();
+            awaited.push_back({played->Process.Output(), POLLIN, 0});
+        }
+        if (isSo()) return true;
+        if (Now() > end) {
+            for (const PanelThere& panel : panels) std::cout << "    a panel told last:" << panel.LastTold() << '\n';
+            return false;
+        }
+        poll(awaited.data(), awaited.size(), 5);
+    }
+}
+
+void HostsTest::Let(long long microseconds) {
+    const long long end = Now() + microseconds;
+    Until([&] { return Now() >= end; });
+}
+
+Long HostsTest::Holder(const std::string& role, const std::vector<const PanelThere*>& panels) {
+    std::set<Long> ids;
+    for (const PanelThere* const panel : panels) {
+        const std::set<Long> known = panel->Holders(role);
+        if (known.size() != 1) return 0;
+        ids.insert(*known.begin());
+    }
+    return ids.size() == 1 ? *ids.begin() : 0;
+}
+
+bool HostsTest::AllHave(Long id, const std::string& role) {
+    return std::ranges::all_of(panels,
+                               [&](const PanelThere& panel) { return panel.Holders(role) == std::set<Long>{id}; });
+}
+
+bool HostsTest::HaveLinks() {
+    return std::ranges::all_of(panels, [](const PanelThere& panel) { return panel.HasLinks(); });
+}
+
+void Print(const std::string& what, long long microseconds) {
+    std::printf("    %-60s %8.1f ms\n", what.c_str(), static_cast<double>(microseconds) / 1000);
+    std::fflush(stdout);
+}
+
+}  // namespace orvelle::hosts
