@@ -82,7 +82,7 @@ public:
         std::string text;
         for (const auto& [id, content] : simulator.Records())
             text += ' ' + content.Role + '=' + mqtt::WriteIdentity(mqtt::IdentityOf(id));
-        return text;
+        return text + ", " + std::to_string(PanelsThere()) + " panels";
     }
 
 private:
@@ -91,10 +91,14 @@ private:
         for (const auto& [id, content] : simulator.Records()) ++holders[content.Role];
         const bool isEachHeld = std::ranges::all_of(
             AllVoiceRoles, [&](const char* role) { return holders.contains(role) && holders[role] == 1; });
+        return isEachHeld && PanelsThere() == Computers;
+    }
+
+    int PanelsThere() const {
         int there = 0;
         for (int identity = 1; identity <= Computers; ++identity)
             if (simulator.Others().IsThere({identity, mqtt::Program::Panel})) ++there;
-        return isEachHeld && there == Computers;
+        return there;
     }
 
     linux::PollEventLoop loop;
