@@ -68,17 +68,26 @@ Memory ReadMemory(pid_t process) {
     return memory;
 }
 
-Activity ReadActivity(pid_t process) {
+Activity ReadActivityOfOne(pid_t process) {
     Activity activity;
-    for (const pid_t member : Family(process)) {
-        std::error_code gone;
-        for (const auto& thread : fs::directory_iterator(fs::path("/proc") / std::to_string(member) / "task", gone)) {
-            activity.WakeUps += NumberNamed(thread.path() / "status", "voluntary_ctxt_switches");
-            activity.Preemptions += NumberNamed(thread.path() / "status", "nonvoluntary_ctxt_switches");
-        }
-        activity.CpuMilliseconds += CpuMillisecondsOf(member);
+    std::error_code gone;
+    for (const auto& thread : fs::directory_iterator(fs::path("/proc") / std::to_string(process) / "task", gone)) {
+        activity.WakeUps += NumberNamed(thread.path() / "status", "voluntary_ctxt_switches");
+        activity.Preemptions += NumberNamed(thread.path() / "status", "nonvoluntary_ctxt_switches");
     }
+    activity.CpuMilliseconds = CpuMillisecondsOf(process);
     return activity;
+}
+
+Activity ReadActivity(pid_t process) {
+    Activity all;
+    for (const pid_t member : Family(process)) {
+        const Activity one = ReadActivityOfOne(member);
+        all.WakeUps += one.WakeUps;
+        all.Preemptions += one.Preemptions;
+        all.CpuMilliseconds += one.CpuMilliseconds;
+    }
+    return all;
 }
 
 CpuTime ReadCpuTime() {

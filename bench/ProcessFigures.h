@@ -1,5 +1,5 @@
-// What the system knows of a process and all its descendants, and of the computer as a whole, read from /proc. A
-// process that is gone counts as nothing.
+// What the system knows of a process, alone or with all its descendants, and of the computer as a whole, read from
+// /proc. A process that is gone counts as nothing.
 #pragma once
 
 #include <sys/types.h>
@@ -24,6 +24,7 @@ struct CpuTime {  // of the computer, in its own units
 
 Memory ReadMemory(pid_t process);
 Activity ReadActivity(pid_t process);
+Activity ReadActivityOfOne(pid_t process);  // without its descendants
 CpuTime ReadCpuTime();
 
 }  // namespace orvelle

@@ -275,11 +275,15 @@ struct SilentPeers {
     Platform Outside() { return Outside(Settings, Registry); }
     // With a real store in the place of the silent one.
     Platform Outside(SettingsStore& settings, orvelle::Registry& registry) {
+        return Outside(settings, registry, Tessaly);
+    }
+    // With a real framework link, too.
+    Platform Outside(SettingsStore& settings, orvelle::Registry& registry, TessalyControl& tessaly) {
         return {
             .Velmarc = Velmarc,
             .Settings = settings,
             .Registry = registry,
-            .Tessaly = Tessaly,
+            .Tessaly = tessaly,
             .VVL = Engine,
             .VolumeControl = Mixer,
             .VolumeControlHP = MixerHP,

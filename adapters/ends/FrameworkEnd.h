@@ -108,6 +108,7 @@ private:
     void HearRecordEnded(Long id);
     void HearWrite(Long id, const RecordParameters& written);
     void HearRecordTaken(Long id);
+    void RecallAnother(Long leaving);
     void WriteToOpenRecord(const RecordParameters& written);
 
     Delivery delivery;

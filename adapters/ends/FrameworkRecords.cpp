@@ -1,4 +1,5 @@
 // The panel's copy of the interface records, its own and those of other computers.
+#include <algorithm>
 #include <set>
 #include <utility>
 
@@ -144,7 +145,8 @@ void FrameworkEnd::HearRecord(Long id, const RecordContent& said) {
 void FrameworkEnd::HearRecordEnded(Long id) {
     const Record* record = Find(id);
     if (!record || record->IsLocal) return;
-    records.erase(id);
+    RecallAnother(id);
+    if (records.erase(id) == 0) return;
     if (openRecord == id) openRecord = 0;
     InterfaceRemoved(id);
 }
@@ -162,9 +164,21 @@ void FrameworkEnd::HearWrite(Long id, const RecordParameters& written) {
 void FrameworkEnd::HearRecordTaken(Long id) {
     const auto found = records.find(id);
     if (found == records.end() || !found->second.IsLocal) return;
-    records.erase(found);
+    RecallAnother(id);
+    if (records.erase(id) == 0) return;
     if (openRecord == id) openRecord = 0;
     InterfaceRemoved(id);
+}
+
+// Of the foreign records of one role the panel keeps the one that appeared last. Before that one goes, or its own gives
+// way, it hears once more of another that is there: else it takes the role for free, and claims it.
+void FrameworkEnd::RecallAnother(Long leaving) {
+    const RecordContent& gone = records.at(leaving).Content;
+    const auto other = std::ranges::find_if(records, [&](const auto& each) {
+        const auto& [id, record] = each;
+        return id != leaving && !record.IsLocal && record.Content.Type == gone.Type && record.Content.Role == gone.Role;
+    });
+    if (other != records.end()) InterfaceAppeared(other->first);
 }
 
 void FrameworkEnd::ForgetRecords() {

@@ -85,8 +85,9 @@ Long BrokerFrameworkLine::NewRecordId() {
 
 void BrokerFrameworkLine::SayRecord(Long id, const RecordContent& record, const RecordParameters&) {
     if (!at) return;
+    // A record that gives way at once is told to nobody: for all who want the role it would be one more that goes.
+    if (at->IsThere() && GivesWay(record, Holding::LowerIdentityKeeps)) return Take(RecordOf(id));
     at->SayRecord(RecordOf(id), record);
-    if (at->IsThere()) GiveWay(Holding::LowerIdentityKeeps);
 }
 
 void BrokerFrameworkLine::SayRecordEnded(Long id) {
@@ -184,17 +185,22 @@ void BrokerFrameworkLine::TellRecords() {
     }
 }
 
-// The record ends for all at once; the panel here is told with what it gave way to.
+bool BrokerFrameworkLine::GivesWay(const RecordContent& own, Holding holding) const {
+    const Long other = records.Holder(own.Type, own.Role);
+    return other != 0 && (holding == Holding::OthersKeep || IdentityOf(other) < at->Identity());
+}
+
 void BrokerFrameworkLine::GiveWay(Holding holding) {
     const std::map<Long, RecordContent> own = at->OwnRecords();
-    for (const auto& [number, content] : own) {
-        const Long other = records.Holder(content.Type, content.Role);
-        if (other == 0) continue;
-        if (holding == Holding::LowerIdentityKeeps && at->Identity() < IdentityOf(other)) continue;
-        at->EndRecord(number);
-        taken.push_back(RecordId(at->Identity(), number));
-    }
-    if (!taken.empty() && wasThere) telling = loop.After(0, [this] { TellRecords(); });
+    for (const auto& [number, content] : own)
+        if (GivesWay(content, holding)) Take(number);
+}
+
+// The record ends for all at once; the panel here is told with what it gave way to.
+void BrokerFrameworkLine::Take(Long number) {
+    if (at->OwnRecords().contains(number)) at->EndRecord(number);
+    taken.push_back(RecordId(at->Identity(), number));
+    if (wasThere) telling = loop.After(0, [this] { TellRecords(); });
 }
 
 }  // namespace orvelle::mqtt

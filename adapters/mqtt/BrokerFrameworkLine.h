@@ -41,7 +41,9 @@ private:
     void HearWrite(const Topic& topic, const std::string& payload);
     void TellSession();
     void TellRecords();
+    bool GivesWay(const RecordContent& own, Holding holding) const;
     void GiveWay(Holding holding);
+    void Take(Long number);
 
     EventLoop& loop;
     Brokers& brokers;

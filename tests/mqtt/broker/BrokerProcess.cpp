@@ -14,7 +14,7 @@ namespace orvelle::mqtt {
 
 namespace {
 
-constexpr int Computers = 9;
+constexpr int Computers = 10;
 
 sockaddr_in Loopback(int port) {
     sockaddr_in address{};

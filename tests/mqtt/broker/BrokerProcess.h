@@ -14,7 +14,7 @@ namespace orvelle::mqtt {
 
 class BrokerProcess {
 public:
-    // Knows the computers c01 to c09. Returns when it can be connected to.
+    // Knows the computers c01 to c10. Returns when it can be connected to.
     BrokerProcess();
     ~BrokerProcess();
 
