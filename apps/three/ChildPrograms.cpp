@@ -23,7 +23,8 @@ void StartChild(QProcess& process, const QString& file, const QStringList& words
         sigprocmask(SIG_SETMASK, &none, nullptr);
         signal(SIGPIPE, SIG_DFL);
     });
-    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    if (process.processChannelMode() == QProcess::SeparateChannels)
+        process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.setStandardInputFile(QProcess::nullDevice());
     process.start(file, words);
 }

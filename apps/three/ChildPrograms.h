@@ -1,5 +1,6 @@
 // How the story starts programs: in a group of processes, by which all of a computer's can be stopped in one instant,
-// and ended with this process however that ends. What they say in the terminal is shown there.
+// and ended with this process however that ends. What they say of errors is shown in the terminal, unless the process
+// was set to merge it with what is read from it.
 #pragma once
 
 #include <sys/types.h>

@@ -87,18 +87,18 @@ void Computer::Run(QProcess& program, const QString& file, const QStringList& wo
     StartChild(program, file, words, static_cast<pid_t>(desktop.processId()));
 }
 
-void Computer::Join(const std::string& code, int port) {
-    Run(joining, BesideThis("orvelle-setup"), {"--join", ToQt(code), "--host", "localhost:" + QString::number(port)});
+void Computer::Join(const std::string& code, int brokerPort) {
+    joiningWords = QStringList{"--join", ToQt(code), "--host", "localhost:" + QString::number(brokerPort)};
+    joining.setProcessChannelMode(QProcess::MergedChannels);
+    Run(joining, BesideThis("orvelle-setup"), joiningWords);
 }
 
-bool Computer::HasJoined() const {
-    return joining.state() == QProcess::NotRunning && joining.exitStatus() == QProcess::NormalExit &&
-           joining.exitCode() == 0;
-}
-
-std::string Computer::SaidOfJoining() {
-    saidOfJoining += joining.readAll();
-    return saidOfJoining.trimmed().toStdString();
+bool Computer::HasJoined() {
+    if (joining.state() != QProcess::NotRunning) return false;
+    saidOfJoining = joining.readAll().trimmed().toStdString();
+    if (joining.exitStatus() == QProcess::NormalExit && joining.exitCode() == 0) return true;
+    Run(joining, BesideThis("orvelle-setup"), joiningWords);
+    return false;
 }
 
 void Computer::StartPanel() { Run(panel, BesideThis("orvelle-panel"), {}); }

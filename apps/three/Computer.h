@@ -31,10 +31,11 @@ public:
 
     void SwitchOn();  // its display
     bool IsOn();      // from when that is there
-    // By the code that was made for it. What orvelle-setup said is told when it has ended.
-    void Join(const std::string& code, int port);
-    bool HasJoined() const;
-    std::string SaidOfJoining();
+    // By the code that was made for it: orvelle-setup. The broker may take it only a moment after it was made, so it is
+    // typed again until it is taken.
+    void Join(const std::string& code, int brokerPort);
+    bool HasJoined();
+    const std::string& SaidOfJoining() const { return saidOfJoining; }
     void StartPanel();
     bool ShowsPanel();  // its window is on the display
 
@@ -61,7 +62,8 @@ private:
     std::unique_ptr<TopLevelWindows> windows;
     QProcess desktop;
     QProcess joining;
-    QByteArray saidOfJoining;
+    QStringList joiningWords;
+    std::string saidOfJoining;
     QProcess panel;
 };
 

@@ -56,15 +56,14 @@ bool Story::MakeSetUp() {
 
 bool Story::JoinAll() {
     for (const auto& each : computers) {
-        telling.Happens("orvelle-sim --add makes a code for the next computer, and it is typed there.");
+        telling.Happens("On c01 a computer is added: orvelle-sim --add");
         simulator.AskForCode();
         std::string code;
         const auto isMade = [&] { return !(code = simulator.Code()).empty(); };
-        if (!telling.Comes([&] { return "The code is " + code + "."; }, isMade)) return false;
+        if (!telling.Comes([&] { return "The code for it is " + code; }, isMade)) return false;
+        telling.Happens("On " + each->Name() + " it is typed: orvelle-setup --join " + code);
         each->Join(code, simulator.Port());
-        if (!telling.Comes([&] { return each->Name() + " says: " + each->SaidOfJoining(); },
-                           [&] { return each->HasJoined(); }))
-            return false;
+        if (!telling.Comes([&] { return each->SaidOfJoining(); }, [&] { return each->HasJoined(); })) return false;
     }
     return true;
 }
