@@ -16,6 +16,12 @@ using namespace orvelle;
 
 namespace {
 
+constexpr const char* Introduction =
+    "Three computers, c02, c03 and c04, share the voice duties of one simulator, whose computer is c01. All of it "
+    "runs\n"
+    "on this machine, each computer with programs, settings and a virtual display of its own. Times count from the\n"
+    "start; what comes of a thing is told with how much later it came.\n";
+
 [[noreturn]] void FailBy(const std::string& reason) {
     std::cerr << "orvelle-three: " << reason << std::endl;
     std::exit(EXIT_FAILURE);
@@ -38,5 +44,6 @@ int main(int count, char** words) {
     const Ticket stopped = loop.WhenReadable(endings.Descriptor(), [&] {
         if (endings.Take() != 0) story.Stop();
     });
+    std::cout << Introduction << std::endl;
     return story.Play() ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -10,9 +10,9 @@ namespace orvelle {
 struct CaptionedScreen {
     QString Name;
     QString State;  // one line
-    QImage Screen;  // none for a computer that is off
+    QImage Screen;  // none for a computer without power
 };
 
-QImage SideBySide(const QString& title, const std::vector<CaptionedScreen>& screens);
+QImage SideBySide(const std::vector<CaptionedScreen>& screens);
 
 }  // namespace orvelle

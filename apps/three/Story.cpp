@@ -35,21 +35,22 @@ Story::Story(EventLoop& loop, const QDir& workFolder, const QDir& pictureFolder,
 }
 
 bool Story::Play() {
-    return MakeSetUp() && JoinAll() && ClaimRole() && OpenSession() && Talk() &&
-           TakePicture("three-1-held.png", "Three computers, one voice role: RogerWilco for COM1") && LoseHolder() &&
-           Talk() && TakePicture("three-2-taken-over.png", "Its computer is lost: the role is taken over") &&
-           ComeBack() && Talk() && TakePicture("three-3-come-back.png", "It comes back, and finds the role held");
+    const bool played = MakeSetUp() && JoinAll() && ClaimRole() && OpenSession() && Talk() &&
+                        TakePicture("three-1-held.png") && LoseHolder() && Talk() &&
+                        TakePicture("three-2-taken-over.png") && ComeBack() && Talk() &&
+                        TakePicture("three-3-come-back.png");
+    if (played) telling.Happens("That was the story; all computers are switched off.");
+    return played;
 }
 
 bool Story::MakeSetUp() {
-    telling.Happens(
-        "orvelle-sim is started on c01, the simulator's computer; the displays of the others are switched on.");
+    telling.Happens("orvelle-sim is started on c01, the simulator's computer; the other computers are switched on.");
     simulator.Start();
     for (const auto& each : computers) each->SwitchOn();
     return telling.Comes("The set-up is made. Its broker serves, encrypted, at port " +
                              std::to_string(simulator.Port()) + ", and c01 offers keys, session and radios.",
                          [this] { return simulator.Serves(); }) &&
-           telling.Comes("The displays are there, with a window manager and a tray each.", [this] {
+           telling.Comes("The displays of c02, c03 and c04 are there.", [this] {
                return std::ranges::all_of(computers, [](const auto& each) { return each->IsOn(); });
            });
 }
@@ -72,7 +73,7 @@ bool Story::ClaimRole() {
     holder = computers.front().get();
     telling.Happens("The panel of " + holder->Name() + " is started. RogerWilco is ticked there for COM1.");
     holder->StartPanel();
-    if (!telling.Comes(holder->Name() + " is there and claims the role " + Role + ".", [this] {
+    if (!telling.Comes(holder->Name() + " is there and claims the role " + Role + ", RogerWilco for COM1.", [this] {
             return simulator.Watch().Holders(Role) == std::vector{holder->Identity} && holder->ShowsPanel();
         }))
         return false;
@@ -86,7 +87,7 @@ bool Story::ClaimRole() {
 bool Story::OpenSession() {
     telling.Happens("On c01 the session is opened, and COM1 is tuned to a RogerWilco channel.");
     simulator.OpenSession();
-    return telling.Comes([this] { return holder->Name() + " starts its voice program: " + holder->VoiceCalls(); },
+    return telling.Comes(holder->Name() + " starts its voice program: voice-program" + Join,
                          [this] { return OneHolds(); });
 }
 
@@ -107,7 +108,7 @@ bool Story::LoseHolder() {
     Computer& lost = *holder;
     telling.Happens(lost.Name() + " is lost, as if its power were cut: its programs stand still and say no goodbye.");
     lost.StandStill();
-    if (!telling.Comes(lost.Name() + " counts as gone, and its record with it: no beat for three seconds.",
+    if (!telling.Comes(lost.Name() + " counts as gone, three seconds after its last beat, and its record with it.",
                        [&] { return simulator.Watch().PanelBeats(lost.Identity) == 0; }) ||
         !telling.Comes([this] { return holder->Name() + " has taken the role over, and starts its voice program."; },
                        [this] {
@@ -151,19 +152,18 @@ bool Story::LetsGoOfRole(Computer& computer) {
            simulator.Watch().Holders(Role) == std::vector{holder->Identity};
 }
 
-bool Story::TakePicture(const std::string& name, const std::string& title) {
+bool Story::TakePicture(const std::string& name) {
     std::vector<CaptionedScreen> screens;
     for (const auto& each : computers) screens.push_back({ToQt(each->Name()), ToQt(StateOf(*each)), each->Screen()});
     const QString file = pictures.filePath(ToQt(name));
-    const bool isKept = SideBySide(ToQt(title), screens).save(file);
-    telling.Happens((isKept ? "Picture: " : "This picture can't be written: ") +
-                    FromQt(QFileInfo(file).absoluteFilePath()));
+    const bool isKept = SideBySide(screens).save(file);
+    telling.Happens((isKept ? "Picture: " : "This picture can't be written: ") + FromQt(file));
     return isKept;
 }
 
 std::string Story::StateOf(Computer& computer) {
-    if (!computer.IsOn()) return "without power";
-    if (&computer == holder) return "holds the role " + Role;
+    if (!computer.IsOn()) return "is without power";
+    if (&computer == holder) return "holds the role " + Role + " and talks";
     return "finds the role held by " + holder->Name();
 }
 

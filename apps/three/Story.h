@@ -37,7 +37,7 @@ private:
     bool AllOthers(const std::function<bool(Computer&)>& isSo);  // but the holder
     bool OneHolds();  // one computer has the role and nobody else, and it alone has its voice program joined
     bool LetsGoOfRole(Computer& computer);
-    bool TakePicture(const std::string& name, const std::string& title);
+    bool TakePicture(const std::string& name);
     std::string StateOf(Computer& computer);
 
     Telling telling;
