@@ -36,6 +36,7 @@ Computer::Computer(EventLoop& loop, int identity, const QDir& folder, const QStr
 }
 
 Computer::~Computer() {
+    EndChild(joining);
     EndChild(panel);
     SwitchOff();
 }

@@ -39,6 +39,7 @@ SimulatorsComputer::SimulatorsComputer(EventLoop& eventLoop, const QDir& ownFold
 
 SimulatorsComputer::~SimulatorsComputer() {
     watch.reset();
+    if (adding) EndChild(*adding);
     EndChild(program);
 }
 
