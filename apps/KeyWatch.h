@@ -3,13 +3,16 @@
 
 #include <xcb/xcb.h>
 
+#include <string>
 #include <vector>
 
 namespace orvelle {
 
 class KeyWatch {
 public:
-    KeyWatch() : connection(xcb_connect(nullptr, nullptr)) {}
+    // "" is the environment's display.
+    explicit KeyWatch(const std::string& display = "")
+        : connection(xcb_connect(display.empty() ? nullptr : display.c_str(), nullptr)) {}
     KeyWatch(const KeyWatch&) = delete;
     KeyWatch& operator=(const KeyWatch&) = delete;
     ~KeyWatch() { xcb_disconnect(connection); }

@@ -2,29 +2,21 @@
 
 #include <QAbstractButton>
 #include <QCoreApplication>
-#include <QDeadlineTimer>
-#include <QEventLoop>
-#include <QFile>
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QScreen>
 #include <QTreeWidget>
 #include <array>
-#include <chrono>
-#include <cstdlib>
 #include <iostream>
 
 #include "adapters/looks/Text.h"
 #include "adapters/shared/ScanCodes.h"
+#include "apps/Waiting.h"
 
 namespace orvelle {
 
 namespace {
 
-using namespace std::chrono_literals;
-
-constexpr auto StepTime = 20s;
-constexpr Long TalkKey = 88;  // F12
 constexpr const char* RoadKey = "F8";
 
 struct Page {
@@ -47,16 +39,6 @@ constexpr std::array<Page, PanelCount> Pages{{{OverviewPanel, "Config", "overvie
                                               {ExtraPanel, "Extra", "extra"},
                                               {VatsimKeysPanel, "Key mappings", "vatsim-keys"}}};
 
-// Serves the loop until `isTrue`, or until the time is up.
-bool WaitUntil(const std::function<bool()>& isTrue) {
-    const QDeadlineTimer deadline(StepTime);
-    while (!isTrue()) {
-        if (deadline.hasExpired()) return false;
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 20);
-    }
-    return true;
-}
-
 // Serves the loop until nothing waits there.
 void Settle() {
     for (int turn = 0; turn < 10; ++turn) QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
@@ -65,19 +47,12 @@ void Settle() {
 }  // namespace
 
 Road::Road(PanelProgram& panelProgram, const QString& workFolder, const QString& pictureFolder)
-    : house(panelProgram), pictures(pictureFolder), folder(workFolder) {
+    : house(panelProgram), pictures(pictureFolder), voiceProgram(workFolder) {
     pictures.mkpath(".");
 }
 
 void Road::Prepare() {
-    // A voice program that writes down how it was called.
-    QFile program(folder.filePath("voice-program"));
-    if (program.open(QFile::WriteOnly)) program.write("#!/bin/sh\necho \"$0 $*\" >>\"${0%/*}/commands\"\n");
-    program.close();
-    program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-
-    house.Settings.Store.SaveSettingString("OrvelleCP", "RWPath", FromQt(program.fileName()));
-    house.Settings.Store.SaveSettingString("OrvelleCP", "RWPTTKey", std::to_string(TalkKey));
+    voiceProgram.Enter(house.Settings.Store);
     house.Settings.Store.SaveSettingLong("OrvelleCP", "VoiceTuningSound", 1);
     house.Settings.Store.HandlerEnded();
 }
@@ -89,20 +64,17 @@ bool Road::Step(const std::string& told, const std::function<void()>& act, const
     return done;
 }
 
-std::string Road::VoiceCommands() const {
-    QFile commands(folder.filePath("commands"));
-    return commands.open(QFile::ReadOnly) ? commands.readAll().trimmed().toStdString() : "";
-}
-
 bool Road::Play() {
     FrmOrvelle& panel = house.Panel;
     embedded::SimulatorLink& simulator = house.Outside.Practice.SimulatorLink;
     embedded::NetworkLink& network = house.Outside.Practice.NetworkLink;
     const auto click = [this](const char* name) { house.Desktop.Window().findChild<QAbstractButton*>(name)->click(); };
-    const auto keyIsDown = [this] { return keys.KeysDown() == std::vector<int>{LinuxKeyOfScanCode(TalkKey)}; };
-    const std::string place = FromQt(folder.path()) + "/";
+    const auto keyIsDown = [this] {
+        return keys.KeysDown() == std::vector<int>{LinuxKeyOfScanCode(VoiceStandIn::TalkKey)};
+    };
     const std::string join =
-        place + "voice-program /join1 voice.example/tower /priority high /netspeed 2 /callsign ABC123";
+        voiceProgram.File() + " /join1 voice.example/tower /priority high /netspeed 2 /callsign ABC123";
+    const std::string leave = voiceProgram.File() + " /leave";
 
     const bool played =
         Step(
@@ -144,7 +116,7 @@ bool Road::Play() {
                 network.SetFrequency(0, "118.300");
                 network.SetVoice(0, {RogerWilco, "voice.example", "tower", "", ""});
             },
-            [&] { return VoiceCommands() == join; }) &&
+            [&] { return voiceProgram.Calls() == join; }) &&
         Step(
             std::string("F8 goes down over there, and the talk key goes down here, as another X client sees: ") +
                 panel.RWPTTKeyDisplay.Text(),
@@ -153,9 +125,8 @@ bool Road::Play() {
             "F8 comes up, and the talk key is up.", [&] { simulator.ReleaseKey(RoadKey); },
             [this] { return keys.KeysDown().empty(); }) &&
         Step(
-            "COM1 is tuned away, and the voice program was told to leave: " + place + "voice-program /leave",
-            [&] { network.SetVoice(0, {}); },
-            [&] { return VoiceCommands() == join + "\n" + place + "voice-program /leave"; }) &&
+            "COM1 is tuned away, and the voice program was told to leave: " + leave, [&] { network.SetVoice(0, {}); },
+            [&] { return voiceProgram.Calls() == join + "\n" + leave; }) &&
         Step(
             "COM1 is tuned back.",
             [&] {

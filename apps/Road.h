@@ -9,6 +9,7 @@
 
 #include "apps/KeyWatch.h"
 #include "apps/PanelProgram.h"
+#include "apps/VoiceStandIn.h"
 
 namespace orvelle {
 
@@ -25,12 +26,11 @@ public:
 
 private:
     bool Step(const std::string& told, const std::function<void()>& act, const std::function<bool()>& isDone);
-    std::string VoiceCommands() const;
     void TakePictures();
 
     PanelProgram& house;
     QDir pictures;
-    QDir folder;  // of the stand-in voice program
+    VoiceStandIn voiceProgram;
     KeyWatch keys;
 };
 

@@ -172,14 +172,18 @@ std::string OwnSetUp::Remove(int identity) const {
     return Keep(*setting);
 }
 
-// The keys first: the broker's files can be made of them again, not the other way round.
+// The set-up's own file last: whoever is woken by it lets the broker read its files again. Those can be made again of
+// what is kept.
 std::string OwnSetUp::Keep(const OwnSetting& setting) const {
     const std::string text = WriteOwnSetting(setting);
     const fs::path file = File();
-    if (ReadPrivateFile(file, bounds::Payload).Text != text)
+    std::string sentence = WriteBrokerFiles(folder, setting.Port, setting.Keys);
+    if (sentence.empty() && ReadPrivateFile(file, bounds::Payload).Text != text)
         if (const std::string reason = WritePrivateFile(file, text); !reason.empty())
-            return "The set-up can't be kept in " + file.string() + ": " + reason + ".";
-    return WriteBrokerFiles(folder, setting.Port, setting.Keys);
+            sentence = "The set-up can't be kept in " + file.string() + ": " + reason + ".";
+    if (!sentence.empty())
+        if (const auto kept = Read().Setting) WriteBrokerFiles(folder, kept->Port, kept->Keys);
+    return sentence;
 }
 
 std::string OwnSetUp::JoinThisComputer(const OwnSetting& setting, const std::string& host, int port,

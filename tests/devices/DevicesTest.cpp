@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <optional>
 
+#include "apps/UserStrokes.h"
 #include "tests/devices/DeviceRig.h"
 #include "tests/devices/SoundServer.h"
-#include "tests/devices/UserStrokes.h"
 #include "tests/linux/XServer.h"
 
 namespace orvelle {

@@ -3,8 +3,8 @@
 #include <optional>
 
 #include "adapters/x11/XTestConnection.h"
+#include "apps/UserStrokes.h"
 #include "tests/devices/DeviceRig.h"
-#include "tests/devices/UserStrokes.h"
 #include "tests/linux/XClient.h"
 #include "tests/linux/XServer.h"
 

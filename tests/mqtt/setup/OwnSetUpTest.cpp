@@ -2,10 +2,16 @@
 #include "adapters/mqtt/OwnSetUp.h"
 
 #include <gtest/gtest.h>
+#include <sys/inotify.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
+#include <array>
 #include <fstream>
 #include <sstream>
+#include <vector>
+
+#include "adapters/linux/FileDescriptor.h"
 
 namespace orvelle::mqtt {
 namespace {
@@ -61,6 +67,51 @@ TEST_F(OwnSetUpTest, ComputersAreAddedUntilItIsFullAndAFreedNumberIsTheNext) {
     EXPECT_NE(again.Code->Key, before);
     EXPECT_EQ(setUp.Read().Setting->Keys.size(), 99U);
     EXPECT_NE(Text("broker/keys").find("c07:" + WriteKey(again.Code->Key) + "\n"), std::string::npos);
+}
+
+// The names of the files that came in a folder while the object was there, in order.
+class Arrivals {
+public:
+    explicit Arrivals(const fs::path& folder) : events(inotify_init1(IN_NONBLOCK | IN_CLOEXEC)) {
+        inotify_add_watch(events.Number(), folder.c_str(), IN_MOVED_TO);
+    }
+    std::vector<std::string> Names() const {
+        alignas(inotify_event) std::array<char, 4096> bytes{};
+        const ssize_t count = read(events.Number(), bytes.data(), bytes.size());
+        std::vector<std::string> names;
+        for (ssize_t place = 0; place < count;) {
+            const auto& event = reinterpret_cast<const inotify_event&>(bytes[static_cast<std::size_t>(place)]);
+            names.emplace_back(event.name);
+            place += static_cast<ssize_t>(sizeof event + event.len);
+        }
+        return names;
+    }
+
+private:
+    linux::FileDescriptor events;
+};
+
+TEST_F(OwnSetUpTest, TheBrokersKeysAreThereBeforeTheSetUpTellsOfAChange) {
+    const OwnSetUp setUp(data);
+    ASSERT_TRUE(setUp.ReadOrMake("Home", 0).Setting);
+    const Arrivals arrivals(setUp.Folder());
+    ASSERT_TRUE(setUp.Add().Code);
+    EXPECT_EQ(arrivals.Names(), (std::vector<std::string>{"keys", "set-up.json"}));
+    EXPECT_EQ(setUp.Remove(2), "");
+    EXPECT_EQ(arrivals.Names(), (std::vector<std::string>{"keys", "set-up.json"}));
+}
+
+TEST_F(OwnSetUpTest, WhatCanNotBeKeptIsNotTheBrokersEither) {
+    const OwnSetUp setUp(data);
+    ASSERT_TRUE(setUp.ReadOrMake("Home", 0).Setting);
+    const std::string before = Text("broker/keys");
+    // No file can be written in its place, also by root.
+    fs::create_directory(setUp.Folder() / "mosquitto.conf.aside");
+    fs::rename(setUp.Folder() / "mosquitto.conf", setUp.Folder() / "mosquitto.conf.aside" / "file");
+    fs::rename(setUp.Folder() / "mosquitto.conf.aside", setUp.Folder() / "mosquitto.conf");
+    EXPECT_NE(setUp.Add().Sentence, "");
+    EXPECT_EQ(Text("broker/keys"), before);
+    EXPECT_EQ(setUp.Read().Setting->Keys.size(), 1U);
 }
 
 TEST_F(OwnSetUpTest, ADamagedFileIsToldAndLeftAlone) {

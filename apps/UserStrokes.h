@@ -1,4 +1,6 @@
-// Strokes as a user makes them: sent through the X server's own keyboard, not through that of its test extension.
+// Strokes as a user makes them: sent through the X server's own keyboard, not through that of its test extension, whose
+// strokes count as a program's. For whoever plays the user of a virtual display; a stroke that the server refuses, or
+// that it could not be told, changes nothing.
 #pragma once
 
 #include <xcb/xcb.h>
@@ -10,6 +12,7 @@ namespace orvelle {
 
 class UserStrokes {
 public:
+    // "" is the environment's display.
     explicit UserStrokes(const std::string& display);
 
     // By the server's key codes. Taken by the server when this returns.
