@@ -15,7 +15,7 @@
 
 #include "adapters/mqtt/SetUpFile.h"
 #include "adapters/mqtt/Topics.h"
-#include "tests/devices/UserStrokes.h"
+#include "apps/UserStrokes.h"
 #include "tests/hosts/PanelThere.h"
 #include "tests/linux/XServer.h"
 
