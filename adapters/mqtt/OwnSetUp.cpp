@@ -172,14 +172,15 @@ std::string OwnSetUp::Remove(int identity) const {
     return Keep(*setting);
 }
 
-// The keys first: the broker's files can be made of them again, not the other way round.
+// The broker's files first: whoever sees the change of the set-up's own file has the broker read them. A change counts
+// from when that is written; where it isn't, the next one makes the broker's files anew.
 std::string OwnSetUp::Keep(const OwnSetting& setting) const {
+    if (std::string sentence = WriteBrokerFiles(folder, setting.Port, setting.Keys); !sentence.empty()) return sentence;
     const std::string text = WriteOwnSetting(setting);
     const fs::path file = File();
-    if (ReadPrivateFile(file, bounds::Payload).Text != text)
-        if (const std::string reason = WritePrivateFile(file, text); !reason.empty())
-            return "The set-up can't be kept in " + file.string() + ": " + reason + ".";
-    return WriteBrokerFiles(folder, setting.Port, setting.Keys);
+    if (ReadPrivateFile(file, bounds::Payload).Text == text) return "";
+    const std::string reason = WritePrivateFile(file, text);
+    return reason.empty() ? "" : "The set-up can't be kept in " + file.string() + ": " + reason + ".";
 }
 
 std::string OwnSetUp::JoinThisComputer(const OwnSetting& setting, const std::string& host, int port,
