@@ -106,7 +106,9 @@ void SimulatorProgram::TakeUpFile() {
     own.reset();
     if (found.Setting) return GoTo(*found.Setting);
     if (found.Sentence.empty())
-        Told("This computer has left its set-up, so nothing is served. Started again, orvelle-sim makes one of its own.");
+        Told(
+            "This computer has left its set-up, so nothing is served. Started again, orvelle-sim makes one of its "
+            "own.");
     SetUpChanged();
 }
 

@@ -253,8 +253,8 @@ TEST_F(SimulatorProgramTest, ASetUpHasTheNameThatIsGivenAlsoBesideARunningOne) {
     EXPECT_EQ(nameForThePanel(), "Club");
     EXPECT_TRUE(Lists("c01\t", "\tthere"));
     // A terminal is told the name, too; a script reads a computer a line.
-    linux::ChildProcess terminal({"script", "-qec", std::string(SIMULATOR_PROGRAM) + " --list --data " + data.string(),
-                                  "/dev/null"});
+    linux::ChildProcess terminal(
+        {"script", "-qec", std::string(SIMULATOR_PROGRAM) + " --list --data " + data.string(), "/dev/null"});
     EXPECT_EQ(terminal.ReadLine(), "Set-up Club\r");
     EXPECT_TRUE(Run({"--list"}).Output.starts_with("c01\t"));
 }
@@ -273,9 +273,7 @@ TEST_F(SimulatorProgramTest, ASetUpFileThatIsDamagedIsToldAndLeftAlone) {
 // A computer that has joined a set-up, whose simulator's program serves there.
 class GuestTest : public SimulatorProgramTest {
 protected:
-    void Join(int identity) {
-        ASSERT_EQ(WriteSetUpFile(file, existing.SetUpOf(identity)), "");
-    }
+    void Join(int identity) { ASSERT_EQ(WriteSetUpFile(file, existing.SetUpOf(identity)), ""); }
     void ServeAsGuest() {
         program = std::make_unique<linux::ChildProcess>(Words({"--no-window"}));
         ASSERT_TRUE(Lists("c03\t", "\tthere"));
@@ -288,7 +286,9 @@ protected:
 
 TEST_F(GuestTest, AComputerThatHasJoinedServesThereAndTakesPartWhenALowerOneGoes) {
     PlayedMember lower(loop, existing.SetUpOf(2), Program::Simulator);
-    const auto serving = [this] { return member.AtBroker.Others().SimulatorOffering(&PresenceSetting::OffersSimulator); };
+    const auto serving = [this] {
+        return member.AtBroker.Others().SimulatorOffering(&PresenceSetting::OffersSimulator);
+    };
     Join(3);
     ServeAsGuest();
     EXPECT_TRUE(Until([&] { return serving() == 2 && member.AtBroker.Others().IsThere({3, Program::Simulator}); }));
@@ -322,8 +322,9 @@ TEST_F(GuestTest, ItIsNotItsOwnToChangeOrName) {
          {std::vector<std::string>{"--add"}, {"--remove", "c04"}, {"--list", "--name", "Club"}}) {
         const Ended ended = Run(words);
         EXPECT_EQ(ended.Status, 1);
-        EXPECT_EQ(ended.Errors, "orvelle-sim: This computer belongs to the set-up \"Test\" of another one; that is "
-                                "changed on the computer that made it.\n");
+        EXPECT_EQ(ended.Errors,
+                  "orvelle-sim: This computer belongs to the set-up \"Test\" of another one; that is "
+                  "changed on the computer that made it.\n");
     }
     const Ended ended = Run({"--no-window", "--name", "Club"});
     EXPECT_EQ(ended.Status, 1);
@@ -359,24 +360,24 @@ TEST_F(GuestTest, TwoAsOneComputerGoOnAndDoNotTellAgainAndAgain) {
     program->Kill(SIGTERM);
     EXPECT_EQ(program->Wait(), 0);
     // Each reason once, however often.
-    for (const std::string& told : {program->Errors(), second.Errors()}) EXPECT_LE(std::ranges::count(told, '\n'), 3) << told;
+    for (const std::string& told : {program->Errors(), second.Errors()})
+        EXPECT_LE(std::ranges::count(told, '\n'), 3) << told;
 }
 
 TEST_F(SimulatorProgramTest, WordsThatAreNotUnderstoodAreToldInOneLine) {
-    for (const std::vector<std::string>& words :
-         {std::vector<std::string>{"--nonsense"},
-          {"--remove", "c00"},
-          {"--port", "0"},
-          {"--host", "sim pc"},
-          {"--host", std::string(300, 'x')},
-          {"--host", "simpc:0"},
-          {"--name", ""},
-          {"--name", "two\nlines"},
-          {"--name", std::string(300, 'x')},
-          {"--add", "--own"},
-          {"--host", "simpc", "--port", "8884"},
-          {"--add"},
-          {"--list"}}) {
+    for (const std::vector<std::string>& words : {std::vector<std::string>{"--nonsense"},
+                                                  {"--remove", "c00"},
+                                                  {"--port", "0"},
+                                                  {"--host", "sim pc"},
+                                                  {"--host", std::string(300, 'x')},
+                                                  {"--host", "simpc:0"},
+                                                  {"--name", ""},
+                                                  {"--name", "two\nlines"},
+                                                  {"--name", std::string(300, 'x')},
+                                                  {"--add", "--own"},
+                                                  {"--host", "simpc", "--port", "8884"},
+                                                  {"--add"},
+                                                  {"--list"}}) {
         const Ended ended = Run(words);
         EXPECT_EQ(ended.Status, 1);
         EXPECT_EQ(std::ranges::count(ended.Errors, '\n'), 1) << ended.Errors;
