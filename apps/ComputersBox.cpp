@@ -41,12 +41,13 @@ QString Joined(const QStringList& list) { return list.isEmpty() ? QString("-") :
 ComputersBox::ComputersBox(SimulatorProgram& simulatorProgram)
     : Section("ComputersSection", "Computers", 2),
       program(simulatorProgram),
-      table(deck::NewTable("Computers", "The computers of the set-up", {"Computer", "Name", "Programs", "Holds", "Serves"},
-                           Holds)),
+      table(deck::NewTable("Computers", "The computers of the set-up",
+                           {"Computer", "Name", "Programs", "Holds", "Serves"}, Holds)),
       add(deck::NewButton("AddComputer", "&Add a computer",
                           "Makes a key for the next computer and shows the code to type there", [this] { Add(); })),
       remove(deck::NewButton("RemoveComputer", "&Remove ...",
-                             "Takes the selected computer out of the set-up and cuts it off", [this] { AskToRemove(); })),
+                             "Takes the selected computer out of the set-up and cuts it off",
+                             [this] { AskToRemove(); })),
       code(new QLineEdit),
       answer(new QLabel) {
     table->setEditTriggers(QTableWidget::NoEditTriggers);

@@ -29,8 +29,8 @@ constexpr const char* Help =
 
 int TellShown(const SetUpDesk& desk, std::ostream& output, std::ostream& errors) {
     if (const auto joined = desk.Joined()) {
-        output << "This computer is " << mqtt::WriteIdentity(joined->Number) << " of the set-up " << OneLine(joined->Name)
-               << ", whose broker is " << joined->Place << ".\n";
+        output << "This computer is " << mqtt::WriteIdentity(joined->Number) << " of the set-up "
+               << OneLine(joined->Name) << ", whose broker is " << joined->Place << ".\n";
         return EXIT_SUCCESS;
     }
     errors << (desk.Sentence().empty() ? "This computer is in no set-up." : desk.Sentence()) << "\n";

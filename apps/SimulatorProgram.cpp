@@ -7,11 +7,13 @@
 #include <cstdlib>
 #include <utility>
 
-#include "adapters/mqtt/HostAndPort.h"
+#include "adapters/mqtt/BrokerTroubles.h"
 
 namespace orvelle {
 
 namespace {
+
+constexpr Long StandingMilliseconds = 60'000;
 
 std::string ComputerName() {
     std::array<char, 256> name{};
@@ -41,17 +43,19 @@ SimulatorProgram::SimulatorProgram(EventLoop& eventLoop, const SimulatorCommand&
 std::string SimulatorProgram::Open() {
     if (std::string sentence = SetUp.MakeFolder(); !sentence.empty()) return sentence;
     if (!lock.Take()) return "Another orvelle-sim serves this set-up already.";
-    if (!lock.Problem().empty()) Told(lock.Problem());
-    watch.emplace(loop, SetUp.PanelFile());
-    watch->Changed = [this] { TakeUpFile(); };
-    Devices.Changed = [this] { TellOfDevices(); };
-    TellOfDevices();
     const std::optional<mqtt::SetUpSetting> joined = command.Own ? std::nullopt : SetUp.JoinedElsewhere();
-    if (!joined) return ServeOwn();
-    if (command.Broker || command.Port != 0 || !command.Name.empty())
+    if (joined && (command.Broker || command.Port != 0 || !command.Name.empty()))
         return "This computer belongs to the set-up \"" + joined->Name +
                "\" of another one, which decides on its name and broker; --own makes or serves one of its own.";
-    GoTo(*joined);
+    if (joined)
+        GoTo(*joined);
+    else if (std::string sentence = ServeOwn(); !sentence.empty())
+        return sentence;
+    watch.emplace(loop, SetUp.PanelFile());
+    watch->Changed = [this] { TakeUpFile(); };
+    if (!lock.Problem().empty()) Told(lock.Problem());
+    Devices.Changed = [this] { TellOfDevices(); };
+    TellOfDevices();
     return "";
 }
 
@@ -66,26 +70,8 @@ std::string SimulatorProgram::Trouble() const {
     // The broker's own end is told by itself.
     const mqtt::BrokerTrouble trouble = AtBroker.Trouble();
     if (own && own->BringsBroker() && trouble == mqtt::BrokerTrouble::Unreachable) return "";
-    const std::string place = mqtt::WriteHostAndPort({member->Host, member->Port});
-    using enum mqtt::BrokerTrouble;
-    switch (trouble) {
-        case None:
-            return "";
-        case HostUnknown:
-            return "There is no computer by the name " + member->Host + ", where the set-up's broker should be.";
-        case Unreachable:
-            return "The set-up's broker can't be reached at " + place + ": nobody answers.";
-        case NotEncrypted:
-            return "What answers at " + place + " isn't encrypted by keys, so it is not used as the set-up's broker.";
-        case Refused:
-            return "The set-up's broker at " + place + " doesn't take this computer's key: it is another set-up's, or this "
-                   "computer was removed.";
-        case WrongProtocol:
-            return "What answers at " + place + " is no broker of a set-up: it doesn't speak MQTT 5.";
-        case TakenOver:
-            return "Another orvelle-sim came to the set-up's broker as the same computer.";
-    }
-    return "";
+    if (trouble == mqtt::BrokerTrouble::None) return "";
+    return mqtt::SentenceOf(trouble, {member->Host, member->Port}, member->Identity, mqtt::KeyFrom::SetUpFile);
 }
 
 std::string SimulatorProgram::ServeOwn() {
@@ -120,16 +106,23 @@ void SimulatorProgram::TakeUpFile() {
     own.reset();
     if (found.Setting) return GoTo(*found.Setting);
     if (found.Sentence.empty())
-        Told("This computer has left its set-up, so nothing is served. Started again, orvelle-sim makes one of its own.");
+        Told(
+            "This computer has left its set-up, so nothing is served. Started again, orvelle-sim makes one of its "
+            "own.");
     SetUpChanged();
 }
 
-// Each reason once, until the broker was reached.
+// Each reason once, until the broker was there for a while.
 void SimulatorProgram::TellOfTrouble() {
+    if (AtBroker.IsThere()) {
+        if (!std::exchange(isReached, true))
+            standing = loop.After(StandingMilliseconds, [this] { toldOfTrouble.clear(); });
+        return;
+    }
+    isReached = false;
+    standing.End();
     const std::string sentence = Trouble();
-    if (AtBroker.IsThere()) toldOfTrouble.clear();
-    if (sentence.empty() || std::exchange(toldOfTrouble, sentence) == sentence) return;
-    Told(sentence);
+    if (!sentence.empty() && toldOfTrouble.insert(sentence).second) Told(sentence);
 }
 
 // Each once, until it is over.

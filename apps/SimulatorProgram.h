@@ -4,6 +4,7 @@
 #pragma once
 
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -58,9 +59,11 @@ private:
     std::optional<OwnServing> own;
     std::optional<mqtt::SetUpSetting> member;
     std::optional<linux::FileWatch> watch;
-    std::string toldOfFile, toldOfTrouble;
+    std::string toldOfFile;
+    std::set<std::string> toldOfTrouble;
+    bool isReached = false;
     std::vector<std::string> toldOfDevices;
-    Ticket troubleWatch;
+    Ticket troubleWatch, standing;
 };
 
 }  // namespace orvelle

@@ -120,7 +120,10 @@ void SimulatorSetUpPage::ShowState() {
     const std::string trouble = program.Trouble();
     const bool isThere = program.AtBroker.IsThere();
     const QString at = member ? ToQt(mqtt::WriteHostAndPort({member->Host, member->Port})) : QString();
-    broker->Show(isThere ? Sign::Good : !trouble.empty() ? Sign::Bad : member ? Sign::Waiting : Sign::Off,
+    broker->Show(isThere            ? Sign::Good
+                 : !trouble.empty() ? Sign::Bad
+                 : member           ? Sign::Waiting
+                                    : Sign::Off,
                  isThere            ? "Reached at " + at
                  : !trouble.empty() ? ToQt(trouble)
                  : member           ? "Being reached at " + at

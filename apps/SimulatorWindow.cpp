@@ -76,10 +76,11 @@ void SimulatorWindow::BringUp() {
 }
 
 void SimulatorWindow::AskToEnd() {
-    auto* box = new QMessageBox(QMessageBox::Question, windowTitle(),
-                                "End the program? The links that this computer serves, and the broker that it brings, end "
-                                "for all computers of the set-up.",
-                                QMessageBox::Yes | QMessageBox::No, this);
+    auto* box =
+        new QMessageBox(QMessageBox::Question, windowTitle(),
+                        "End the program? The links that this computer serves, and the broker that it brings, end "
+                        "for all computers of the set-up.",
+                        QMessageBox::Yes | QMessageBox::No, this);
     box->setObjectName("AsksToEnd");
     box->setAttribute(Qt::WA_DeleteOnClose);
     connect(box, &QMessageBox::finished, this, [this](int button) {
@@ -90,9 +91,7 @@ void SimulatorWindow::AskToEnd() {
 
 void SimulatorWindow::ShowState() {
     setUp->ShowState();
-    const Sign sign = program.AtBroker.IsThere()  ? Sign::Good
-                      : program.Trouble().empty() ? Sign::Waiting
-                                                  : Sign::Bad;
+    const Sign sign = program.AtBroker.IsThere() ? Sign::Good : program.Trouble().empty() ? Sign::Waiting : Sign::Bad;
     tray.Show(sign, Tip());
 }
 

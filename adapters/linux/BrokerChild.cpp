@@ -22,6 +22,7 @@ namespace {
 constexpr int MostEnds = 5;                // in a row
 constexpr Long WellAgainAfter = 10'000;    // milliseconds without an end
 constexpr Long FirstPause = 100;           // before it is started again, doubled each time
+constexpr Long ReloadMilliseconds = 100;   // from when it says that it reads its files until it has surely read them
 constexpr int EndMilliseconds = 3000;      // until an end is forced
 constexpr std::size_t LongestLine = 4096;  // bytes; the broker itself cuts its lines before
 constexpr std::size_t MostNames = 16;      // of one user; two are usual
@@ -92,7 +93,8 @@ void BrokerChild::Stop() {
     wellAgain.End();
     ended.End();
     readable.End();
-    serves = false;
+    reloaded.End();
+    serves = isReloading = false;
     if (process <= 0) return;
     kill(process, SIGTERM);
     pollfd awaited{end.Number(), POLLIN, 0};
@@ -106,11 +108,14 @@ void BrokerChild::Restart() {
 }
 
 void BrokerChild::Reload() {
-    // It may have read the keys already, and would not live through a signal, while it starts.
-    if (!serves)
+    // It may have read the keys already, and would not live through a signal, while it starts; a signal while it reads
+    // them would be lost.
+    if (!serves || isReloading) {
         reloads = true;
-    else
-        kill(process, SIGHUP);
+        return;
+    }
+    isReloading = true;
+    kill(process, SIGHUP);
 }
 
 BrokerChild::ClientNames BrokerChild::ClientsOf(const std::string& user) const {
@@ -141,7 +146,13 @@ bool BrokerChild::Read() {
 void BrokerChild::TakeLine(const std::string& line) {
     if (line.starts_with("Error")) problem = line;
     if (line.starts_with("New client connected from ")) return TakeClient(line);
-    if (line == "Reloading config.") return Reloaded();
+    if (line == "Reloading config.") {
+        reloaded = loop.After(ReloadMilliseconds, [this] {
+            isReloading = false;
+            if (std::exchange(reloads, false)) Reload();
+            Reloaded();
+        });
+    }
     if (line.starts_with("mosquitto version ") && line.ends_with(" running")) {
         serves = true;
         wellAgain = loop.After(WellAgainAfter, [this] { ends = 0; });
@@ -173,6 +184,8 @@ void BrokerChild::Ended() {
     ended.End();
     readable.End();
     waitpid(std::exchange(process, -1), nullptr, 0);
+    reloaded.End();
+    isReloading = false;
     const bool hasServed = std::exchange(serves, false);
     if ((!hasServed && ends == 0) || ++ends > MostEnds) return GaveUp("The broker mosquitto ended: " + Reason() + ".");
     Told("The broker mosquitto ended by itself and is started again.");

@@ -30,7 +30,7 @@ public:
     void Stop();
     // Ends all connections, and what is retained.
     void Restart();
-    // Reads its keys again, once it serves.
+    // Reads its keys again, once it serves. What is asked while it does so is done after it.
     void Reload();
 
     bool Serves() const { return serves; }
@@ -60,13 +60,14 @@ private:
     FileDescriptor end;     // of the process
     FileDescriptor errors;  // its standard error
     bool serves = false;
-    bool reloads = false;  // when it serves
+    bool isReloading = false;
+    bool reloads = false;  // when it serves, or has reloaded
     std::string part;      // of a line
     std::string problem;   // the last line that told of an error
     int ends = 0;          // by itself, in a row
     std::map<std::string, ClientNames> clients;
     bool isSomebodyUnknown = false;  // whose name was too long to be told
-    Ticket ended, readable, again, wellAgain;
+    Ticket ended, readable, again, wellAgain, reloaded;
 };
 
 }  // namespace orvelle::linux

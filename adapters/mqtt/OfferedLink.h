@@ -1,5 +1,5 @@
-// A link as the simulator's program offers it to the panels of the set-up: the switch of its far side. Which servers there
-// are, and how slow the way is, the network tells by itself.
+// A link as the simulator's program offers it to the panels of the set-up: the switch of its far side. Which servers
+// there are, and how slow the way is, the network tells by itself.
 #pragma once
 
 #include <functional>

@@ -33,8 +33,8 @@ public:
     // Whether a link is offered, by the member of PresenceSetting that tells it.
     void Offer(bool PresenceSetting::*link, bool offered);
     bool Offers(bool PresenceSetting::*link) const { return offers.*link; }
-    // The computer that serves the link now: of all that are there and offer it, this one included, the lowest identity.
-    // 0 for none.
+    // The computer that serves the link now: of all that are there and offer it, this one included, the lowest
+    // identity. 0 for none.
     int ServedBy(bool PresenceSetting::*link) const;
     // Says all that is held, and says it again every 100 ms while something is.
     void SayInput(const SimulatorInput& input);

@@ -25,8 +25,9 @@ CodeField::CodeField(std::function<bool(const std::string&)> isCode, std::functi
     : takes(std::move(isCode)), usual(palette()) {
     setObjectName("JoinCode");
     setPlaceholderText(Example);
-    setToolTip("The 24 characters that the simulator's computer gave for this one; capitals and hyphens don't matter. "
-               "A set-up that is full gives none");
+    setToolTip(
+        "The 24 characters that the simulator's computer gave for this one; capitals and hyphens don't matter. "
+        "A set-up that is full gives none");
     constexpr int Frame = 24;  // what a field puts around its text, logical pixels
     setMinimumWidth(fontMetrics().horizontalAdvance(QString(CodeSize + 5, 'W')) / 10 * 9 + Frame);
     connect(this, &QLineEdit::textEdited, this, [this, changed = std::move(changed)] {

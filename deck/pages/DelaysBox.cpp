@@ -26,8 +26,7 @@ DelaysBox::DelaysBox(const FarSides& sides) : Section("Delays", "Delays", 2) {
     const auto addRow = [this](const QString& label, const QString& name, const QString& toolTip, auto* peer) {
         if (peer) AddRow(label, {NewPeerDelay(name, toolTip, *peer), new QWidget});
     };
-    addRow("Simulator", "SimulatorDelay", "From the simulator's computer to the panel",
-           PlayedOf(sides.SimulatorLink));
+    addRow("Simulator", "SimulatorDelay", "From the simulator's computer to the panel", PlayedOf(sides.SimulatorLink));
     addRow("Network", "NetworkDelay", "From the network to the panel", PlayedOf(sides.NetworkLink));
     addRow("Headset mixer", "HeadsetMixerDelay", "From the mixer of microphone and headset to the panel",
            sides.HeadsetMixer);

@@ -142,8 +142,9 @@ TEST_F(SimulatorTest, ClosingHidesItAndItsIconBringsItBackAndEndsIt) {
 TEST_F(SimulatorTest, ItsTipTellsTheSetUpTheLinksAndHowManyAreThere) {
     ASSERT_NO_FATAL_FAILURE(Open());
     EXPECT_TRUE(ComesTrue([&] {
-        return window->Tray().Tip() == "Home\nKeys and sounds: Served by this computer\n"
-                                       "Session: Served by this computer\n1 computer is there";
+        return window->Tray().Tip() ==
+               "Home\nKeys and sounds: Served by this computer\n"
+               "Session: Served by this computer\n1 computer is there";
     })) << FromQt(window->Tray().Tip());
     ASSERT_TRUE(program->SetUp.Add().Code);
     Other panel(loop, *program, 2, mqtt::Program::Panel);

@@ -8,8 +8,8 @@
 #include <filesystem>
 #include <fstream>
 
-#include "adapters/shared/FileDescriptor.h"
 #include "adapters/linux/LinuxProcesses.h"
+#include "adapters/shared/FileDescriptor.h"
 #include "tests/linux/WaitUntil.h"
 
 namespace orvelle::linux {

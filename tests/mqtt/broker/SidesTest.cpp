@@ -53,6 +53,39 @@ TEST_F(Sides, ALinkTakenBackLetsGoFirst) {
     EXPECT_EQ(Count("held |"), 1);
 }
 
+TEST_F(Sides, TheLowestThatOffersALinkServesIt) {
+    EXPECT_EQ(simulator.ServedBy(), 0);
+    ASSERT_TRUE(Tells("simulator up"));
+    PlayedMember other(loop, broker.SetUpOf(3), Program::Simulator);
+    ASSERT_TRUE(Until([&] { return program.Others().IsThere({3, Program::Simulator}); }));
+    EXPECT_EQ(simulator.ServedBy(), 1);
+    simulator.SetLink(LinkState::Down);
+    EXPECT_EQ(simulator.ServedBy(), 3);
+    EXPECT_EQ(network.ServedBy(), 1);
+    other.AtBroker.Close();
+    EXPECT_TRUE(Until([&] { return simulator.ServedBy() == 0; }));
+}
+
+TEST_F(Sides, TheNextOneServesWhenTheLowerOneGoes) {
+    ASSERT_TRUE(Tells("simulator up"));
+    SimulatorAtBroker further(loop,
+                              [] { return PresenceSetting{.Name = "COCKPIT3", .Address = "", .Desktop = "X11"}; });
+    BrokerSimulatorSide furtherSimulator(further);
+    BrokerNetworkSide furtherNetwork(further);
+    furtherSimulator.SetLink(LinkState::Up);
+    furtherNetwork.SetLink(LinkState::Up);
+    further.Open(broker.SetUpOf(3));
+    ASSERT_TRUE(Until([&] { return further.IsThere(); }));
+    furtherNetwork.SetCallsign("ORV3");
+    furtherNetwork.StartSession();
+    furtherSimulator.PressKey("F9");
+    ServeFor(300);
+    EXPECT_EQ(Count("held F9|"), 0) << "it stands by";
+    program.Close();
+    EXPECT_TRUE(Tells("held F9|"));
+    EXPECT_TRUE(Tells("session " + std::to_string(furtherNetwork.Session().Handle) + " ORV3"));
+}
+
 TEST_F(Sides, TheSessionReachesAPanelThatComesLater) {
     network.SetCallsign("ORV123");
     network.StartSession();

@@ -182,8 +182,8 @@ TEST_F(OwnSetUpTest, AnotherNameIsKeptAndToldToThisComputersPanel) {
     EXPECT_EQ(own->Name, "M\u00fcnchen \"2\"");
     EXPECT_EQ(own->Host, "simpc");
     EXPECT_EQ(own->Port, 8884);
-    for (const std::string& none : {std::string(), std::string("  "), std::string("a\nb"), std::string("\xFF"),
-                                    std::string(64, 'x')}) {
+    for (const std::string& none :
+         {std::string(), std::string("  "), std::string("a\nb"), std::string("\xFF"), std::string(64, 'x')}) {
         EXPECT_FALSE(IsSetUpName(none));
         EXPECT_NE(setUp.Rename(none), "");
     }

@@ -4,11 +4,13 @@
 
 #include <chrono>
 #include <csignal>
+#include <cstdlib>
 #include <fstream>
 
 #include "adapters/mqtt/JoinCode.h"
 #include "adapters/mqtt/OwnSetUp.h"
 #include "tests/linux/WaitUntil.h"
+#include "tests/mqtt/OwnFolder.h"
 #include "tests/mqtt/broker/BrokerProcess.h"
 #include "tests/mqtt/broker/SetUpRig.h"
 
@@ -53,8 +55,10 @@ protected:
             return false;
         });
     }
-    void Serve() {
-        program = std::make_unique<linux::ChildProcess>(Words({"--no-window", "--port", std::to_string(port)}));
+    void Serve(const std::vector<std::string>& more = {}) {
+        std::vector<std::string> words{"--no-window", "--port", std::to_string(port)};
+        words.insert(words.end(), more.begin(), more.end());
+        program = std::make_unique<linux::ChildProcess>(Words(words));
         ASSERT_TRUE(Lists("c01\t", "\tthere"));
     }
     SetUpSetting Add() const {
@@ -213,9 +217,167 @@ TEST_F(SimulatorProgramTest, AnExistingBrokerServesWhereItIsNamed) {
     EXPECT_TRUE(Brokers().empty());
 }
 
-TEST_F(SimulatorProgramTest, WordsThatAreNotUnderstoodAreToldInOneLine) {
+TEST_F(SimulatorProgramTest, AClockThatJumpsLosesNobody) {
+    // The sanitizers' own libraries, where there are any, come first as a rule.
+    setenv("ASAN_OPTIONS", "verify_asan_link_order=0", 0);
+    setenv("LD_PRELOAD", JUMPING_CLOCK, 1);
+    program = std::make_unique<linux::ChildProcess>(Words({"--no-window", "--port", std::to_string(port)}));
+    unsetenv("LD_PRELOAD");
+    ASSERT_TRUE(Lists("c01\t", "\tthere"));
+    PlayedMember member(loop, Add(), Program::Panel);
+    const auto beat = [&] {
+        const auto* said = member.AtBroker.Others().Find({1, Program::Simulator});
+        return said ? said->Beat : 0;
+    };
+    ASSERT_TRUE(Until([&] { return beat() > 0; }));
+    bool isLost = false;
+    member.AtBroker.Lost = [&] { isLost = true; };
+    member.AtBroker.OthersChanged = [&] { isLost = isLost || beat() == 0; };
+    // Longer than what a beat is worth.
+    const Long enough = beat() + 5;
+    EXPECT_TRUE(Until([&] { return beat() >= enough; }));
+    EXPECT_FALSE(isLost);
+}
+
+TEST_F(SimulatorProgramTest, ASetUpHasTheNameThatIsGivenAlsoBesideARunningOne) {
+    const auto nameForThePanel = [this] { return ReadSetUpFile(data / "setup.json").Setting->Name; };
+    EXPECT_EQ(Run({"--name", "Club", "--add"}).Status, 1) << "there is none yet";
+    Serve({"--name", "Home"});
+    EXPECT_EQ(OwnSetUp(data).Read().Setting->Name, "Home");
+    EXPECT_EQ(nameForThePanel(), "Home");
+    const Ended renaming = Run({"--no-window", "--name", "M\u00fcnchen 2"});
+    EXPECT_EQ(renaming.Status, 0) << renaming.Errors;
+    EXPECT_EQ(OwnSetUp(data).Read().Setting->Name, "M\u00fcnchen 2");
+    EXPECT_EQ(nameForThePanel(), "M\u00fcnchen 2");
+    EXPECT_TRUE(ReadJoinCode(Run({"--name", "Club", "--add"}).Output));
+    EXPECT_EQ(nameForThePanel(), "Club");
+    EXPECT_TRUE(Lists("c01\t", "\tthere"));
+    // A terminal is told the name, too; a script reads a computer a line.
+    linux::ChildProcess terminal(
+        {"script", "-qec", std::string(SIMULATOR_PROGRAM) + " --list --data " + data.string(), "/dev/null"});
+    EXPECT_EQ(terminal.ReadLine(), "Set-up Club\r");
+    EXPECT_TRUE(Run({"--list"}).Output.starts_with("c01\t"));
+}
+
+TEST_F(SimulatorProgramTest, ASetUpFileThatIsDamagedIsToldAndLeftAlone) {
+    std::ofstream(data / "setup.json") << "damaged";
+    const Ended ended = Run({"--no-window", "--port", std::to_string(port)});
+    EXPECT_EQ(ended.Status, 1);
+    EXPECT_EQ(ended.Errors, "orvelle-sim: What " + (data / "setup.json").string() +
+                                " holds is no set-up. This computer counts as one that has joined no set-up. Remove "
+                                "that file, or leave the set-up, first.\n");
+    Serve({"--own"});
+    EXPECT_EQ(ReadSetUpFile(data / "setup.json").Setting->Identity, 1);
+}
+
+// A computer that has joined a set-up, whose simulator's program serves there.
+class GuestTest : public SimulatorProgramTest {
+protected:
+    void Join(int identity) { ASSERT_EQ(WriteSetUpFile(file, existing.SetUpOf(identity)), ""); }
+    void ServeAsGuest() {
+        program = std::make_unique<linux::ChildProcess>(Words({"--no-window"}));
+        ASSERT_TRUE(Lists("c03\t", "\tthere"));
+    }
+
+    BrokerProcess existing;
+    PlayedMember member{loop, existing.SetUpOf(5), Program::Panel};
+    const fs::path file = data / "setup.json";
+};
+
+TEST_F(GuestTest, AComputerThatHasJoinedServesThereAndTakesPartWhenALowerOneGoes) {
+    PlayedMember lower(loop, existing.SetUpOf(2), Program::Simulator);
+    const auto serving = [this] {
+        return member.AtBroker.Others().SimulatorOffering(&PresenceSetting::OffersSimulator);
+    };
+    Join(3);
+    ServeAsGuest();
+    EXPECT_TRUE(Until([&] { return serving() == 2 && member.AtBroker.Others().IsThere({3, Program::Simulator}); }));
+    EXPECT_TRUE(Brokers().empty()) << "it brings no broker";
+    EXPECT_FALSE(OwnSetUp(data).Read().Setting);
+    lower.AtBroker.Close();
+    EXPECT_TRUE(Until([&] { return serving() == 3; }));
+    EXPECT_TRUE(Lists("c05\tPLAYED", "\tthere"));
+}
+
+TEST_F(GuestTest, ItLeavesAndComesWithItsFileWhileItRuns) {
+    Join(3);
+    ServeAsGuest();
+    EXPECT_EQ(RemoveSetUpFile(file), "");
+    EXPECT_TRUE(Until([&] { return !member.AtBroker.Others().IsThere({3, Program::Simulator}); }));
+    Join(4);
+    EXPECT_TRUE(Until([&] { return member.AtBroker.Others().IsThere({4, Program::Simulator}); }));
+    std::ofstream(file) << "damaged";
+    EXPECT_TRUE(Until([&] { return !member.AtBroker.Others().IsThere({4, Program::Simulator}); }));
+    program->Kill(SIGTERM);
+    EXPECT_EQ(program->Wait(), 0);
+    const std::string told = program->Errors();
+    EXPECT_NE(told.find("This computer has left its set-up, so nothing is served."), std::string::npos) << told;
+    EXPECT_NE(told.find("holds is no set-up"), std::string::npos) << told;
+    EXPECT_FALSE(OwnSetUp(data).Read().Setting) << "none is made unasked";
+}
+
+TEST_F(GuestTest, ItIsNotItsOwnToChangeOrName) {
+    Join(3);
     for (const std::vector<std::string>& words :
-         {std::vector<std::string>{"--nonsense"}, {"--remove", "c00"}, {"--port", "0"}, {"--add"}, {"--list"}}) {
+         {std::vector<std::string>{"--add"}, {"--remove", "c04"}, {"--list", "--name", "Club"}}) {
+        const Ended ended = Run(words);
+        EXPECT_EQ(ended.Status, 1);
+        EXPECT_EQ(ended.Errors,
+                  "orvelle-sim: This computer belongs to the set-up \"Test\" of another one; that is "
+                  "changed on the computer that made it.\n");
+    }
+    const Ended ended = Run({"--no-window", "--name", "Club"});
+    EXPECT_EQ(ended.Status, 1);
+    EXPECT_NE(ended.Errors.find("--own"), std::string::npos) << ended.Errors;
+}
+
+TEST_F(GuestTest, AnOwnSetUpIsMadeByChoice) {
+    Join(3);
+    Serve({"--own"});
+    EXPECT_EQ(ReadSetUpFile(file).Setting->Identity, 1);
+    EXPECT_EQ(ReadSetUpFile(file).Setting->Port, port);
+    // Who joins another one while it serves goes there.
+    Join(3);
+    EXPECT_TRUE(Until([&] { return member.AtBroker.Others().IsThere({3, Program::Simulator}); }));
+    EXPECT_TRUE(linux::WaitUntil([this] { return Brokers().empty(); }));
+}
+
+TEST_F(GuestTest, TwoAsOneComputerGoOnAndDoNotTellAgainAndAgain) {
+    Join(3);
+    ServeAsGuest();
+    const auto isThere = [this] { return member.AtBroker.Others().IsThere({3, Program::Simulator}); };
+    ASSERT_TRUE(Until(isThere));
+    const OwnFolder otherData;
+    ASSERT_EQ(WriteSetUpFile(otherData.Path / "setup.json", existing.SetUpOf(3)), "");
+    linux::ChildProcess second({SIMULATOR_PROGRAM, "--no-window", "--data", otherData.Path.string()});
+    // Each ends the other.
+    for (int time = 0; time < 2; ++time) {
+        EXPECT_TRUE(Until([&] { return !isThere(); }));
+        EXPECT_TRUE(Until(isThere));
+    }
+    second.Kill(SIGTERM);
+    EXPECT_EQ(second.Wait(), 0);
+    program->Kill(SIGTERM);
+    EXPECT_EQ(program->Wait(), 0);
+    // Each reason once, however often.
+    for (const std::string& told : {program->Errors(), second.Errors()})
+        EXPECT_LE(std::ranges::count(told, '\n'), 3) << told;
+}
+
+TEST_F(SimulatorProgramTest, WordsThatAreNotUnderstoodAreToldInOneLine) {
+    for (const std::vector<std::string>& words : {std::vector<std::string>{"--nonsense"},
+                                                  {"--remove", "c00"},
+                                                  {"--port", "0"},
+                                                  {"--host", "sim pc"},
+                                                  {"--host", std::string(300, 'x')},
+                                                  {"--host", "simpc:0"},
+                                                  {"--name", ""},
+                                                  {"--name", "two\nlines"},
+                                                  {"--name", std::string(300, 'x')},
+                                                  {"--add", "--own"},
+                                                  {"--host", "simpc", "--port", "8884"},
+                                                  {"--add"},
+                                                  {"--list"}}) {
         const Ended ended = Run(words);
         EXPECT_EQ(ended.Status, 1);
         EXPECT_EQ(std::ranges::count(ended.Errors, '\n'), 1) << ended.Errors;
