@@ -17,6 +17,8 @@ namespace {
 constexpr Long AttemptMilliseconds = 3000;  // for connection, protection, answer and subscriptions together
 constexpr Long FirstPause = 200;            // milliseconds between two attempts, doubled up to the last
 constexpr Long LastPause = 2000;
+// What ends a connection sooner may be another program of its name. mosquitto tells it to nobody.
+constexpr std::chrono::milliseconds ShortLife{3000};
 constexpr int KeepAliveSeconds = 5;     // after half as much again the broker counts a silent client as gone
 constexpr int MessagesOfOneTurn = 100;  // then others of the loop have their turn
 
@@ -240,7 +242,7 @@ void BrokerConnection::Deliver() {
     if (std::exchange(comesUp, false)) {
         isUp = true;
         trouble = BrokerTrouble::None;
-        pause = FirstPause;
+        upAt = std::chrono::steady_clock::now();
         patience.End();
         addresses.clear();
         Up();
@@ -255,6 +257,10 @@ void BrokerConnection::Deliver() {
 // The next address is tried at once, the host as a whole after a pause.
 void BrokerConnection::Fail(BrokerTrouble why) {
     const bool wasUp = isUp;
+    const bool isShort = wasUp && std::chrono::steady_clock::now() - upAt < ShortLife;
+    if (wasUp && !isShort) pause = FirstPause;
+    shortLives = isShort ? shortLives + 1 : 0;
+    if (shortLives > 1) why = BrokerTrouble::TakenOver;
     Hang();
     waiting.clear();
     trouble = why;

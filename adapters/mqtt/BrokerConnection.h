@@ -56,7 +56,7 @@ enum class BrokerTrouble {
     NotEncrypted,   // somebody answers, but not by our protection
     Refused,        // the key is not taken
     WrongProtocol,  // the broker does not speak MQTT 5
-    TakenOver,      // another program came with the same name
+    TakenOver,      // another program comes with the same name, as the broker says, or as ever shorter lives show
 };
 
 class BrokerConnection {
@@ -132,6 +132,8 @@ private:
     std::deque<Message> waiting;
     std::chrono::steady_clock::time_point heardAt;
     Long pause = 0;  // before the next attempt, milliseconds
+    std::chrono::steady_clock::time_point upAt;
+    int shortLives = 0;  // in a row, with no attempt between that failed
     Ticket readable, writable, more, patience, again;
 };
 

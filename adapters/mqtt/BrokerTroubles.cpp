@@ -21,8 +21,9 @@ std::string SentenceOf(BrokerTrouble trouble, const HostAndPort& place, int iden
         case WrongProtocol:
             return "What answers at " + where + " is no set-up: it doesn't speak MQTT 5.";
         case TakenOver:
-            return "Another program has come to the set-up at " + where + " as " + WriteIdentity(identity) +
-                   ", which is this computer: each computer needs a code of its own.";
+            return "The set-up at " + where +
+                   " ends this computer's connection again and again: another one seems to come as " +
+                   WriteIdentity(identity) + ", too; each computer needs a code of its own.";
         case None:
         case Unreachable:
             break;

@@ -1,5 +1,6 @@
 #include "adapters/mqtt/Brokers.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "adapters/mqtt/BrokerTroubles.h"
@@ -13,6 +14,8 @@ const HostAndPort Nowhere{"", 0};
 
 // Between the end of one connection and the other one that ended it
 constexpr std::chrono::seconds OneMoment{3};
+// For which a broker can't be had until another name of it is tried by itself again
+constexpr std::chrono::seconds OneName{5};
 
 bool WasLately(const std::optional<std::chrono::steady_clock::time_point>& when) {
     return when && std::chrono::steady_clock::now() - *when < OneMoment;
@@ -22,6 +25,11 @@ bool WasLately(const std::optional<std::chrono::steady_clock::time_point>& when)
 
 Brokers::Brokers(EventLoop& eventLoop, std::function<PresenceSetting()> describe)
     : Found(eventLoop), loop(eventLoop), tell(std::move(describe)) {}
+
+Brokers::~Brokers() {
+    for (const auto& [place, known] : byPlace)
+        if (const std::shared_ptr<PanelAtBroker> at = known.At.lock()) at->LivesOn = nullptr;
+}
 
 void Brokers::Join(const SetUpSetting& joined) {
     if (setUp == joined) return;
@@ -66,11 +74,19 @@ HostAndPort Brokers::PlaceOf(const std::string& server) {
     return InLowerCase({isHere ? LoopbackAddress : server, setUp->Port});
 }
 
+// Also where another connection to the same broker holds it by now.
+bool Brokers::HoldsRecord(Long number) const {
+    return std::ranges::any_of(byPlace, [number](const auto& each) {
+        const std::shared_ptr<PanelAtBroker> at = each.second.At.lock();
+        return at && at->OwnRecords().contains(number);
+    });
+}
+
 void Brokers::Follow(const HostAndPort& place, PanelAtBroker& at) {
     if (place == Nowhere) return at.Await(*setUp);
     Known& known = byPlace[place];
-    known.ReachedAt = known.TakenOverAt = std::nullopt;
-    known.Failures = 0;
+    known.ReachedAt = known.TakenOverAt = known.LostAt = std::nullopt;
+    at.LivesOn = [this](Long number) { return HoldsRecord(number); };
     known.Reached = at.Reached.Attach([this, place] { Reach(place); });
     known.Failed = at.Failed.Attach([this, place](BrokerTrouble why) { Fail(place, why); });
     if (!IsAutomatic(place)) TroublesAt(place).Rest();
@@ -80,7 +96,7 @@ void Brokers::Follow(const HostAndPort& place, PanelAtBroker& at) {
 void Brokers::Reach(const HostAndPort& place) {
     Known& known = byPlace[place];
     known.ReachedAt = Clock::now();
-    known.Failures = 0;
+    known.LostAt.reset();
     TroublesAt(place).Reach();
     if (IsAutomatic(place)) automatic->Reach();
     for (const auto& [other, each] : byPlace)
@@ -93,12 +109,13 @@ void Brokers::Fail(const HostAndPort& place, BrokerTrouble why) {
     TroublesAt(place).Fail(why, place);
     if (IsAutomatic(place)) automatic->Fail(why);
     if (why != BrokerTrouble::TakenOver) {
-        if (++known.Failures > 1) Part(place);
+        if (!known.LostAt) known.LostAt = Clock::now();
+        if (Clock::now() - *known.LostAt > OneName) Part(place);
         return;
     }
     known.TakenOverAt = Clock::now();
     for (const auto& [other, each] : byPlace)
-        if (other != place && !each.At.expired() && each.Failures == 0 && WasLately(each.ReachedAt))
+        if (other != place && !each.At.expired() && !each.LostAt && WasLately(each.ReachedAt))
             return Merge(place, HostAndPort(other));
 }
 

@@ -1,7 +1,7 @@
 // Where the servers' names of the two links lead for a computer that belongs to a set-up: "<LOCAL>" and "localhost" to
 // the broker on this computer, another host to the one there, "AUTOMATIC" as AutomaticPlace says. A broker has one
-// connection: where two names lead to one, which shows when each connection ends the other, the second is taken for the
-// first until it can't be had. Called by the lines.
+// connection: where two names lead to one, which shows when each connection ends the other, one name is taken for the
+// other until that can't be had for a while. Called by the lines.
 #pragma once
 
 #include <chrono>
@@ -22,6 +22,10 @@ class Brokers {
 public:
     // `describe` tells of this computer, but for its address there.
     Brokers(EventLoop& eventLoop, std::function<PresenceSetting()> describe);
+
+    Brokers(const Brokers&) = delete;
+    Brokers& operator=(const Brokers&) = delete;
+    ~Brokers();
 
     // Which set-up the computer belongs to from now on; lines that are open are to be opened anew.
     void Join(const SetUpSetting& joined);
@@ -46,12 +50,13 @@ private:
         std::weak_ptr<PanelAtBroker> At;
         std::optional<HostAndPort> SameAs;  // of another name
         std::optional<Clock::time_point> ReachedAt, TakenOverAt;
-        int Failures = 0;  // since it was reached
+        std::optional<Clock::time_point> LostAt;  // while it isn't reached
         std::unique_ptr<TroubleTeller> Troubles;
         Ticket Reached, Failed;
     };
 
     HostAndPort PlaceOf(const std::string& server);
+    bool HoldsRecord(Long number) const;
     void Follow(const HostAndPort& place, PanelAtBroker& at);
     void Reach(const HostAndPort& place);
     void Fail(const HostAndPort& place, BrokerTrouble why);

@@ -61,7 +61,8 @@ void PanelAtBroker::Hear(const Topic& topic, const std::string& payload) {
 // Of an earlier run, or of this one before a loss of the connection.
 void PanelAtBroker::EndWhatWasLeft() {
     for (const Long number : below)
-        if (!own.contains(number)) member.Say(TopicKind::Record, "", 1, Retain::Yes, number);
+        if (!own.contains(number) && !(LivesOn && LivesOn(number)))
+            member.Say(TopicKind::Record, "", 1, Retain::Yes, number);
 }
 
 void PanelAtBroker::SayOwn() {

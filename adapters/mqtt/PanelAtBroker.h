@@ -44,6 +44,9 @@ public:
     void SayRecord(Long number, const RecordContent& content);
     void EndRecord(Long number);
 
+    // Whether a record of this panel is held elsewhere in the program, and not to be ended as one of an earlier run.
+    std::function<bool(Long number)> LivesOn;
+
     Observers<> Reached;  // the broker takes this panel; before Coming
     Observers<> Coming;   // all that the broker kept was heard, and nobody knows yet that this panel is there
     Observers<> Changed;  // it is there or no more; others came or went, or say something else of themselves

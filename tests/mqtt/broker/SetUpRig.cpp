@@ -24,7 +24,8 @@ PlayedMember::PlayedMember(EventLoop& loop, const SetUpSetting& setUp, Program k
     AtBroker.Open(setUp, setUp.Host);
 }
 
-LinesOfAPanel::LinesOfAPanel(EventLoop& loop, const SetUpSetting& setUp)
+LinesOfAPanel::LinesOfAPanel(EventLoop& loop, const SetUpSetting& setUp, const std::string& simulatorServer,
+                             const std::string& frameworkServer)
     : Places(loop, [] { return PresenceSetting{.Name = "PANEL", .Address = "", .Desktop = "X11"}; }),
       Simulator(loop, Places),
       Framework(loop, Places) {
@@ -49,8 +50,11 @@ LinesOfAPanel::LinesOfAPanel(EventLoop& loop, const SetUpSetting& setUp)
     Framework.WriteSaid = [=](Long id, const RecordParameters& written) {
         tell("write " + std::to_string(id) + " of " + std::to_string(written.Numbers.size() + written.Texts.size()));
     };
-    Simulator.Open("AUTOMATIC");
-    Framework.Open("localhost");
+    Simulator.ServerFound = [=](const std::string& name) { tell("simulator found " + name); };
+    Framework.ServerFound = [=](const std::string& name) { tell("framework found " + name); };
+    Places.Told = [this](const std::string& sentence) { Sentences.push_back(sentence); };
+    Simulator.Open(simulatorServer);
+    Framework.Open(frameworkServer);
 }
 
 bool SetUpRig::Until(const std::function<bool()>& isSo) { return linux::ServeUntil(loop, isSo); }

@@ -26,15 +26,17 @@ public:
     std::vector<std::string> Heard;  // topic and payload, but for presence
 };
 
-// A panel's lines, open to the broker on this computer.
+// A panel's lines, open to the broker on this computer, or to other servers.
 class LinesOfAPanel {
 public:
-    LinesOfAPanel(EventLoop& loop, const SetUpSetting& setUp);
+    LinesOfAPanel(EventLoop& loop, const SetUpSetting& setUp, const std::string& simulatorServer = "AUTOMATIC",
+                  const std::string& frameworkServer = "localhost");
 
     Brokers Places;
     BrokerSimulatorLine Simulator;
     BrokerFrameworkLine Framework;
     std::vector<std::string> Told;
+    std::vector<std::string> Sentences;  // for the user
 };
 
 class SetUpRig : public testing::Test {
