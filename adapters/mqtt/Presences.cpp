@@ -4,17 +4,32 @@
 
 namespace orvelle::mqtt {
 
+namespace {
+
+// A broker that ends in order says goodbye for everybody, and then is gone itself; nobody's role shall move for that.
+// The simulator's goodbye counts at once, as keys are let go by it.
+constexpr Long PanelsGoodbyeMilliseconds = 200;
+
+}  // namespace
+
 void Presences::Hear(ProgramAt program, const std::optional<PresenceSetting>& said) {
     if (!said) {
-        if (there.erase(program) > 0) Changed();
+        if (program.Kind == Program::Simulator) return Forget(program);
+        const auto going = there.find(program);
+        if (going != there.end())
+            going->second.End = loop.After(PanelsGoodbyeMilliseconds, [this, program] { Forget(program); });
         return;
     }
     const auto [found, isNew] = there.try_emplace(program);
     Present& present = found->second;
-    present.End = loop.After(LeaseMilliseconds, [this, program] { Hear(program, std::nullopt); });
+    present.End = loop.After(LeaseMilliseconds, [this, program] { Forget(program); });
     PresenceSetting before = std::exchange(present.Said, *said);
     before.Beat = said->Beat;
     if (isNew || before != *said) Changed();
+}
+
+void Presences::Forget(ProgramAt program) {
+    if (there.erase(program) > 0) Changed();
 }
 
 const PresenceSetting* Presences::Find(ProgramAt program) const {

@@ -45,6 +45,8 @@ private:
         Ticket End;
     };
 
+    void Forget(ProgramAt program);
+
     EventLoop& loop;
     std::map<ProgramAt, Present> there;
 };

@@ -1,5 +1,5 @@
 // Panels that want one role.
-#include "tests/hosts/HostsTest.h"
+#include "tests/hosts/HostsRig.h"
 
 namespace orvelle::hosts {
 namespace {

@@ -1,5 +1,5 @@
 // A computer that is cut off from the others.
-#include "tests/hosts/HostsTest.h"
+#include "tests/hosts/HostsRig.h"
 
 namespace orvelle::hosts {
 namespace {

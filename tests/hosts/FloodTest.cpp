@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <fstream>
 
-#include "tests/hosts/HostsTest.h"
+#include "tests/hosts/HostsRig.h"
 
 namespace orvelle::hosts {
 namespace {

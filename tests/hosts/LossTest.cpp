@@ -1,5 +1,5 @@
 // A computer behind a bad stretch of the network.
-#include "tests/hosts/HostsTest.h"
+#include "tests/hosts/HostsRig.h"
 
 namespace orvelle::hosts {
 namespace {

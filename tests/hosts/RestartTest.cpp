@@ -1,7 +1,7 @@
 // A broker that ends again and again.
 #include <csignal>
 
-#include "tests/hosts/HostsTest.h"
+#include "tests/hosts/HostsRig.h"
 
 namespace orvelle::hosts {
 namespace {

@@ -1,7 +1,7 @@
 // A computer that sleeps: everything on it stands still.
 #include <csignal>
 
-#include "tests/hosts/HostsTest.h"
+#include "tests/hosts/HostsRig.h"
 
 namespace orvelle::hosts {
 namespace {

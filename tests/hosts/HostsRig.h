@@ -24,10 +24,12 @@ namespace orvelle::hosts {
 constexpr const char* Role = "VVL";
 constexpr long long Second = 1'000'000;  // microseconds
 
-class HostsTest : public testing::Test {
-protected:
-    HostsTest();
-    ~HostsTest() override;
+class HostsRig {
+public:
+    HostsRig();
+    HostsRig(const HostsRig&) = delete;
+    HostsRig& operator=(const HostsRig&) = delete;
+    ~HostsRig();
 
     // The real program of the simulator's computer, which brings the broker, with a keyboard before it.
     void BringSimulator();
@@ -42,8 +44,10 @@ protected:
     PanelThere& AddPanel(int identity);
 
     std::string SetUpFileOf(int identity) const;
-    std::string DataOf(int identity) const { return (folder / mqtt::WriteIdentity(identity)).string(); }
+    std::string DataOf(int identity) const { return (computers / mqtt::WriteIdentity(identity)).string(); }
 
+    // Takes what the programs have told by now.
+    void TakeAll();
     // Takes what the programs tell until it is so. False where that takes longer than half a minute.
     bool Until(const std::function<bool()>& isSo);
     // Time by which something is shown that must not happen, or in which traffic goes on.
@@ -65,10 +69,12 @@ protected:
 private:
     static constexpr int TalkKeyCode = 74;  // of an X server
 
-    std::filesystem::path folder;
+    std::filesystem::path computers;  // a folder each
     std::unique_ptr<linux::XServer> keyboard;
     std::unique_ptr<UserStrokes> strokes;
 };
+
+class HostsTest : public testing::Test, public HostsRig {};
 
 // A figure of the trial, for whoever reads the log.
 void Print(const std::string& what, long long microseconds);

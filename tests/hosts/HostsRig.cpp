@@ -1,4 +1,4 @@
-#include "tests/hosts/HostsTest.h"
+#include "tests/hosts/HostsRig.h"
 
 #include <poll.h>
 
@@ -17,9 +17,9 @@ constexpr int Identities = 4;
 
 }  // namespace
 
-HostsTest::HostsTest() {
+HostsRig::HostsRig() {
     std::string pattern = std::filesystem::temp_directory_path() / "orvelle-hosts-XXXXXX";
-    folder = mkdtemp(pattern.data());
+    computers = mkdtemp(pattern.data());
     const mqtt::OwnSetUp setUp(DataOf(1));
     EXPECT_EQ(setUp.ReadOrMake("Hosts", 0).Sentence, "");
     while (const auto code = setUp.Add().Code) {
@@ -30,28 +30,28 @@ HostsTest::HostsTest() {
     EXPECT_EQ(setUp.JoinThisComputer(*setUp.Read().Setting, "localhost", mqtt::UsualPort), "");
 }
 
-HostsTest::~HostsTest() {
+HostsRig::~HostsRig() {
     panels.clear();
     played.reset();
     simulator.reset();
     broker.reset();
-    std::filesystem::remove_all(folder);
+    std::filesystem::remove_all(computers);
 }
 
-std::string HostsTest::SetUpFileOf(int identity) const { return DataOf(identity) + "/setup.json"; }
+std::string HostsRig::SetUpFileOf(int identity) const { return DataOf(identity) + "/setup.json"; }
 
-void HostsTest::BringSimulator() {
+void HostsRig::BringSimulator() {
     keyboard = std::make_unique<linux::XServer>();
     strokes = std::make_unique<UserStrokes>(keyboard->Display());
     StartSimulator();
 }
 
-void HostsTest::StartSimulator() {
+void HostsRig::StartSimulator() {
     simulator = std::make_unique<linux::ChildProcess>(
         one.Start({"env", "DISPLAY=" + keyboard->Display(), SIMULATOR_PROGRAM, "--no-window", "--data", DataOf(1)}));
 }
 
-pid_t HostsTest::BrokerOfSimulator() const {
+pid_t HostsRig::BrokerOfSimulator() const {
     const std::string process = std::to_string(simulator->Id());
     std::ifstream children("/proc/" + process + "/task/" + process + "/children");
     pid_t child = 0;
@@ -59,30 +59,29 @@ pid_t HostsTest::BrokerOfSimulator() const {
     return child;
 }
 
-void HostsTest::BringPlayedSimulator() {
+void HostsRig::BringPlayedSimulator() {
     StartBroker();
     played = std::make_unique<ProgramThere>(one, std::vector<std::string>{SIMULATOR_AT_HOST, SetUpFileOf(1)});
 }
 
-void HostsTest::StartBroker() {
+void HostsRig::StartBroker() {
     broker = std::make_unique<linux::ChildProcess>(
         one.Start({"/usr/sbin/mosquitto", "-c", DataOf(1) + "/broker/mosquitto.conf"}));
 }
 
-PanelThere& HostsTest::AddPanel(int identity) { return panels.emplace_back(Host(identity), SetUpFileOf(identity)); }
+PanelThere& HostsRig::AddPanel(int identity) { return panels.emplace_back(Host(identity), SetUpFileOf(identity)); }
 
-bool HostsTest::Until(const std::function<bool()>& isSo) {
+void HostsRig::TakeAll() {
+    for (PanelThere& panel : panels) panel.Take();
+    if (played) played->Take();
+}
+
+bool HostsRig::Until(const std::function<bool()>& isSo) {
     const long long end = Now() + 30 * Second;
     for (;;) {
         std::vector<pollfd> awaited;
-        for (PanelThere& panel : panels) {
-            panel.Take();
-            awaited.push_back({panel.Process.Output(), POLLIN, 0});
-        }
-        if (played) {
-            played->Take();
-            awaited.push_back({played->Process.Output(), POLLIN, 0});
-        }
+        for (const PanelThere& panel : panels) awaited.push_back({panel.Process.Output(), POLLIN, 0});
+        TakeAll();
         if (isSo()) return true;
         if (Now() > end) {
             for (const PanelThere& panel : panels) std::cout << "    a panel told last:" << panel.LastTold() << '\n';
@@ -92,12 +91,12 @@ bool HostsTest::Until(const std::function<bool()>& isSo) {
     }
 }
 
-void HostsTest::Let(long long microseconds) {
+void HostsRig::Let(long long microseconds) {
     const long long end = Now() + microseconds;
     Until([&] { return Now() >= end; });
 }
 
-Long HostsTest::Holder(const std::string& role, const std::vector<const PanelThere*>& panels) {
+Long HostsRig::Holder(const std::string& role, const std::vector<const PanelThere*>& panels) {
     std::set<Long> ids;
     for (const PanelThere* const panel : panels) {
         const std::set<Long> known = panel->Holders(role);
@@ -107,12 +106,12 @@ Long HostsTest::Holder(const std::string& role, const std::vector<const PanelThe
     return ids.size() == 1 ? *ids.begin() : 0;
 }
 
-bool HostsTest::AllHave(Long id, const std::string& role) {
+bool HostsRig::AllHave(Long id, const std::string& role) {
     return std::ranges::all_of(panels,
                                [&](const PanelThere& panel) { return panel.Holders(role) == std::set<Long>{id}; });
 }
 
-bool HostsTest::HaveLinks() {
+bool HostsRig::HaveLinks() {
     return std::ranges::all_of(panels, [](const PanelThere& panel) { return panel.HasLinks(); });
 }
 
