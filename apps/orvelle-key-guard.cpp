@@ -19,14 +19,17 @@ namespace {
 constexpr int Forever = -1;
 constexpr int NextTry = 1000;  // ms
 
-// False if the X server could not be reached; the keys are in the set again then.
-bool LetGo(linux::HeldKeys& held, const char* display) {
+enum class Panel { IsGone, Hangs };
+
+// False if the X server could not be reached; the keys are in the set again then. A panel that hangs may go on, and
+// counts on its note.
+bool LetGo(linux::HeldKeys& held, const char* display, Panel panel) {
     if (held.IsEmpty()) return true;
     XTestConnection server(display);
     // Taken out before, so that a panel that goes on meanwhile finds what it presses from now on in the set.
     const auto keys = held.TakeAll();
     for (const int keyCode : keys) server.Send(keyCode, KeyStroke::Up);
-    server.NoteHeldKeys({});
+    if (panel == Panel::IsGone) server.ClearNote();
     server.Finish();
     if (server.Problem().empty()) return true;
     for (const int keyCode : keys) held.Insert(keyCode);
@@ -53,7 +56,7 @@ int main(int count, char** arguments) {
         pollfd panel{line.Number(), POLLIN, 0};
         const int patience = held.IsEmpty() ? Forever : held.PatienceLeft();
         poll(&panel, 1, hasLetGo ? patience : NextTry);
-        if (panel.revents != 0 && PanelIsGone(line.Number())) return LetGo(held, arguments[1]) ? 0 : 1;
-        hasLetGo = held.IsEmpty() || held.PatienceLeft() > 0 || LetGo(held, arguments[1]);
+        if (panel.revents != 0 && PanelIsGone(line.Number())) return LetGo(held, arguments[1], Panel::IsGone) ? 0 : 1;
+        hasLetGo = held.IsEmpty() || held.PatienceLeft() > 0 || LetGo(held, arguments[1], Panel::Hangs);
     }
 }

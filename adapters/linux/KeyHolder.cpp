@@ -40,30 +40,25 @@ void KeyHolder::Press(int keyCode) {
         held.Insert(keyCode);
         connection.NoteHeldKeys(held.Keys());
         connection.Send(keyCode, KeyStroke::Down);
-        if (isFirst) {
-            guard.Wake();
-            nextBeat = loop.After(BetweenBeats, [this] { Beat(); });
-        }
+        if (isFirst) guard.Wake();
+        if (!std::exchange(beats, true)) BeatLater();
     }
     TellProblem();
 }
 
 void KeyHolder::ReleaseAll() {
     const std::vector<int> keyCodes = held.Keys();
-    if (!keyCodes.empty()) LetGo(keyCodes);
+    if (keyCodes.empty() && !beats) return;
+    LetGo(keyCodes);
+    if (held.IsEmpty()) Rest();
 }
 
 void KeyHolder::LetGo(const std::vector<int>& keyCodes) {
-    std::vector<int> rest = held.Keys();
-    std::erase_if(rest,
-                  [&](int keyCode) { return std::find(keyCodes.begin(), keyCodes.end(), keyCode) != keyCodes.end(); });
-
     // A connection may turn out to be cut by its use alone, and the next one does it then.
     bool isDone = false;
     for (int attempt = 0; attempt < 2 && !isDone; ++attempt) {
         XTestConnection& connection = server.Reach();
         for (const int keyCode : keyCodes) connection.Send(keyCode, KeyStroke::Up);
-        connection.NoteHeldKeys(rest);
         connection.Finish();
         isDone = connection.Problem().empty();
     }
@@ -75,7 +70,6 @@ void KeyHolder::LetGo(const std::vector<int>& keyCodes) {
             waiting.insert(keyCode);
         }
     }
-    if (held.IsEmpty()) nextBeat.End();
     TellProblem();
 }
 
@@ -83,8 +77,21 @@ void KeyHolder::Beat() {
     held.Beat();
     guard.Watch(held);
     if (!waiting.empty()) LetGo({waiting.begin(), waiting.end()});
-    if (!held.IsEmpty()) nextBeat = loop.After(BetweenBeats, [this] { Beat(); });
+    if (held.IsEmpty())
+        Rest();
+    else
+        BeatLater();
     TellProblem();
+}
+
+void KeyHolder::BeatLater() {
+    nextBeat = loop.After(BetweenBeats, [this] { Beat(); });
+}
+
+void KeyHolder::Rest() {
+    nextBeat.End();
+    beats = false;
+    server.Reach().ClearNote();
 }
 
 void KeyHolder::TellProblem() {

@@ -1,7 +1,8 @@
 // Presses keys on the X server and sees to it that none stays down. The keys that are down because of this program are
 // a set that the key guard shares, and a note on the server itself; a key leaves them only after the server let it go.
 // While one is held there is a beat every second: it tells the guard that this program goes on, replaces a guard that
-// could not be started, and tries again to let go of what could not be let go. Nothing of it runs while none is held.
+// could not be started, and tries again to let go of what could not be let go. Where none is held at a beat, the note
+// is cleared, and nothing of it runs any more.
 #pragma once
 
 #include <set>
@@ -38,6 +39,8 @@ public:
 private:
     void LetGo(const std::vector<int>& keyCodes);
     void Beat();
+    void BeatLater();
+    void Rest();
     void TellProblem();
 
     EventLoop& loop;
@@ -47,6 +50,7 @@ private:
     std::set<int> waiting;  // to be let go when the server can be reached
     std::string told;       // the problem, "" while there is none
     Ticket guardEnded;
+    bool beats = false;
     Ticket nextBeat;
 };
 

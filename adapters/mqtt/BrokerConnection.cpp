@@ -217,9 +217,11 @@ void BrokerConnection::Settle(int result) {
 
 void BrokerConnection::Subscribe() {
     isAnswered = true;
-    for (const Subscription& each : plan.Subscriptions)
-        mosquitto_subscribe_v5(client.get(), nullptr, each.Pattern.c_str(), each.Quality,
-                               each.Kept == KeptMessages::LeftOut ? MQTT_SUB_OPT_SEND_RETAIN_NEVER : 0, nullptr);
+    for (const Subscription& each : plan.Subscriptions) {
+        const int kept = each.Kept == KeptMessages::LeftOut ? MQTT_SUB_OPT_SEND_RETAIN_NEVER : 0;
+        const int own = each.Own == OwnMessages::LeftOut ? MQTT_SUB_OPT_NO_LOCAL : 0;
+        mosquitto_subscribe_v5(client.get(), nullptr, each.Pattern.c_str(), each.Quality, kept | own, nullptr);
+    }
 }
 
 void BrokerConnection::OnConnected(int reason) {

@@ -34,11 +34,13 @@ struct Publication {
 };
 
 enum class KeptMessages { Brought, LeftOut };  // what the broker had before
+enum class OwnMessages { Brought, LeftOut };   // what this connection publishes
 
 struct Subscription {
     std::string Pattern;
     int Quality = 1;
     KeptMessages Kept = KeptMessages::Brought;
+    OwnMessages Own = OwnMessages::Brought;
 };
 
 // What a connection is made with. The last will is published retained and empty.

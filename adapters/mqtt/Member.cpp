@@ -53,7 +53,8 @@ void Member::Open(const SetUpSetting& setUp, const std::string& host) {
     plan.ClientId = ClientId(identity, kind);
     plan.WillTopic = OwnTopic(TopicKind::Presence);
     plan.Subscriptions = wanted;
-    plan.Subscriptions.push_back({"orvelle/1/+/+/presence", 1});
+    // Its own beats would wake it once more each second.
+    plan.Subscriptions.push_back({.Pattern = "orvelle/1/+/+/presence", .Own = OwnMessages::LeftOut});
     plan.Subscriptions.push_back({OwnTopic(TopicKind::Sync), 1});
     connection.Open(plan);
 }

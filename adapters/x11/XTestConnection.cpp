@@ -3,8 +3,10 @@
 #include <unistd.h>
 #include <xcb/xtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
+#include <iterator>
 
 namespace orvelle {
 
@@ -53,7 +55,22 @@ void XTestConnection::Send(int keyCode, KeyStroke stroke) {
 }
 
 void XTestConnection::NoteHeldKeys(const std::vector<int>& keyCodes) {
+    const std::vector<int> before = noted.value_or(std::vector<int>());
+    if (noted && std::ranges::includes(before, keyCodes)) return;
+    std::vector<int> all;
+    std::ranges::set_union(before, keyCodes, std::back_inserter(all));
+    WriteNote(all);
+}
+
+void XTestConnection::ClearNote() {
+    if (noted && noted->empty()) return;
+    WriteNote({});
+    xcb_flush(connection.get());
+}
+
+void XTestConnection::WriteNote(const std::vector<int>& keyCodes) {
     if (!Problem().empty()) return;
+    noted = keyCodes;
     const std::vector<std::uint8_t> bytes(keyCodes.begin(), keyCodes.end());
     xcb_change_property(connection.get(), XCB_PROP_MODE_REPLACE, Root(), note, XCB_ATOM_CARDINAL, 8,
                         static_cast<std::uint32_t>(bytes.size()), bytes.data());

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,9 +27,12 @@ public:
     bool IsLost() const { return xcb_connection_has_error(connection.get()) != 0; }
     // The stroke is on its way to the server when this returns. `keyCode` is the server's own.
     void Send(int keyCode, KeyStroke stroke);
-    // Keeps the note, which is empty at first, in one order with the strokes; on its way with the next stroke or
-    // Finish.
+    // Keeps the note in one order with the strokes; on its way with the next stroke or Finish. It names these keys,
+    // ascending, and maybe some that were noted before: each change of it wakes every program that watches the root
+    // window.
     void NoteHeldKeys(const std::vector<int>& keyCodes);
+    // It names none any more; on its way when this returns.
+    void ClearNote();
     std::vector<int> NotedKeys();
     // Returns when the server has taken all strokes.
     void Finish();
@@ -45,7 +49,10 @@ private:
     xcb_window_t Root() const { return xcb_setup_roots_iterator(xcb_get_setup(connection.get())).data->root; }
 
     std::unique_ptr<xcb_connection_t, Disconnect> connection;
+    void WriteNote(const std::vector<int>& keyCodes);
+
     xcb_atom_t note = XCB_ATOM_NONE;
+    std::optional<std::vector<int>> noted;  // ascending; by this connection
     std::string problem;
 };
 

@@ -165,6 +165,22 @@ TEST_F(LineMessagesTest, WhatThePanelWritesToAnothersRecordShowsWhenItIsSaid) {
     EXPECT_EQ(Take(), Texts{"Param " + std::to_string(id) + "/9"});
 }
 
+TEST_F(LineMessagesTest, BeforeARecordGoesThePanelHearsOfAnotherOneOfTheRole) {
+    const RecordContent duty{"VOICE", "VVL", {}};
+    network.RecordSaid(900, duty);
+    network.RecordSaid(901, duty);
+    Take();
+    network.RecordEnded(901);
+    EXPECT_EQ(Take(), (Texts{"Appeared 900", "Removed 901"}));
+    const Long own = tessaly.CreateInterface("VOICE", "VVL");
+    loop.Run();
+    Take();
+    network.RecordTaken(own);
+    EXPECT_EQ(Take(), (Texts{"Appeared 900", "Removed " + std::to_string(own)}));
+    network.RecordEnded(900);
+    EXPECT_EQ(Take(), (Texts{"Removed 900"}));
+}
+
 TEST_F(LineMessagesTest, NobodyButTheOwnerSaysOrEndsItsRecord) {
     const Long own = tessaly.CreateInterface("VOICE", "VVL");
     tessaly.SetParam(2, 1);

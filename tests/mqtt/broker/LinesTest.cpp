@@ -87,6 +87,19 @@ TEST_F(Lines, ARecordOfThePanelIsThereForOthersAndTakesTheirWrites) {
     }));
 }
 
+TEST_F(Lines, ARecordThatGivesWayAtOnceIsToldToNobody) {
+    ASSERT_TRUE(Tells("framework up"));
+    LinesOfAPanel other(loop, broker.SetUpOf(3));
+    ASSERT_TRUE(Tells("framework up", other));
+    panel.Framework.SayRecord(panel.Framework.NewRecordId(), {"VOICE", "VVL", {}}, {});
+    ASSERT_TRUE(Tells("record 131073 VVL", other));
+    other.Framework.SayRecord(other.Framework.NewRecordId(), {"VOICE", "VVL", {}}, {});
+    EXPECT_TRUE(Tells("record taken 196609", other));
+    other.Framework.SayRecord(other.Framework.NewRecordId(), {"VOICE", "RWCom1", {}}, {});
+    EXPECT_TRUE(Tells("record 196610 RWCom1"));
+    EXPECT_EQ(Count("record 196609 VVL"), 0);
+}
+
 TEST_F(Lines, ThePanelOfTheLowerIdentityKeepsTheRole) {
     ASSERT_TRUE(Tells("framework up"));
     LinesOfAPanel other(loop, broker.SetUpOf(3));
