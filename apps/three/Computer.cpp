@@ -36,6 +36,7 @@ Computer::Computer(EventLoop& loop, int identity, const QDir& folder, const QStr
 }
 
 Computer::~Computer() {
+    if (standsStill) BreakDown();
     EndChild(joining);
     EndChild(panel);
     SwitchOff();
@@ -111,13 +112,17 @@ bool Computer::ShowsPanel() {
            });
 }
 
-void Computer::StandStill() { kill(-static_cast<pid_t>(desktop.processId()), SIGSTOP); }
+void Computer::StandStill() {
+    kill(-static_cast<pid_t>(desktop.processId()), SIGSTOP);
+    standsStill = true;
+}
 
 // What is left, the servers of its display, may tidy up.
 void Computer::BreakDown() {
     panel.kill();
     panel.waitForFinished();
     kill(-static_cast<pid_t>(desktop.processId()), SIGCONT);
+    standsStill = false;
     SwitchOff();
 }
 

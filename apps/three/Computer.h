@@ -61,6 +61,7 @@ private:
     std::unique_ptr<KeyWatch> keys;
     std::unique_ptr<TopLevelWindows> windows;
     QProcess desktop;
+    bool standsStill = false;
     QProcess joining;
     QStringList joiningWords;
     std::string saidOfJoining;

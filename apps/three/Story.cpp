@@ -64,7 +64,9 @@ bool Story::JoinAll() {
         if (!telling.Comes([&] { return "The code for it is " + code; }, isMade)) return false;
         telling.Happens("On " + each->Name() + " it is typed: orvelle-setup --join " + code);
         each->Join(code, simulator.Port());
-        if (!telling.Comes([&] { return "orvelle-setup says: " + each->SaidOfJoining(); }, [&] { return each->HasJoined(); })) return false;
+        if (!telling.Comes([&] { return "orvelle-setup says: " + each->SaidOfJoining(); },
+                           [&] { return each->HasJoined(); }))
+            return false;
     }
     return true;
 }
