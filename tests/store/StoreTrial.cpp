@@ -1,7 +1,8 @@
 // store-trial rot N: one bit of the store's file, of a file under its log, and of the log is turned over, and file and
-// log are cut off, N times each. store-trial kill N: a process that writes is killed at N moments. Whatever the harm,
-// each value is the one that was written last, or the user is told and it is one of the copy or of an earlier moment,
-// or its default where neither has it. Ends with 1 where it isn't so.
+// log are cut off, N times each. store-trial kill N: a process that writes is killed at N moments. store-trial power N
+// [SEED]: the power is lost N times (PowerLossTrial.h). Whatever the harm, each value is the one that was written last,
+// or the user is told and it is one of the copy or, after rot, of an earlier moment, or its default where neither has
+// it. Ends with 1 where it isn't so.
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -16,54 +17,17 @@
 #include <set>
 #include <thread>
 
+#include "tests/store/PowerLossTrial.h"
 #include "tests/store/StoreFolder.h"
+#include "tests/store/TrialValues.h"
 
 namespace orvelle::store {
 namespace {
 
 namespace fs = std::filesystem;
 
-using Values = std::map<int, std::string>;  // by row; none is ""
-using Units = std::vector<Values>;          // of writes; "" deletes the row
-
-constexpr int Rows = 450;
-constexpr int NewRows = 60;
-constexpr Long TheCopyIsMade = 10000;  // milliseconds of the loop's own clock
 constexpr const char* Name = "OrvelleCP.sqlite";
 constexpr std::array<const char*, 4> Parts{"", "-wal", ".lock", ".copy"};
-
-std::string Section(int row) { return "OrvelleCP\\Joy2Key\\" + std::to_string(row); }
-
-void Write(SqliteStore& store, const Values& unit) {
-    for (const auto& [row, value] : unit)
-        if (value.empty())
-            store.DeleteSettingSection(Section(row));
-        else
-            store.SaveSettingString(Section(row), "J2KJoy", value);
-    store.HandlerEnded();
-}
-
-Values Read(SqliteStore& store) {
-    Values values;
-    for (int row = 0; row < Rows + NewRows; ++row) values[row] = store.GetSettingString(Section(row), "J2KJoy", "");
-    return values;
-}
-
-Values FirstUnit() {
-    Values unit;
-    for (int row = 0; row < Rows; ++row) unit[row] = std::to_string(row) + std::string(120, 'r');
-    return unit;
-}
-
-// They change, delete and make rows.
-Units LaterUnits() {
-    Units units;
-    for (int row = 0; row < NewRows; ++row)
-        units.push_back({{row * 7, "later " + std::to_string(row) + std::string(100, 'l')},
-                         {row * 7 + 2, ""},
-                         {Rows + row, "new " + std::to_string(row)}});
-    return units;
-}
 
 // A store whose copy is as old as the first unit.
 struct Sample {
@@ -78,7 +42,7 @@ enum class End { Orderly, Killed };
 void WriteLater(StoreFolder& folder, End end) {
     auto store = folder.Open();
     folder.Loop.Run(TheCopyIsMade);
-    for (const Values& unit : LaterUnits()) Write(store, unit);
+    for (const Values& unit : LaterUnits(NewRows)) Write(store, unit);
     if (end == End::Killed) raise(SIGKILL);
 }
 
@@ -100,7 +64,7 @@ Sample MakeSample(End end) {
     for (int row = 0; row < Rows + NewRows; ++row) sample.Ever[row].insert(now[row]);
     for (const auto& [row, value] : FirstUnit()) sample.Ever[row].insert(now[row] = value);
     sample.Copied = now;
-    for (const Values& unit : LaterUnits())
+    for (const Values& unit : LaterUnits(NewRows))
         for (const auto& [row, value] : unit) sample.Ever[row].insert(now[row] = value);
     sample.Saved = now;
     for (const char* part : Parts)
@@ -108,10 +72,6 @@ Sample MakeSample(End end) {
             sample.Files[part] = BytesOf(path);
     return sample;
 }
-
-struct Outcomes {
-    int Saved = 0, SavedAndTold = 0, Copied = 0, Older = 0, Silent = 0, Wrong = 0;
-};
 
 void Judge(const Sample& sample, const Values& values, bool isTold, Outcomes& outcomes) {
     if (values == sample.Saved) {
@@ -147,13 +107,6 @@ void TryOne(const Sample& sample, const std::string& part, const std::string& ha
     if (Read(again) != values) ++outcomes.Wrong;
 }
 
-bool Report(const std::string& harm, const Outcomes& outcomes) {
-    std::cout << harm << ": as saved " << outcomes.Saved << ", as saved and told " << outcomes.SavedAndTold
-              << ", with values of the copy, told " << outcomes.Copied << ", with older values, told " << outcomes.Older
-              << ", in silence " << outcomes.Silent << ", wrong " << outcomes.Wrong << std::endl;
-    return outcomes.Silent == 0 && outcomes.Wrong == 0;
-}
-
 bool TryRot(int times) {
     std::mt19937 random(5);
     const Sample closed = MakeSample(End::Orderly);
@@ -167,7 +120,8 @@ bool TryRot(int times) {
     const auto all = [&](const char* harm, const Sample& sample, const std::string& part, const auto& damage) {
         Outcomes outcomes;
         for (int time = 0; time < times; ++time) TryOne(sample, part, damage(sample.Files.at(part)), outcomes);
-        return Report(harm, outcomes);
+        Report(harm, outcomes);
+        return outcomes.Silent == 0 && outcomes.Wrong == 0;
     };
     bool isGood = all("a bit of the file", closed, "", flip);
     isGood &= all("a bit of the file under a log", killed, "", flip);
@@ -235,9 +189,13 @@ bool TryKills(int times) {
 }  // namespace orvelle::store
 
 int main(int argc, char** argv) {
-    const std::string kind = argc == 3 ? argv[1] : "";
-    if (kind == "rot") return orvelle::store::TryRot(std::stoi(argv[2])) ? 0 : 1;
-    if (kind == "kill") return orvelle::store::TryKills(std::stoi(argv[2])) ? 0 : 1;
-    std::cerr << "usage: store-trial rot|kill TIMES\n";
+    const std::string kind = argc >= 3 ? argv[1] : "";
+    if (kind == "rot" && argc == 3) return orvelle::store::TryRot(std::stoi(argv[2])) ? 0 : 1;
+    if (kind == "kill" && argc == 3) return orvelle::store::TryKills(std::stoi(argv[2])) ? 0 : 1;
+    if (kind == "power" && argc <= 4) {
+        const unsigned long seed = argc == 4 ? std::stoul(argv[3]) : std::random_device()();
+        return orvelle::store::TryPowerLosses(std::stoi(argv[2]), static_cast<unsigned>(seed)) ? 0 : 1;
+    }
+    std::cerr << "usage: store-trial rot|kill TIMES, store-trial power TIMES [SEED]\n";
     return 2;
 }

@@ -1,0 +1,175 @@
+#include "tests/store/PowerLossTrial.h"
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <iostream>
+#include <iterator>
+
+#include "tests/store/PowerLossDisk.h"
+#include "tests/store/PowerLossMarks.h"
+#include "tests/store/StoreFolder.h"
+
+namespace orvelle::store {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr unsigned LongestStart = 60;  // seconds, after which a start hangs
+
+// The sanitizers would be the first library themselves.
+void RunPart(const fs::path& folder, const fs::path& journal, std::size_t part) {
+    const pid_t child = fork();
+    if (child == 0) {
+        setenv("LD_PRELOAD", POWER_LOSS_WATCH, 1);
+        setenv("ASAN_OPTIONS", "verify_asan_link_order=0", 1);
+        setenv(JournalVariable, journal.c_str(), 1);
+        execl(POWER_LOSS_RUN, POWER_LOSS_RUN, folder.c_str(), std::to_string(part).c_str(), nullptr);
+        _exit(1);
+    }
+    waitpid(child, nullptr, 0);
+}
+
+DiskTree TreeAt(const fs::path& folder) {
+    DiskTree tree{{"", std::nullopt}};
+    for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+        const fs::path path = entry.path().lexically_relative(folder);
+        if (entry.is_directory())
+            tree[path] = std::nullopt;
+        else if (!path.string().ends_with("-shm"))
+            tree[path] = BytesOf(entry.path());
+    }
+    return tree;
+}
+
+void LayDown(const DiskTree& tree, const StoreFolder& folder) {
+    for (const auto& [path, bytes] : tree)
+        if (path == MarksName)
+            continue;
+        else if (bytes)
+            WriteBytes(folder.Path(path), *bytes);
+        else
+            fs::create_directories(folder.Path(path));
+}
+
+// What the store's process did, and what a loss at a moment of it leaves.
+class Story {
+public:
+    // The journal stays for as long as the story.
+    Story(const fs::path& folder, const std::vector<JournaledCall>& journal) : calls(journal), disk(folder) {}
+
+    std::size_t Length() const { return calls.size(); }
+    // So many calls were made. Moments come in their order.
+    void GoOn(std::size_t moment);
+    const PowerLossDisk& Disk() const { return disk; }
+    const PowerLossPromise& Promise() const { return promise; }
+
+private:
+    const std::vector<JournaledCall>& calls;
+    std::size_t made = 0;
+    PowerLossDisk disk;
+    PowerLossPromise promise;
+    std::size_t heard = 0;  // bytes of the marks
+};
+
+void Story::GoOn(std::size_t moment) {
+    for (; made < moment; ++made) disk.Play(calls[made]);
+    const std::string_view marks = disk.BytesOf(MarksName);
+    for (std::size_t end; (end = marks.find('\n', heard)) != std::string_view::npos; heard = end + 1)
+        promise.Hear(marks.substr(heard, end - heard));
+}
+
+enum Outcome { Saved, SavedAndTold, Copied, Silent, Wrong };
+
+Outcome Judge(const PowerLossPromise& promise, const Values& values, bool isTold) {
+    if (values == promise.Done || values == promise.Intended) return isTold ? SavedAndTold : Saved;
+    for (const auto& [row, value] : values)
+        if (value != promise.Done.at(row) && !(promise.Intended && value == promise.Intended->at(row)) &&
+            std::ranges::none_of(promise.Copies, [&](const Values& copy) { return value == copy.at(row); }))
+            return Wrong;
+    return isTold ? Copied : Silent;
+}
+
+Outcome Start(StoreFolder& folder, const PowerLossPromise& promise) {
+    alarm(LongestStart);
+    Values values;
+    {
+        auto store = folder.Open(PowerLossStore);
+        values = Read(store);
+        folder.Loop.Run(TheCopyIsMade);
+    }
+    const Outcome outcome = Judge(promise, values, !folder.Sentences.empty());
+    auto again = folder.Open(PowerLossStore);
+    const bool isSame = Read(again) == values;
+    if (outcome >= SavedAndTold || !isSame) {
+        std::clog << promise.Phase << ":";
+        for (const std::string& sentence : folder.Sentences) std::clog << " " << sentence;
+        std::clog << (isSame ? "" : " The second start found other values.") << std::endl;
+    }
+    return isSame ? outcome : Wrong;
+}
+
+// In a process of its own, which may crash or hang.
+Outcome StartAfterLoss(const DiskTree& tree, const PowerLossPromise& promise) {
+    StoreFolder folder;
+    LayDown(tree, folder);
+    const pid_t child = fork();
+    if (child == 0) _exit(Start(folder, promise));
+    int status = 0;
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) ? static_cast<Outcome>(WEXITSTATUS(status)) : Wrong;
+}
+
+void Count(Outcome outcome, Outcomes& outcomes) {
+    int* const counts[]{&outcomes.Saved, &outcomes.SavedAndTold, &outcomes.Copied, &outcomes.Silent, &outcomes.Wrong};
+    ++*counts[outcome];
+}
+
+// Half of the moments are chosen among all, the others among those that are not within a save, which are few.
+std::vector<std::size_t> MomentsOfLoss(Story story, int times, std::mt19937& random) {
+    std::vector<std::size_t> few;
+    for (std::size_t moment = 0; moment <= story.Length(); ++moment) {
+        story.GoOn(moment);
+        if (!story.Promise().Phase.ends_with("saves")) few.push_back(moment);
+    }
+    std::vector<std::size_t> moments;
+    for (int time = 0; time < times; ++time)
+        moments.push_back(time % 2 == 0 ? random() % (story.Length() + 1) : few[random() % few.size()]);
+    std::ranges::sort(moments);
+    return moments;
+}
+
+}  // namespace
+
+bool TryPowerLosses(int times, unsigned seed) {
+    const StoreFolder place;
+    const fs::path folder = place.Path("disk");
+    fs::create_directory(folder);
+    for (std::size_t part = 0; part < PowerLossParts; ++part) RunPart(folder, place.Path("journal"), part);
+    const std::vector<JournaledCall> journal = ReadJournal(place.Path("journal"));
+    Story whole(folder, journal);
+    whole.GoOn(whole.Length());
+    if (whole.Disk().Now() != TreeAt(folder)) {
+        std::cout << "the journal does not tell all that was done" << std::endl;
+        return false;
+    }
+
+    std::mt19937 random(seed);
+    std::cout << times << " losses in " << journal.size() << " calls, seed " << seed << std::endl;
+    std::vector<std::string> phases;
+    std::map<std::string, Outcomes> table;
+    Story played(folder, journal);
+    for (const std::size_t moment : MomentsOfLoss(Story(folder, journal), times, random)) {
+        played.GoOn(moment);
+        const std::string& phase = played.Promise().Phase;
+        if (!table.contains(phase)) phases.push_back(phase);
+        Count(StartAfterLoss(played.Disk().AfterLoss(random), played.Promise()), table[phase]);
+    }
+    for (const std::string& phase : phases) Report(phase, table[phase]);
+    return std::ranges::all_of(table, [](const auto& row) { return row.second.Silent == 0 && row.second.Wrong == 0; });
+}
+
+}  // namespace orvelle::store
