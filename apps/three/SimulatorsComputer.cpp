@@ -3,10 +3,10 @@
 #include <netinet/in.h>
 #include <sys/socket.h>
 
-#include "adapters/linux/FileDescriptor.h"
 #include "adapters/linux/OwnFile.h"
 #include "adapters/looks/Text.h"
 #include "adapters/mqtt/OwnSetUp.h"
+#include "adapters/shared/FileDescriptor.h"
 #include "apps/three/ChildPrograms.h"
 #include "platform/RadioSelection.h"
 #include "platform/SessionSetting.h"
@@ -18,7 +18,7 @@ namespace {
 
 // A port that nobody listens on now, so that another set-up on this machine is left alone.
 int FreePort() {
-    const linux::FileDescriptor socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    const FileDescriptor socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
     sockaddr_in address{};
     address.sin_family = AF_INET;
     socklen_t size = sizeof address;

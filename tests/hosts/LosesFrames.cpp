@@ -14,13 +14,11 @@
 #include <random>
 #include <string>
 
-#include "adapters/linux/FileDescriptor.h"
 #include "adapters/linux/PollEventLoop.h"
+#include "adapters/shared/FileDescriptor.h"
 
 namespace orvelle::hosts {
 namespace {
-
-using linux::FileDescriptor;
 
 // Sums that the sender left to its network card, and segments that it left whole, are told before each frame, and have
 // to be told again where it goes out.
@@ -82,8 +80,8 @@ private:
 int main(int count, char** words) {
     using namespace orvelle;
     if (count != 5) return EXIT_FAILURE;
-    const linux::FileDescriptor one = hosts::OpenInterface(words[1]);
-    const linux::FileDescriptor other = hosts::OpenInterface(words[2]);
+    const FileDescriptor one = hosts::OpenInterface(words[1]);
+    const FileDescriptor other = hosts::OpenInterface(words[2]);
     if (!one || !other) {
         std::cerr << "loses-frames: " << words[1] << " or " << words[2] << " can't be opened" << std::endl;
         return EXIT_FAILURE;

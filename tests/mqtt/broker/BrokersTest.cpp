@@ -7,7 +7,7 @@
 #include <csignal>
 #include <fstream>
 
-#include "adapters/linux/FileDescriptor.h"
+#include "adapters/shared/FileDescriptor.h"
 #include "tests/mqtt/OwnFolder.h"
 #include "tests/mqtt/broker/SetUpRig.h"
 
@@ -117,7 +117,7 @@ TEST_F(BrokersTest, NobodyWhoAnnouncesOurNameKeepsUsFromTheHostOfTheFile) {
     const int plainPort = FreePort();
     std::ofstream(folder.Path / "plain") << "listener " << plainPort << " 127.0.0.1\nallow_anonymous true\nuser root\n";
     const linux::ChildProcess plain({"/usr/sbin/mosquitto", "-c", (folder.Path / "plain").string()});
-    const linux::FileDescriptor silent(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    const FileDescriptor silent(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);

@@ -11,7 +11,7 @@
 #include <sstream>
 #include <vector>
 
-#include "adapters/linux/FileDescriptor.h"
+#include "adapters/shared/FileDescriptor.h"
 
 namespace orvelle::mqtt {
 namespace {
@@ -88,7 +88,7 @@ public:
     }
 
 private:
-    linux::FileDescriptor events;
+    FileDescriptor events;
 };
 
 TEST_F(OwnSetUpTest, TheBrokersKeysAreThereBeforeTheSetUpTellsOfAChange) {
