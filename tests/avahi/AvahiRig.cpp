@@ -43,7 +43,11 @@ AvahiRig::AvahiRig() : folder(OwnFolder()) {
     configuration.replace(configuration.find('%'), 1, (folder / "bus").string());
     std::ofstream(folder / "bus.conf") << configuration;
     std::ofstream(folder / "avahi.conf") << DaemonConfiguration;
-    setenv("DBUS_SYSTEM_BUS_ADDRESS", ("unix:path=" + (folder / "bus").string()).c_str(), 1);
+    UseOwnBus();
+}
+
+void AvahiRig::UseOwnBus() {
+    setenv("DBUS_SYSTEM_BUS_ADDRESS", ("unix:path=" + (OwnFolder() / "bus").string()).c_str(), 1);
 }
 
 AvahiRig::~AvahiRig() {

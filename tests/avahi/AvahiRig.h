@@ -17,6 +17,11 @@
 namespace orvelle::avahi {
 
 class AvahiRig : public testing::Test {
+public:
+    // To be called before anything in the process uses a message bus, where something does before a test is made: from
+    // then on the system's bus is the one that a test may start, or none.
+    static void UseOwnBus();
+
 protected:
     AvahiRig();
     ~AvahiRig() override;

@@ -9,6 +9,7 @@
 #include <QScreen>
 #include <vector>
 
+#include "adapters/looks/Text.h"
 #include "adapters/qt/services/QtTray.h"
 #include "adapters/qt/windows/PopupMenus.h"
 #include "platform/controls/Buttons.h"
@@ -155,6 +156,21 @@ TEST_F(TrayTest, PressesOnTheIconReachTheHookedWindow) {
     EXPECT_TRUE(Comes(515));
 }
 
+TEST_F(TrayTest, ASentenceIsABalloonBesideTheIconAsSoonAsThatIsThere) {
+    tray.Tell("One.");
+    TrayProgram program;
+    tray.Shell_NotifyIconA(NotifyIconAdd, record);
+    const auto says = [](const QString& words) {
+        const QWidget* const balloon = FindTopLevel("QBalloonTip");
+        const QList<QLabel*> labels = balloon != nullptr ? balloon->findChildren<QLabel*>() : QList<QLabel*>();
+        return std::any_of(labels.begin(), labels.end(), [&](const QLabel* each) { return each->text() == words; });
+    };
+    EXPECT_TRUE(ComesTrue([&] { return says("One."); }));
+    tray.Tell("Two.");
+    tray.Tell("Three.");
+    EXPECT_TRUE(ComesTrue([&] { return says("Two.\nThree."); }));
+}
+
 TEST_F(TrayTest, ADyingTrayBringsTheStandInAndANewTrayTakesTheIconBack) {
     {
         TrayProgram program;
@@ -207,6 +223,20 @@ TEST_F(StandInTest, TellsOfItselfUntilItIsUsedAndTakesTheSameClicks) {
     EXPECT_TRUE(Comes(516));
     Settle();
     EXPECT_TRUE(window.Messages.empty());
+}
+
+TEST_F(StandInTest, SaysASentenceUntilItIsUsed) {
+    const QPoint place = IconPlace();
+    input.Click(place, 1);
+    ASSERT_TRUE(Comes(513));
+    const auto* words = StandIn()->findChild<QLabel*>();
+    ASSERT_TRUE(ComesTrue([&] { return !words->isVisible() && IconPlace() == place; }));
+    tray.Tell(FromQt(QString("quite a long sentence ").repeated(20)));
+    EXPECT_TRUE(ComesTrue([&] { return words->isVisible(); }));
+    EXPECT_LE(words->heightForWidth(words->width()), words->height());
+    EXPECT_TRUE(ComesTrue([&] { return StandIn()->screen()->geometry().contains(StandIn()->geometry()); }));
+    input.Click(place, 1);
+    EXPECT_TRUE(ComesTrue([&] { return !words->isVisible() && IconPlace() == place; }));
 }
 
 TEST_F(StandInTest, StaysOnTopInTheLowerRightCornerAndCannotBeClosed) {
