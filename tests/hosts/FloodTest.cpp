@@ -37,7 +37,8 @@ TEST_F(FloodTest, PushToTalkArrivesWhileAMemberFloods) {
     std::vector<long> before;
     for (const pid_t process : processes) before.push_back(MemoryOf(process));
 
-    ProgramThere flood(three, {FLOODS_BROKER, SetUpFileOf(4), std::to_string(MessagesEachSecond), std::to_string(Seconds)});
+    ProgramThere flood(three,
+                       {FLOODS_BROKER, SetUpFileOf(4), std::to_string(MessagesEachSecond), std::to_string(Seconds)});
     const std::string all = "flooded " + std::to_string(MessagesEachSecond * Seconds);
     ASSERT_TRUE(Until([&] {
         flood.Take();

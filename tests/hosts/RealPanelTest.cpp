@@ -1,5 +1,5 @@
-// Whole panels on two computers: one in this process, on c03, and before it another one, a program on c02 with a display
-// of its own, which holds the role until it is lost. Who takes a role over is the panel's own logic.
+// Whole panels on two computers: one in this process, on c03, and before it another one, a program on c02 with a
+// display of its own, which holds the role until it is lost. Who takes a role over is the panel's own logic.
 #include <QEventLoop>
 #include <QTimer>
 #include <csignal>
