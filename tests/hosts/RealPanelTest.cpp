@@ -217,6 +217,7 @@ TEST_F(RealFloodTest, AClickIsAnsweredAndPushToTalkServedUnderAFlood) {
     ShowPage("Options");
     QWidget& box = OfPanel("VoiceTuningSound");
     ASSERT_TRUE(ComesTrue([&] { return box.isVisible(); }));
+    const long before = MemoryOf(getpid());
     ProgramThere flood(two, {FLOODS_BROKER, SetUpFileOf(4), "10000", "10"});
     const auto tells = [&](const std::string& text) {
         flood.Take();
@@ -225,10 +226,10 @@ TEST_F(RealFloodTest, AClickIsAnsweredAndPushToTalkServedUnderAFlood) {
     ASSERT_TRUE(Comes([&] { return tells("flooding"); }));
     std::vector<long long> clicks, talks;
     while (!tells("flooded 100000")) {
-        const Long before = panel.VoiceTuningSound.Value;
+        const Long ticked = panel.VoiceTuningSound.Value;
         long long begin = Now();
         user.Click(box);
-        ASSERT_TRUE(Comes([&] { return panel.VoiceTuningSound.Value != before; }));
+        ASSERT_TRUE(Comes([&] { return panel.VoiceTuningSound.Value != ticked; }));
         clicks.push_back(Now() - begin);
         for (const bool isDown : {true, false}) {
             begin = Now();
@@ -243,6 +244,7 @@ TEST_F(RealFloodTest, AClickIsAnsweredAndPushToTalkServedUnderAFlood) {
     Print("a click is answered, at worst", clicks.back());
     Print("push-to-talk to the key here, median of " + std::to_string(talks.size()), talks[talks.size() / 2]);
     Print("push-to-talk to the key here, at worst", talks.back());
+    ExpectNoMoreMemory("the panel", before, MemoryOf(getpid()));
     EXPECT_LT(clicks.back(), Second);
     EXPECT_LT(talks.back(), Second);
     EXPECT_TRUE(RoleIsHere());
