@@ -53,8 +53,7 @@ void HeardRecords::TellOf(Long id, Missing missing) {
         const RecordContent content = *now;
         told.insert_or_assign(id, content);
         Said(id, content);
-    } else if (known != told.end() &&
-               (missing == Missing::CountsAsEnded || ended.contains(id) || shown.contains(id))) {
+    } else if (known != told.end() && (missing == Missing::CountsAsEnded || ended.contains(id) || shown.contains(id))) {
         told.erase(known);
         ended.erase(id);
         shown.erase(id);

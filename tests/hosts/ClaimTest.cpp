@@ -30,7 +30,8 @@ TEST_F(ClaimTest, OfTwoPanelsThatWantARoleAtOneMomentOneHoldsIt) {
         for (PanelThere* const panel : {&higher, &lower}) panel->Say(std::string("leave ") + Role);
         ASSERT_TRUE(Until([this] {
             return watcher.Holders(Role).empty() && lower.Holders(Role).empty() && higher.Holders(Role).empty();
-        })) << "after claim " << claim;
+        })) << "after claim "
+            << claim;
     }
     Print("the worst of " + std::to_string(Claims) + " claims took", worst);
     std::cout << "    the lower identity held the role " << won << " times, the higher one claimed it " << gaveWay

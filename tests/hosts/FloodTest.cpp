@@ -1,6 +1,5 @@
 // A member of the set-up that floods it with messages.
 #include <algorithm>
-#include <fstream>
 
 #include "tests/hosts/HostsRig.h"
 
@@ -10,21 +9,8 @@ namespace {
 constexpr int MessagesEachSecond = 10'000;
 constexpr int Seconds = 10;
 
-// In kilobytes; 0 where there is no such process.
-long MemoryOf(pid_t process) {
-    std::ifstream status("/proc/" + std::to_string(process) + "/status");
-    for (std::string line; std::getline(status, line);)
-        if (line.starts_with("VmRSS:")) return std::atol(line.c_str() + 6);
-    return 0;
-}
-
 class FloodTest : public HostsTest {
 protected:
-    void PrintMemory(const std::string& what, long before, long after) {
-        std::cout << "    memory of " << what << ": " << before << " kB before, " << after << " kB after\n";
-        EXPECT_LT(after, before + 64 * 1024) << what;
-    }
-
     PanelThere& panel = AddPanel(2);
 };
 
@@ -37,7 +23,8 @@ TEST_F(FloodTest, PushToTalkArrivesWhileAMemberFloods) {
     std::vector<long> before;
     for (const pid_t process : processes) before.push_back(MemoryOf(process));
 
-    ProgramThere flood(three, {FLOODS_BROKER, SetUpFileOf(4), std::to_string(MessagesEachSecond), std::to_string(Seconds)});
+    ProgramThere flood(three,
+                       {FLOODS_BROKER, SetUpFileOf(4), std::to_string(MessagesEachSecond), std::to_string(Seconds)});
     const std::string all = "flooded " + std::to_string(MessagesEachSecond * Seconds);
     ASSERT_TRUE(Until([&] {
         flood.Take();
@@ -71,7 +58,7 @@ TEST_F(FloodTest, PushToTalkArrivesWhileAMemberFloods) {
     EXPECT_TRUE(panel.HoldsNothing()) << "no simulator that does not serve holds anything";
     const char* const names[] = {"the panel", "orvelle-sim", "the broker"};
     for (std::size_t each = 0; each < processes.size(); ++each)
-        PrintMemory(names[each], before[each], MemoryOf(processes[each]));
+        ExpectNoMoreMemory(names[each], before[each], MemoryOf(processes[each]));
     flood.Process.Kill(9);
     EXPECT_TRUE(Until([this] { return panel.Holders("flood").empty(); })) << "its records go with it";
     EXPECT_TRUE(HaveLinks() && panel.HasOwn(Role));

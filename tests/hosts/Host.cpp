@@ -33,9 +33,7 @@ std::vector<std::string> Host::TakeBadWay(const std::string& relay, int percent,
     return InNamespace("switch", {relay, port, outer, std::to_string(percent), std::to_string(milliseconds)});
 }
 
-void Host::SetLink(const std::string& state) const {
-    EXPECT_TRUE(Run(Start({"ip", "link", "set", "eth0", state})));
-}
+void Host::SetLink(const std::string& state) const { EXPECT_TRUE(Run(Start({"ip", "link", "set", "eth0", state}))); }
 
 void Host::SetPort(const std::string& state) const { RunAtSwitch({"ip", "link", "set", "port-" + Name(), state}); }
 

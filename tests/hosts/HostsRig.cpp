@@ -120,4 +120,16 @@ void Print(const std::string& what, long long microseconds) {
     std::fflush(stdout);
 }
 
+long MemoryOf(pid_t process) {
+    std::ifstream status("/proc/" + std::to_string(process) + "/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.starts_with("VmRSS:")) return std::atol(line.c_str() + 6);
+    return 0;
+}
+
+void ExpectNoMoreMemory(const std::string& whose, long before, long after) {
+    std::printf("    memory of %s: %ld kB before, %ld kB after\n", whose.c_str(), before, after);
+    EXPECT_LT(after, before + 32 * 1024) << whose;
+}
+
 }  // namespace orvelle::hosts

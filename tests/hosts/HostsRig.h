@@ -79,4 +79,9 @@ class HostsTest : public testing::Test, public HostsRig {};
 // A figure of the trial, for whoever reads the log.
 void Print(const std::string& what, long long microseconds);
 
+// What a process has in memory, in kilobytes; 0 where there is no such process.
+long MemoryOf(pid_t process);
+// Prints both, and fails where it has grown by more than its messages can account for.
+void ExpectNoMoreMemory(const std::string& whose, long before, long after);
+
 }  // namespace orvelle::hosts

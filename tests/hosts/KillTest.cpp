@@ -114,7 +114,8 @@ TEST_F(KillBrokerTest, AKilledBrokerIsStartedAgainAndMovesNoRole) {
     ASSERT_GT(before, 0);
     kill(before, SIGKILL);
     ASSERT_TRUE(Until([this, begin] {
-        return std::ranges::all_of(panels, [&](const PanelThere& each) { return each.Told("framework lost", begin).has_value(); });
+        return std::ranges::all_of(
+            panels, [&](const PanelThere& each) { return each.Told("framework lost", begin).has_value(); });
     }));
     for (const PanelThere& panel : panels) PrintLettingGo(panel, begin);
     ASSERT_TRUE(Until([this] { return IsAllRight(Held) && HoldsEverywhere(); }));

@@ -72,9 +72,8 @@ TEST_F(RestartTest, AHundredRestartsUnderTrafficLeaveEveryRecordRight) {
                });
     }));
     played->Say(std::string("release ") + TalkKey);
-    EXPECT_TRUE(Until([this] {
-        return std::ranges::all_of(panels, [](const PanelThere& each) { return each.HoldsNothing(); });
-    }));
+    EXPECT_TRUE(Until(
+        [this] { return std::ranges::all_of(panels, [](const PanelThere& each) { return each.HoldsNothing(); }); }));
     Let(4 * Second);
     EXPECT_TRUE(IsAllRight(Id) && AllHave(OtherId, OtherRole) && HaveValue(value));
     for (const PanelThere& panel : panels)

@@ -1,5 +1,5 @@
-// A simulator's program whose devices are played, over a broker that is there already: the real far sides of both links.
-// Told are the sounds that panels ask for, and when it is there or no more.
+// A simulator's program whose devices are played, over a broker that is there already: the real far sides of both
+// links. Told are the sounds that panels ask for, and when it is there or no more.
 //
 //   simulator-at-host SETUP.JSON
 //
@@ -42,7 +42,8 @@ public:
             network.SetStatus(ConnectedToMultiplayer);
             network.SetReceive(SelectsCom1);
             network.SetTransmit(SelectsCom1);
-            network.SetVoice(0, {.Software = RogerWilco, .Server = "srv1", .Channel = "ops", .Login = "", .Password = ""});
+            network.SetVoice(0,
+                             {.Software = RogerWilco, .Server = "srv1", .Channel = "ops", .Login = "", .Password = ""});
             if (network.Session().Handle == 0) network.StartSession();
         }
     }

@@ -1,6 +1,6 @@
-// What the programs that tests start on hosts have alike: commands come as lines on the standard input, and each event is
-// told as a line on the standard output, after its moment in microseconds of the monotonic clock, which all hosts of one
-// computer share.
+// What the programs that tests start on hosts have alike: commands come as lines on the standard input, and each event
+// is told as a line on the standard output, after its moment in microseconds of the monotonic clock, which all hosts of
+// one computer share.
 #pragma once
 
 #include <unistd.h>
@@ -28,7 +28,9 @@ class Commands {
 public:
     // `ended` is called when the input has ended.
     Commands(EventLoop& loop, std::function<void(std::istringstream&)> take, std::function<void()> ended)
-        : takeLine(std::move(take)), end(std::move(ended)), readable(loop.WhenReadable(STDIN_FILENO, [this] { Read(); })) {}
+        : takeLine(std::move(take)),
+          end(std::move(ended)),
+          readable(loop.WhenReadable(STDIN_FILENO, [this] { Read(); })) {}
 
 private:
     void Read() {
