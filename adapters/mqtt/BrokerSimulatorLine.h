@@ -3,6 +3,7 @@
 // it let go, whatever the reason.
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <string>
 
@@ -25,6 +26,8 @@ private:
     void Leave();
     void Review();
     void Hear(const Topic& topic, const std::string& payload);
+    bool HoldsNothing() const { return held.Keys.empty() && held.Buttons.empty(); }
+    void AwaitSilence(std::chrono::milliseconds left);
     void LetGo();
 
     EventLoop& loop;
@@ -32,6 +35,8 @@ private:
     std::shared_ptr<PanelAtBroker> at;  // null while closed
     int server = 0;                     // the identity of the program that serves, 0 while the line is down
     SimulatorInput held;
+    std::chrono::steady_clock::time_point heardAt;  // what is held
+    bool isSilenceAwaited = false;
     Ticket changed, heard, first, silence;
 };
 
