@@ -6,7 +6,10 @@ namespace orvelle::mqtt {
 
 namespace {
 
-constexpr Long SilenceMilliseconds = 400;
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+constexpr milliseconds Silence{400};
 
 }  // namespace
 
@@ -51,7 +54,6 @@ SimulatorComputer BrokerSimulatorLine::FarComputer() {
 void BrokerSimulatorLine::Leave() {
     changed.End();
     heard.End();
-    silence.End();
     held = {};
     if (at) loop.Post([leaving = std::exchange(at, nullptr)] {});
 }
@@ -64,7 +66,6 @@ void BrokerSimulatorLine::Review() {
     // With this link a panel forgets which servers of the other one were found.
     brokers.Found.TellAgain();
     if (now == 0) {
-        silence.End();
         held = {};
         Lost();
     } else if (before == 0) {
@@ -85,16 +86,25 @@ void BrokerSimulatorLine::Hear(const Topic& topic, const std::string& payload) {
     const auto message = ReadInput(payload);
     if (!message) return at->CountRefused();
     held = message->Held;
-    if (held.Keys.empty() && held.Buttons.empty())
-        silence.End();
-    else
-        silence = loop.After(SilenceMilliseconds, [this] { LetGo(); });
+    heardAt = steady_clock::now();
+    if (!HoldsNothing() && !isSilenceAwaited) AwaitSilence(Silence);
     Said(message->Held);
 }
 
+// One timer serves all messages of a while, as making one for each would delay the key that it brings.
+void BrokerSimulatorLine::AwaitSilence(milliseconds left) {
+    isSilenceAwaited = true;
+    silence = loop.After(static_cast<Long>(left.count()), [this] {
+        isSilenceAwaited = false;
+        const auto rest = std::chrono::ceil<milliseconds>(heardAt + Silence - steady_clock::now());
+        if (HoldsNothing()) return;
+        if (rest > milliseconds(0)) return AwaitSilence(rest);
+        LetGo();
+    });
+}
+
 void BrokerSimulatorLine::LetGo() {
-    silence.End();
-    if (held.Keys.empty() && held.Buttons.empty()) return;
+    if (HoldsNothing()) return;
     held.Keys.clear();
     held.Buttons.clear();
     held.Repeat.clear();

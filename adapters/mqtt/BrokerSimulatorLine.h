@@ -3,6 +3,7 @@
 // it let go, whatever the reason.
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <optional>
 #include <string>
@@ -27,6 +28,8 @@ private:
     void Review();
     void TellFound();
     void Hear(const Topic& topic, const std::string& payload);
+    bool HoldsNothing() const { return held.Keys.empty() && held.Buttons.empty(); }
+    void AwaitSilence(std::chrono::milliseconds left);
     void LetGo();
 
     EventLoop& loop;
@@ -35,6 +38,8 @@ private:
     std::shared_ptr<PanelAtBroker> at;  // null while closed
     int server = 0;                     // the identity of the program that serves, 0 while the line is down
     SimulatorInput held;
+    std::chrono::steady_clock::time_point heardAt;  // what is held
+    bool isSilenceAwaited = false;
     Ticket moved, found, changed, heard, first, silence;
 };
 
