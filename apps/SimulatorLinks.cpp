@@ -29,7 +29,7 @@ QString ShownName(const std::string& name) {
 }
 
 QString NameOf(const SimulatorProgram& program, int identity) {
-    const QString text = ToQt(mqtt::WriteIdentity(identity));
+    QString text = ToQt(mqtt::WriteIdentity(identity));
     for (const auto kind : {mqtt::Program::Simulator, mqtt::Program::Panel})
         if (const auto* said = program.AtBroker.Others().Find({identity, kind}))
             return text + " " + ShownName(said->Name);
