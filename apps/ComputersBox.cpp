@@ -121,7 +121,7 @@ void ComputersBox::ShowComputer(int row, int identity) {
     for (const auto kind : {mqtt::Program::Panel, mqtt::Program::Simulator}) {
         const auto* said = program.AtBroker.Others().Find({identity, kind});
         const bool isThis = isOwn && kind == mqtt::Program::Simulator && program.AtBroker.IsThere();
-        if (said) names << ToQt(said->Name);
+        if (said) names << ShownName(said->Name);
         if (said || isThis) programs << (kind == mqtt::Program::Panel ? "panel" : "simulator");
     }
     if (isOwn) names.prepend("this computer");

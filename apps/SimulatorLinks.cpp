@@ -2,9 +2,16 @@
 
 #include "adapters/looks/Text.h"
 #include "adapters/mqtt/Topics.h"
+#include "apps/OneLine.h"
 #include "apps/SimulatorProgram.h"
 
 namespace orvelle {
+
+namespace {
+
+constexpr int LongestShown = 40;  // characters
+
+}  // namespace
 
 LinkTold TellOfLink(const SimulatorProgram& program, const mqtt::OfferedLink& link) {
     const bool isOffered = link.Link() == LinkState::Up;
@@ -16,10 +23,16 @@ LinkTold TellOfLink(const SimulatorProgram& program, const mqtt::OfferedLink& li
     return {Sign::Waiting, "Served by " + NameOf(program, server) + ", this one stands by"};
 }
 
+QString ShownName(const std::string& name) {
+    const QString text = ToQt(OneLine(name));
+    return text.size() <= LongestShown ? text : text.left(LongestShown - 1) + QChar(0x2026);
+}
+
 QString NameOf(const SimulatorProgram& program, int identity) {
-    const QString text = ToQt(mqtt::WriteIdentity(identity));
+    QString text = ToQt(mqtt::WriteIdentity(identity));
     for (const auto kind : {mqtt::Program::Simulator, mqtt::Program::Panel})
-        if (const auto* said = program.AtBroker.Others().Find({identity, kind})) return text + " " + ToQt(said->Name);
+        if (const auto* said = program.AtBroker.Others().Find({identity, kind}))
+            return text + " " + ShownName(said->Name);
     return text;
 }
 

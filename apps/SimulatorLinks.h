@@ -19,6 +19,9 @@ struct LinkTold {
 
 LinkTold TellOfLink(const SimulatorProgram& program, const mqtt::OfferedLink& link);
 
+// Another computer's word as it is shown: on one line, and no longer than a name should be.
+QString ShownName(const std::string& name);
+
 // "c07 COCKPIT2"; a computer that isn't there has no name.
 QString NameOf(const SimulatorProgram& program, int identity);
 

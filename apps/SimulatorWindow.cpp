@@ -97,7 +97,9 @@ void SimulatorWindow::ShowState() {
 
 QString SimulatorWindow::Tip() const {
     const auto& made = program.Made();
-    const QString name = made ? ToQt(made->Name) : program.Member() ? ToQt(program.Member()->Name) : "In no set-up";
+    const QString name = made               ? ShownName(made->Name)
+                         : program.Member() ? ShownName(program.Member()->Name)
+                                            : QString("In no set-up");
     const int computers = ComputersThere(program);
     return QString("%1\nKeys and sounds: %2\nSession: %3\n%4")
         .arg(name, TellOfLink(program, program.Simulator).Words, TellOfLink(program, program.Network).Words,

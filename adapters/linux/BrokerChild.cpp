@@ -32,7 +32,7 @@ std::string FindMosquitto() {
     const char* const path = std::getenv("PATH");
     std::istringstream folders(std::string(path ? path : "") + ":/usr/sbin:/usr/local/sbin");
     for (std::string folder; std::getline(folders, folder, ':');)
-        if (const std::string file = folder + "/mosquitto"; folder.starts_with('/') && access(file.c_str(), X_OK) == 0)
+        if (std::string file = folder + "/mosquitto"; folder.starts_with('/') && access(file.c_str(), X_OK) == 0)
             return file;
     return "";
 }

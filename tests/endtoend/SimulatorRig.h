@@ -24,7 +24,9 @@ protected:
         command.Port = mqtt::FreePort();
         command.Name = "Home";
     }
-    ~SimulatorRig() override { program->Close(); }
+    ~SimulatorRig() override {
+        if (program) program->Close();
+    }
 
     void Open() {
         program = std::make_unique<SimulatorProgram>(loop, command);

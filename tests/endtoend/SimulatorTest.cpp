@@ -5,6 +5,7 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
+#include <csignal>
 
 #include "adapters/looks/Text.h"
 #include "adapters/mqtt/Member.h"
@@ -91,6 +92,13 @@ TEST_F(SimulatorTest, ComputersThatAreThereAreToldWithWhatTheyHoldAndServe) {
     panel.AtBroker.Say(mqtt::TopicKind::Record, R"({"type":"VOICE","role":"VVL"})", 1, mqtt::Retain::Yes, 1);
     EXPECT_TRUE(ComesTrue([&] { return Row(1) == "c02|COCKPIT2|panel|VVL|-"; })) << Row(1);
     EXPECT_TRUE(ComesTrue([&] { return Row(2) == "c03|COCKPIT2|simulator|-|-"; })) << Row(2);
+    // A name is another computer's word.
+    panel.Presence.Name = std::string(500, 'x') + "\n";
+    panel.AtBroker.Describe();
+    EXPECT_TRUE(ComesTrue([&] {
+        const QString shown = At<QTableWidget>("Computers").item(1, 1)->text();
+        return shown.size() == 40 && shown.startsWith("xxx");
+    }));
     program->Simulator.SetLink(LinkState::Down);
     EXPECT_TRUE(ComesTrue([&] { return Row(2) == "c03|COCKPIT2|simulator|-|keys"; })) << Row(2);
     EXPECT_TRUE(ComesTrue([&] {
@@ -119,6 +127,25 @@ TEST_F(SimulatorTest, AnotherNameIsTakenUpAndAWrongOneTold) {
     type(QString(64, 'x'));
     EXPECT_EQ(At<QListWidget>("Tellings").count(), before + 1);
     EXPECT_EQ(name.text(), "Club");
+}
+
+TEST_F(SimulatorTest, ASetUpThatWasJoinedIsShownAndNotChanged) {
+    mqtt::BrokerProcess existing;
+    command.Port = 0;
+    command.Name.clear();
+    ASSERT_EQ(mqtt::WriteSetUpFile(command.Data / "setup.json", existing.SetUpOf(3)), "");
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_TRUE(IsThere());
+    EXPECT_TRUE(ComesTrue([&] { return Row(0) == "c03|this computer|simulator|-|keys, session"; })) << Row(0);
+    EXPECT_EQ(At<QLabel>("SetUpPlace").text(), "c03, which has joined it");
+    EXPECT_EQ(At<QLineEdit>("SetUpName").text(), "Test");
+    for (const char* name : {"SetUpName", "AddComputer", "RemoveComputer"})
+        EXPECT_FALSE(At<QWidget>(name).isEnabled()) << name;
+    existing.Kill(SIGKILL);
+    EXPECT_TRUE(ComesTrue([&] { return At<QLabel>("BrokerText").text().contains("nobody answers"); }));
+    EXPECT_EQ(mqtt::RemoveSetUpFile(program->SetUp.PanelFile()), "");
+    EXPECT_TRUE(ComesTrue([&] { return At<QLabel>("SetUpPlace").text() == "In no set-up" && Row(0).empty(); }));
+    EXPECT_TRUE(window->Tray().Tip().startsWith("In no set-up\n"));
 }
 
 TEST_F(SimulatorTest, ClosingHidesItAndItsIconBringsItBackAndEndsIt) {

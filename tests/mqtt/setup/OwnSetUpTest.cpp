@@ -198,6 +198,17 @@ TEST_F(OwnSetUpTest, IsNamedAsUsualWhereTheComputersNameIsNone) {
     }
 }
 
+// Whoever sees the set-up's own file change has the broker read its files, so these are written before.
+TEST_F(OwnSetUpTest, AComputerCountsOnlyOnceTheBrokerCanKnowIt) {
+    const OwnSetUp setUp(data);
+    ASSERT_TRUE(setUp.ReadOrMake("Home", 0).Setting);
+    const std::string before = Text("broker/set-up.json");
+    fs::remove(data / "broker/keys");
+    fs::create_directories(data / "broker/keys/in the way");
+    EXPECT_NE(setUp.Add().Sentence.find("keys can't be written"), std::string::npos);
+    EXPECT_EQ(Text("broker/set-up.json"), before);
+}
+
 TEST_F(OwnSetUpTest, ADataFolderThatCannotBeMadeIsTold) {
     Write("file", "");
     EXPECT_NE(OwnSetUp(data / "file").ReadOrMake("Home", 0).Sentence, "");

@@ -104,6 +104,21 @@ TEST_F(SimulatorProgramTest, AComputerThatIsAddedComesAndIsListed) {
     EXPECT_EQ(list.Status, 0);
 }
 
+TEST_F(SimulatorProgramTest, ComputersThatAreAddedOneAfterTheOtherAreAllKnown) {
+    Serve();
+    // By the set-up's files as they are, with no time between two of them.
+    const OwnSetUp setUp(data);
+    std::vector<std::unique_ptr<PlayedMember>> members;
+    for (int number = 2; number <= 40; ++number) {
+        const auto added = setUp.Add();
+        ASSERT_TRUE(added.Code) << added.Sentence;
+        if (number % 8 != 0) continue;
+        const SetUpSetting known{"Test", "127.0.0.1", port, number, added.Code->Key};
+        members.push_back(std::make_unique<PlayedMember>(loop, known, Program::Panel));
+    }
+    for (const auto& member : members) EXPECT_TRUE(Until([&] { return member->AtBroker.IsThere(); }));
+}
+
 TEST_F(SimulatorProgramTest, NobodyComesWithoutAKeyOfTheSetUp) {
     Serve();
     SetUpSetting wrong = Add();
