@@ -1,6 +1,7 @@
 #include "apps/three/Story.h"
 
 #include <algorithm>
+#include <map>
 
 #include "adapters/looks/Text.h"
 #include "adapters/shared/ScanCodes.h"
@@ -108,18 +109,26 @@ bool Story::Talk() {
 
 bool Story::LoseHolder() {
     Computer& lost = *holder;
+    SetUpWatch& watch = simulator.Watch();
     telling.Happens(lost.Name() + " is lost, as if its power were cut: its programs stand still and say no goodbye.");
     lost.StandStill();
+    const auto takenOver = [this] {
+        return holder->Name() + " has taken the role over, and starts its voice program.";
+    };
     if (!telling.Comes(lost.Name() + " counts as gone, three seconds after its last beat, and its record with it.",
-                       [&] { return simulator.Watch().PanelBeats(lost.Identity) == 0; }) ||
-        !telling.Comes([this] { return holder->Name() + " has taken the role over, and starts its voice program."; },
-                       [this] {
-                           const std::vector<int> holders = simulator.Watch().Holders(Role);
-                           if (holders.size() != 1) return false;
-                           holder = computers[static_cast<std::size_t>(holders.front() - FirstIdentity)].get();
-                           return OneHolds();
-                       }))
+                       [&] { return watch.PanelBeats(lost.Identity) == 0; }) ||
+        !telling.Comes(takenOver, [this] { return FindHolder() && OneHolds(); }))
         return false;
+    // Two may have claimed it in the same instant; who does so has said it by its next beat.
+    std::map<int, Long> beats;
+    for (const auto& each : computers) beats[each->Identity] = watch.PanelBeats(each->Identity);
+    const auto haveAllBeaten = [&] {
+        return std::ranges::all_of(computers, [&](const auto& each) {
+            return each.get() == &lost || watch.PanelBeats(each->Identity) > beats[each->Identity];
+        });
+    };
+    const auto settled = [this] { return "Both others have beaten since, and " + holder->Name() + " alone holds it."; };
+    if (!telling.Comes(settled, [&] { return haveAllBeaten() && FindHolder() && OneHolds(); })) return false;
     lost.BreakDown();
     return true;
 }
@@ -139,6 +148,12 @@ bool Story::ComeBack() {
 
 bool Story::AllOthers(const std::function<bool(Computer&)>& isSo) {
     return std::ranges::all_of(computers, [&](const auto& each) { return each.get() == holder || isSo(*each); });
+}
+
+bool Story::FindHolder() {
+    const std::vector<int> holders = simulator.Watch().Holders(Role);
+    if (holders.size() == 1) holder = computers[static_cast<std::size_t>(holders.front() - FirstIdentity)].get();
+    return holders.size() == 1;
 }
 
 bool Story::OneHolds() {

@@ -34,8 +34,10 @@ private:
     bool LoseHolder();
     bool ComeBack();
 
-    bool AllOthers(const std::function<bool(Computer&)>& isSo);  // but the holder
-    bool OneHolds();  // one computer has the role and nobody else, and it alone has its voice program joined
+    // All but the holder.
+    bool AllOthers(const std::function<bool(Computer&)>& isSo);
+    bool FindHolder();  // takes whoever has the role now for the holder; false unless that is one
+    bool OneHolds();    // one computer has the role and nobody else, and it alone has its voice program joined
     bool LetsGoOfRole(Computer& computer);
     bool TakePicture(const std::string& name);
     std::string StateOf(Computer& computer);
