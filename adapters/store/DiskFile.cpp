@@ -25,6 +25,8 @@ void Sync(const fs::path& path, int flags) {
     if (!file || fsync(file.Number()) != 0) Fail("cannot sync", path);
 }
 
+fs::path FolderOf(const fs::path& path) { return path.has_parent_path() ? path.parent_path() : "."; }
+
 }  // namespace
 
 OpenFile::~OpenFile() {
@@ -59,7 +61,13 @@ std::string StartOf(const fs::path& path, std::size_t size) {
 void MakeFolder(const fs::path& folder) {
     if (folder.empty() || fs::is_directory(folder)) return;
     MakeFolder(folder.parent_path());
-    if (mkdir(folder.c_str(), OwnFolder) != 0 && errno != EEXIST) Fail("cannot make the folder", folder);
+    if (mkdir(folder.c_str(), OwnFolder) == 0) {
+        // A parent that can't be read can't be synced either, and the folder is of use all the same.
+        const OpenFile parent(open(FolderOf(folder).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        if (parent) fsync(parent.Number());
+    } else if (errno != EEXIST) {
+        Fail("cannot make the folder", folder);
+    }
     if (!fs::is_directory(folder)) {
         errno = ENOTDIR;
         Fail("cannot use the folder", folder);
@@ -82,7 +90,7 @@ void MakePrivate(const fs::path& path) {
 void RenameForGood(const fs::path& from, const fs::path& to) {
     Sync(from, O_RDWR);
     fs::rename(from, to);
-    Sync(to.has_parent_path() ? to.parent_path() : ".", O_RDONLY | O_DIRECTORY);
+    Sync(FolderOf(to), O_RDONLY | O_DIRECTORY);
 }
 
 }  // namespace orvelle::store

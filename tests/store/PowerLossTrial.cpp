@@ -93,6 +93,15 @@ Outcome Judge(const PowerLossPromise& promise, const Values& values, bool isTold
     return isTold ? Copied : Silent;
 }
 
+// What a loss led to that is not what was saved, in silence; for who looks for the reason.
+void Describe(Outcome outcome, const PowerLossPromise& promise, const Values& values, const StoreFolder& folder) {
+    const char* const names[]{"as saved", "as saved and told", "of the copy", "older in silence", "wrong"};
+    std::clog << promise.Phase << ": " << names[outcome] << ", rows that differ: "
+              << std::ranges::count_if(values, [&](const auto& row) { return row.second != promise.Done.at(row.first); });
+    for (const std::string& sentence : folder.Sentences) std::clog << ". " << sentence;
+    std::clog << std::endl;
+}
+
 Outcome Start(StoreFolder& folder, const PowerLossPromise& promise) {
     alarm(LongestStart);
     Values values;
@@ -102,14 +111,11 @@ Outcome Start(StoreFolder& folder, const PowerLossPromise& promise) {
         folder.Loop.Run(TheCopyIsMade);
     }
     const Outcome outcome = Judge(promise, values, !folder.Sentences.empty());
+    if (outcome != Saved) Describe(outcome, promise, values, folder);
     auto again = folder.Open(PowerLossStore);
-    const bool isSame = Read(again) == values;
-    if (outcome >= SavedAndTold || !isSame) {
-        std::clog << promise.Phase << ":";
-        for (const std::string& sentence : folder.Sentences) std::clog << " " << sentence;
-        std::clog << (isSame ? "" : " The second start found other values.") << std::endl;
-    }
-    return isSame ? outcome : Wrong;
+    if (Read(again) == values) return outcome;
+    std::clog << promise.Phase << ": the second start found other values" << std::endl;
+    return Wrong;
 }
 
 // In a process of its own, which may crash or hang.
