@@ -9,6 +9,7 @@
 #include <iostream>
 #include <iterator>
 
+#include "tests/store/FaultyDisk.h"
 #include "tests/store/PowerLossDisk.h"
 #include "tests/store/PowerLossMarks.h"
 #include "tests/store/StoreFolder.h"
@@ -103,6 +104,7 @@ void Describe(Outcome outcome, const PowerLossPromise& promise, const Values& va
 }
 
 Outcome Start(StoreFolder& folder, const PowerLossPromise& promise) {
+    const FaultyDisk disk;  // it waits for no real one
     alarm(LongestStart);
     Values values;
     {
@@ -110,7 +112,7 @@ Outcome Start(StoreFolder& folder, const PowerLossPromise& promise) {
         values = Read(store);
         folder.Loop.Run(TheCopyIsMade);
     }
-    const Outcome outcome = Judge(promise, values, !folder.Sentences.empty());
+    const Outcome outcome = Judge(promise, values, promise.IsTold || !folder.Sentences.empty());
     if (outcome != Saved) Describe(outcome, promise, values, folder);
     auto again = folder.Open(PowerLossStore);
     if (Read(again) == values) return outcome;
