@@ -10,8 +10,7 @@
 #include <iterator>
 
 #include "tests/store/FaultyDisk.h"
-#include "tests/store/PowerLossDisk.h"
-#include "tests/store/PowerLossMarks.h"
+#include "tests/store/PowerLossStory.h"
 #include "tests/store/StoreFolder.h"
 
 namespace orvelle::store {
@@ -56,49 +55,24 @@ void LayDown(const DiskTree& tree, const StoreFolder& folder) {
             fs::create_directories(folder.Path(path));
 }
 
-// What the store's process did, and what a loss at a moment of it leaves.
-class Story {
-public:
-    // The journal stays for as long as the story.
-    Story(const fs::path& folder, const std::vector<JournaledCall>& journal) : calls(journal), disk(folder) {}
-
-    std::size_t Length() const { return calls.size(); }
-    // So many calls were made. Moments come in their order.
-    void GoOn(std::size_t moment);
-    const PowerLossDisk& Disk() const { return disk; }
-    const PowerLossPromise& Promise() const { return promise; }
-
-private:
-    const std::vector<JournaledCall>& calls;
-    std::size_t made = 0;
-    PowerLossDisk disk;
-    PowerLossPromise promise;
-    std::size_t heard = 0;  // bytes of the marks
-};
-
-void Story::GoOn(std::size_t moment) {
-    for (; made < moment; ++made) disk.Play(calls[made]);
-    const std::string_view marks = disk.BytesOf(MarksName);
-    for (std::size_t end; (end = marks.find('\n', heard)) != std::string_view::npos; heard = end + 1)
-        promise.Hear(marks.substr(heard, end - heard));
-}
-
-enum Outcome { Saved, SavedAndTold, Copied, Silent, Wrong };
+enum class Outcome { Saved, SavedAndTold, Copied, Silent, Wrong };
 
 Outcome Judge(const PowerLossPromise& promise, const Values& values, bool isTold) {
-    if (values == promise.Done || values == promise.Intended) return isTold ? SavedAndTold : Saved;
+    if (values == promise.Done || values == promise.Intended) return isTold ? Outcome::SavedAndTold : Outcome::Saved;
     for (const auto& [row, value] : values)
         if (value != promise.Done.at(row) && !(promise.Intended && value == promise.Intended->at(row)) &&
             std::ranges::none_of(promise.Copies, [&](const Values& copy) { return value == copy.at(row); }))
-            return Wrong;
-    return isTold ? Copied : Silent;
+            return Outcome::Wrong;
+    return isTold ? Outcome::Copied : Outcome::Silent;
 }
 
 // What a loss led to that is not what was saved, in silence; for who looks for the reason.
 void Describe(Outcome outcome, const PowerLossPromise& promise, const Values& values, const StoreFolder& folder) {
     const char* const names[]{"as saved", "as saved and told", "of the copy", "older in silence", "wrong"};
-    std::clog << promise.Phase << ": " << names[outcome] << ", rows that differ: "
-              << std::ranges::count_if(values, [&](const auto& row) { return row.second != promise.Done.at(row.first); });
+    std::clog << promise.Phase << ": " << names[static_cast<int>(outcome)]
+              << ", rows that differ: " << std::ranges::count_if(values, [&](const auto& row) {
+                     return row.second != promise.Done.at(row.first);
+                 });
     for (const std::string& sentence : folder.Sentences) std::clog << ". " << sentence;
     std::clog << std::endl;
 }
@@ -110,14 +84,13 @@ Outcome Start(StoreFolder& folder, const PowerLossPromise& promise) {
     {
         auto store = folder.Open(PowerLossStore);
         values = Read(store);
-        folder.Loop.Run(TheCopyIsMade);
     }
     const Outcome outcome = Judge(promise, values, promise.IsTold || !folder.Sentences.empty());
-    if (outcome != Saved) Describe(outcome, promise, values, folder);
+    if (outcome != Outcome::Saved) Describe(outcome, promise, values, folder);
     auto again = folder.Open(PowerLossStore);
     if (Read(again) == values) return outcome;
     std::clog << promise.Phase << ": the second start found other values" << std::endl;
-    return Wrong;
+    return Outcome::Wrong;
 }
 
 // In a process of its own, which may crash or hang.
@@ -125,19 +98,19 @@ Outcome StartAfterLoss(const DiskTree& tree, const PowerLossPromise& promise) {
     StoreFolder folder;
     LayDown(tree, folder);
     const pid_t child = fork();
-    if (child == 0) _exit(Start(folder, promise));
+    if (child == 0) _exit(static_cast<int>(Start(folder, promise)));
     int status = 0;
     waitpid(child, &status, 0);
-    return WIFEXITED(status) ? static_cast<Outcome>(WEXITSTATUS(status)) : Wrong;
+    return WIFEXITED(status) ? static_cast<Outcome>(WEXITSTATUS(status)) : Outcome::Wrong;
 }
 
 void Count(Outcome outcome, Outcomes& outcomes) {
     int* const counts[]{&outcomes.Saved, &outcomes.SavedAndTold, &outcomes.Copied, &outcomes.Silent, &outcomes.Wrong};
-    ++*counts[outcome];
+    ++*counts[static_cast<int>(outcome)];
 }
 
 // Half of the moments are chosen among all, the others among those that are not within a save, which are few.
-std::vector<std::size_t> MomentsOfLoss(Story story, int times, std::mt19937& random) {
+std::vector<std::size_t> MomentsOfLoss(PowerLossStory story, int times, std::mt19937& random) {
     std::vector<std::size_t> few;
     for (std::size_t moment = 0; moment <= story.Length(); ++moment) {
         story.GoOn(moment);
@@ -158,7 +131,7 @@ bool TryPowerLosses(int times, unsigned seed) {
     fs::create_directory(folder);
     for (std::size_t part = 0; part < PowerLossParts; ++part) RunPart(folder, place.Path("journal"), part);
     const std::vector<JournaledCall> journal = ReadJournal(place.Path("journal"));
-    Story whole(folder, journal);
+    PowerLossStory whole(folder, journal);
     whole.GoOn(whole.Length());
     if (whole.Disk().Now() != TreeAt(folder)) {
         std::cout << "the journal does not tell all that was done" << std::endl;
@@ -169,8 +142,8 @@ bool TryPowerLosses(int times, unsigned seed) {
     std::cout << times << " losses in " << journal.size() << " calls, seed " << seed << std::endl;
     std::vector<std::string> phases;
     std::map<std::string, Outcomes> table;
-    Story played(folder, journal);
-    for (const std::size_t moment : MomentsOfLoss(Story(folder, journal), times, random)) {
+    PowerLossStory played(folder, journal);
+    for (const std::size_t moment : MomentsOfLoss(PowerLossStory(folder, journal), times, random)) {
         played.GoOn(moment);
         const std::string& phase = played.Promise().Phase;
         if (!table.contains(phase)) phases.push_back(phase);
