@@ -5,9 +5,9 @@
 
 #include <algorithm>
 #include <array>
+#include <csignal>
 #include <cstdlib>
 #include <iostream>
-#include <iterator>
 
 #include "tests/store/FaultyDisk.h"
 #include "tests/store/PowerLossStory.h"
@@ -19,9 +19,10 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr unsigned LongestStart = 60;  // seconds, after which a start hangs
+constexpr int FirstStatus = 64;        // the exit statuses that tell an outcome begin here: no fault ends so
 
-// The sanitizers would be the first library themselves.
-void RunPart(const fs::path& folder, const fs::path& journal, std::size_t part) {
+// The sanitizers would be the first library themselves. True if it came to its end, which may be a kill.
+bool RunPart(const fs::path& folder, const fs::path& journal, std::size_t part) {
     const pid_t child = fork();
     if (child == 0) {
         setenv("LD_PRELOAD", POWER_LOSS_WATCH, 1);
@@ -30,7 +31,9 @@ void RunPart(const fs::path& folder, const fs::path& journal, std::size_t part) 
         execl(POWER_LOSS_RUN, POWER_LOSS_RUN, folder.c_str(), std::to_string(part).c_str(), nullptr);
         _exit(1);
     }
-    waitpid(child, nullptr, 0);
+    int status = 0;
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) == 0 : WTERMSIG(status) == SIGKILL;
 }
 
 DiskTree TreeAt(const fs::path& folder) {
@@ -98,10 +101,13 @@ Outcome StartAfterLoss(const DiskTree& tree, const PowerLossPromise& promise) {
     StoreFolder folder;
     LayDown(tree, folder);
     const pid_t child = fork();
-    if (child == 0) _exit(static_cast<int>(Start(folder, promise)));
+    if (child == 0) _exit(FirstStatus + static_cast<int>(Start(folder, promise)));
     int status = 0;
     waitpid(child, &status, 0);
-    return WIFEXITED(status) ? static_cast<Outcome>(WEXITSTATUS(status)) : Outcome::Wrong;
+    if (WIFEXITED(status) && WEXITSTATUS(status) >= FirstStatus)
+        return static_cast<Outcome>(WEXITSTATUS(status) - FirstStatus);
+    std::clog << promise.Phase << ": the start failed, or hung" << std::endl;
+    return Outcome::Wrong;
 }
 
 void Count(Outcome outcome, Outcomes& outcomes) {
@@ -129,7 +135,11 @@ bool TryPowerLosses(int times, unsigned seed) {
     const StoreFolder place;
     const fs::path folder = place.Path("disk");
     fs::create_directory(folder);
-    for (std::size_t part = 0; part < PowerLossParts; ++part) RunPart(folder, place.Path("journal"), part);
+    for (std::size_t part = 0; part < PowerLossParts; ++part)
+        if (!RunPart(folder, place.Path("journal"), part)) {
+            std::cout << "part " << part << " of the run failed" << std::endl;
+            return false;
+        }
     const std::vector<JournaledCall> journal = ReadJournal(place.Path("journal"));
     PowerLossStory whole(folder, journal);
     whole.GoOn(whole.Length());
