@@ -62,7 +62,11 @@ std::error_code MakeOwnFolder(const fs::path& folder) {
         return S_ISDIR(state.st_mode) ? std::error_code() : std::make_error_code(std::errc::not_a_directory);
     if (errno != ENOENT) return LastError();
     if (const std::error_code error = MakeOwnFolder(folder.parent_path())) return error;
-    if (mkdir(folder.c_str(), S_IRWXU) == 0) return {};
+    if (mkdir(folder.c_str(), S_IRWXU) == 0) {
+        // A folder above that can't be read can't be brought to the disk either, and the new one is of use all the same.
+        SyncFolder(folder.parent_path());
+        return {};
+    }
     // Another one made it meanwhile, or a link that leads nowhere bears its name.
     if (errno != EEXIST) return LastError();
     return ErrorUnless(stat(folder.c_str(), &state) == 0);

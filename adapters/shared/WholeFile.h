@@ -14,7 +14,8 @@ namespace orvelle {
 // under a name of its own, the file's with six letters more. The folder is made, too.
 std::error_code WriteWholeFile(const std::filesystem::path& file, std::string_view text);
 
-// Makes what is missing of a folder and those above it. No error for a folder that is there.
+// Makes what is missing of a folder and those above it. No error for a folder that is there. Its name is on the disk
+// when it returns, or what is brought to the disk in it would be lost with the power.
 std::error_code MakeOwnFolder(const std::filesystem::path& folder);
 
 // Both are in one folder. On the disk under its new name when it returns.

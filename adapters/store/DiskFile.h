@@ -25,7 +25,8 @@ FileIdentity IdentityOf(const std::filesystem::path& path);
 // The first bytes, fewer where there are fewer.
 std::string StartOf(const std::filesystem::path& path, std::size_t size);
 
-// Makes what is missing of a folder and those above it, for the user alone whatever the umask.
+// Makes what is missing of a folder and those above it, for the user alone whatever the umask. Its name
+// is on disk when it returns, or what is synced in it would be lost with the power.
 void MakeFolder(const std::filesystem::path& folder);
 // Makes an empty file for the user alone, in the place of another one.
 void MakeEmptyFile(const std::filesystem::path& path);

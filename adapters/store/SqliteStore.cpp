@@ -32,6 +32,7 @@ SqliteStore::SqliteStore(EventLoop& loop, OpenedStore opened, Notice tellUser)
       writer(loop, memory, std::move(opened.File),
              opened.Sentence.empty() ? StoreWriter::Start::Clean : StoreWriter::Start::NotClean, tell) {
     if (!opened.Sentence.empty()) tell(opened.Sentence);
+    writer.Started();
 }
 
 SqliteStore::~SqliteStore() {

@@ -31,9 +31,9 @@ StoreFile::StoreFile(std::filesystem::path storePath, Connection opened, const S
       session(std::make_unique<Session>(std::move(opened))),
       state(storeState),
       lock(std::move(storeLock)),
-      identity(IdentityOf(path)) {
-    lock.NoteStore(state);
-}
+      identity(IdentityOf(path)) {}
+
+void StoreFile::NoteStart() const { lock.NoteStore(state); }
 
 StoreFile::Result StoreFile::Write(const StoredChanges& changes, const StoredTables& values,
                                    Long patienceMilliseconds) try {

@@ -29,6 +29,8 @@ public:
     StoreFile(std::filesystem::path path, Connection opened, const StoreState& state, StoreLock lock);
 
     const std::filesystem::path& Path() const { return path; }
+    // Called when the user was told what the start found: a loss before this leaves it to the next start to tell.
+    void NoteStart() const;
     // Writes all or nothing, on disk when it returns. It waits so long for a lock that somebody else holds; `values`
     // are all that the store holds then.
     Result Write(const StoredChanges& changes, const StoredTables& values, Long patienceMilliseconds);

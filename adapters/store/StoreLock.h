@@ -29,7 +29,8 @@ public:
     // None where nothing was noted, or where it can't be read: then nothing can be said.
     std::optional<Mark> LastNoted() const;
     void Note(const StoreState& state) const;
-    // At the start, and for a new store, which is on disk before and whose note is then as well.
+    // At the start, when what it found is told, and for a new store, which is on disk before and whose note is then as
+    // well.
     void NoteStore(const StoreState& state) const;
 
 private:

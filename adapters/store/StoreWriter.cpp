@@ -26,6 +26,10 @@ StoreWriter::StoreWriter(EventLoop& eventLoop, StoreMemory& storeMemory, std::un
     if (file && start == Start::Clean) CopyLater(PauseBeforeCopy);
 }
 
+void StoreWriter::Started() {
+    if (file) file->NoteStart();
+}
+
 // A try that is due comes by itself; every handler in between would only meet the same lock.
 void StoreWriter::HandlerEnded() {
     if (!file || isWaiting || Write(NoPatience)) return;

@@ -22,6 +22,8 @@ public:
     // The memory stays for as long as the writer. `file` is null where nothing can be written.
     StoreWriter(EventLoop& loop, StoreMemory& memory, std::unique_ptr<StoreFile> file, Start start, Notice tell);
 
+    // What the start found is told.
+    void Started();
     void HandlerEnded();
     // The last try, which may take a second, and the end of the file. A sentence on what is lost, or "".
     std::string Close();

@@ -4,29 +4,14 @@
 // left out. Used by the trial of losses.
 #pragma once
 
+#include <map>
 #include <memory>
+#include <string>
 
-#include "tests/store/PowerLossFile.h"
+#include "tests/store/PowerLossFolder.h"
 #include "tests/store/PowerLossJournal.h"
 
 namespace orvelle::store {
-
-// Each entry of `later` is the whole folder after one more change.
-class PowerLossFolder : public PowerLossNode {
-public:
-    using Entries = std::map<std::string, std::shared_ptr<PowerLossNode>>;
-
-    const Entries& Now() const { return later.empty() ? synced : later.back(); }
-    void Change(Entries entries) { later.push_back(std::move(entries)); }
-
-    void Sync() override;
-    void AddNow(const std::filesystem::path& path, DiskTree& tree) const override;
-    void AddAfterLoss(const std::filesystem::path& path, std::mt19937& random, DiskTree& tree) const override;
-
-private:
-    Entries synced;
-    std::vector<Entries> later;
-};
 
 class PowerLossDisk {
 public:

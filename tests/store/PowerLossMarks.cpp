@@ -49,16 +49,19 @@ void PowerLossPromise::Hear(std::string_view line) {
     const std::string rest(line.substr(word.size() + 1));
     if (word == "phase") {
         Phase = rest;
+    } else if (word == "told") {
+        IsTold = true;
     } else if (word == "holds") {
         Done = NoRows();
         Take(rest, Done);
-        Intended.reset();
+        IsTold = false;
     } else if (word == "intends") {
         Intended = Done;
         Take(rest, *Intended);
     } else if (word == "done") {
         Done = std::move(*Intended);
         Intended.reset();
+        IsTold = false;
     } else if (word == "copied") {
         Copies = {std::move(Copies.back()), Done};
     }

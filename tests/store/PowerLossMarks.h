@@ -20,7 +20,8 @@ public:
     ~PowerLossMarks();
 
     void Phase(const std::string& name) const { Put("phase", name); }
-    // The store was opened, has told what there was to tell, and holds these.
+    void Told() const { Put("told", ""); }  // a sentence
+    // The store was opened, and holds these.
     void Holds(const Values& values) const;
     void Intends(const Values& unit) const;
     void Done() const { Put("done", ""); }
@@ -34,9 +35,10 @@ private:
 
 // What the marks promise, as far as they were heard.
 struct PowerLossPromise {
-    std::string Phase;
+    std::string Phase = "before the first run";
     Values Done = NoRows();
-    std::optional<Values> Intended{};    // the unit that was being written: all of it is there, or nothing
+    bool IsTold = false;  // what the store does not hold any more was told, and what it holds is not known yet
+    std::optional<Values> Intended{};  // the unit that was being written: all of it is there, or nothing
     Units Copies{NoRows(), NoRows()};  // the last two that were made
 
     void Hear(std::string_view line);

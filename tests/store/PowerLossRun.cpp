@@ -7,7 +7,6 @@
 #include <array>
 #include <csignal>
 #include <functional>
-#include <iostream>
 
 #include "tests/shared/HandLoop.h"
 #include "tests/store/PowerLossMarks.h"
@@ -56,7 +55,10 @@ void Play(const Part& part, const fs::path& folder) {
     const fs::path file = folder / PowerLossStore;
     const PowerLossMarks marks(folder);
     const std::string name = part.Name;
-    const auto save = [&](SqliteStore& store, const Values& unit) {
+    // Values of each run are its own, so that older ones show.
+    const auto save = [&](SqliteStore& store, Values unit) {
+        for (auto& [row, value] : unit)
+            if (!value.empty()) value += " of " + name;
         marks.Intends(unit);
         Write(store, unit);
         marks.Done();
@@ -65,7 +67,7 @@ void Play(const Part& part, const fs::path& folder) {
     part.HarmBefore(file);
     HandLoop loop;
     {
-        SqliteStore store(loop, file, [](const std::string& sentence) { std::clog << sentence << std::endl; });
+        SqliteStore store(loop, file, [&](const std::string&) { marks.Told(); });
         marks.Holds(Read(store));
         marks.Phase(name + ", the copy");
         loop.Run(TheCopyIsMade);

@@ -5,12 +5,12 @@
 
 #include <algorithm>
 #include <array>
+#include <csignal>
 #include <cstdlib>
 #include <iostream>
-#include <iterator>
 
-#include "tests/store/PowerLossDisk.h"
-#include "tests/store/PowerLossMarks.h"
+#include "tests/store/FaultyDisk.h"
+#include "tests/store/PowerLossStory.h"
 #include "tests/store/StoreFolder.h"
 
 namespace orvelle::store {
@@ -19,9 +19,10 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr unsigned LongestStart = 60;  // seconds, after which a start hangs
+constexpr int FirstStatus = 64;        // the exit statuses that tell an outcome begin here: no fault ends so
 
-// The sanitizers would be the first library themselves.
-void RunPart(const fs::path& folder, const fs::path& journal, std::size_t part) {
+// The sanitizers would be the first library themselves. True if it came to its end, which may be a kill.
+bool RunPart(const fs::path& folder, const fs::path& journal, std::size_t part) {
     const pid_t child = fork();
     if (child == 0) {
         setenv("LD_PRELOAD", POWER_LOSS_WATCH, 1);
@@ -30,7 +31,9 @@ void RunPart(const fs::path& folder, const fs::path& journal, std::size_t part) 
         execl(POWER_LOSS_RUN, POWER_LOSS_RUN, folder.c_str(), std::to_string(part).c_str(), nullptr);
         _exit(1);
     }
-    waitpid(child, nullptr, 0);
+    int status = 0;
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) == 0 : WTERMSIG(status) == SIGKILL;
 }
 
 DiskTree TreeAt(const fs::path& folder) {
@@ -55,61 +58,42 @@ void LayDown(const DiskTree& tree, const StoreFolder& folder) {
             fs::create_directories(folder.Path(path));
 }
 
-// What the store's process did, and what a loss at a moment of it leaves.
-class Story {
-public:
-    // The journal stays for as long as the story.
-    Story(const fs::path& folder, const std::vector<JournaledCall>& journal) : calls(journal), disk(folder) {}
-
-    std::size_t Length() const { return calls.size(); }
-    // So many calls were made. Moments come in their order.
-    void GoOn(std::size_t moment);
-    const PowerLossDisk& Disk() const { return disk; }
-    const PowerLossPromise& Promise() const { return promise; }
-
-private:
-    const std::vector<JournaledCall>& calls;
-    std::size_t made = 0;
-    PowerLossDisk disk;
-    PowerLossPromise promise;
-    std::size_t heard = 0;  // bytes of the marks
-};
-
-void Story::GoOn(std::size_t moment) {
-    for (; made < moment; ++made) disk.Play(calls[made]);
-    const std::string_view marks = disk.BytesOf(MarksName);
-    for (std::size_t end; (end = marks.find('\n', heard)) != std::string_view::npos; heard = end + 1)
-        promise.Hear(marks.substr(heard, end - heard));
-}
-
-enum Outcome { Saved, SavedAndTold, Copied, Silent, Wrong };
+enum class Outcome { Saved, SavedAndTold, Copied, Silent, Wrong };
 
 Outcome Judge(const PowerLossPromise& promise, const Values& values, bool isTold) {
-    if (values == promise.Done || values == promise.Intended) return isTold ? SavedAndTold : Saved;
+    if (values == promise.Done || values == promise.Intended) return isTold ? Outcome::SavedAndTold : Outcome::Saved;
     for (const auto& [row, value] : values)
         if (value != promise.Done.at(row) && !(promise.Intended && value == promise.Intended->at(row)) &&
             std::ranges::none_of(promise.Copies, [&](const Values& copy) { return value == copy.at(row); }))
-            return Wrong;
-    return isTold ? Copied : Silent;
+            return Outcome::Wrong;
+    return isTold ? Outcome::Copied : Outcome::Silent;
+}
+
+// What a loss led to that is not what was saved, in silence; for who looks for the reason.
+void Describe(Outcome outcome, const PowerLossPromise& promise, const Values& values, const StoreFolder& folder) {
+    const char* const names[]{"as saved", "as saved and told", "of the copy", "older in silence", "wrong"};
+    std::clog << promise.Phase << ": " << names[static_cast<int>(outcome)]
+              << ", rows that differ: " << std::ranges::count_if(values, [&](const auto& row) {
+                     return row.second != promise.Done.at(row.first);
+                 });
+    for (const std::string& sentence : folder.Sentences) std::clog << ". " << sentence;
+    std::clog << std::endl;
 }
 
 Outcome Start(StoreFolder& folder, const PowerLossPromise& promise) {
+    const FaultyDisk disk;  // it waits for no real one
     alarm(LongestStart);
     Values values;
     {
         auto store = folder.Open(PowerLossStore);
         values = Read(store);
-        folder.Loop.Run(TheCopyIsMade);
     }
-    const Outcome outcome = Judge(promise, values, !folder.Sentences.empty());
+    const Outcome outcome = Judge(promise, values, promise.IsTold || !folder.Sentences.empty());
+    if (outcome != Outcome::Saved) Describe(outcome, promise, values, folder);
     auto again = folder.Open(PowerLossStore);
-    const bool isSame = Read(again) == values;
-    if (outcome >= SavedAndTold || !isSame) {
-        std::clog << promise.Phase << ":";
-        for (const std::string& sentence : folder.Sentences) std::clog << " " << sentence;
-        std::clog << (isSame ? "" : " The second start found other values.") << std::endl;
-    }
-    return isSame ? outcome : Wrong;
+    if (Read(again) == values) return outcome;
+    std::clog << promise.Phase << ": the second start found other values" << std::endl;
+    return Outcome::Wrong;
 }
 
 // In a process of its own, which may crash or hang.
@@ -117,19 +101,22 @@ Outcome StartAfterLoss(const DiskTree& tree, const PowerLossPromise& promise) {
     StoreFolder folder;
     LayDown(tree, folder);
     const pid_t child = fork();
-    if (child == 0) _exit(Start(folder, promise));
+    if (child == 0) _exit(FirstStatus + static_cast<int>(Start(folder, promise)));
     int status = 0;
     waitpid(child, &status, 0);
-    return WIFEXITED(status) ? static_cast<Outcome>(WEXITSTATUS(status)) : Wrong;
+    if (WIFEXITED(status) && WEXITSTATUS(status) >= FirstStatus)
+        return static_cast<Outcome>(WEXITSTATUS(status) - FirstStatus);
+    std::clog << promise.Phase << ": the start failed, or hung" << std::endl;
+    return Outcome::Wrong;
 }
 
 void Count(Outcome outcome, Outcomes& outcomes) {
     int* const counts[]{&outcomes.Saved, &outcomes.SavedAndTold, &outcomes.Copied, &outcomes.Silent, &outcomes.Wrong};
-    ++*counts[outcome];
+    ++*counts[static_cast<int>(outcome)];
 }
 
 // Half of the moments are chosen among all, the others among those that are not within a save, which are few.
-std::vector<std::size_t> MomentsOfLoss(Story story, int times, std::mt19937& random) {
+std::vector<std::size_t> MomentsOfLoss(PowerLossStory story, int times, std::mt19937& random) {
     std::vector<std::size_t> few;
     for (std::size_t moment = 0; moment <= story.Length(); ++moment) {
         story.GoOn(moment);
@@ -148,9 +135,13 @@ bool TryPowerLosses(int times, unsigned seed) {
     const StoreFolder place;
     const fs::path folder = place.Path("disk");
     fs::create_directory(folder);
-    for (std::size_t part = 0; part < PowerLossParts; ++part) RunPart(folder, place.Path("journal"), part);
+    for (std::size_t part = 0; part < PowerLossParts; ++part)
+        if (!RunPart(folder, place.Path("journal"), part)) {
+            std::cout << "part " << part << " of the run failed" << std::endl;
+            return false;
+        }
     const std::vector<JournaledCall> journal = ReadJournal(place.Path("journal"));
-    Story whole(folder, journal);
+    PowerLossStory whole(folder, journal);
     whole.GoOn(whole.Length());
     if (whole.Disk().Now() != TreeAt(folder)) {
         std::cout << "the journal does not tell all that was done" << std::endl;
@@ -161,8 +152,8 @@ bool TryPowerLosses(int times, unsigned seed) {
     std::cout << times << " losses in " << journal.size() << " calls, seed " << seed << std::endl;
     std::vector<std::string> phases;
     std::map<std::string, Outcomes> table;
-    Story played(folder, journal);
-    for (const std::size_t moment : MomentsOfLoss(Story(folder, journal), times, random)) {
+    PowerLossStory played(folder, journal);
+    for (const std::size_t moment : MomentsOfLoss(PowerLossStory(folder, journal), times, random)) {
         played.GoOn(moment);
         const std::string& phase = played.Promise().Phase;
         if (!table.contains(phase)) phases.push_back(phase);

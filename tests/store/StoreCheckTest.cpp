@@ -152,6 +152,18 @@ TEST_F(StoreCheckTest, AFileThatCannotBeReadIsReplacedByTheCopy) {
     EXPECT_EQ(folder.Open().GetSettingLong("OrvelleCP", "Top", 1), 4);
 }
 
+// A loss of power in between leaves it to the next start to tell.
+TEST_F(StoreCheckTest, WhatAStartFoundIsToldBeforeItIsNoted) {
+    FillAndCopy();
+    WriteBytes(folder.Path(), "damaged");
+    const fs::path lock = folder.Path("OrvelleCP.sqlite.lock");
+    const std::string noted = BytesOf(lock);
+    std::string notedAtTheTelling;
+    const SqliteStore store(folder.Loop, folder.Path(), [&](const std::string&) { notedAtTheTelling = BytesOf(lock); });
+    EXPECT_EQ(notedAtTheTelling, noted);
+    EXPECT_NE(BytesOf(lock), noted);
+}
+
 TEST_F(StoreCheckTest, AFileThatIsGoneIsReplacedByTheCopy) {
     FillAndCopy();
     fs::remove(folder.Path());
