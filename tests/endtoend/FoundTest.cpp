@@ -15,6 +15,9 @@ namespace orvelle {
 
 namespace {
 
+// As the system reads addresses; a host is announced by a name with a dot that isn't a whole address.
+constexpr const char* ThisComputer = "127.1";
+
 // The network of the Avahi tests, with a loop of its own that nobody needs here.
 class Network : public avahi::AvahiRig {
 public:
@@ -66,7 +69,7 @@ protected:
 TEST_F(FoundTest, ASetUpThatHasMovedIsReachedByItsNameAndServersAreListed) {
     network.StartBus();
     network.StartDaemon();
-    const auto test = Network::Show("Test", "localhost", broker.Port());
+    const auto test = Network::Show("Test", ThisComputer, broker.Port());
     const auto club = Network::Show("Club", "club.example", 8884);
     mqtt::SetUpSetting setUp = broker.SetUpOf(2);
     setUp.Host = "no-such-host.invalid";
@@ -75,7 +78,7 @@ TEST_F(FoundTest, ASetUpThatHasMovedIsReachedByItsNameAndServersAreListed) {
     house.Open();
     EXPECT_TRUE(IsConnected());
     EXPECT_TRUE(ComesTrue([this] { return panel.VelmarcServer.IndexOf("club.example") >= 0; }));
-    EXPECT_TRUE(ComesTrue([this] { return panel.VelmarcServer.IndexOf("localhost") >= 0; }));
+    EXPECT_TRUE(ComesTrue([this] { return panel.VelmarcServer.IndexOf(ThisComputer) >= 0; }));
     EXPECT_TRUE(ComesTrue([this] { return panel.TessalyServer.IndexOf("club.example") >= 0; }));
 }
 
