@@ -16,8 +16,8 @@
 #include <thread>
 #include <vector>
 
+#include "apps/UserStrokes.h"
 #include "bench/PressWatch.h"
-#include "bench/UserKeyboard.h"
 
 namespace orvelle {
 
@@ -40,19 +40,19 @@ void AwaitSilence(const PressWatch& watch) {
     }
 }
 
-void AwaitWay(UserKeyboard& keyboard, PressWatch& watch) {
+void AwaitWay(UserStrokes& user, PressWatch& watch) {
     for (int probes = 0; watch.Presses().empty(); ++probes) {
         if (probes == MostProbes) throw std::runtime_error("no key comes through");
-        keyboard.Strike(KeyStroke::Down);
+        user.Press(KeyA);
         std::this_thread::sleep_for(Probe / 2);
-        keyboard.Strike(KeyStroke::Up);
+        user.Release(KeyA);
         std::this_thread::sleep_for(Probe / 2);
     }
     AwaitSilence(watch);
     watch.Begin();
 }
 
-Moments Strike(UserKeyboard& keyboard, std::size_t count, milliseconds pace, milliseconds hold) {
+Moments Strike(UserStrokes& user, std::size_t count, milliseconds pace, milliseconds hold) {
     // The slack of a usual timer would blur the pace.
     prctl(PR_SET_TIMERSLACK, 1);
     Moments sent;
@@ -60,9 +60,9 @@ Moments Strike(UserKeyboard& keyboard, std::size_t count, milliseconds pace, mil
     for (auto next = Clock::now() + pace; sent.size() < count; next += pace) {
         std::this_thread::sleep_until(next);
         sent.push_back(Clock::now());
-        keyboard.Strike(KeyStroke::Down);
+        user.Press(KeyA);
         std::this_thread::sleep_until(next + hold);
-        keyboard.Strike(KeyStroke::Up);
+        user.Release(KeyA);
     }
     return sent;
 }
@@ -105,10 +105,10 @@ void Print(const Times& times, int stuck) {
 }
 
 void Measure(const std::string& from, const std::string& to, std::size_t count, milliseconds pace, milliseconds hold) {
-    UserKeyboard keyboard(from, KeyA);
+    UserStrokes user(from);
     PressWatch watch(to);
-    AwaitWay(keyboard, watch);
-    const Moments sent = Strike(keyboard, count, pace, hold);
+    AwaitWay(user, watch);
+    const Moments sent = Strike(user, count, pace, hold);
     AwaitSilence(watch);
     Print(Compare(sent, watch.Presses()), watch.KeysDown());
 }

@@ -1,6 +1,6 @@
-// What the broker keeps of sessions and records, as it brought it on one connection, for a line that comes later. A
-// computer can't make us keep more than bounds::RecordsOfOneComputer and bounds::BytesOfOneComputer. Used by
-// PanelAtBroker.
+// What the broker keeps of sessions and records, as it brought it on one connection, for whoever asks later. A computer
+// can't make us keep more than bounds::RecordsOfOneComputer and bounds::BytesOfOneComputer. Used by the panel's and the
+// simulator's member.
 #pragma once
 
 #include <cstddef>

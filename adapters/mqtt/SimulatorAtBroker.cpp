@@ -31,7 +31,7 @@ SimulatorAtBroker::SimulatorAtBroker(EventLoop& eventLoop, std::function<Presenc
     };
     member.Going = [this] { member.Say(TopicKind::Session, "", 1, Retain::Yes); };
     member.Lost = [this] {
-        records.clear();
+        kept.Clear();
         changes.Mark();
     };
     member.OthersChanged = [this] { changes.Mark(); };
@@ -76,21 +76,19 @@ void SimulatorAtBroker::SaySession(const SessionSetting& said) {
 
 std::map<Long, RecordContent> SimulatorAtBroker::Records() const {
     std::map<Long, RecordContent> present;
-    for (const auto& [id, content] : records)
-        if (Others().IsThere({IdentityOf(id), Program::Panel})) present.emplace(id, content);
+    for (const auto& [name, payload] : kept.All()) {
+        const auto topic = ReadTopic(name);
+        const auto record = ReadRecord(payload);
+        if (topic && record && Others().IsThere({topic->Identity, Program::Panel}))
+            present.emplace(RecordId(topic->Identity, topic->Record), *record);
+    }
     return present;
 }
 
 void SimulatorAtBroker::Hear(const Topic& topic, const std::string& payload) {
     if (topic.Kind == TopicKind::Record) {
-        const Long id = RecordId(topic.Identity, topic.Record);
-        const auto record = payload.empty() ? std::nullopt : ReadRecord(payload);
-        if (record)
-            records.insert_or_assign(id, *record);
-        else if (payload.empty())
-            records.erase(id);
-        else
-            member.CountRefused();
+        const bool isWell = payload.empty() || ReadRecord(payload);
+        if (!isWell || !kept.Take(topic, payload)) member.CountRefused();
         changes.Mark();
     } else if (topic.Kind == TopicKind::Play) {
         const auto request = ReadPlay(payload);

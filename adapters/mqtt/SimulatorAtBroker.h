@@ -8,6 +8,7 @@
 #include <string>
 
 #include "adapters/mqtt/Member.h"
+#include "adapters/mqtt/RetainedMessages.h"
 #include "adapters/shared/Changes.h"
 #include "platform/Observers.h"
 
@@ -58,7 +59,7 @@ private:
     Member member;
     InputMessage input{0, {}};
     SessionSetting session;
-    std::map<Long, RecordContent> records;
+    RetainedMessages kept;  // records
     Ticket again;
 };
 
