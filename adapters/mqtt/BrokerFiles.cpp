@@ -22,28 +22,27 @@ std::string Keys(const std::map<int, Key>& keys) {
     return lines;
 }
 
-// Its notices name the clients that come, by which those of a removed computer are known.
+// Its notices name the clients that come, by which those of a removed computer are known. It takes messages of twice the
+// set-up's longest: what is merely too long is for the receivers to refuse and count.
 std::string Configuration(const fs::path& folder, int port) {
-    std::string lines =
-        "listener " + std::to_string(port) +
-        "\n"
-        "allow_anonymous false\n"
-        "use_identity_as_username true\n"
-        "psk_hint orvelle\n"
-        "psk_file " +
-        (folder / "keys").string() + "\nacl_file " + (folder / "access").string() +
-        "\n"
-        "persistence false\n"
-        "set_tcp_nodelay true\n"
-        // Twice the longest of the set-up: what is but too long is for the receivers to refuse and count.
-        "message_size_limit 131072\n"
-        "connection_messages true\n"
-        "log_dest stderr\n"
-        "log_timestamp false\n"
-        "log_type error\n"
-        "log_type warning\n"
-        "log_type notice\n"
-        "log_type information\n";
+    std::string lines = "listener " + std::to_string(port) +
+                        "\n"
+                        "allow_anonymous false\n"
+                        "use_identity_as_username true\n"
+                        "psk_hint orvelle\n"
+                        "psk_file " +
+                        (folder / "keys").string() + "\nacl_file " + (folder / "access").string() +
+                        "\n"
+                        "persistence false\n"
+                        "set_tcp_nodelay true\n"
+                        "message_size_limit 131072\n"
+                        "connection_messages true\n"
+                        "log_dest stderr\n"
+                        "log_timestamp false\n"
+                        "log_type error\n"
+                        "log_type warning\n"
+                        "log_type notice\n"
+                        "log_type information\n";
     // It would become another user, who may read none of these files.
     if (geteuid() == 0) lines += "user root\n";
     return lines;
