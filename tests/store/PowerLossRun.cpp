@@ -56,7 +56,8 @@ void Play(const Part& part, const fs::path& folder) {
     const PowerLossMarks marks(folder);
     const std::string name = part.Name;
     // Values of each run are its own, so that older ones show.
-    const auto save = [&](SqliteStore& store, Values unit) {
+    const auto save = [&](SqliteStore& store, const Values& anyRuns) {
+        Values unit = anyRuns;
         for (auto& [row, value] : unit)
             if (!value.empty()) value += " of " + name;
         marks.Intends(unit);

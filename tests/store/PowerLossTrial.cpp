@@ -62,10 +62,12 @@ enum class Outcome { Saved, SavedAndTold, Copied, Silent, Wrong };
 
 Outcome Judge(const PowerLossPromise& promise, const Values& values, bool isTold) {
     if (values == promise.Done || values == promise.Intended) return isTold ? Outcome::SavedAndTold : Outcome::Saved;
-    for (const auto& [row, value] : values)
-        if (value != promise.Done.at(row) && !(promise.Intended && value == promise.Intended->at(row)) &&
-            std::ranges::none_of(promise.Copies, [&](const Values& copy) { return value == copy.at(row); }))
-            return Outcome::Wrong;
+    const auto isKnown = [&](const auto& row) {
+        const auto isIn = [&](const Values& known) { return row.second == known.at(row.first); };
+        return isIn(promise.Done) || (promise.Intended && isIn(*promise.Intended)) ||
+               std::ranges::any_of(promise.Copies, isIn);
+    };
+    if (!std::ranges::all_of(values, isKnown)) return Outcome::Wrong;
     return isTold ? Outcome::Copied : Outcome::Silent;
 }
 
