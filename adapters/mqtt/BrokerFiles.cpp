@@ -22,8 +22,8 @@ std::string Keys(const std::map<int, Key>& keys) {
     return lines;
 }
 
-// Its notices name the clients that come, by which those of a removed computer are known. It takes messages of twice the
-// set-up's longest: what is merely too long is for the receivers to refuse and count.
+// Its notices name the clients that come, by which those of a removed computer are known. It takes messages of twice
+// the set-up's longest: what is merely too long is for the receivers to refuse and count.
 std::string Configuration(const fs::path& folder, int port) {
     std::string lines = "listener " + std::to_string(port) +
                         "\n"
