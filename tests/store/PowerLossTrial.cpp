@@ -125,6 +125,7 @@ std::vector<std::size_t> MomentsOfLoss(PowerLossStory story, int times, std::mt1
         if (!story.Promise().Phase.ends_with("saves")) few.push_back(moment);
     }
     std::vector<std::size_t> moments;
+    moments.reserve(static_cast<std::size_t>(times));
     for (int time = 0; time < times; ++time)
         moments.push_back(time % 2 == 0 ? random() % (story.Length() + 1) : few[random() % few.size()]);
     std::ranges::sort(moments);
