@@ -50,7 +50,7 @@ int PlayOthers(int records, const std::vector<std::string>& setUps) {
         mqtt::PanelAtBroker& panel = panels.emplace_back(loop, Described);
         for (int number = owner; number < records; number += Owners)
             panel.SayRecord(number / Owners + 1, RecordOfRole(number));
-        panel.Open(setUp, setUp.Host);
+        panel.Open(setUp, {setUp.Host, setUp.Port});
     }
     loop.Run();
     return 0;
