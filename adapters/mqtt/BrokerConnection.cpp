@@ -15,9 +15,12 @@ namespace orvelle::mqtt {
 namespace {
 
 constexpr Long AttemptMilliseconds = 3000;  // for connection, protection, answer and subscriptions together
-constexpr Long FirstPause = 200;            // milliseconds between two attempts, doubled up to the last
+// Milliseconds between two attempts, doubled from the first to the last. After a loss the next attempt comes at once:
+// so it shows whether the broker ended, which isn't back by then.
+constexpr Long FirstPause = 50;
 constexpr Long LastPause = 2000;
-// What ends a connection sooner may be another program of its name. mosquitto tells it to nobody.
+// What ends a connection sooner, and leaves the broker there, may be another program of its name. mosquitto tells it to
+// nobody.
 constexpr std::chrono::milliseconds ShortLife{3000};
 constexpr int KeepAliveSeconds = 5;     // after half as much again the broker counts a silent client as gone
 constexpr int MessagesOfOneTurn = 100;  // then others of the loop have their turn
@@ -260,7 +263,6 @@ void BrokerConnection::Deliver() {
 void BrokerConnection::Fail(BrokerTrouble why) {
     const bool wasUp = isUp;
     const bool isShort = wasUp && std::chrono::steady_clock::now() - upAt < ShortLife;
-    if (wasUp && !isShort) pause = FirstPause;
     shortLives = isShort ? shortLives + 1 : 0;
     if (shortLives > 1) why = BrokerTrouble::TakenOver;
     Hang();
@@ -271,9 +273,12 @@ void BrokerConnection::Fail(BrokerTrouble why) {
         return;
     }
     // Two programs of one name would end each other without a pause.
-    if (why == BrokerTrouble::TakenOver) pause = LastPause;
+    if (why == BrokerTrouble::TakenOver)
+        pause = LastPause;
+    else if (wasUp)
+        pause = 0;
     again = loop.After(pause, [this] { Try(); });
-    pause = std::min(2 * pause, LastPause);
+    pause = std::clamp(2 * pause, FirstPause, LastPause);
     if (wasUp) Lost();
     if (isOpen) Failed(why);
 }

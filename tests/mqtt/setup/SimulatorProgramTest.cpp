@@ -9,6 +9,7 @@
 
 #include "adapters/mqtt/JoinCode.h"
 #include "adapters/mqtt/OwnSetUp.h"
+#include "adapters/shared/WholeFile.h"
 #include "tests/linux/WaitUntil.h"
 #include "tests/mqtt/OwnFolder.h"
 #include "tests/mqtt/broker/BrokerProcess.h"
@@ -321,7 +322,7 @@ TEST_F(GuestTest, ItLeavesAndComesWithItsFileWhileItRuns) {
     EXPECT_TRUE(Until([&] { return !member.AtBroker.Others().IsThere({3, Program::Simulator}); }));
     Join(4);
     EXPECT_TRUE(Until([&] { return member.AtBroker.Others().IsThere({4, Program::Simulator}); }));
-    std::ofstream(file) << "damaged";
+    EXPECT_FALSE(WriteWholeFile(file, "damaged"));
     EXPECT_TRUE(Until([&] { return !member.AtBroker.Others().IsThere({4, Program::Simulator}); }));
     program->Kill(SIGTERM);
     EXPECT_EQ(program->Wait(), 0);
