@@ -2,7 +2,6 @@
 
 #include <QCloseEvent>
 #include <QMessageBox>
-#include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -11,6 +10,7 @@
 #include "apps/SimulatorLinks.h"
 #include "apps/SimulatorProgram.h"
 #include "apps/SimulatorSetUpPage.h"
+#include "deck/fields/ScrolledPage.h"
 #include "deck/pages/NetworkPage.h"
 #include "platform/sides/FarSides.h"
 
@@ -19,20 +19,6 @@ namespace orvelle {
 namespace {
 
 constexpr QSize WantedSize(1000, 640);
-
-// On a small screen, or with large letters, the page is scrolled, never clipped.
-void AddPage(QTabWidget& tabs, QWidget* page, const QString& title) {
-    auto* frame = new QWidget;
-    auto* margins = new QVBoxLayout(frame);
-    margins->setContentsMargins(2 * Unit, 2 * Unit, 2 * Unit, 2 * Unit);
-    margins->addWidget(page);
-    auto* area = new QScrollArea;
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setWidget(frame);
-    tabs.addTab(area, title);
-}
 
 }  // namespace
 
@@ -44,8 +30,8 @@ SimulatorWindow::SimulatorWindow(SimulatorProgram& simulatorProgram)
     auto* tabs = new QTabWidget;
     tabs->setObjectName("SimulatorPages");
     tabs->setDocumentMode(true);
-    AddPage(*tabs, setUp, "Set-&up");
-    AddPage(*tabs, new deck::NetworkPage({.Network = &program.Network}), "Session and radi&os");
+    deck::AddScrolledPage(*tabs, setUp, "Set-&up");
+    deck::AddScrolledPage(*tabs, new deck::NetworkPage({.Network = &program.Network}), "Session and radi&os");
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(tabs);

@@ -4,12 +4,12 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScreen>
-#include <QScrollArea>
 #include <QTabWidget>
 #include <algorithm>
 
 #include "adapters/looks/Text.h"
 #include "deck/fields/Fields.h"
+#include "deck/fields/ScrolledPage.h"
 #include "deck/fields/Section.h"
 #include "deck/join/JoinDialog.h"
 #include "deck/pages/FaultsPage.h"
@@ -28,20 +28,6 @@ namespace {
 constexpr QSize WantedSize(940, 760);
 // What a window manager may put around the window; how much it really is is known only after the window was shown.
 constexpr QSize FrameAllowance(16, 44);
-
-// On a screen too small for the page, or with letters too large, the page is scrolled, never clipped.
-void AddPage(QTabWidget& tabs, QWidget* page, const QString& title) {
-    auto* frame = new QWidget;
-    auto* margins = new QVBoxLayout(frame);
-    margins->setContentsMargins(2 * Unit, 2 * Unit, 2 * Unit, 2 * Unit);
-    margins->addWidget(page);
-    auto* area = new QScrollArea;
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setWidget(frame);
-    tabs.addTab(area, title);
-}
 
 QWidget* SideBySide(std::initializer_list<QWidget*> columns) {
     auto* page = new QWidget;
@@ -67,9 +53,9 @@ DeckWindow::DeckWindow(const FarSides& farSides) : sides(farSides) {
     tabs->setDocumentMode(true);
     if (sides.Simulator) simulator = new SimulatorPage(sides);
     NetworkPage* network = sides.Network ? new NetworkPage(sides) : nullptr;
-    if (simulator || network) AddPage(*tabs, SideBySide({simulator, network}), "Fl&ight");
-    if (sides.VoiceEngine) AddPage(*tabs, new VoicePage(sides), "Voice &engine");
-    AddPage(*tabs, new FaultsPage(sides), "Fa&ults");
+    if (simulator || network) AddScrolledPage(*tabs, SideBySide({simulator, network}), "Fl&ight");
+    if (sides.VoiceEngine) AddScrolledPage(*tabs, new VoicePage(sides), "Voice &engine");
+    AddScrolledPage(*tabs, new FaultsPage(sides), "Fa&ults");
     if (sides.Join)
         tabs->setCornerWidget(NewButton("JoinASetUp", "&Join a set-up ...",
                                         "Let this computer work together with others, instead of practising alone",

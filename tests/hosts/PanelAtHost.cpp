@@ -7,12 +7,10 @@
 //   want ROLE | leave ROLE     takes the role whenever nobody holds it, or does no more
 //   set ROLE INDEX VALUE       in the record of that role, own or foreign
 //   sound NAME                 asks for a sound
-#include <cstdlib>
 #include <map>
 
 #include "adapters/ends/FrameworkEnd.h"
 #include "adapters/ends/SimulatorEnd.h"
-#include "adapters/linux/PollEventLoop.h"
 #include "adapters/mqtt/BrokerFrameworkLine.h"
 #include "adapters/mqtt/BrokerSimulatorLine.h"
 #include "platform/VoiceRoles.h"
@@ -49,6 +47,9 @@ public:
         velmarc.ChooseLine();
         tessaly.LinkStart();
     }
+    PanelAtHost(const PanelAtHost&) = delete;
+    PanelAtHost& operator=(const PanelAtHost&) = delete;
+    ~PanelAtHost() { brokers.SayGoodbye(); }
 
     void Take(std::istringstream& line) {
         std::string command, name;
@@ -65,7 +66,6 @@ public:
             velmarc.PlaySound(name);
         }
     }
-    void SayGoodbye() { brokers.SayGoodbye(); }
 
 private:
     void TellOfInput() {
@@ -145,17 +145,5 @@ private:
 }  // namespace orvelle::hosts
 
 int main(int count, char** words) {
-    using namespace orvelle;
-    const auto [setUp, sentence] = mqtt::ReadSetUpFile(count > 1 ? words[1] : "");
-    if (!setUp) {
-        std::cerr << "panel-at-host: no set-up: " << sentence << std::endl;
-        return EXIT_FAILURE;
-    }
-    linux::PollEventLoop loop;
-    hosts::PanelAtHost panel(loop, *setUp);
-    const hosts::Commands commands(
-        loop, [&](std::istringstream& line) { panel.Take(line); }, [&] { loop.Stop(); });
-    loop.Run();
-    panel.SayGoodbye();
-    return EXIT_SUCCESS;
+    return orvelle::hosts::Serve<orvelle::hosts::PanelAtHost>("panel-at-host", count, words);
 }

@@ -6,9 +6,7 @@
 //   press KEY | release KEY    on the simulator's computer
 //   fly CALLSIGN FREQUENCY     a session, or another callsign and frequency of COM1 in the one that is
 //   land                       ends the session
-#include <cstdlib>
 
-#include "adapters/linux/PollEventLoop.h"
 #include "adapters/mqtt/BrokerNetworkSide.h"
 #include "adapters/mqtt/BrokerSimulatorSide.h"
 #include "platform/Tessaly.h"
@@ -66,16 +64,5 @@ private:
 }  // namespace orvelle::hosts
 
 int main(int count, char** words) {
-    using namespace orvelle;
-    const auto [setUp, sentence] = mqtt::ReadSetUpFile(count > 1 ? words[1] : "");
-    if (!setUp) {
-        std::cerr << "simulator-at-host: no set-up: " << sentence << std::endl;
-        return EXIT_FAILURE;
-    }
-    linux::PollEventLoop loop;
-    hosts::SimulatorAtHost program(loop, *setUp);
-    const hosts::Commands commands(
-        loop, [&](std::istringstream& line) { program.Take(line); }, [&] { loop.Stop(); });
-    loop.Run();
-    return EXIT_SUCCESS;
+    return orvelle::hosts::Serve<orvelle::hosts::SimulatorAtHost>("simulator-at-host", count, words);
 }

@@ -7,12 +7,15 @@
 
 #include <array>
 #include <chrono>
+#include <cstdlib>
 #include <functional>
 #include <iostream>
 #include <sstream>
 #include <string>
 #include <utility>
 
+#include "adapters/linux/PollEventLoop.h"
+#include "adapters/mqtt/SetUpFile.h"
 #include "platform/EventLoop.h"
 
 namespace orvelle::hosts {
@@ -53,5 +56,21 @@ private:
     std::string text;  // of lines that are not whole yet
     Ticket readable;
 };
+
+// The whole of such a program: a Program of the set-up that its argument, a setup.json, names takes the commands.
+template <typename Program>
+int Serve(const char* name, int count, char** words) {
+    const auto [setUp, sentence] = mqtt::ReadSetUpFile(count > 1 ? words[1] : "");
+    if (!setUp) {
+        std::cerr << name << ": no set-up: " << sentence << std::endl;
+        return EXIT_FAILURE;
+    }
+    linux::PollEventLoop loop;
+    Program program(loop, *setUp);
+    const Commands commands(
+        loop, [&](std::istringstream& line) { program.Take(line); }, [&] { loop.Stop(); });
+    loop.Run();
+    return EXIT_SUCCESS;
+}
 
 }  // namespace orvelle::hosts

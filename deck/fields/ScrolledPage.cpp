@@ -1,0 +1,24 @@
+#include "deck/fields/ScrolledPage.h"
+
+#include <QScrollArea>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "adapters/looks/Theme.h"
+
+namespace orvelle::deck {
+
+void AddScrolledPage(QTabWidget& tabs, QWidget* page, const QString& title) {
+    auto* frame = new QWidget;
+    auto* margins = new QVBoxLayout(frame);
+    margins->setContentsMargins(2 * Unit, 2 * Unit, 2 * Unit, 2 * Unit);
+    margins->addWidget(page);
+    auto* area = new QScrollArea;
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(frame);
+    tabs.addTab(area, title);
+}
+
+}  // namespace orvelle::deck
