@@ -64,7 +64,7 @@ void AvahiRig::StartBus() {
 }
 
 void AvahiRig::StartDaemon() {
-    std::vector<std::string> command{"unshare", "--net", "--mount"};
+    std::vector<std::string> command{OWN_NAMESPACES, "--net", "--mount"};
     // Who isn't root may have namespaces inside one of users, under the own name that the bus knows.
     if (geteuid() != 0) command.insert(command.end(), {"--user", "--map-current-user", "--keep-caps"});
     command.insert(command.end(), {"sh", "-c", RunDaemon, (folder / "avahi.conf").string()});
