@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "adapters/shared/FileDescriptor.h"
+#include "platform/ServerNames.h"
 
 namespace orvelle::mqtt {
 
@@ -23,7 +24,9 @@ std::vector<std::string> AddressesOf(const std::string& host) {
     wanted.ai_socktype = SOCK_STREAM;
     wanted.ai_flags = AI_ADDRCONFIG;
     addrinfo* found = nullptr;
-    if (getaddrinfo(host.c_str(), nullptr, &wanted, &found) != 0) return {};
+    // This computer is found also where no file of hosts says so.
+    if (getaddrinfo(host.c_str(), nullptr, &wanted, &found) != 0)
+        return host == LocalHost ? std::vector<std::string>{LoopbackAddress} : std::vector<std::string>{};
     std::vector<std::string> addresses;
     for (const addrinfo* each = found; each != nullptr; each = each->ai_next) {
         std::array<char, NI_MAXHOST> text{};

@@ -144,8 +144,10 @@ TEST_F(SimulatorProgramTest, WhatIsWrittenBelowAnotherIdentityIsDropped) {
         linux::ChildProcess publisher({"mosquitto_pub", "-h", "127.0.0.1", "-p", std::to_string(port), "-V", "5",
                                        "--psk-identity", "c03", "--psk", WriteKey(third.Key), "-q", "1", "-t", topic,
                                        "-m", "forged"});
-        publisher.Wait();
+        return publisher.Wait() == 0;
     };
+    // The broker knows a new key a moment after it was made.
+    ASSERT_TRUE(Until([&] { return publish("orvelle/1/c03/sim/play"); }));
     publish("orvelle/1/c01/sim/session");
     publish("orvelle/1/c03/sim/session");
     ASSERT_TRUE(Until([&] { return std::ranges::count(member.Heard, "orvelle/1/c03/sim/session forged") == 1; }));
