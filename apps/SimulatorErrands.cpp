@@ -12,6 +12,7 @@
 #include "adapters/mqtt/OwnSetUp.h"
 #include "adapters/mqtt/Payloads.h"
 #include "adapters/mqtt/Topics.h"
+#include "apps/ComputerName.h"
 #include "apps/OneLine.h"
 
 namespace orvelle {
@@ -79,6 +80,13 @@ int List(const mqtt::OwnSetUp& setUp) {
     return EXIT_SUCCESS;
 }
 
+// The first code may be asked for before the simulator's program was ever started. "" for success.
+std::string MakeWhereMissing(const mqtt::OwnSetUp& setUp, int port) {
+    if (std::filesystem::exists(setUp.File())) return "";
+    if (std::string sentence = setUp.MakeFolder(); !sentence.empty()) return sentence;
+    return setUp.ReadOrMake(ComputerName(), port).Sentence;
+}
+
 int Add(const mqtt::OwnSetUp& setUp) {
     const auto [code, sentence] = setUp.Add();
     if (!code) return Fail(sentence);
@@ -97,6 +105,9 @@ int RunErrand(const SimulatorCommand& command) {
     if (const auto joined = setUp.JoinedElsewhere(); joined && changes)
         return Fail("This computer belongs to the set-up \"" + OneLine(joined->Name) +
                     "\" of another one; that is changed on the computer that made it.");
+    if (command.What == Task::Add)
+        if (const std::string sentence = MakeWhereMissing(setUp, command.Port); !sentence.empty())
+            return Fail(sentence);
     if (!command.Name.empty())
         if (const std::string sentence = setUp.Rename(command.Name); !sentence.empty()) return Fail(sentence);
     if (command.What == Task::Add) return Add(setUp);

@@ -1,24 +1,17 @@
 #include "apps/SimulatorProgram.h"
 
-#include <unistd.h>
-
 #include <algorithm>
-#include <array>
 #include <cstdlib>
 #include <utility>
 
 #include "adapters/mqtt/BrokerTroubles.h"
+#include "apps/ComputerName.h"
 
 namespace orvelle {
 
 namespace {
 
 constexpr Long StandingMilliseconds = 60'000;
-
-std::string ComputerName() {
-    std::array<char, 256> name{};
-    return gethostname(name.data(), name.size() - 1) == 0 && name[0] ? name.data() : "OrvelleCP";
-}
 
 std::string DesktopName() {
     const char* const type = std::getenv("XDG_SESSION_TYPE");

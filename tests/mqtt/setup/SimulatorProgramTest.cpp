@@ -105,6 +105,14 @@ TEST_F(SimulatorProgramTest, AComputerThatIsAddedComesAndIsListed) {
     EXPECT_EQ(list.Status, 0);
 }
 
+TEST_F(SimulatorProgramTest, ACodeThatWasAskedForBeforeTheFirstStartIsTaken) {
+    const SetUpSetting added = Add();
+    EXPECT_EQ(added.Identity, 2);
+    Serve();
+    PlayedMember member(loop, added, Program::Panel);
+    EXPECT_TRUE(Until([&] { return member.AtBroker.IsThere(); }));
+}
+
 TEST_F(SimulatorProgramTest, ComputersThatAreAddedOneAfterTheOtherAreAllKnown) {
     Serve();
     // By the set-up's files as they are, with no time between two of them.
@@ -259,7 +267,9 @@ TEST_F(SimulatorProgramTest, AClockThatJumpsLosesNobody) {
 
 TEST_F(SimulatorProgramTest, ASetUpHasTheNameThatIsGivenAlsoBesideARunningOne) {
     const auto nameForThePanel = [this] { return ReadSetUpFile(data / "setup.json").Setting->Name; };
-    EXPECT_EQ(Run({"--name", "Club", "--add"}).Status, 1) << "there is none yet";
+    EXPECT_EQ(Run({"--name", "Club", "--list"}).Status, 1) << "there is none yet";
+    EXPECT_EQ(Run({"--name", "Club", "--add"}).Status, 0);
+    EXPECT_EQ(OwnSetUp(data).Read().Setting->Name, "Club");
     Serve({"--name", "Home"});
     EXPECT_EQ(OwnSetUp(data).Read().Setting->Name, "Home");
     EXPECT_EQ(nameForThePanel(), "Home");
@@ -394,7 +404,6 @@ TEST_F(SimulatorProgramTest, WordsThatAreNotUnderstoodAreToldInOneLine) {
                                                   {"--name", std::string(300, 'x')},
                                                   {"--add", "--own"},
                                                   {"--host", "simpc", "--port", "8884"},
-                                                  {"--add"},
                                                   {"--list"}}) {
         const Ended ended = Run(words);
         EXPECT_EQ(ended.Status, 1);
