@@ -377,12 +377,12 @@ TEST_F(GuestTest, TwoAsOneComputerGoOnAndDoNotTellAgainAndAgain) {
     ASSERT_TRUE(Until(isThere));
     const OwnFolder otherData;
     ASSERT_EQ(WriteSetUpFile(otherData.Path / "setup.json", existing.SetUpOf(3)), "");
+    int times = 0;  // that it went
+    member.AtBroker.OthersChanged = [&] { times += isThere() ? 0 : 1; };
     linux::ChildProcess second({SIMULATOR_PROGRAM, "--no-window", "--data", otherData.Path.string()});
     // Each ends the other.
-    for (int time = 0; time < 2; ++time) {
-        EXPECT_TRUE(Until([&] { return !isThere(); }));
-        EXPECT_TRUE(Until(isThere));
-    }
+    EXPECT_TRUE(Until([&] { return times >= 2; }));
+    EXPECT_TRUE(Until(isThere));
     second.Kill(SIGTERM);
     EXPECT_EQ(second.Wait(), 0);
     program->Kill(SIGTERM);
