@@ -127,7 +127,15 @@ TEST_F(DesktopAutostartTest, EntryAndFolderAreTheUsersAlone) {
 
 // A file system of its own on the folder, as small as there is one. False where this system gives no namespaces.
 bool GetSmallDisk(const std::string& folder) {
-    if (unshare(CLONE_NEWNS) != 0 && unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) return false;
+    if (unshare(CLONE_NEWNS) != 0) {
+        const uid_t user = geteuid();
+        const gid_t group = getegid();
+        if (unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) return false;
+        // The same user and group inside.
+        std::ofstream("/proc/self/setgroups") << "deny";
+        std::ofstream("/proc/self/uid_map") << user << ' ' << user << " 1";
+        std::ofstream("/proc/self/gid_map") << group << ' ' << group << " 1";
+    }
     // Where the root is no mount point, as in a folder that chroot has made the root, nothing can be said of it.
     mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr);
     return mount("none", folder.c_str(), "tmpfs", 0, "size=16k") == 0;
