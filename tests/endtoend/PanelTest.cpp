@@ -1,6 +1,7 @@
 #include "tests/endtoend/PanelTest.h"
 
 #include <QFile>
+#include <QWindow>
 #include <stdexcept>
 
 namespace orvelle {
@@ -8,8 +9,10 @@ namespace orvelle {
 PanelTest::PanelTest() {
     QFile script(QString::fromStdString(VoiceProgram()));
     if (!script.open(QFile::WriteOnly)) throw std::runtime_error("the stand-in voice program cannot be written");
+    // A line in one write, as two calls may write at one time.
     script.write(
-        "#!/bin/sh\n{ printf '|'; for word; do printf '%s|' \"$word\"; done; echo; } >>\"${0%/*}/commands\"\n");
+        "#!/bin/sh\nline='|'\nfor word; do line=\"$line$word|\"; done\nprintf '%s\\n' \"$line\" "
+        ">>\"${0%/*}/commands\"\n");
     script.close();
     script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     store::SqliteStore& store = house.Settings.Store;
@@ -19,9 +22,10 @@ PanelTest::PanelTest() {
 }
 
 void PanelTest::Open() {
+    const auto isShown = [](const QWidget& window) { return window.isVisible() && window.windowHandle()->isExposed(); };
     house.Open();
-    ASSERT_TRUE(
-        ComesTrue([this] { return house.Deck && house.Deck->isVisible() && house.Desktop.Window().isVisible(); }));
+    // The window manager gives a window the focus when it shows it, which must not come between what is done later.
+    ASSERT_TRUE(ComesTrue([&] { return house.Deck && isShown(*house.Deck) && isShown(house.Desktop.Window()); }));
     // Side by side, so that nothing hides what is clicked.
     house.Deck->move(0, house.Desktop.Window().frameGeometry().bottom() + 1);
 }
@@ -51,7 +55,10 @@ QWidget& PanelTest::Find(QWidget& window, const char* name) {
     return *widget;
 }
 
-void PanelTest::ToFront(QWidget& window) { user.Do({"windowactivate", "--sync", QString::number(window.winId())}); }
+void PanelTest::ToFront(QWidget& window) {
+    user.Do({"windowactivate", "--sync", QString::number(window.winId())});
+    EXPECT_TRUE(ComesTrue([&] { return window.isActiveWindow(); }));
+}
 
 std::string PanelTest::VoiceCommands() const {
     QFile commands(folder.filePath("commands"));
