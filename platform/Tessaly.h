@@ -92,7 +92,7 @@ public:
     virtual std::string GetParamText(Long index) = 0;
     virtual void SetParamText(Long index, const std::string& text) = 0;
 
-    Event<Long> InterfaceAppeared;  // id
+    Event<Long> InterfaceAppeared;  // id; again for a record that stays when another one of its role goes
     Event<Long> InterfaceChanged;
     Event<Long> InterfaceRemoved;
     Event<Long, Long> InterfaceParamChanged;  // id, index

@@ -47,10 +47,9 @@ private:
     };
 
     xcb_window_t Root() const { return xcb_setup_roots_iterator(xcb_get_setup(connection.get())).data->root; }
-
-    std::unique_ptr<xcb_connection_t, Disconnect> connection;
     void WriteNote(const std::vector<int>& keyCodes);
 
+    std::unique_ptr<xcb_connection_t, Disconnect> connection;
     xcb_atom_t note = XCB_ATOM_NONE;
     std::optional<std::vector<int>> noted;  // ascending; by this connection
     std::string problem;
