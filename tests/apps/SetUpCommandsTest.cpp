@@ -7,6 +7,7 @@
 #include "tests/avahi/AvahiRig.h"
 #include "tests/mqtt/OwnFolder.h"
 #include "tests/mqtt/broker/BrokerProcess.h"
+#include "tests/mqtt/broker/LoopbackPorts.h"
 
 namespace orvelle {
 namespace {

@@ -13,7 +13,7 @@
 #include "apps/SimulatorProgram.h"
 #include "apps/SimulatorWindow.h"
 #include "tests/endtoend/User.h"
-#include "tests/mqtt/broker/BrokerProcess.h"
+#include "tests/mqtt/broker/LoopbackPorts.h"
 
 namespace orvelle {
 

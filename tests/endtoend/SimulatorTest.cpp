@@ -10,6 +10,7 @@
 #include "adapters/looks/Text.h"
 #include "adapters/mqtt/Member.h"
 #include "tests/endtoend/SimulatorRig.h"
+#include "tests/mqtt/broker/BrokerProcess.h"
 #include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle {

@@ -1,34 +1,19 @@
 #include "tests/mqtt/broker/BrokerProcess.h"
 
-#include <arpa/inet.h>
 #include <gtest/gtest.h>
-#include <sys/socket.h>
 
 #include <csignal>
 #include <fstream>
 
 #include "adapters/mqtt/Topics.h"
 #include "tests/linux/WaitUntil.h"
+#include "tests/mqtt/broker/LoopbackPorts.h"
 
 namespace orvelle::mqtt {
 
 namespace {
 
 constexpr int Computers = 10;
-
-sockaddr_in Loopback(int port) {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    address.sin_port = htons(static_cast<std::uint16_t>(port));
-    return address;
-}
-
-bool Listens(int port) {
-    const FileDescriptor socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
-    const sockaddr_in address = Loopback(port);
-    return connect(socket.Number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
-}
 
 Key KeyOf(int identity) {
     Key key{};
@@ -37,16 +22,6 @@ Key KeyOf(int identity) {
 }
 
 }  // namespace
-
-int FreePort() {
-    const FileDescriptor socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
-    sockaddr_in address = Loopback(0);
-    socklen_t size = sizeof address;
-    if (bind(socket.Number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
-        getsockname(socket.Number(), reinterpret_cast<sockaddr*>(&address), &size) != 0)
-        return 0;
-    return ntohs(address.sin_port);
-}
 
 BrokerProcess::BrokerProcess() : port(FreePort()) {
     std::string pattern = std::filesystem::temp_directory_path() / "orvelle-broker-XXXXXX";

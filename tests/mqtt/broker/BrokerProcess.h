@@ -34,7 +34,4 @@ private:
     std::unique_ptr<linux::ChildProcess> process;
 };
 
-// A port of loopback that nobody listens on now.
-int FreePort();
-
 }  // namespace orvelle::mqtt

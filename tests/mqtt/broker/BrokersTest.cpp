@@ -1,14 +1,11 @@
 // Which brokers a panel goes to by the names of its servers, what it is told of the network, and what its user is told,
 // with real brokers.
-#include <netinet/in.h>
-#include <sys/socket.h>
-
 #include <algorithm>
 #include <csignal>
 #include <fstream>
 
-#include "adapters/shared/FileDescriptor.h"
 #include "tests/mqtt/OwnFolder.h"
+#include "tests/mqtt/broker/LoopbackPorts.h"
 #include "tests/mqtt/broker/SetUpRig.h"
 
 namespace orvelle::mqtt {
@@ -117,19 +114,12 @@ TEST_F(BrokersTest, NobodyWhoAnnouncesOurNameKeepsUsFromTheHostOfTheFile) {
     const int plainPort = FreePort();
     std::ofstream(folder.Path / "plain") << "listener " << plainPort << " 127.0.0.1\nallow_anonymous true\nuser root\n";
     const linux::ChildProcess plain({"/usr/sbin/mosquitto", "-c", (folder.Path / "plain").string()});
-    const FileDescriptor silent(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof address;
-    ASSERT_EQ(bind(silent.Number(), reinterpret_cast<sockaddr*>(&address), size), 0);
-    ASSERT_EQ(listen(silent.Number(), 8), 0);
-    ASSERT_EQ(getsockname(silent.Number(), reinterpret_cast<sockaddr*>(&address), &size), 0);
+    const SilentListener silent;
     const int refusingPort = FreePort();
     const linux::ChildProcess refusing({"openssl", "s_server", "-quiet", "-nocert", "-psk_identity", "c02", "-psk",
                                         std::string(26, 'a'), "-tls1_2", "-accept",
                                         "127.0.0.1:" + std::to_string(refusingPort)});
-    for (const int port : {plainPort, static_cast<int>(ntohs(address.sin_port)), refusingPort}) {
+    for (const int port : {plainPort, silent.Port(), refusingPort}) {
         Play(broker.SetUpOf(2), "", "");
         panel->Places.Found.Add({"Test", {"localhost", port}});
         panel->Simulator.Open("AUTOMATIC");

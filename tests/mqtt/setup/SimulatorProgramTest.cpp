@@ -13,6 +13,7 @@
 #include "tests/linux/WaitUntil.h"
 #include "tests/mqtt/OwnFolder.h"
 #include "tests/mqtt/broker/BrokerProcess.h"
+#include "tests/mqtt/broker/LoopbackPorts.h"
 #include "tests/mqtt/broker/SetUpRig.h"
 
 namespace orvelle::mqtt {
