@@ -69,6 +69,7 @@ ComputersBox::ComputersBox(SimulatorProgram& simulatorProgram)
 void ComputersBox::Add() {
     const auto [added, sentence] = program.SetUp.Add();
     code->setText(added ? ToQt(mqtt::WriteJoinCode(*added)) : QString());
+    codeOf = added ? added->Number : 0;
     answer->setText(added ? "Type this code on the new computer, which will be " +
                                 ToQt(mqtt::WriteIdentity(added->Number)) + "."
                           : ToQt(sentence));
@@ -81,6 +82,7 @@ void ComputersBox::AskToRemove() {
                                 QMessageBox::Yes | QMessageBox::No, this);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);
+    box->setDefaultButton(QMessageBox::No);
     connect(box, &QMessageBox::finished, this, [this, identity](int button) {
         if (button == QMessageBox::Yes) Remove(identity);
     });
@@ -90,7 +92,7 @@ void ComputersBox::AskToRemove() {
 void ComputersBox::Remove(int identity) {
     const std::string sentence = program.SetUp.Remove(identity);
     // Its code is worth nothing any more.
-    code->clear();
+    if (identity == codeOf) code->clear();
     answer->setText(sentence.empty() ? ToQt(mqtt::WriteIdentity(identity)) + " was removed." : ToQt(sentence));
 }
 

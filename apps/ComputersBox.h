@@ -32,6 +32,7 @@ private:
     QPushButton* add;
     QPushButton* remove;
     QLineEdit* code;
+    int codeOf = 0;  // the computer that was added last
     QLabel* answer;
 };
 

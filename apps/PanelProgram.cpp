@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "adapters/mqtt/Topics.h"
 #include "apps/ThisProcess.h"
 
 namespace orvelle {
@@ -84,9 +85,14 @@ void PanelProgram::End() { Desktop.Table.Deliver(Panel.Stub1, Stub::TerminationM
 void PanelProgram::TakeUpSetUp() {
     const mqtt::FoundSetUp found = mqtt::ReadSetUpFile(setUpFile);
     if (!found.Sentence.empty()) Settings.Notices.Tell(found.Sentence);
-    if (found.Setting)
+    const bool hasPractised = Outside.IsPractising();
+    if (found.Setting) {
         Outside.Join(*found.Setting);
-    else if (!Outside.IsPractising())
+        // Where the deck's window for joining did it, that goes with the deck.
+        if (hasPractised && isOpen)
+            Desktop.Tray.Tell("This computer is " + mqtt::WriteIdentity(found.Setting->Identity) + " of the set-up " +
+                              found.Setting->Name + " now.");
+    } else if (!hasPractised)
         Outside.Practise();
 }
 

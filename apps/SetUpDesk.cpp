@@ -88,8 +88,11 @@ void SetUpDesk::MoveTo(const std::string& place) {
 
 void SetUpDesk::Leave() {
     Cancel();
-    const std::string left = found.Setting ? "This computer has left the set-up " + found.Setting->Name + "."
-                                           : "This computer is in no set-up.";
+    const std::string left = !found.Setting ? "This computer is in no set-up."
+                             : found.Setting->Identity == 1
+                                 ? "The panel of this computer has left the set-up " + found.Setting->Name +
+                                       ", which orvelle-sim goes on serving."
+                                 : "This computer has left the set-up " + found.Setting->Name + ".";
     const std::string why = mqtt::RemoveSetUpFile(file);
     End(why.empty() ? JoinState::Succeeded : JoinState::Failed, why.empty() ? left : why);
 }
@@ -108,8 +111,13 @@ std::string SetUpDesk::Sentence() const {
     return found.Sentence.empty() ? missing : found.Sentence;
 }
 
+// What was told here is of the past once somebody else has changed it.
 void SetUpDesk::Read() {
-    found = mqtt::ReadSetUpFile(file);
+    const auto before = std::exchange(found, mqtt::ReadSetUpFile(file)).Setting;
+    if (found.Setting != before && state == JoinState::Succeeded) {
+        state = JoinState::Idle;
+        sentence.clear();
+    }
     changes.Mark();
 }
 
@@ -171,9 +179,9 @@ void SetUpDesk::Try(const std::string& name, const mqtt::HostAndPort& place) {
 }
 
 void SetUpDesk::End(JoinState how, const std::string& what) {
+    Read();
     state = how;
     sentence = what;
-    Read();
     // The browser may be what ends it.
     lookingEnds = loop.After(0, [this] { Settle(); });
 }

@@ -17,10 +17,10 @@ LinkTold TellOfLink(const SimulatorProgram& program, const mqtt::OfferedLink& li
     const bool isOffered = link.Link() == LinkState::Up;
     const int server = link.ServedBy();
     if (!isOffered && server == 0) return {Sign::Off, "Not offered"};
-    if (!isOffered) return {Sign::Off, "Not offered here, served by " + NameOf(program, server)};
-    if (server == 0) return {Sign::Waiting, "Offered, but the broker is not reached"};
-    if (server == program.AtBroker.Identity()) return {Sign::Good, "Served by this computer"};
-    return {Sign::Waiting, "Served by " + NameOf(program, server) + ", this one stands by"};
+    if (!isOffered) return {Sign::Off, "Served by " + NameOf(program, server)};
+    if (server == 0) return {Sign::Waiting, "Waits for the broker"};
+    if (server == program.AtBroker.Identity()) return {Sign::Good, "Served here"};
+    return {Sign::Waiting, "Stands by for " + NameOf(program, server)};
 }
 
 QString ShownName(const std::string& name) {

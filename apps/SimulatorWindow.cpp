@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -19,6 +20,7 @@ namespace orvelle {
 namespace {
 
 constexpr QSize WantedSize(1000, 640);
+constexpr QSize FrameSize(16, 48);  // with room to spare
 
 }  // namespace
 
@@ -31,15 +33,15 @@ SimulatorWindow::SimulatorWindow(SimulatorProgram& simulatorProgram)
     tabs->setObjectName("SimulatorPages");
     tabs->setDocumentMode(true);
     deck::AddScrolledPage(*tabs, setUp, "Set-&up");
-    deck::AddScrolledPage(*tabs, new deck::NetworkPage({.Network = &program.Network}), "Session and radi&os");
+    deck::AddScrolledPage(*tabs, new deck::NetworkPage({.Network = &program.Network}), "Session an&d radios");
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(tabs);
-    resize(WantedSize);
+    resize(WantedSize.boundedTo(screen()->availableSize() - FrameSize));
 
     tray.Pressed = [this] { isVisible() && !isMinimized() ? hide() : BringUp(); };
     tray.ShowAsked = [this] { BringUp(); };
-    tray.EndAsked = [this] { EndAsked(); };
+    tray.EndAsked = [this] { AskToEnd(); };
     // Hidden it could not be brought back any more.
     tray.Changed = [this] {
         if (!tray.IsThere() && isHidden()) showMinimized();
@@ -62,6 +64,7 @@ void SimulatorWindow::BringUp() {
 }
 
 void SimulatorWindow::AskToEnd() {
+    if (findChild<QMessageBox*>("AsksToEnd")) return;
     auto* box =
         new QMessageBox(QMessageBox::Question, windowTitle(),
                         "End the program? The links that this computer serves, and the broker that it brings, end "
@@ -69,6 +72,7 @@ void SimulatorWindow::AskToEnd() {
                         QMessageBox::Yes | QMessageBox::No, this);
     box->setObjectName("AsksToEnd");
     box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setDefaultButton(QMessageBox::No);
     connect(box, &QMessageBox::finished, this, [this](int button) {
         if (button == QMessageBox::Yes) EndAsked();
     });
@@ -98,7 +102,7 @@ void SimulatorWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     if (tray.IsThere())
         hide();
-    else if (!findChild<QMessageBox*>("AsksToEnd"))
+    else
         AskToEnd();
 }
 

@@ -196,7 +196,7 @@ void BrokerChild::Ended() {
 
 std::string BrokerChild::Reason() const {
     if (problem.find("Address already in use") != std::string::npos)
-        return "another program uses its port already; --port names another one";
+        return "another program uses its port already; orvelle-sim --port PORT takes another one";
     if (problem.empty()) return "it gave no reason";
     return problem;
 }

@@ -31,4 +31,8 @@ std::string SentenceOf(BrokerTrouble trouble, const HostAndPort& place, int iden
     return "No set-up can be reached at " + where + ": nobody answers.";
 }
 
+std::string SentenceOfReached(const HostAndPort& place) {
+    return "The set-up at " + WriteHostAndPort(place) + " is reached again.";
+}
+
 }  // namespace orvelle::mqtt

@@ -14,4 +14,7 @@ enum class KeyFrom { TypedCode, SetUpFile };
 // `identity` is the number by which the computer comes.
 std::string SentenceOf(BrokerTrouble trouble, const HostAndPort& place, int identity, KeyFrom origin);
 
+// That such a trouble is over.
+std::string SentenceOfReached(const HostAndPort& place);
+
 }  // namespace orvelle::mqtt

@@ -97,7 +97,7 @@ void Brokers::Reach(const HostAndPort& place) {
     Known& known = byPlace[place];
     known.ReachedAt = Clock::now();
     known.LostAt.reset();
-    TroublesAt(place).Reach();
+    TroublesAt(place).Reach(place);
     if (IsAutomatic(place)) automatic->Reach();
     for (const auto& [other, each] : byPlace)
         if (other != place && !each.At.expired() && WasLately(each.TakenOverAt))
@@ -146,6 +146,7 @@ TroubleTeller& Brokers::TroublesAt(const HostAndPort& place) {
         troubles->Told = [this](BrokerTrouble why, const HostAndPort& where) {
             if (!byPlace[where].At.expired()) Told(SentenceOf(why, where, setUp->Identity, KeyFrom::SetUpFile));
         };
+        troubles->Over = [this](const HostAndPort& where) { Told(SentenceOfReached(where)); };
     }
     return *troubles;
 }

@@ -41,7 +41,7 @@ public:
 
     FoundServers Found;
     Observers<> Changed;             // names may lead elsewhere: lines that are open go over
-    Event<const std::string&> Told;  // a sentence: why a broker that a line wants can't be had
+    Event<const std::string&> Told;  // a sentence: why a broker that a line wants can't be had, or that it is had again
 
 private:
     using Clock = std::chrono::steady_clock;

@@ -6,8 +6,7 @@ namespace orvelle::mqtt {
 
 namespace {
 
-constexpr Long LastingMilliseconds = 10000;
-constexpr Long SuccessMilliseconds = 60000;
+constexpr Long LastingMilliseconds = 10000;  // of a trouble, or of a success
 
 }  // namespace
 
@@ -24,12 +23,12 @@ void TroubleTeller::Fail(BrokerTrouble why, const HostAndPort& place) {
     });
 }
 
-void TroubleTeller::Reach() {
+void TroubleTeller::Reach(const HostAndPort& place) {
     waiting.End();
     isWaiting = lasts = false;
-    standing = loop.After(SuccessMilliseconds, [this] {
-        told.clear();
+    standing = loop.After(LastingMilliseconds, [this, place] {
         wasTakenOver = false;
+        if (!std::exchange(told, {}).empty()) Over(place);
     });
 }
 

@@ -1,7 +1,7 @@
 // When a panel's user is told why the broker can't be had: what has lasted for ten seconds, each reason once until the
-// broker was had for a minute; so a network that comes late, or goes for a moment, is not told. That another program
-// comes under this computer's name is told when it comes again, whatever lies between. Used by Brokers for each server
-// that a line wants.
+// broker was had for ten seconds, when its end is told; so a network that comes late, or goes for a moment, is not
+// told. That another program comes under this computer's name is told when it comes again, whatever lies between. Used
+// by Brokers for each server that a line wants.
 #pragma once
 
 #include <set>
@@ -16,11 +16,12 @@ public:
     explicit TroubleTeller(EventLoop& eventLoop) : loop(eventLoop) {}
 
     void Fail(BrokerTrouble why, const HostAndPort& place);
-    void Reach();
+    void Reach(const HostAndPort& place);
     // Nobody wants that broker now. What was told stays told.
     void Rest();
 
     Event<BrokerTrouble, const HostAndPort&> Told;  // from the loop
+    Event<const HostAndPort&> Over;                 // what was told
 
 private:
     void TellOnce();

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -43,7 +44,8 @@ JoinDialog::JoinDialog(JoinSide& joinSide, QWidget* parent)
       side(joinSide),
       setUp(new Readout("JoinedSetUp")),
       broker(new Readout("JoinedBroker")),
-      leave(NewButton("LeaveSetUp", "&Leave", "Take this computer out of its set-up", [this] { side.Leave(); })),
+      leave(NewButton("LeaveSetUp", "&Leave", "Take this computer out of its set-up, after a question",
+                      [this] { AskToLeave(); })),
       seen(new QListWidget),
       host(new QLineEdit),
       code(new CodeField([this](const std::string& text) { return side.IsCode(text); }, [this] { ShowState(); })),
@@ -155,6 +157,22 @@ void JoinDialog::ShowSentence() {
     sentence->setText(isMistyped                          ? Mistyped
                       : side.State() == JoinState::Trying ? "Trying to reach the set-up ..."
                                                           : ToQt(side.Sentence()));
+}
+
+void JoinDialog::AskToLeave() {
+    const std::optional<JoinedSetUp> joined = side.Joined();
+    if (!joined) return;
+    auto* box = new QMessageBox(QMessageBox::Question, windowTitle(),
+                                "Leave the set-up " + ToQt(joined->Name) + "? Coming back takes a code again.",
+                                QMessageBox::Yes | QMessageBox::No, this);
+    box->setObjectName("AsksToLeave");
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText);
+    box->setDefaultButton(QMessageBox::No);
+    connect(box, &QMessageBox::finished, this, [this](int button) {
+        if (button == QMessageBox::Yes) side.Leave();
+    });
+    box->open();
 }
 
 void JoinDialog::Join() { side.Join(code->Code(), FromQt(host->text().trimmed())); }

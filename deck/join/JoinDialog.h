@@ -29,6 +29,7 @@ private:
     void ShowState();
     void ShowSeen();
     void ShowSentence();
+    void AskToLeave();
     void Join();
     void MoveTo();
 

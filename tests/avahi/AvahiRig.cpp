@@ -29,10 +29,9 @@ constexpr const char* DaemonConfiguration =
     "[server]\nhost-name=localhost\ndomain-name=local\nuse-ipv6=no\nallow-interfaces=lo\nenable-dbus=yes\n"
     "disallow-other-stacks=no\n[publish]\npublish-workstation=no\n";
 
-// Its process id file and its socket have fixed places.
+// Its process id file and its socket have fixed places, in a folder that only root could make.
 constexpr const char* RunDaemon =
-    "ip link set lo up && ip link set lo multicast on && mkdir -p /run/avahi-daemon && "
-    "mount -t tmpfs none /run/avahi-daemon && "
+    "ip link set lo up && ip link set lo multicast on && mount -t tmpfs none /run && mkdir /run/avahi-daemon && "
     "exec /usr/sbin/avahi-daemon --no-drop-root --no-chroot --no-rlimits --debug -f \"$0\"";
 
 }  // namespace

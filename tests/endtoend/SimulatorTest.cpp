@@ -46,6 +46,21 @@ protected:
         return nullptr;
     }
 
+    void Remove(int row) {
+        At<QTableWidget>("Computers").selectRow(row);
+        At<QPushButton>("RemoveComputer").click();
+        auto* question = window->findChild<QMessageBox*>();
+        ASSERT_NE(question, nullptr);
+        question->button(QMessageBox::Yes)->click();
+        EXPECT_TRUE(ComesTrue([&] { return window->findChild<QMessageBox*>() == nullptr; }));
+    }
+    void AnswerEnding(QMessageBox::StandardButton answer) {
+        auto* question = window->findChild<QMessageBox*>("AsksToEnd");
+        ASSERT_NE(question, nullptr);
+        question->button(answer)->click();
+        EXPECT_TRUE(ComesTrue([&] { return window->findChild<QMessageBox*>("AsksToEnd") == nullptr; }));
+    }
+
     // The tray lies at the right of the screen.
     static constexpr int TrayBegins = 700;
 
@@ -63,11 +78,13 @@ TEST_F(SimulatorTest, AnAddedComputerHasACodeAndIsListedUntilItIsRemoved) {
     EXPECT_EQ(At<QLabel>("Answer").text(), "Type this code on the new computer, which will be c02.");
     EXPECT_TRUE(ComesTrue([&] { return Row(1) == "c02|-|away|-|-"; })) << Row(1);
 
-    At<QTableWidget>("Computers").selectRow(1);
-    At<QPushButton>("RemoveComputer").click();
-    auto* question = window->findChild<QMessageBox*>();
-    ASSERT_NE(question, nullptr);
-    question->button(QMessageBox::Yes)->click();
+    At<QPushButton>("AddComputer").click();
+    const QString latest = At<QLineEdit>("Code").text();
+    EXPECT_TRUE(ComesTrue([&] { return Row(2) == "c03|-|away|-|-"; })) << Row(2);
+    Remove(1);
+    EXPECT_TRUE(ComesTrue([&] { return Row(1).starts_with("c03"); })) << Row(1);
+    EXPECT_EQ(At<QLineEdit>("Code").text(), latest) << "another one's code is still to be typed";
+    Remove(1);
     EXPECT_TRUE(ComesTrue([&] { return Row(1).empty(); })) << Row(1);
     EXPECT_EQ(At<QLineEdit>("Code").text(), "");
 }
@@ -103,8 +120,8 @@ TEST_F(SimulatorTest, ComputersThatAreThereAreToldWithWhatTheyHoldAndServe) {
     program->Simulator.SetLink(LinkState::Down);
     EXPECT_TRUE(ComesTrue([&] { return Row(2) == "c03|COCKPIT2|simulator|-|keys"; })) << Row(2);
     EXPECT_TRUE(ComesTrue([&] {
-        return At<QLabel>("SimulatorLinkText").text() == "Not offered here, served by c03 COCKPIT2" &&
-               At<QLabel>("FrameworkLinkText").text() == "Served by this computer";
+        return At<QLabel>("SimulatorLinkText").text() == "Served by c03 COCKPIT2" &&
+               At<QLabel>("FrameworkLinkText").text() == "Served here";
     }));
     panel.AtBroker.Say(mqtt::TopicKind::Record, "{", 1, mqtt::Retain::No, 2);
     EXPECT_TRUE(ComesTrue([&] { return At<QLabel>("Refused").text().startsWith("1 "); }));
@@ -164,6 +181,7 @@ TEST_F(SimulatorTest, ClosingHidesItAndItsIconBringsItBackAndEndsIt) {
     EXPECT_TRUE(window->isVisible());
     EXPECT_EQ(endsAsked, 0);
     window->Tray().Menu().actions().back()->trigger();
+    AnswerEnding(QMessageBox::Yes);
     EXPECT_EQ(endsAsked, 1);
 }
 
@@ -171,8 +189,8 @@ TEST_F(SimulatorTest, ItsTipTellsTheSetUpTheLinksAndHowManyAreThere) {
     ASSERT_NO_FATAL_FAILURE(Open());
     EXPECT_TRUE(ComesTrue([&] {
         return window->Tray().Tip() ==
-               "Home\nKeys and sounds: Served by this computer\n"
-               "Session: Served by this computer\n1 computer is there";
+               "Home\nKeys and sounds: Served here\n"
+               "Session: Served here\n1 computer is there";
     })) << FromQt(window->Tray().Tip());
     ASSERT_TRUE(program->SetUp.Add().Code);
     Other panel(loop, *program, 2, mqtt::Program::Panel);
@@ -183,17 +201,12 @@ class SimulatorWithoutTrayTest : public SimulatorTest {};
 
 TEST_F(SimulatorWithoutTrayTest, ClosingItAsksAndEndsIt) {
     ASSERT_NO_FATAL_FAILURE(Open());
-    const auto answer = [&](QMessageBox::StandardButton button) {
-        CloseFromTheFrame(window.get());
-        EXPECT_TRUE(window->isVisible());
-        auto* question = window->findChild<QMessageBox*>("AsksToEnd");
-        ASSERT_NE(question, nullptr);
-        question->button(button)->click();
-        EXPECT_TRUE(ComesTrue([&] { return window->findChild<QMessageBox*>("AsksToEnd") == nullptr; }));
-    };
-    answer(QMessageBox::No);
+    CloseFromTheFrame(window.get());
+    EXPECT_TRUE(window->isVisible());
+    AnswerEnding(QMessageBox::No);
     EXPECT_EQ(endsAsked, 0);
-    answer(QMessageBox::Yes);
+    CloseFromTheFrame(window.get());
+    AnswerEnding(QMessageBox::Yes);
     EXPECT_EQ(endsAsked, 1);
 }
 

@@ -13,6 +13,7 @@ class TroubleTellerTest : public testing::Test {
 protected:
     TroubleTellerTest() {
         teller.Told = [this](BrokerTrouble why, const HostAndPort&) { told.push_back(why); };
+        teller.Over = [this](const HostAndPort&) { ++over; };
     }
 
     void FailFor(int seconds, BrokerTrouble why) {
@@ -26,6 +27,7 @@ protected:
     const HostAndPort place{"simpc", 8883};
     TroubleTeller teller{loop};
     std::vector<BrokerTrouble> told;
+    int over = 0;
 };
 
 using enum BrokerTrouble;
@@ -33,11 +35,25 @@ using enum BrokerTrouble;
 TEST_F(TroubleTellerTest, APassingLossIsNotTold) {
     for (int round = 0; round < 5; ++round) {
         FailFor(8, Unreachable);
-        teller.Reach();
+        teller.Reach(place);
         loop.Run(100);
     }
     loop.Run(60000);
     EXPECT_TRUE(told.empty());
+    EXPECT_EQ(over, 0);
+}
+
+TEST_F(TroubleTellerTest, TheEndOfWhatWasToldIsToldOnceItLasts) {
+    FailFor(30, Unreachable);
+    teller.Reach(place);
+    loop.Run(5000);
+    EXPECT_EQ(over, 0);
+    loop.Run(6000);
+    EXPECT_EQ(over, 1);
+    FailFor(5, Unreachable);
+    teller.Reach(place);
+    loop.Run(20000);
+    EXPECT_EQ(over, 1) << "that passed untold";
 }
 
 TEST_F(TroubleTellerTest, WhatLastsIsToldOnceForEachReason) {
@@ -50,12 +66,12 @@ TEST_F(TroubleTellerTest, WhatLastsIsToldOnceForEachReason) {
 
 TEST_F(TroubleTellerTest, ItIsToldAgainAfterASuccessThatLasted) {
     FailFor(30, Unreachable);
-    teller.Reach();
-    loop.Run(30000);
+    teller.Reach(place);
+    loop.Run(5000);
     FailFor(30, Unreachable);
-    EXPECT_EQ(told.size(), 1) << "half a minute is no success";
-    teller.Reach();
-    loop.Run(61000);
+    EXPECT_EQ(told.size(), 1) << "five seconds are no success";
+    teller.Reach(place);
+    loop.Run(11000);
     FailFor(30, Unreachable);
     EXPECT_EQ(told.size(), 2);
 }
@@ -63,13 +79,13 @@ TEST_F(TroubleTellerTest, ItIsToldAgainAfterASuccessThatLasted) {
 TEST_F(TroubleTellerTest, AnotherProgramOfTheSameNameIsToldWhenItComesAgain) {
     teller.Fail(TakenOver, place);
     loop.Run(2000);
-    teller.Reach();
+    teller.Reach(place);
     EXPECT_TRUE(told.empty()) << "it may be this program's other connection";
     for (int round = 0; round < 10; ++round) {
         loop.Run(2000);
         teller.Fail(TakenOver, place);
         loop.Run(2000);
-        teller.Reach();
+        teller.Reach(place);
     }
     EXPECT_EQ(told, std::vector{TakenOver});
 }

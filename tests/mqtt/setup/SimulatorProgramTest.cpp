@@ -220,7 +220,8 @@ TEST_F(SimulatorProgramTest, APortThatIsTakenIsToldAndEndsTheProgram) {
     const Ended ended = Run({"--no-window", "--port", std::to_string(taken.Port())});
     EXPECT_EQ(ended.Status, 1);
     EXPECT_NE(ended.Errors.find("port"), std::string::npos) << ended.Errors;
-    EXPECT_TRUE(ended.Errors.ends_with(": another program uses its port already; --port names another one.\n"))
+    EXPECT_TRUE(
+        ended.Errors.ends_with(": another program uses its port already; orvelle-sim --port PORT takes another one.\n"))
         << ended.Errors;
 }
 
