@@ -63,6 +63,8 @@ std::error_code MakeOwnFolder(const fs::path& folder) {
     if (errno != ENOENT) return LastError();
     if (const std::error_code error = MakeOwnFolder(folder.parent_path())) return error;
     if (mkdir(folder.c_str(), S_IRWXU) == 0) {
+        // As with a file the umask may have taken the user's own rights.
+        chmod(folder.c_str(), S_IRWXU);
         // A folder above that can't be read can't be brought to the disk either, and the new one is of use all the
         // same.
         SyncFolder(folder.parent_path());
