@@ -1,6 +1,6 @@
-// Key strokes and key names on an X server: which key a virtual key is, and what a key is called. Without a server
-// strokes do nothing and keys have their US names. The keys that are down are let go at the end, whichever it is
-// (KeyHolder.h).
+// Key strokes and key names on an X server, or in its stead (KeyServer.h): which key a virtual key is, and what a key is
+// called. Without a server strokes do nothing and keys have their US names. The keys that are down are let go at the
+// end, whichever it is (KeyHolder.h).
 #pragma once
 
 #include <string>
@@ -15,8 +15,10 @@ class X11Keyboard : public Keyboard {
     KeyServer server;
 
 public:
-    // `display` "" is the environment's. `guardFile` is the key guard's program, by its full path.
-    X11Keyboard(EventLoop& loop, const std::string& display, std::string guardFile);
+    // `display` "" is the environment's. `guardFile` is the key guard's program, by its full path; `kernelFile` is where
+    // the kernel makes keyboards.
+    X11Keyboard(EventLoop& loop, const std::string& display, std::string guardFile,
+                const std::string& kernelFile = KernelKeyboard::File);
 
     // The virtual key alone decides which key it is (VirtualKeys.h), since every stroke bears the extended flag; the
     // scan byte decides where the virtual key is unknown.
