@@ -109,6 +109,7 @@ void PanelProgram::OpenDeck() {
     FarSides sides = Outside.Practice.Sides();
     sides.Notices = &Settings.Notices;
     sides.Join = &joining;
+    sides.HeldKeys = &Computer.HeldKeys();
     Deck = std::make_unique<DeckWindow>(sides);
     ownStrokes = std::make_unique<OwnStrokes>(Computer, *Deck);
     for (const std::string& sentence : std::exchange(untold, {})) TellOfProgram(sentence);

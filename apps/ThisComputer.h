@@ -11,6 +11,7 @@ namespace orvelle {
 
 class Control;
 class EventLoop;
+class HeldKeysSide;
 class Keyboard;
 class Processes;
 class Registry;
@@ -30,6 +31,7 @@ public:
     void Begin();
 
     orvelle::Keyboard& Keyboard();
+    HeldKeysSide& HeldKeys();
     // Whether the panel itself holds down the key that a key event of this computer tells of.
     bool HoldsKey(int nativeScanCode) const;
     orvelle::Processes& Processes();

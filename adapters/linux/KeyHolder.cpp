@@ -41,6 +41,7 @@ void KeyHolder::Press(int keyCode) {
         held.Insert(keyCode);
         target.NoteHeldKeys(held.Keys());
         target.Send(keyCode, KeyStroke::Down);
+        Changed();
         if (isFirst) guard.Wake();
         if (!std::exchange(beats, true)) BeatLater();
     }
@@ -71,6 +72,7 @@ void KeyHolder::LetGo(const std::vector<int>& keyCodes) {
             waiting.insert(keyCode);
         }
     }
+    if (isDone) Changed();
     TellProblem();
 }
 

@@ -33,6 +33,8 @@ public:
     void Release(int keyCode) { LetGo({keyCode}); }
     void ReleaseAll();
     bool Holds(int keyCode) const { return held.Contains(keyCode); }
+    std::vector<int> Held() const { return held.Keys(); }
+    Event<> Changed;  // a key came or went
 
     // What keeps keys from being pressed, or from being let go whatever happens; one sentence, once until it is over.
     Event<const std::string&> Told;

@@ -7,12 +7,15 @@
 
 #include "adapters/linux/KeyHolder.h"
 #include "adapters/linux/KeyServer.h"
+#include "adapters/shared/Changes.h"
 #include "platform/Keyboard.h"
+#include "platform/sides/HeldKeysSide.h"
 
 namespace orvelle::linux {
 
-class X11Keyboard : public Keyboard {
+class X11Keyboard : public Keyboard, public HeldKeysSide {
     KeyServer server;
+    Changes changes;
 
 public:
     // `display` "" is the environment's. `guardFile` is the key guard's program, by its full path; `kernelFile` is where
@@ -28,7 +31,13 @@ public:
     // Never "": a code without a key is named by its number in brackets. In UTF-8.
     std::string GetKeyNameTextA(Long keyMessage, Long size) override;
 
+    std::vector<std::string> HeldKeys() override;
+    Ticket Observe(std::function<void()> observer) override { return changes.Observe(std::move(observer)); }
+
     KeyHolder Keys;  // by the X server's key codes
+
+private:
+    std::string Name(Long code);
 };
 
 }  // namespace orvelle::linux

@@ -62,6 +62,7 @@ ThisComputer::~ThisComputer() = default;
 
 void ThisComputer::Begin() { parts->Keyboard.Keys.Begin(); }
 orvelle::Keyboard& ThisComputer::Keyboard() { return parts->Keyboard; }
+HeldKeysSide& ThisComputer::HeldKeys() { return parts->Keyboard; }
 bool ThisComputer::HoldsKey(int nativeScanCode) const { return parts->Keyboard.Keys.Holds(nativeScanCode); }
 orvelle::Processes& ThisComputer::Processes() { return parts->Processes; }
 orvelle::Registry& ThisComputer::Registry() { return parts->Autostart; }
