@@ -39,9 +39,15 @@ public:
         g_object_unref(testbed);
     }
 
-    std::set<int> Keys() { return Locked([this] { return keys; }); }
-    std::string Name() { return Locked([this] { return name; }); }
-    bool IsMade() { return Locked([this] { return isMade; }); }
+    struct Keyboard {
+        std::set<int> Keys;
+        std::string Name;
+        bool IsMade = false;
+    };
+    Keyboard Asked() {
+        const std::lock_guard<std::mutex> lock(mutex);
+        return asked;
+    }
     // The next event; it is there already, or the call waits for the test's own end.
     input_event Next() {
         input_event event{};
@@ -51,12 +57,6 @@ public:
     }
 
 private:
-    template <typename Action>
-    auto Locked(Action action) {
-        const std::lock_guard<std::mutex> lock(mutex);
-        return action();
-    }
-
     // On the mocking library's thread.
     static gboolean Answer(UMockdevIoctlBase*, UMockdevIoctlClient* client, gpointer self) {
         static_cast<MockedKernel*>(self)->Note(umockdev_ioctl_client_get_request(client),
@@ -66,32 +66,31 @@ private:
     }
     void Note(gulong request, UMockdevIoctlData* argument) {
         const std::lock_guard<std::mutex> lock(mutex);
-        if (request == UI_SET_KEYBIT) keys.insert(static_cast<int>(*reinterpret_cast<gulong*>(argument->data)));
-        if (request == UI_DEV_CREATE) isMade = true;
+        if (request == UI_SET_KEYBIT) asked.Keys.insert(static_cast<int>(*reinterpret_cast<gulong*>(argument->data)));
+        if (request == UI_DEV_CREATE) asked.IsMade = true;
         if (request != UI_DEV_SETUP) return;
         UMockdevIoctlData* const setup = umockdev_ioctl_data_resolve(argument, 0, sizeof(uinput_setup), nullptr);
-        name = reinterpret_cast<const uinput_setup*>(setup->data)->name;
+        asked.Name = reinterpret_cast<const uinput_setup*>(setup->data)->name;
         g_object_unref(setup);
     }
 
     UMockdevTestbed* testbed;
     UMockdevIoctlBase* answers;
     std::mutex mutex;
-    std::set<int> keys;
-    std::string name;
-    bool isMade = false;
+    Keyboard asked;
 };
 
 TEST(KernelKeysTest, AreThoseThatHaveAScanCodeOnAKeyboardOfAKnownName) {
     MockedKernel kernel;
     const KernelKeyboard keyboard(KernelKeyboard::File);
     EXPECT_EQ(keyboard.Problem(), "");
-    EXPECT_TRUE(kernel.IsMade());
-    EXPECT_EQ(kernel.Name(), KernelKeyboard::Name);
+    const MockedKernel::Keyboard asked = kernel.Asked();
+    EXPECT_TRUE(asked.IsMade);
+    EXPECT_EQ(asked.Name, KernelKeyboard::Name);
     std::set<int> expected;
     for (int key = 1; key < KeyCodes; ++key)
         if (ScanCodeOfLinuxKey(key) != 0) expected.insert(key);
-    EXPECT_EQ(kernel.Keys(), expected);
+    EXPECT_EQ(asked.Keys, expected);
 }
 
 // A session that answers, by its socket alone.
@@ -140,7 +139,7 @@ TEST_F(WaylandSession, IsNotAskedWhereADisplayIsNamed) {
     keyboard.Keys.Told = [&](const std::string& sentence) { told += sentence; };
     keyboard.Keys.Begin();
     EXPECT_EQ(told, "There is no X server to reach, so no key can be pressed on this computer.");
-    EXPECT_FALSE(kernel.IsMade());
+    EXPECT_FALSE(kernel.Asked().IsMade);
 }
 
 }  // namespace
