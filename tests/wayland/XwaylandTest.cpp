@@ -4,14 +4,13 @@
 
 #include "adapters/linux/X11Keyboard.h"
 #include "adapters/x11/Xwayland.h"
+#include "tests/linux/WaitUntil.h"
 #include "tests/linux/XClient.h"
 #include "tests/linux/XServer.h"
 #include "tests/shared/HandLoop.h"
 
 namespace orvelle::linux {
 namespace {
-
-using Strokes = std::vector<SeenStroke>;
 
 bool IsXwaylandAt(const std::string& display) {
     xcb_connection_t* const connection = xcb_connect(display.empty() ? nullptr : display.c_str(), nullptr);
@@ -34,8 +33,10 @@ TEST(Xwayland, TakesStrokesForXProgramsAndThatIsToldOnce) {
     X11Keyboard keyboard(loop, "", KEY_GUARD, "/nowhere/uinput");
     keyboard.Keys.Told = [&](const std::string& sentence) { told += sentence + "\n"; };
     keyboard.Keys.Begin();
-    for (const Long flags : {Long{0}, KeyEventUp}) keyboard.keybd_event(0, 30, flags, 0);
-    EXPECT_EQ(client.NextStrokes(2), (Strokes{{38, true}, {38, false}}));
+    keyboard.keybd_event(0, 30, 0, 0);
+    EXPECT_TRUE(WaitUntil([&] { return client.KeysDown() == std::vector<int>{38}; }));
+    keyboard.keybd_event(0, 30, KeyEventUp, 0);
+    EXPECT_TRUE(WaitUntil([&] { return client.KeysDown().empty(); }));
     EXPECT_EQ(told,
               "In this Wayland session the keys that the panel presses reach only the windows of X programs, until this "
               "user may write to /nowhere/uinput.\n");
