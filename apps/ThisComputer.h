@@ -44,7 +44,7 @@ public:
     // Opens the door by which other programs' messages reach the control's window.
     void OpenDoor(const WindowTable& table, Control& control);
 
-    Event<const std::string&> Told;  // a sentence for the user about what this computer can't do
+    Event<const std::string&> Told;      // a sentence for the user about what this computer can't do
     Event<const std::string&> KeysTold;  // one about the keys that the panel presses; it needs no answer
     Event<> FileChanged;
     Event<const std::string&> ProgramTold;  // a sentence about a program that was started, or was not

@@ -25,8 +25,8 @@ constexpr int NextTry = 1000;  // ms
 
 enum class Panel { IsGone, Hangs };
 
-// False if they could not be let go; the keys are in the set again then. A panel that hangs may go on, and counts on its
-// note.
+// False if they could not be let go; the keys are in the set again then. A panel that hangs may go on, and counts on
+// its note.
 bool LetGoOn(StrokeTarget& target, linux::HeldKeys& held, Panel panel) {
     // Taken out before, so that a panel that goes on meanwhile finds what it presses from now on in the set.
     const auto keys = held.TakeAll();

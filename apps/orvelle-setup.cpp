@@ -18,7 +18,8 @@ namespace {
 int ShowWindow(const SetUpCommand& command) {
     const WindowSystem windows = FindWindowSystem();
     if (!windows.Missing.empty()) {
-        std::cerr << "orvelle-setup: " << windows.Missing << " Without a window there are commands: orvelle-setup --help.\n";
+        std::cerr << "orvelle-setup: " << windows.Missing
+                  << " Without a window there are commands: orvelle-setup --help.\n";
         return EXIT_FAILURE;
     }
     qt::Application application("orvelle-setup", windows.Name, [](const std::exception& error) {

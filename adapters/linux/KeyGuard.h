@@ -26,8 +26,8 @@ public:
     // `file` is the guard's program; `display` the X server that it releases keys on.
     KeyGuard(std::string file, std::string display);
 
-    // Starts the guard unless it runs. Returns when it is sure to do its work, or Problem() tells why it won't. The keys
-    // are those of a keyboard in the kernel by its descriptor, or of the X server where that is -1.
+    // Starts the guard unless it runs. Returns when it is sure to do its work, or Problem() tells why it won't. The
+    // keys are those of a keyboard in the kernel by its descriptor, or of the X server where that is -1.
     void Watch(const HeldKeys& held, int kernelDescriptor);
     // Has the guard look at the set, into which the first key came.
     void Wake();

@@ -42,10 +42,11 @@ void KeyServer::Choose() {
     kernel.emplace(kernelFile);
     if (kernel->Problem().empty()) return;
     kernel.reset();
-    limit = (hadServer ? "In this Wayland session the keys that the panel presses reach only the windows of X programs, "
-                         "until this user may write to "
-                       : "In this Wayland session no key can be pressed on this computer, until this user may write to ") +
-            kernelFile + ".";
+    limit =
+        (hadServer ? "In this Wayland session the keys that the panel presses reach only the windows of X programs, "
+                     "until this user may write to "
+                   : "In this Wayland session no key can be pressed on this computer, until this user may write to ") +
+        kernelFile + ".";
 }
 
 std::string KeyServer::Problem() const {

@@ -1,5 +1,5 @@
-// Key strokes and key names on an X server, or in its stead (KeyServer.h): which key a virtual key is, and what a key is
-// called. Without a server strokes do nothing and keys have their US names. The keys that are down are let go at the
+// Key strokes and key names on an X server, or in its stead (KeyServer.h): which key a virtual key is, and what a key
+// is called. Without a server strokes do nothing and keys have their US names. The keys that are down are let go at the
 // end, whichever it is (KeyHolder.h).
 #pragma once
 
@@ -18,8 +18,8 @@ class X11Keyboard : public Keyboard, public HeldKeysSide {
     Changes changes;
 
 public:
-    // `display` "" is the environment's. `guardFile` is the key guard's program, by its full path; `kernelFile` is where
-    // the kernel makes keyboards.
+    // `display` "" is the environment's. `guardFile` is the key guard's program, by its full path; `kernelFile` is
+    // where the kernel makes keyboards.
     X11Keyboard(EventLoop& loop, const std::string& display, std::string guardFile,
                 const std::string& kernelFile = KernelKeyboard::File);
 

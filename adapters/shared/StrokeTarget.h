@@ -1,6 +1,6 @@
-// Where the panel's key strokes go, and the key guard's: an X server, or a keyboard of this program's own in the kernel.
-// Nothing of it ends the program: while Problem() is a sentence, every stroke does nothing. Key codes are those of an X
-// server (ScanCodes.h), 8 to 255; others do nothing.
+// Where the panel's key strokes go, and the key guard's: an X server, or a keyboard of this program's own in the
+// kernel. Nothing of it ends the program: while Problem() is a sentence, every stroke does nothing. Key codes are those
+// of an X server (ScanCodes.h), 8 to 255; others do nothing.
 #pragma once
 
 #include <string>

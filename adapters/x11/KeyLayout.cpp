@@ -26,7 +26,8 @@ std::string Accent(xkb_keysym_t symbol) {
     return "";
 }
 
-// As it is printed on the key. The library has no upper case for some letters, by its version for ß, which no key shows.
+// As it is printed on the key. The library has no upper case for some letters, by its version for ß, which no key
+// shows.
 xkb_keysym_t UpperCase(xkb_keysym_t symbol) {
     const xkb_keysym_t upper = xkb_keysym_to_upper(symbol);
     return symbol == XKB_KEY_ssharp || xkb_keysym_to_utf32(upper) == 0 ? symbol : upper;

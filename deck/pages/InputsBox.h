@@ -1,6 +1,6 @@
 // The simulator's keyboard and joysticks, and what push-to-talk does with them: below them the lights of the voice
-// engine tell in which rooms the user talks, and another one which keys the panel holds down on this computer, so that a
-// held key and its effect are seen at once.
+// engine tell in which rooms the user talks, and another one which keys the panel holds down on this computer, so that
+// a held key and its effect are seen at once.
 #pragma once
 
 #include <array>

@@ -25,7 +25,7 @@ struct FarSides {
     MixerSide* SpeakersMixer = nullptr;
     TeamSpeakSide* TeamSpeak = nullptr;
     JoinSide* Join = nullptr;
-    orvelle::HeldKeysSide* HeldKeys = nullptr;  // there wherever the panel is
+    HeldKeysSide* HeldKeys = nullptr;     // there wherever the panel is
     AudioDevices* Devices = nullptr;      // there whenever the engine or a mixer is
     orvelle::Notices* Notices = nullptr;  // that the settings' trouble goes to
 };

@@ -27,7 +27,8 @@ class MockedKernel {
 public:
     MockedKernel() : testbed(umockdev_testbed_new()), answers(umockdev_ioctl_base_new()) {
         umockdev_testbed_add_from_string(
-            testbed, "P: /devices/virtual/misc/uinput\nN: uinput\nE: DEVNAME=/dev/uinput\nE: SUBSYSTEM=misc\n", nullptr);
+            testbed, "P: /devices/virtual/misc/uinput\nN: uinput\nE: DEVNAME=/dev/uinput\nE: SUBSYSTEM=misc\n",
+            nullptr);
         g_signal_connect(answers, "handle-ioctl", G_CALLBACK(&MockedKernel::Answer), this);
         EXPECT_TRUE(umockdev_testbed_attach_ioctl(testbed, "/dev/uinput", answers, nullptr));
     }

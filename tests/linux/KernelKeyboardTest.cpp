@@ -97,7 +97,8 @@ TEST(KernelKeyboardTest, ThatIsGoneIsOneSentenceAndTakesNothingMore) {
     kernel.Out.Close();
     keyboard.Send(KEY_A + XKeyCodeOffset, KeyStroke::Down);
     keyboard.Send(KEY_A + XKeyCodeOffset, KeyStroke::Up);
-    EXPECT_EQ(keyboard.Problem(), "The kernel takes no key strokes any more, so no key can be pressed on this computer.");
+    EXPECT_EQ(keyboard.Problem(),
+              "The kernel takes no key strokes any more, so no key can be pressed on this computer.");
     signal(SIGPIPE, SIG_DFL);
 }
 

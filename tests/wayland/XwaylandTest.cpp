@@ -37,9 +37,10 @@ TEST(Xwayland, TakesStrokesForXProgramsAndThatIsToldOnce) {
     EXPECT_TRUE(WaitUntil([&] { return client.KeysDown() == std::vector<int>{38}; }));
     keyboard.keybd_event(0, 30, KeyEventUp, 0);
     EXPECT_TRUE(WaitUntil([&] { return client.KeysDown().empty(); }));
-    EXPECT_EQ(told,
-              "In this Wayland session the keys that the panel presses reach only the windows of X programs, until this "
-              "user may write to /nowhere/uinput.\n");
+    EXPECT_EQ(
+        told,
+        "In this Wayland session the keys that the panel presses reach only the windows of X programs, until this "
+        "user may write to /nowhere/uinput.\n");
 }
 
 }  // namespace
