@@ -37,8 +37,7 @@ void KeyServer::Connect() {
 
 void KeyServer::Choose() {
     hadServer = !connection->IsLost();
-    const bool isWayland = hadServer ? IsXwayland(connection->Connection()) : display.empty() && HasWaylandDisplay();
-    if (!isWayland) return;
+    if (!HasWaylandDisplay() || !(hadServer ? IsXwayland(connection->Connection()) : display.empty())) return;
     kernel.emplace(kernelFile);
     if (kernel->Problem().empty()) return;
     kernel.reset();
