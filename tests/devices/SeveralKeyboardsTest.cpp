@@ -40,11 +40,12 @@ protected:
 
 TEST_F(SeveralKeyboards, LeaveHeldWhatTheUserStrikesAndLetItGoLater) {
     const std::vector<int> down = client.KeysDown();
-    for (const int key : {YKey, AKey}) {
-        user.Press(key);
-        user.Release(key);
-    }
+    user.Press(YKey);
+    user.Release(YKey);
     EXPECT_EQ(client.KeysDown(), down);
+    // The server lets go of a key that two keyboards hold with either of them.
+    user.Press(AKey);
+    user.Release(AKey);
     ExpectReleased();
 }
 
@@ -61,7 +62,7 @@ TEST_F(SeveralKeyboards, ThatComeAndGoLetGoWhatIsHeld) {
     struct {
         xcb_input_add_master_t Head;
         char Name[4];
-    } pair{{XCB_INPUT_HIERARCHY_CHANGE_TYPE_ADD_MASTER, 5, 3, 1, 1}, {'n', 'e', 'w', 0}};
+    } pair{{XCB_INPUT_HIERARCHY_CHANGE_TYPE_ADD_MASTER, 3, 3, 1, 1}, {'n', 'e', 'w', 0}};
     static_assert(sizeof pair == 12);
     xcb_connection_t* const connection = xcb_connect(server.Display().c_str(), nullptr);
     OwnReply(xcb_input_xi_query_version_reply(connection, xcb_input_xi_query_version(connection, 2, 2), nullptr));
