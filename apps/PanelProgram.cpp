@@ -45,6 +45,7 @@ PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile
     Computer.OpenDoor(Desktop.Table, Panel.Stub1);
     Settings.Notices.Told = [this](const std::string& message) { Desktop.Messages.MsgBox(message); };
     Computer.Told = [this](const std::string& sentence) { Settings.Notices.Tell(sentence); };
+    Computer.KeysTold = [this](const std::string& sentence) { Desktop.Tray.Tell(sentence); };
     if (const std::string problem = process.Problem(); !problem.empty()) Settings.Notices.Tell(problem);
     Computer.ProgramTold = [this](const std::string& sentence) { TellOfProgram(sentence); };
     Outside.Tessaly.Refused = [this](const std::string& sentence) {
@@ -114,6 +115,7 @@ void PanelProgram::OpenDeck() {
     FarSides sides = Outside.Practice.Sides();
     sides.Notices = &Settings.Notices;
     sides.Join = &joining;
+    sides.HeldKeys = &Computer.HeldKeys();
     Deck = std::make_unique<DeckWindow>(sides);
     ownStrokes = std::make_unique<OwnStrokes>(Computer, *Deck);
     for (const std::string& sentence : std::exchange(untold, {})) TellOfProgram(sentence);

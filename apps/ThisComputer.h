@@ -11,6 +11,7 @@ namespace orvelle {
 
 class Control;
 class EventLoop;
+class HeldKeysSide;
 class Keyboard;
 class Processes;
 class Registry;
@@ -30,6 +31,7 @@ public:
     void Begin();
 
     orvelle::Keyboard& Keyboard();
+    HeldKeysSide& HeldKeys();
     // Whether the panel itself holds down the key that a key event of this computer tells of.
     bool HoldsKey(int nativeScanCode) const;
     orvelle::Processes& Processes();
@@ -42,7 +44,8 @@ public:
     // Opens the door by which other programs' messages reach the control's window.
     void OpenDoor(const WindowTable& table, Control& control);
 
-    Event<const std::string&> Told;  // a sentence for the user about what this computer can't do
+    Event<const std::string&> Told;      // a sentence for the user about what this computer can't do
+    Event<const std::string&> KeysTold;  // one about the keys that the panel presses; it needs no answer
     Event<> FileChanged;
     Event<const std::string&> ProgramTold;  // a sentence about a program that was started, or was not
 

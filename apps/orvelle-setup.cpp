@@ -7,20 +7,22 @@
 #include "adapters/qt/services/Application.h"
 #include "adapters/qt/services/QtEventLoop.h"
 #include "adapters/qt/widgets/StatusImage.h"
-#include "adapters/x11/Display.h"
 #include "apps/SetUpCommands.h"
 #include "apps/SetUpDesk.h"
+#include "apps/WindowSystem.h"
 #include "deck/join/JoinDialog.h"
 
 namespace orvelle {
 namespace {
 
 int ShowWindow(const SetUpCommand& command) {
-    if (const std::string missing = MissingDisplay(); !missing.empty()) {
-        std::cerr << "orvelle-setup: " << missing << " Without a window there are commands: orvelle-setup --help.\n";
+    const WindowSystem windows = FindWindowSystem();
+    if (!windows.Missing.empty()) {
+        std::cerr << "orvelle-setup: " << windows.Missing
+                  << " Without a window there are commands: orvelle-setup --help.\n";
         return EXIT_FAILURE;
     }
-    qt::Application application("orvelle-setup", "xcb", [](const std::exception& error) {
+    qt::Application application("orvelle-setup", windows.Name, [](const std::exception& error) {
         std::cerr << "orvelle-setup: internal error: " << error.what() << "\n";
         std::_Exit(EXIT_FAILURE);
     });

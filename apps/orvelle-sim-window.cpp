@@ -7,9 +7,9 @@
 #include "adapters/looks/Theme.h"
 #include "adapters/qt/services/Application.h"
 #include "adapters/qt/services/QtEventLoop.h"
-#include "adapters/x11/Display.h"
 #include "apps/SimulatorProgram.h"
 #include "apps/SimulatorWindow.h"
+#include "apps/WindowSystem.h"
 
 using namespace orvelle;
 
@@ -25,11 +25,12 @@ namespace {
 int main(int count, char** words) {
     linux::TerminationSignals endings;
     const auto [command, sentence] = ReadSimulatorCommand(count, words);
-    if (!command || !MissingDisplay().empty()) {
-        std::cerr << "orvelle-sim: " << (command ? MissingDisplay() : sentence) << std::endl;
+    const WindowSystem windows = FindWindowSystem();
+    if (!command || !windows.Missing.empty()) {
+        std::cerr << "orvelle-sim: " << (command ? windows.Missing : sentence) << std::endl;
         return EXIT_FAILURE;
     }
-    qt::Application application("orvelle-sim", "xcb", FailBy);
+    qt::Application application("orvelle-sim", windows.Name, FailBy);
     qt::Application::setDesktopFileName("net.orvelle.OrvelleCP.Simulator");
     ApplyTheme(SystemScheme());
     qt::QtEventLoop loop;

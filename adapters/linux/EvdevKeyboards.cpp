@@ -1,5 +1,8 @@
 #include "adapters/linux/EvdevKeyboards.h"
 
+#include <string_view>
+
+#include "adapters/linux/KernelKeyboard.h"
 #include "adapters/shared/KeyNames.h"
 #include "adapters/shared/ScanCodes.h"
 
@@ -8,7 +11,9 @@ namespace orvelle::linux {
 namespace {
 
 // Buttons of a power switch and of a headset are keys, too; what makes a keyboard is one of those that a typist knows.
+// What a panel on this computer presses by a keyboard of its own are not the user's keys.
 bool IsKeyboard(const libevdev& device) {
+    if (libevdev_get_name(&device) == std::string_view(KernelKeyboard::Name)) return false;
     for (unsigned key = KEY_ESC; key <= KEY_KPDOT; ++key)
         if (libevdev_has_event_code(&device, EV_KEY, key)) return true;
     return false;

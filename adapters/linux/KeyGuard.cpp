@@ -23,11 +23,13 @@ constexpr int MostEndsAtOnce = 5;
 FileDescriptor OutOfTheWay(int number) { return FileDescriptor(fcntl(number, F_DUPFD_CLOEXEC, 10)); }
 
 // What the guard process is before its program runs: a session of its own, so that nothing sent to our group reaches
-// it; every signal blocked; no file open but its two.
-void Prepare(SpawnPreparation& start, int line, int held) {
+// it; every signal blocked; no file open but its own.
+void Prepare(SpawnPreparation& start, int line, int held, int kernel) {
     posix_spawn_file_actions_adddup2(&start.Files, line, KeyGuard::LineDescriptor);
     posix_spawn_file_actions_adddup2(&start.Files, held, KeyGuard::HeldKeysDescriptor);
-    posix_spawn_file_actions_addclosefrom_np(&start.Files, KeyGuard::HeldKeysDescriptor + 1);
+    if (kernel >= 0) posix_spawn_file_actions_adddup2(&start.Files, kernel, KeyGuard::KernelDescriptor);
+    const int last = kernel >= 0 ? KeyGuard::KernelDescriptor : KeyGuard::HeldKeysDescriptor;
+    posix_spawn_file_actions_addclosefrom_np(&start.Files, last + 1);
     posix_spawn_file_actions_addchdir_np(&start.Files, "/");
 
     posix_spawnattr_setflags(&start.Attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK);
@@ -57,33 +59,35 @@ void KeyGuard::Bury() {
     endsAtOnce = RanForAWhile() ? 0 : endsAtOnce + 1;
 }
 
-void KeyGuard::Watch(const HeldKeys& held) {
+void KeyGuard::Watch(const HeldKeys& held, int kernelDescriptor) {
     if (Runs()) {
         if (RanForAWhile()) endsAtOnce = 0;
         return;
     }
     Bury();
-    couldStart = Start(held);
+    couldStart = Start(held, kernelDescriptor);
 }
 
-void KeyGuard::Replace(const HeldKeys& held) {
+void KeyGuard::Replace(const HeldKeys& held, int kernelDescriptor) {
     if (Runs()) return;
     Bury();
-    if (endsAtOnce < MostEndsAtOnce) couldStart = Start(held);
+    if (endsAtOnce < MostEndsAtOnce) couldStart = Start(held, kernelDescriptor);
 }
 
-bool KeyGuard::Start(const HeldKeys& held) {
+bool KeyGuard::Start(const HeldKeys& held, int kernelDescriptor) {
     std::array<int, 2> ends;
     if (held.Descriptor() < 0 || socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) return false;
     FileDescriptor ours(ends[0]);
     const FileDescriptor theirs(ends[1]);
     const FileDescriptor theirLine = OutOfTheWay(theirs.Number());
     const FileDescriptor keys = OutOfTheWay(held.Descriptor());
-    if (!theirLine || !keys) return false;
+    const FileDescriptor kernel = kernelDescriptor < 0 ? FileDescriptor() : OutOfTheWay(kernelDescriptor);
+    if (!theirLine || !keys || (kernelDescriptor >= 0 && !kernel)) return false;
 
     SpawnPreparation start;
-    Prepare(start, theirLine.Number(), keys.Number());
-    std::array<char*, 3> arguments{file.data(), display.data(), nullptr};
+    Prepare(start, theirLine.Number(), keys.Number(), kernel.Number());
+    std::string argument = KernelArgument;
+    std::array<char*, 4> arguments{file.data(), display.data(), kernel ? argument.data() : nullptr, nullptr};
     // From its success on the process is the guard's own, whatever becomes of this one.
     if (posix_spawn(&process, file.c_str(), &start.Files, &start.Attributes, arguments.data(), environ) != 0) {
         process = -1;

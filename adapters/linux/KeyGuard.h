@@ -20,19 +20,22 @@ public:
     // Where the guard finds what it is given.
     static constexpr int LineDescriptor = 3;
     static constexpr int HeldKeysDescriptor = 4;
+    static constexpr int KernelDescriptor = 5;  // where keys are those of the kernel's keyboard
+    static constexpr const char* KernelArgument = "kernel";
 
     // `file` is the guard's program; `display` the X server that it releases keys on.
     KeyGuard(std::string file, std::string display);
 
-    // Starts the guard unless it runs. Returns when it is sure to do its work, or Problem() tells why it won't.
-    void Watch(const HeldKeys& held);
+    // Starts the guard unless it runs. Returns when it is sure to do its work, or Problem() tells why it won't. The
+    // keys are those of a keyboard in the kernel by its descriptor, or of the X server where that is -1.
+    void Watch(const HeldKeys& held, int kernelDescriptor);
     // Has the guard look at the set, into which the first key came.
     void Wake();
 
     // For the loop: readable when the guard has ended and Replace has something to do.
     int Descriptor() const { return ending.Number(); }
     // Starts another, but not for ever where each ends at once; the next Watch tries again.
-    void Replace(const HeldKeys& held);
+    void Replace(const HeldKeys& held, int kernelDescriptor);
 
     // Why a key stays down if this program is killed; one sentence, "" if all is well.
     std::string Problem() const;
@@ -43,7 +46,7 @@ private:
     bool Runs() const;
     bool RanForAWhile() const;
     void Bury();
-    bool Start(const HeldKeys& held);
+    bool Start(const HeldKeys& held, int kernelDescriptor);
 
     std::string file;
     std::string display;

@@ -16,30 +16,32 @@ constexpr Long BetweenBeats = 1000;  // ms
 KeyHolder::KeyHolder(EventLoop& eventLoop, KeyServer& keyServer, KeyGuard keyGuard)
     : loop(eventLoop), server(keyServer), guard(std::move(keyGuard)) {
     guardEnded = loop.WhenReadable(guard.Descriptor(), [this] {
-        guard.Replace(held);
+        guard.Replace(held, server.KernelDescriptor());
         TellProblem();
     });
 }
 
 void KeyHolder::Begin() {
-    guard.Watch(held);
-    for (const int keyCode : server.Reach().NotedKeys()) held.Insert(keyCode);
+    StrokeTarget& target = server.Reach();
+    guard.Watch(held, server.KernelDescriptor());
+    for (const int keyCode : target.NotedKeys()) held.Insert(keyCode);
     ReleaseAll();
     TellProblem();
 }
 
 void KeyHolder::Press(int keyCode) {
-    XTestConnection& connection = server.Reach();
-    if (connection.Problem().empty()) {
-        guard.Watch(held);
+    StrokeTarget& target = server.Reach();
+    if (target.Problem().empty()) {
+        guard.Watch(held, server.KernelDescriptor());
         waiting.erase(keyCode);
         const bool isFirst = held.IsEmpty();
         if (isFirst) held.Beat();
         // Set and note are never behind the server: a key is in them before it goes down and until the server has let
         // it go, since a server may drop what it has not read yet when this program dies.
         held.Insert(keyCode);
-        connection.NoteHeldKeys(held.Keys());
-        connection.Send(keyCode, KeyStroke::Down);
+        target.NoteHeldKeys(held.Keys());
+        target.Send(keyCode, KeyStroke::Down);
+        Changed();
         if (isFirst) guard.Wake();
         if (!std::exchange(beats, true)) BeatLater();
     }
@@ -57,10 +59,10 @@ void KeyHolder::LetGo(const std::vector<int>& keyCodes) {
     // A connection may turn out to be cut by its use alone, and the next one does it then.
     bool isDone = false;
     for (int attempt = 0; attempt < 2 && !isDone; ++attempt) {
-        XTestConnection& connection = server.Reach();
-        for (const int keyCode : keyCodes) connection.Send(keyCode, KeyStroke::Up);
-        connection.Finish();
-        isDone = connection.Problem().empty();
+        StrokeTarget& target = server.Reach();
+        for (const int keyCode : keyCodes) target.Send(keyCode, KeyStroke::Up);
+        target.Finish();
+        isDone = target.Problem().empty();
     }
     for (const int keyCode : keyCodes) {
         if (isDone) {
@@ -70,12 +72,13 @@ void KeyHolder::LetGo(const std::vector<int>& keyCodes) {
             waiting.insert(keyCode);
         }
     }
+    if (isDone) Changed();
     TellProblem();
 }
 
 void KeyHolder::Beat() {
     held.Beat();
-    guard.Watch(held);
+    guard.Watch(held, server.KernelDescriptor());
     if (!waiting.empty()) LetGo({waiting.begin(), waiting.end()});
     if (held.IsEmpty())
         Rest();

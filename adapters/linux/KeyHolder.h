@@ -1,8 +1,8 @@
-// Presses keys on the X server and sees to it that none stays down. The keys that are down because of this program are
-// a set that the key guard shares, and a note on the server itself; a key leaves them only after the server let it go.
-// While one is held there is a beat every second: it tells the guard that this program goes on, replaces a guard that
-// could not be started, and tries again to let go of what could not be let go. Where none is held at a beat, the note
-// is cleared, and nothing of it runs any more.
+// Presses keys on the X server, or wherever the key server leads, and sees to it that none stays down. The keys that
+// are down because of this program are a set that the key guard shares, and a note on the X server itself; a key leaves
+// them only after the server let it go. While one is held there is a beat every second: it tells the guard that this
+// program goes on, replaces a guard that could not be started, and tries again to let go of what could not be let go.
+// Where none is held at a beat, the note is cleared, and nothing of it runs any more.
 #pragma once
 
 #include <set>
@@ -32,6 +32,8 @@ public:
     void Release(int keyCode) { LetGo({keyCode}); }
     void ReleaseAll();
     bool Holds(int keyCode) const { return held.Contains(keyCode); }
+    std::vector<int> Held() const { return held.Keys(); }
+    Event<> Changed;  // a key came or went
 
     // What keeps keys from being pressed, or from being let go whatever happens; one sentence, once until it is over.
     Event<const std::string&> Told;

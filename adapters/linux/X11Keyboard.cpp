@@ -27,8 +27,11 @@ std::string Cut(std::string name, Long size) {
 
 }  // namespace
 
-X11Keyboard::X11Keyboard(EventLoop& loop, const std::string& display, std::string guardFile)
-    : server(display), Keys(loop, server, KeyGuard(std::move(guardFile), display)) {}
+X11Keyboard::X11Keyboard(EventLoop& loop, const std::string& display, std::string guardFile,
+                         const std::string& kernelFile)
+    : server(display, kernelFile), changes(loop), Keys(loop, server, KeyGuard(std::move(guardFile), display)) {
+    Keys.Changed = [this] { changes.Mark(); };
+}
 
 void X11Keyboard::keybd_event(Long virtualKey, Long scanByte, Long flags, Long) {
     const Long known = CodeOfVirtualKey(virtualKey);
@@ -46,12 +49,21 @@ Long X11Keyboard::MapVirtualKeyA(Long code, Long mapType) {
 }
 
 std::string X11Keyboard::GetKeyNameTextA(Long keyMessage, Long size) {
-    const Long code = (keyMessage >> 16) & (KeyCodes - 1);
+    return Cut(Name((keyMessage >> 16) & (KeyCodes - 1)), size);
+}
+
+std::string X11Keyboard::Name(Long code) {
     const KeyDescription key = DescribeKey(code);
     std::string name;
     if (key.IsCharacter) name = server.Character(XKeyCode(code));
     if (name.empty()) name = key.Name;
-    return Cut(name.empty() ? std::string("[").append(std::to_string(code)).append("]") : name, size);
+    return name.empty() ? std::string("[").append(std::to_string(code)).append("]") : name;
+}
+
+std::vector<std::string> X11Keyboard::HeldKeys() {
+    std::vector<std::string> names;
+    for (const int keyCode : Keys.Held()) names.push_back(Name(ScanCodeOfLinuxKey(keyCode - XKeyCodeOffset)));
+    return names;
 }
 
 }  // namespace orvelle::linux

@@ -1,5 +1,4 @@
-// Whether there is an X server to show the panel on, asked before Qt would abort the program for want of one. Keys are
-// sent through the X server, so a Wayland session is reached through the X server that it brings along.
+// Whether there is an X server to show the panel on, asked before Qt would abort the program for want of one.
 #pragma once
 
 #include <string>

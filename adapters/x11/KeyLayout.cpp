@@ -26,8 +26,15 @@ std::string Accent(xkb_keysym_t symbol) {
     return "";
 }
 
-std::string Text(xkb_keysym_t symbol) {
+// As it is printed on the key. The library has no upper case for some letters, by its version for ß, which no key
+// shows.
+xkb_keysym_t UpperCase(xkb_keysym_t symbol) {
     const xkb_keysym_t upper = xkb_keysym_to_upper(symbol);
+    return symbol == XKB_KEY_ssharp || xkb_keysym_to_utf32(upper) == 0 ? symbol : upper;
+}
+
+std::string Text(xkb_keysym_t symbol) {
+    const xkb_keysym_t upper = UpperCase(symbol);
     const std::uint32_t character = xkb_keysym_to_utf32(upper);
     const bool canBeShown = character > 0x20 && (character < 0x7F || character > 0xA0);
     std::array<char, 8> text{};

@@ -12,33 +12,28 @@
 #include <string>
 #include <vector>
 
+#include "adapters/shared/StrokeTarget.h"
+
 namespace orvelle {
 
-enum class KeyStroke { Down, Up };
-
-class XTestConnection {
+class XTestConnection : public StrokeTarget {
 public:
     // `display` names the server as the environment's DISPLAY does; "" takes that.
     explicit XTestConnection(const std::string& display);
 
-    // "" while strokes can be sent.
-    std::string Problem() const;
+    std::string Problem() const override;
     // Whether another connection may help.
     bool IsLost() const { return xcb_connection_has_error(connection.get()) != 0; }
-    // The stroke is on its way to the server when this returns. `keyCode` is the server's own.
-    void Send(int keyCode, KeyStroke stroke);
-    // Keeps the note in one order with the strokes; on its way with the next stroke or Finish. It names these keys,
-    // ascending, and maybe some that were noted before: each change of it wakes every program that watches the root
-    // window.
-    void NoteHeldKeys(const std::vector<int>& keyCodes);
-    // It names none any more; on its way when this returns.
-    void ClearNote();
-    std::vector<int> NotedKeys();
-    // Returns when the server has taken all strokes.
-    void Finish();
+    void Send(int keyCode, KeyStroke stroke) override;
+    void Finish() override;
+    // Keys that went up stay in the note until it is cleared: each change of it wakes every program that watches the
+    // root window.
+    void NoteHeldKeys(const std::vector<int>& keyCodes) override;
+    void ClearNote() override;
+    std::vector<int> NotedKeys() override;
     // Hands on the events that the server sent in the meantime; never waits.
     void TakeEvents(const std::function<void(const xcb_generic_event_t&)>& take);
-    // For questions about the keyboard. Never null, but broken where Problem() tells so.
+    // For questions about the server. Never null, but broken where Problem() tells so.
     xcb_connection_t* Connection() const { return connection.get(); }
 
 private:

@@ -52,7 +52,7 @@ ThisComputer::ThisComputer(ThisProcess& process, EventLoop& loop, orvelle::Regis
     // A held key is then told from one that is struck again and again.
     TellRepeatsAsPresses();
     parts->ReleaseAtEnd = process.AtEnd([this] { parts->Keyboard.Keys.ReleaseAll(); });
-    parts->Keyboard.Keys.Told = [this](const std::string& sentence) { Told(sentence); };
+    parts->Keyboard.Keys.Told = [this](const std::string& sentence) { KeysTold(sentence); };
     parts->Autostart.Told = [this](const std::string& sentence) { Told(sentence); };
     parts->Processes.Told = [this](const std::string& sentence) { ProgramTold(sentence); };
     parts->ProcessesReady = loop.WhenReadable(parts->Processes.Descriptor(), [this] { parts->Processes.Serve(); });
@@ -62,6 +62,7 @@ ThisComputer::~ThisComputer() = default;
 
 void ThisComputer::Begin() { parts->Keyboard.Keys.Begin(); }
 orvelle::Keyboard& ThisComputer::Keyboard() { return parts->Keyboard; }
+HeldKeysSide& ThisComputer::HeldKeys() { return parts->Keyboard; }
 bool ThisComputer::HoldsKey(int nativeScanCode) const { return parts->Keyboard.Keys.Holds(nativeScanCode); }
 orvelle::Processes& ThisComputer::Processes() { return parts->Processes; }
 orvelle::Registry& ThisComputer::Registry() { return parts->Autostart; }

@@ -5,13 +5,14 @@
 
 #include "adapters/linux/ProcessProgram.h"
 #include "adapters/linux/TerminationSignals.h"
-#include "adapters/x11/Display.h"
+#include "apps/WindowSystem.h"
 #include "platform/EventLoop.h"
 #include "platform/RuntimeError.h"
 
 namespace orvelle {
 
 struct ThisProcess::Parts {
+    const orvelle::WindowSystem Windows = FindWindowSystem();
     linux::TerminationSignals Endings;
     linux::ProcessProgram Program{linux::InstanceLock::OfThisSession()};
 };
@@ -19,9 +20,8 @@ struct ThisProcess::Parts {
 ThisProcess::ThisProcess() : parts(std::make_unique<Parts>()) {}
 ThisProcess::~ThisProcess() = default;
 
-std::string ThisProcess::MissingDisplay() const { return orvelle::MissingDisplay(); }
-// Keys are sent through the X server, so a Wayland session is reached through the one that it brings along.
-std::string ThisProcess::WindowSystem() const { return "xcb"; }
+std::string ThisProcess::MissingDisplay() const { return parts->Windows.Missing; }
+std::string ThisProcess::WindowSystem() const { return parts->Windows.Name; }
 
 orvelle::Program& ThisProcess::Program() { return parts->Program; }
 std::string ThisProcess::Problem() const { return parts->Program.Problem(); }

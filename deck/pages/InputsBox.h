@@ -1,5 +1,6 @@
 // The simulator's keyboard and joysticks, and what push-to-talk does with them: below them the lights of the voice
-// engine tell in which rooms the user talks, so that a held key and its effect are seen at once.
+// engine tell in which rooms the user talks, and another one which keys the panel holds down on this computer, so that
+// a held key and its effect are seen at once.
 #pragma once
 
 #include <array>
@@ -8,6 +9,7 @@
 #include "platform/Ticket.h"
 
 namespace orvelle {
+class HeldKeysSide;
 class SimulatorSide;
 class VoiceEngineSide;
 }  // namespace orvelle
@@ -18,15 +20,21 @@ class SignalLight;
 
 class InputsBox : public Section {
 public:
-    // Without a voice engine (null) there are no lights.
-    InputsBox(SimulatorSide& simulator, VoiceEngineSide* voiceEngine);
+    // Without a voice engine (null) it has no lights, without held keys (null) none for them.
+    InputsBox(SimulatorSide& simulator, VoiceEngineSide* voiceEngine, HeldKeysSide* heldKeys);
 
 private:
-    void ShowState();
+    void AddEngine();
+    void AddHeldKeys();
+    void ShowRooms();
+    void ShowHeldKeys();
 
     VoiceEngineSide* engine;
+    HeldKeysSide* keys;
     std::array<SignalLight*, 3> talks{};  // by room
-    Ticket watch;
+    SignalLight* holds = nullptr;
+    Ticket engineWatch;
+    Ticket keysWatch;
 };
 
 }  // namespace orvelle::deck

@@ -5,6 +5,7 @@
 namespace orvelle {
 
 class AudioDevices;
+class HeldKeysSide;
 class JoinSide;
 class LinkSide;
 class MixerSide;
@@ -24,6 +25,7 @@ struct FarSides {
     MixerSide* SpeakersMixer = nullptr;
     TeamSpeakSide* TeamSpeak = nullptr;
     JoinSide* Join = nullptr;
+    HeldKeysSide* HeldKeys = nullptr;     // there wherever the panel is
     AudioDevices* Devices = nullptr;      // there whenever the engine or a mixer is
     orvelle::Notices* Notices = nullptr;  // that the settings' trouble goes to
 };

@@ -27,6 +27,7 @@ DeckRig::DeckRig() {
 FarSides DeckRig::Sides() {
     FarSides sides = setUp.Sides();
     sides.Notices = &notices;
+    sides.HeldKeys = &heldKeys;
     return sides;
 }
 

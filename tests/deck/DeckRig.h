@@ -13,6 +13,7 @@
 #include "adapters/qt/services/QtEventLoop.h"
 #include "adapters/shared/NoticeBoard.h"
 #include "deck/DeckWindow.h"
+#include "tests/deck/PlayedHeldKeys.h"
 #include "tests/shared/MemoryValues.h"
 
 namespace orvelle {
@@ -52,6 +53,7 @@ protected:
     const ends::LineTable<FrameworkLine> frameworkLines{setUp.NetworkLink};
     ends::SimulatorEnd velmarc{loop, values, simulatorLines, {}};
     ends::FrameworkEnd tessaly{loop, values, frameworkLines};
+    PlayedHeldKeys heldKeys;
     DeckWindow window{Sides()};
     std::vector<std::string> events;  // raised since they were read last
     std::vector<std::string> TakeEvents();

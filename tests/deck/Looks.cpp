@@ -54,6 +54,7 @@ void DeckLooks::PlayFlight() {
     tessaly.CloseInterface();
     Settle();
 
+    heldKeys.Hold({"Ctrl", "F12"});
     setUp.VVL.Start(3);
     Settle();
     setUp.VVL.RoomJoin(1, "ORV123 (1234567)", "voice.example.net/lowi_app");

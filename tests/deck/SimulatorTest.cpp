@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 
+#include "deck/fields/SignalLight.h"
 #include "tests/deck/DeckRig.h"
 #include "tests/qt/shell/WidgetInput.h"
 
@@ -147,6 +148,15 @@ TEST_F(DeckSimulator, AFailedStartIsToldInItsSentence) {
     const auto& list = At<QListWidget>("Programs");
     ASSERT_EQ(list.count(), 1);
     EXPECT_TRUE(list.item(0)->text().endsWith("  No program was started, because there is no file \"/opt/rw\"."));
+}
+
+TEST_F(DeckSimulator, WhatThePanelHoldsDownHereIsShown) {
+    EXPECT_EQ(TextOf("HeldKeysText"), "The panel holds no key down");
+    heldKeys.Hold({"Ctrl", "F12"});
+    EXPECT_EQ(TextOf("HeldKeysText"), "The panel holds Ctrl+F12 down");
+    EXPECT_EQ(At<deck::SignalLight>("HeldKeys").Shown(), Sign::Good);
+    heldKeys.Hold({});
+    EXPECT_EQ(TextOf("HeldKeysText"), "The panel holds no key down");
 }
 
 }  // namespace

@@ -31,6 +31,8 @@ protected:
         house.Outside.Practice.NetworkLink.SetVoice(0, {RogerWilco, "srv1", "ops", "", ""});
         ASSERT_TRUE(ComesTrue([this] { return panel.Variables().ActiveVoiceSoftware == RogerWilco; }));
     }
+    // What the deck tells of this computer's keys.
+    std::string HeldHere() { return OfDeck("HeldKeys").accessibleName().toStdString(); }
     // From the start to the mapped key held over there and the talk key held here.
     void HoldTheTalkKey() {
         ASSERT_NO_FATAL_FAILURE(Open());
@@ -58,10 +60,13 @@ TEST_F(RoadTest, ATunedRadioStartsTheVoiceProgramAndAKeyOverThereHoldsItsTalkKey
     EXPECT_EQ(panel.CommentCOM1.Caption(), "srv1/ops");
 
     user.Click(OfDeck("KeyboardField"));
+    EXPECT_EQ(HeldHere(), "The panel holds no key down");
     user.KeyDown("F8");
     EXPECT_TRUE(ComesTrue([this] { return user.SeesDown(TalkKey); }));
+    EXPECT_TRUE(ComesTrue([this] { return HeldHere() == "The panel holds F12 down"; })) << HeldHere();
     user.KeyUp("F8");
     EXPECT_TRUE(ComesTrue([this] { return !user.SeesDown(TalkKey); }));
+    EXPECT_TRUE(ComesTrue([this] { return HeldHere() == "The panel holds no key down"; })) << HeldHere();
 }
 
 TEST_F(RoadTest, WhatThePanelStrikesHereIsNotTypedOverThere) {

@@ -10,7 +10,8 @@
 
 namespace orvelle::linux {
 
-XClient::XClient(const std::string& display) : connection(xcb_connect(display.c_str(), nullptr)) {
+XClient::XClient(const std::string& display)
+    : connection(xcb_connect(display.empty() ? nullptr : display.c_str(), nullptr)) {
     xcb_connection_t* const server = connection.get();
     const xcb_screen_t& screen = *xcb_setup_roots_iterator(xcb_get_setup(server)).data;
     // A key that is held would send more presses on a slow machine.

@@ -1,6 +1,7 @@
 #include "adapters/qt/services/KeyCapture.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QKeyEvent>
 #include <utility>
 
@@ -18,12 +19,13 @@ Long CodeOf(const QKeyEvent& key) {
     return ScanCodeOfLinuxKey(static_cast<Long>(key.nativeScanCode()) - XKeyCodeOffset);
 }
 
-// Alt, and Alt with another key, unless Ctrl is down too. A right Alt that chooses the third level is a key like
-// others.
+// Alt, and Alt with another key, unless Ctrl is down too. A right Alt that the layout makes something else, as the key
+// that chooses a level, is a key like others.
 bool IsSystemKey(const QKeyEvent& key) {
     if (key.modifiers().testFlag(Qt::ControlModifier)) return false;
     const Long code = CodeOf(key);
-    if (code == LeftAlt || (code == RightAlt && key.key() != Qt::Key_AltGr)) return true;
+    const bool isAlt = key.key() == Qt::Key_Alt || key.key() == Qt::Key_Meta;
+    if (code == LeftAlt || (code == RightAlt && isAlt)) return true;
     return key.modifiers().testFlag(Qt::AltModifier);
 }
 
@@ -37,7 +39,9 @@ bool IsMouse(QEvent::Type type) {
 KeyCapture::Mode KeyCapture::SetMode(Mode newMode) {
     if (mode == Mode::Off && newMode != Mode::Off) QCoreApplication::instance()->installEventFilter(this);
     if (mode != Mode::Off && newMode == Mode::Off) QCoreApplication::instance()->removeEventFilter(this);
-    return std::exchange(mode, newMode);
+    const Mode before = std::exchange(mode, newMode);
+    if ((before == Mode::Off) != (newMode == Mode::Off)) QGuiApplication::inputMethod()->update(Qt::ImEnabled);
+    return before;
 }
 
 void KeyCapture::SetTarget(Control& window, QWidget* widget) {
@@ -67,6 +71,11 @@ bool KeyCapture::MouseIsCaught(QObject* receiver) const {
 }
 
 bool KeyCapture::eventFilter(QObject* receiver, QEvent* event) {
+    // An input method would keep a dead key to itself.
+    if (event->type() == QEvent::InputMethodQuery) {
+        static_cast<QInputMethodQueryEvent*>(event)->setValue(Qt::ImEnabled, false);
+        return true;
+    }
     if (event->type() == QEvent::ShortcutOverride && TakesKey(*static_cast<QKeyEvent*>(event))) {
         // Accepted, so that the key is no shortcut and comes as a press.
         event->accept();
