@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "apps/EndCause.h"
+#include "apps/EndSentences.h"
 #include "apps/ThisProcess.h"
 
 namespace orvelle {
@@ -50,6 +52,10 @@ PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile
         Outside.IsPractising() ? TellOfProgram(sentence) : Settings.Notices.Tell(sentence);
     };
     Outside.Told = [this](const std::string& sentence) { Desktop.Tray.Tell(sentence); };
+    errorsExplained = process.Explain([this](const std::string& error, std::string& sentences) {
+        const std::string cause = isOpen ? CauseInPanel(Panel) : EndBySettings(setUpFile.parent_path(), error);
+        if (!cause.empty()) sentences = cause;
+    });
     goodbyeAtEnd = process.AtEnd([this] { Outside.SayGoodbye(); });
     microphonesCloseAtEnd = process.AtEnd([this] { Outside.VVL.CloseAll(); });
     TakeUpSetUp();

@@ -54,6 +54,7 @@ private:
     std::vector<std::string> untold;         // of programs and what they shall not be told, until there is a deck
     bool isEndAsked = false;                 // by a signal
     bool isOpen = false;
+    Ticket errorsExplained;
     Ticket goodbyeAtEnd;
     Ticket microphonesCloseAtEnd;
     Ticket endAsked;

@@ -10,7 +10,8 @@
 
 int main() {
     using namespace orvelle;
-    ThisProcess process;
+    // So that a library's exit, as at the X server's death, is an end of its own too.
+    static ThisProcess process;
     if (const std::string missing = process.MissingDisplay(); !missing.empty()) {
         std::cerr << "OrvelleCP: " << missing << "\n";
         return EXIT_FAILURE;
@@ -19,7 +20,7 @@ int main() {
     if (process.Program().PrevInstance()) process.Program().End();
 
     qt::Application application("orvelle-panel", process.WindowSystem(),
-                                [&](const std::exception& error) { process.EndByError(error); });
+                                [](const std::exception& error) { process.EndByError(error); });
     qt::Application::setDesktopFileName("net.orvelle.OrvelleCP");
     ApplyTheme(SystemScheme());
     PanelProgram panel(process, UserSettings::File());

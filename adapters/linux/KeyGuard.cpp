@@ -10,6 +10,7 @@
 #include <csignal>
 
 #include "adapters/linux/HeldKeys.h"
+#include "adapters/linux/OwnFile.h"
 #include "adapters/linux/SpawnPreparation.h"
 
 namespace orvelle::linux {
@@ -23,11 +24,13 @@ constexpr int MostEndsAtOnce = 5;
 FileDescriptor OutOfTheWay(int number) { return FileDescriptor(fcntl(number, F_DUPFD_CLOEXEC, 10)); }
 
 // What the guard process is before its program runs: a session of its own, so that nothing sent to our group reaches
-// it; every signal blocked; no file open but its two.
-void Prepare(SpawnPreparation& start, int line, int held) {
+// it; every signal blocked; no file open but its own.
+void Prepare(SpawnPreparation& start, int line, int held, int lastWord) {
     posix_spawn_file_actions_adddup2(&start.Files, line, KeyGuard::LineDescriptor);
     posix_spawn_file_actions_adddup2(&start.Files, held, KeyGuard::HeldKeysDescriptor);
-    posix_spawn_file_actions_addclosefrom_np(&start.Files, KeyGuard::HeldKeysDescriptor + 1);
+    if (lastWord >= 0) posix_spawn_file_actions_adddup2(&start.Files, lastWord, KeyGuard::LastWordDescriptor);
+    const int own = lastWord >= 0 ? KeyGuard::LastWordDescriptor : KeyGuard::HeldKeysDescriptor;
+    posix_spawn_file_actions_addclosefrom_np(&start.Files, own + 1);
     posix_spawn_file_actions_addchdir_np(&start.Files, "/");
 
     posix_spawnattr_setflags(&start.Attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK);
@@ -38,8 +41,12 @@ void Prepare(SpawnPreparation& start, int line, int held) {
 
 }  // namespace
 
-KeyGuard::KeyGuard(std::string file, std::string display)
-    : file(std::move(file)), display(std::move(display)), ending(epoll_create1(EPOLL_CLOEXEC)) {}
+KeyGuard::KeyGuard(std::string file, std::string display, int lastWord)
+    : file(std::move(file)),
+      display(std::move(display)),
+      program(OwnFile()),
+      lastWord(lastWord),
+      ending(epoll_create1(EPOLL_CLOEXEC)) {}
 
 // The guard never says anything, so all that can come along the line is its end.
 bool KeyGuard::Runs() const {
@@ -79,11 +86,12 @@ bool KeyGuard::Start(const HeldKeys& held) {
     const FileDescriptor theirs(ends[1]);
     const FileDescriptor theirLine = OutOfTheWay(theirs.Number());
     const FileDescriptor keys = OutOfTheWay(held.Descriptor());
+    const FileDescriptor word = OutOfTheWay(lastWord);
     if (!theirLine || !keys) return false;
 
     SpawnPreparation start;
-    Prepare(start, theirLine.Number(), keys.Number());
-    std::array<char*, 3> arguments{file.data(), display.data(), nullptr};
+    Prepare(start, theirLine.Number(), keys.Number(), word.Number());
+    std::array<char*, 4> arguments{file.data(), display.data(), word ? program.data() : nullptr, nullptr};
     // From its success on the process is the guard's own, whatever becomes of this one.
     if (posix_spawn(&process, file.c_str(), &start.Files, &start.Attributes, arguments.data(), environ) != 0) {
         process = -1;

@@ -27,8 +27,8 @@ std::string Cut(std::string name, Long size) {
 
 }  // namespace
 
-X11Keyboard::X11Keyboard(EventLoop& loop, const std::string& display, std::string guardFile)
-    : server(display), Keys(loop, server, KeyGuard(std::move(guardFile), display)) {}
+X11Keyboard::X11Keyboard(EventLoop& loop, const std::string& display, std::string guardFile, int lastWord)
+    : server(display), Keys(loop, server, KeyGuard(std::move(guardFile), display, lastWord)) {}
 
 void X11Keyboard::keybd_event(Long virtualKey, Long scanByte, Long flags, Long) {
     const Long known = CodeOfVirtualKey(virtualKey);

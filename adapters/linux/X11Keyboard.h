@@ -15,8 +15,8 @@ class X11Keyboard : public Keyboard {
     KeyServer server;
 
 public:
-    // `display` "" is the environment's. `guardFile` is the key guard's program, by its full path.
-    X11Keyboard(EventLoop& loop, const std::string& display, std::string guardFile);
+    // `display` "" is the environment's. `guardFile` is the key guard's program, by its full path; `lastWord` as there.
+    X11Keyboard(EventLoop& loop, const std::string& display, std::string guardFile, int lastWord = -1);
 
     // The virtual key alone decides which key it is (VirtualKeys.h), since every stroke bears the extended flag; the
     // scan byte decides where the virtual key is unknown.

@@ -6,6 +6,7 @@
 #include "adapters/linux/ProcessProgram.h"
 #include "adapters/linux/TerminationSignals.h"
 #include "adapters/x11/Display.h"
+#include "apps/EndSentences.h"
 #include "platform/EventLoop.h"
 #include "platform/RuntimeError.h"
 
@@ -14,6 +15,7 @@ namespace orvelle {
 struct ThisProcess::Parts {
     linux::TerminationSignals Endings;
     linux::ProcessProgram Program{linux::InstanceLock::OfThisSession()};
+    Attachment<const std::string&, std::string&> Explanation;
 };
 
 ThisProcess::ThisProcess() : parts(std::make_unique<Parts>()) {}
@@ -27,11 +29,20 @@ orvelle::Program& ThisProcess::Program() { return parts->Program; }
 std::string ThisProcess::Problem() const { return parts->Program.Problem(); }
 
 void ThisProcess::EndByError(const std::exception& error) {
-    if (const auto* runtimeError = dynamic_cast<const RuntimeError*>(&error)) parts->Program.Fail(runtimeError->Number);
-    EndByError(std::string("internal error: ") + error.what());
+    const auto* runtimeError = dynamic_cast<const RuntimeError*>(&error);
+    const std::string name = runtimeError ? linux::ProcessProgram::NameOfError(runtimeError->Number)
+                                          : std::string("internal error: ") + error.what();
+    std::string sentences = EndByOwnError(name);
+    if (runtimeError) parts->Explanation(name, sentences);
+    parts->Program.Last.SayFailed(sentences);
+    EndByError(name);
 }
 
 void ThisProcess::EndByError(const std::string& reason) { parts->Program.Fail(reason); }
+int ThisProcess::LastWord() const { return parts->Program.Last.Descriptor(); }
+Ticket ThisProcess::Explain(std::function<void(const std::string&, std::string&)> explain) {
+    return parts->Explanation.Begin(std::move(explain));
+}
 Ticket ThisProcess::AtEnd(std::function<void()> cleanUp) { return parts->Program.AtEnd(std::move(cleanUp)); }
 
 Ticket ThisProcess::WhenEndIsAsked(EventLoop& loop, std::function<void()> end) {
