@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "adapters/qt/services/BringToFront.h"
 #include "apps/EndCause.h"
 #include "apps/EndSentences.h"
 #include "apps/ThisProcess.h"
@@ -72,6 +73,7 @@ PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile
         isEndAsked = true;
         End();
     });
+    wishesAsked = process.WhenAsked(loop, [this](Wish wish) { Grant(wish); });
 }
 
 void PanelProgram::Open() {
@@ -81,10 +83,35 @@ void PanelProgram::Open() {
     loop.Post([this] {
         isOpen = true;
         ShowDeckWherePractising();
+        if (wished) Grant(*wished);
     });
 }
 
 void PanelProgram::End() { Desktop.Table.Deliver(Panel.Stub1, Stub::TerminationMessage, 0, 0); }
+
+void PanelProgram::Grant(Wish wish) {
+    if (!isOpen)
+        wished = wish;
+    else
+        wish == Wish::ShowDeck ? ShowDeck() : ShowPanel();
+}
+
+// As by the menu of the icon, and before the other windows.
+void PanelProgram::ShowPanel() {
+    Panel.mnuTrayShow.UserClick();
+    qt::BringToFront(Desktop.Window());
+}
+
+void PanelProgram::ShowDeck() {
+    if (!Outside.IsPractising()) {
+        ShowPanel();
+        Desktop.Tray.Tell("This computer has joined a set-up, so there is no flight deck to practise with.");
+        return;
+    }
+    if (!Deck) OpenDeck();
+    Deck->showNormal();
+    qt::BringToFront(*Deck);
+}
 
 // A file that can't be read counts as none.
 void PanelProgram::TakeUpSetUp() {

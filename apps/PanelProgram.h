@@ -5,10 +5,12 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "adapters/qt/services/QtEventLoop.h"
+#include "adapters/shared/Wish.h"
 #include "adapters/urls/StandardUrlFunctions.h"
 #include "apps/Desktop.h"
 #include "apps/Outside.h"
@@ -44,6 +46,9 @@ public:
 
 private:
     void TakeUpSetUp();
+    void Grant(Wish wish);
+    void ShowPanel();
+    void ShowDeck();
     void ShowDeckWherePractising();
     void OpenDeck();
     void TellOfProgram(const std::string& sentence);
@@ -54,10 +59,12 @@ private:
     std::vector<std::string> untold;         // of programs and what they shall not be told, until there is a deck
     bool isEndAsked = false;                 // by a signal
     bool isOpen = false;
+    std::optional<Wish> wished;  // before that
     Ticket errorsExplained;
     Ticket goodbyeAtEnd;
     Ticket microphonesCloseAtEnd;
     Ticket endAsked;
+    Ticket wishesAsked;
 };
 
 }  // namespace orvelle

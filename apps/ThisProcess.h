@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "adapters/shared/Wish.h"
 #include "platform/Ticket.h"
 
 namespace orvelle {
@@ -28,6 +29,10 @@ public:
     orvelle::Program& Program();
     // Why the program may run a second time though it asked before; one sentence, "" if it can't.
     std::string Problem() const;
+    // For a second instance: asks the first one, which does it as soon as it listens.
+    void AskRunning(Wish wish) const;
+    // For the first one: calls `grant` from the loop when another program of this user asks for something.
+    [[nodiscard]] Ticket WhenAsked(EventLoop& loop, std::function<void(Wish)> grant);
     // Ends the program for an error that left a handler: one line on standard error. The user is told by a program that
     // outlives this one, in the words of the explanation.
     [[noreturn]] void EndByError(const std::exception& error);

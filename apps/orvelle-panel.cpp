@@ -17,7 +17,10 @@ int main() {
         return EXIT_FAILURE;
     }
     // The settings belong to the first instance.
-    if (process.Program().PrevInstance()) process.Program().End();
+    if (process.Program().PrevInstance()) {
+        process.AskRunning(Wish::ShowPanel);
+        process.Program().End();
+    }
 
     qt::Application application("orvelle-panel", process.WindowSystem(),
                                 [](const std::exception& error) { process.EndByError(error); });

@@ -5,6 +5,7 @@
 
 #include "adapters/linux/ProcessProgram.h"
 #include "adapters/linux/TerminationSignals.h"
+#include "adapters/linux/WakeSocket.h"
 #include "adapters/x11/Display.h"
 #include "apps/EndSentences.h"
 #include "platform/EventLoop.h"
@@ -15,6 +16,7 @@ namespace orvelle {
 struct ThisProcess::Parts {
     linux::TerminationSignals Endings;
     linux::ProcessProgram Program{linux::InstanceLock::OfThisSession()};
+    linux::WakeSocket Wake{linux::InstanceLock::OfThisSession().WakePath()};
     Attachment<const std::string&, std::string&> Explanation;
 };
 
@@ -27,6 +29,18 @@ std::string ThisProcess::WindowSystem() const { return "xcb"; }
 
 orvelle::Program& ThisProcess::Program() { return parts->Program; }
 std::string ThisProcess::Problem() const { return parts->Program.Problem(); }
+
+void ThisProcess::AskRunning(Wish wish) const { parts->Wake.Ask(wish); }
+
+Ticket ThisProcess::WhenAsked(EventLoop& loop, std::function<void(Wish)> grant) {
+    // Where it may not be the only one it doesn't take the place of another.
+    if (Program().PrevInstance() || !Problem().empty()) return {};
+    parts->Wake.Listen();
+    if (parts->Wake.Descriptor() < 0) return {};
+    return loop.WhenReadable(parts->Wake.Descriptor(), [this, grant = std::move(grant)] {
+        if (const auto wish = parts->Wake.Take()) grant(*wish);
+    });
+}
 
 void ThisProcess::EndByError(const std::exception& error) {
     const auto* runtimeError = dynamic_cast<const RuntimeError*>(&error);
