@@ -6,15 +6,13 @@
 
 #include <QDir>
 #include <QMessageBox>
-#include <QPainter>
-#include <QPixmap>
 #include <QPushButton>
 #include <cstdlib>
 #include <system_error>
 
 #include "adapters/linux/ControlGroup.h"
 #include "adapters/linux/StartedPrograms.h"
-#include "adapters/looks/Signs.h"
+#include "adapters/looks/SignIcon.h"
 #include "adapters/looks/Text.h"
 #include "adapters/looks/Theme.h"
 #include "adapters/qt/services/Application.h"
@@ -32,21 +30,11 @@ void WriteToJournal(const std::string& sentences) {
     closelog();
 }
 
-QPixmap WarningSign(const QWidget& window) {
-    const int side = 3 * window.fontMetrics().height();
-    QPixmap sign(QSize(side, side) * window.devicePixelRatioF());
-    sign.setDevicePixelRatio(window.devicePixelRatioF());
-    sign.fill(Qt::transparent);
-    QPainter painter(&sign);
-    DrawSign(painter, QRectF(0, 0, side, side), Sign::Waiting, SignColour(Sign::Waiting, SchemeOf(window.palette())));
-    return sign;
-}
-
 enum class Answer { StartAgain, Close };
 
 Answer Ask(const std::string& sentences) {
     QMessageBox box(QMessageBox::NoIcon, "Orvelle Control Panel", ToQt(sentences));
-    box.setIconPixmap(WarningSign(box));
+    box.setIconPixmap(SignIcon(Sign::Waiting).pixmap(3 * box.fontMetrics().height()));
     box.setTextFormat(Qt::PlainText);
     // Whatever the user works in meanwhile, the panel is missing.
     box.setWindowFlag(Qt::WindowStaysOnTopHint);
