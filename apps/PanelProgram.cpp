@@ -16,8 +16,9 @@ constexpr Long LongestLastWord = 30000;  // milliseconds
 
 }  // namespace
 
-PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile)
-    : Settings(process, loop, settingsFile),
+PanelProgram::PanelProgram(ThisProcess& thisProcess, const std::string& settingsFile)
+    : process(thisProcess),
+      Settings(process, loop, settingsFile),
       Computer(process, loop, Settings.Store),
       Outside(loop, Settings.Store, {Computer.Name(), ThisComputer::DesktopName}, Computer.TeamSpeak()),
       Panel(Platform{
@@ -73,7 +74,6 @@ PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile
         isEndAsked = true;
         End();
     });
-    wishesAsked = process.WhenAsked(loop, [this](Wish wish) { Grant(wish); });
 }
 
 void PanelProgram::Open() {
@@ -83,18 +83,12 @@ void PanelProgram::Open() {
     loop.Post([this] {
         isOpen = true;
         ShowDeckWherePractising();
-        if (wished) Grant(*wished);
+        wishesAsked = process.WhenAsked(
+            loop, [this](Wish wish) { wish == Wish::ShowDeck ? ShowDeck() : ShowPanel(); });
     });
 }
 
 void PanelProgram::End() { Desktop.Table.Deliver(Panel.Stub1, Stub::TerminationMessage, 0, 0); }
-
-void PanelProgram::Grant(Wish wish) {
-    if (!isOpen)
-        wished = wish;
-    else
-        wish == Wish::ShowDeck ? ShowDeck() : ShowPanel();
-}
 
 // As by the menu of the icon, and before the other windows.
 void PanelProgram::ShowPanel() {

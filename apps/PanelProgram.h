@@ -5,12 +5,10 @@
 
 #include <filesystem>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "adapters/qt/services/QtEventLoop.h"
-#include "adapters/shared/Wish.h"
 #include "adapters/urls/StandardUrlFunctions.h"
 #include "apps/Desktop.h"
 #include "apps/Outside.h"
@@ -26,6 +24,7 @@ namespace orvelle {
 class ThisProcess;
 
 class PanelProgram {
+    ThisProcess& process;
     qt::QtEventLoop loop;
     urls::StandardUrlFunctions urlFunctions;
 
@@ -46,7 +45,6 @@ public:
 
 private:
     void TakeUpSetUp();
-    void Grant(Wish wish);
     void ShowPanel();
     void ShowDeck();
     void ShowDeckWherePractising();
@@ -59,7 +57,6 @@ private:
     std::vector<std::string> untold;         // of programs and what they shall not be told, until there is a deck
     bool isEndAsked = false;                 // by a signal
     bool isOpen = false;
-    std::optional<Wish> wished;  // before that
     Ticket errorsExplained;
     Ticket goodbyeAtEnd;
     Ticket microphonesCloseAtEnd;

@@ -29,9 +29,10 @@ public:
     orvelle::Program& Program();
     // Why the program may run a second time though it asked before; one sentence, "" if it can't.
     std::string Problem() const;
-    // For a second instance: asks the first one, which does it as soon as it listens.
+    // For a second instance: asks the first one, which does it if it has opened already.
     void AskRunning(Wish wish) const;
-    // For the first one: calls `grant` from the loop when another program of this user asks for something.
+    // For the first one, once it has opened: calls `grant` from the loop when another program of this user asks for
+    // something.
     [[nodiscard]] Ticket WhenAsked(EventLoop& loop, std::function<void(Wish)> grant);
     // Ends the program for an error that left a handler: one line on standard error. The user is told by a program that
     // outlives this one, in the words of the explanation.

@@ -34,7 +34,7 @@ void ThisProcess::AskRunning(Wish wish) const { parts->Wake.Ask(wish); }
 
 Ticket ThisProcess::WhenAsked(EventLoop& loop, std::function<void(Wish)> grant) {
     // Where it may not be the only one it doesn't take the place of another.
-    if (Program().PrevInstance() || !Problem().empty()) return {};
+    if (!Problem().empty()) return {};
     parts->Wake.Listen();
     if (parts->Wake.Descriptor() < 0) return {};
     return loop.WhenReadable(parts->Wake.Descriptor(), [this, grant = std::move(grant)] {
