@@ -14,10 +14,7 @@ namespace {
 
 class WakeSocketTest : public testing::Test {
 protected:
-    WakeSocketTest() {
-        EXPECT_NE(mkdtemp(folder.data()), nullptr);
-        panel.Listen();
-    }
+    WakeSocketTest() { panel.Listen(); }
     ~WakeSocketTest() override { std::filesystem::remove_all(folder); }
 
     // Sends bytes as they are, as that user; false if the system doesn't let it.
@@ -45,7 +42,13 @@ protected:
     }
     std::string Path() const { return folder + "/wake"; }
 
-    std::string folder = testing::TempDir() + "wake-XXXXXX";
+    static std::string NewFolder() {
+        std::string made = testing::TempDir() + "wake-XXXXXX";
+        EXPECT_NE(mkdtemp(made.data()), nullptr);
+        return made;
+    }
+
+    const std::string folder = NewFolder();
     WakeSocket panel{Path()};
     const WakeSocket other{Path()};
 };
