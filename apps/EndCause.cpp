@@ -32,8 +32,8 @@ std::string CauseInTable(const std::string& page, const ListView& list) {
 
 std::string CauseInPanel(const FrmOrvelle& panel) {
     const PanelVariables& now = panel.Variables();
-    const bool usesTeamSpeak = panel.TSEnable.Value == 1 && (now.ActiveVoiceSoftware == TeamSpeakHost ||
-                                                             now.ActiveVoiceSoftware == TeamSpeakUrl);
+    const bool usesTeamSpeak = panel.TSEnable.Value == 1 &&
+                               (now.ActiveVoiceSoftware == TeamSpeakHost || now.ActiveVoiceSoftware == TeamSpeakUrl);
     const bool usesRogerWilco = panel.RWEnable.Value == 1 && now.ActiveVoiceSoftware == RogerWilco;
     if ((usesTeamSpeak || now.TSPTTKeyState == Down) && !CanBePressed(now.TSPTTKey))
         return EndWithoutTalkKey("TeamSpeak");

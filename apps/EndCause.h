@@ -1,5 +1,5 @@
-// Why a run-time error ended the panel, as far as the panel's state tells. Asked when the error has left its handler and
-// everything still stands as it left it.
+// Why a run-time error ended the panel, as far as the panel's state tells. Asked when the error has left its handler
+// and everything still stands as it left it.
 #pragma once
 
 #include <string>

@@ -83,8 +83,7 @@ void PanelProgram::Open() {
     loop.Post([this] {
         isOpen = true;
         ShowDeckWherePractising();
-        wishesAsked = process.WhenAsked(
-            loop, [this](Wish wish) { wish == Wish::ShowDeck ? ShowDeck() : ShowPanel(); });
+        wishesAsked = process.WhenAsked(loop, [this](Wish wish) { wish == Wish::ShowDeck ? ShowDeck() : ShowPanel(); });
     });
 }
 

@@ -1,6 +1,7 @@
 // Tells the user that the panel has ended without being asked to, and offers to start it again. The key guard becomes
-// this program when the panel is gone: the first word is the panel's file, the second one what the panel said of its end,
-// if it said something. What the user reads stands in the system's journal, too, also where no window can be shown.
+// this program when the panel is gone: the first word is the panel's file, the second one what the panel said of its
+// end, if it said something. What the user reads stands in the system's journal, too, also where no window can be
+// shown.
 #include <syslog.h>
 #include <unistd.h>
 

@@ -1,7 +1,7 @@
 // Lets go of the keys that the panel holds down, when the panel is gone without having done so, or goes on no more.
-// Then has the user told of an end that was not an orderly one. Started by the panel, with one end of a line, the set of
-// held keys and the name of the X server, and with its last word and its own file where the user is to be told; of no use
-// by itself.
+// Then has the user told of an end that was not an orderly one. Started by the panel, with one end of a line, the set
+// of held keys and the name of the X server, and with its last word and its own file where the user is to be told; of
+// no use by itself.
 #include <linux/close_range.h>
 #include <poll.h>
 #include <unistd.h>

@@ -8,7 +8,7 @@ namespace orvelle {
 
 namespace {
 
-constexpr Long PollWait = 200;      // ms
+constexpr Long PollWait = 200;  // ms
 constexpr Long CodeBits = 511;
 constexpr double KeyMessageUnit = 65536;
 

@@ -1,8 +1,8 @@
 // The process that lets go of the keys when this program can't do so itself, because it was killed or hangs. It sleeps
 // while no key is held; while one is, it looks whether this program's beat goes on. It has a session of its own, takes
 // no signal that can be refused, and leaves this program's control group where the system allows it. One that ended is
-// replaced; what keeps it from running is told by Problem(). As it outlives this program, it is also the one that has the
-// user told of an end without a word (LastWord.h).
+// replaced; what keeps it from running is told by Problem(). As it outlives this program, it is also the one that has
+// the user told of an end without a word (LastWord.h).
 #pragma once
 
 #include <sys/types.h>

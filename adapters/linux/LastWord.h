@@ -1,6 +1,6 @@
-// What this process says of its end to whoever outlives it: that it ends as it was asked to, or by which error. Who says
-// nothing has crashed or was killed. It waits in a pipe whose reading end the key guard is given; it reads it when the
-// process is gone. Only the first word counts, so it is said before the clean-ups, in which more may go wrong.
+// What this process says of its end to whoever outlives it: that it ends as it was asked to, or by which error. Who
+// says nothing has crashed or was killed. It waits in a pipe whose reading end the key guard is given; it reads it when
+// the process is gone. Only the first word counts, so it is said before the clean-ups, in which more may go wrong.
 #pragma once
 
 #include <optional>

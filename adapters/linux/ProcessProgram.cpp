@@ -50,9 +50,7 @@ void ProcessProgram::End() {
     _exit(0);
 }
 
-void ProcessProgram::Fail(int errorNumber) {
-    Fail(NameOfError(errorNumber));
-}
+void ProcessProgram::Fail(int errorNumber) { Fail(NameOfError(errorNumber)); }
 
 void ProcessProgram::Fail(const std::string& reason) {
     CleanUp();

@@ -78,8 +78,8 @@ bool WakeSocket::Ask(Wish wish) const {
     if (!address || !asking) return false;
     for (const Word& word : Words) {
         if (word.What != wish) continue;
-        const ssize_t sent = sendto(asking.Number(), word.Text.data(), word.Text.size(), MSG_NOSIGNAL, Plain(*address),
-                                    sizeof *address);
+        const ssize_t sent =
+            sendto(asking.Number(), word.Text.data(), word.Text.size(), MSG_NOSIGNAL, Plain(*address), sizeof *address);
         // A panel that has more wishes than it can take listens as well.
         return sent >= 0 || errno == EAGAIN;
     }

@@ -71,8 +71,8 @@ TEST_F(EndTest, ASettingThatEndsTheStartIsToldWithThePlaceOfTheSettings) {
     EXPECT_EQ(panel.exitCode(), 70);
     EXPECT_EQ(panel.readAllStandardError(), "OrvelleCP: run-time error 9: subscript out of range\n");
     const std::string settings = folder.filePath("OrvelleCP").toStdString();
-    EXPECT_EQ(Told(), (std::vector<std::string>{
-                          PANEL_PROGRAM, EndBySettings(settings, "run-time error 9: subscript out of range")}));
+    EXPECT_EQ(Told(), (std::vector<std::string>{PANEL_PROGRAM,
+                                                EndBySettings(settings, "run-time error 9: subscript out of range")}));
     // The sentence's way out is one.
     QDir().rename(folder.filePath("OrvelleCP"), folder.filePath("elsewhere"));
     Answer("Return");
@@ -180,20 +180,23 @@ TEST_F(EndOfPanelTest, TheSentencesSayWhatHappenedAndWhatToDo) {
     EXPECT_EQ(EndWithoutTalkKey("RogerWilco"),
               "The panel has ended, because the talk key of RogerWilco was used and is not set. Start the panel again "
               "and set the key on the page RogerWilco: it must be set after each start.");
-    EXPECT_EQ(EndByTableRow("Key to Key", "F9"),
-              "The panel has ended, because the row \"F9\" on the page Key to Key has keys that can't be pressed. Start "
-              "the panel again, give that row its keys and press Apply.");
+    EXPECT_EQ(
+        EndByTableRow("Key to Key", "F9"),
+        "The panel has ended, because the row \"F9\" on the page Key to Key has keys that can't be pressed. Start "
+        "the panel again, give that row its keys and press Apply.");
     EXPECT_EQ(EndBySettings("/home/me/OrvelleCP", "run-time error 6: overflow"),
               "The panel could not start, because one of its settings has a value that it can't use (run-time error 6: "
               "overflow). If it ends like this again, move the folder /home/me/OrvelleCP to another place: the panel "
               "then starts with new settings.");
-    EXPECT_EQ(EndByOwnError("internal error: bad"),
-              "The panel has ended by an error of its own (internal error: bad). Start it again: your settings are kept, "
-              "but for the talk keys, which must be set after each start.");
-    EXPECT_EQ(EndWithoutWord(),
-              "The panel has ended without being asked to: it crashed, or something else ended it, as the system does "
-              "when memory runs short. Start it again: your settings are kept, but for the talk keys, which must be set "
-              "after each start.");
+    EXPECT_EQ(
+        EndByOwnError("internal error: bad"),
+        "The panel has ended by an error of its own (internal error: bad). Start it again: your settings are kept, "
+        "but for the talk keys, which must be set after each start.");
+    EXPECT_EQ(
+        EndWithoutWord(),
+        "The panel has ended without being asked to: it crashed, or something else ended it, as the system does "
+        "when memory runs short. Start it again: your settings are kept, but for the talk keys, which must be set "
+        "after each start.");
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// Panels as programs, with settings of the test's own, and what is seen of them from outside: their windows and those of
-// the programs that they leave behind.
+// Panels as programs, with settings of the test's own, and what is seen of them from outside: their windows and those
+// of the programs that they leave behind.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -33,8 +33,7 @@ protected:
     std::optional<xcb_window_t> WindowOf(const std::string& program) {
         for (const pid_t process : processes.Running(program))
             for (const xcb_window_t window : windows.List())
-                if (windows.ProcessOf(window) == process &&
-                    windows.StateOf(window) == TopLevelWindows::State::Normal)
+                if (windows.ProcessOf(window) == process && windows.StateOf(window) == TopLevelWindows::State::Normal)
                     return window;
         return std::nullopt;
     }
