@@ -3,6 +3,9 @@
 #include <utility>
 
 #include "adapters/mqtt/Topics.h"
+#include "adapters/qt/services/BringToFront.h"
+#include "apps/EndCause.h"
+#include "apps/EndSentences.h"
 #include "apps/ThisProcess.h"
 
 namespace orvelle {
@@ -14,8 +17,9 @@ constexpr Long LongestLastWord = 30000;  // milliseconds
 
 }  // namespace
 
-PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile)
-    : Settings(process, loop, settingsFile),
+PanelProgram::PanelProgram(ThisProcess& thisProcess, const std::string& settingsFile)
+    : process(thisProcess),
+      Settings(process, loop, settingsFile),
       Computer(process, loop, Settings.Store),
       Outside(loop, Settings.Store, {Computer.Name(), ThisComputer::DesktopName}, Computer.TeamSpeak()),
       Panel(Platform{
@@ -52,6 +56,10 @@ PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile
         Outside.IsPractising() ? TellOfProgram(sentence) : Settings.Notices.Tell(sentence);
     };
     Outside.Told = [this](const std::string& sentence) { Desktop.Tray.Tell(sentence); };
+    errorsExplained = process.Explain([this](const std::string& error, std::string& sentences) {
+        const std::string cause = isOpen ? CauseInPanel(Panel) : EndBySettings(setUpFile.parent_path(), error);
+        if (!cause.empty()) sentences = cause;
+    });
     goodbyeAtEnd = process.AtEnd([this] { Outside.SayGoodbye(); });
     microphonesCloseAtEnd = process.AtEnd([this] { Outside.VVL.CloseAll(); });
     TakeUpSetUp();
@@ -77,10 +85,28 @@ void PanelProgram::Open() {
     loop.Post([this] {
         isOpen = true;
         ShowDeckWherePractising();
+        wishesAsked = process.WhenAsked(loop, [this](Wish wish) { wish == Wish::ShowDeck ? ShowDeck() : ShowPanel(); });
     });
 }
 
 void PanelProgram::End() { Desktop.Table.Deliver(Panel.Stub1, Stub::TerminationMessage, 0, 0); }
+
+// As by the menu of the icon, and before the other windows.
+void PanelProgram::ShowPanel() {
+    Panel.mnuTrayShow.UserClick();
+    qt::BringToFront(Desktop.Window());
+}
+
+void PanelProgram::ShowDeck() {
+    if (!Outside.IsPractising()) {
+        ShowPanel();
+        Desktop.Tray.Tell("This computer has joined a set-up, so there is no flight deck to practise with.");
+        return;
+    }
+    if (!Deck) OpenDeck();
+    Deck->showNormal();
+    qt::BringToFront(*Deck);
+}
 
 // A file that can't be read counts as none.
 void PanelProgram::TakeUpSetUp() {

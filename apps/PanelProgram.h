@@ -24,6 +24,7 @@ namespace orvelle {
 class ThisProcess;
 
 class PanelProgram {
+    ThisProcess& process;
     qt::QtEventLoop loop;
     urls::StandardUrlFunctions urlFunctions;
 
@@ -44,6 +45,8 @@ public:
 
 private:
     void TakeUpSetUp();
+    void ShowPanel();
+    void ShowDeck();
     void ShowDeckWherePractising();
     void OpenDeck();
     void TellOfProgram(const std::string& sentence);
@@ -54,9 +57,11 @@ private:
     std::vector<std::string> untold;         // of programs and what they shall not be told, until there is a deck
     bool isEndAsked = false;                 // by a signal
     bool isOpen = false;
+    Ticket errorsExplained;
     Ticket goodbyeAtEnd;
     Ticket microphonesCloseAtEnd;
     Ticket endAsked;
+    Ticket wishesAsked;
 };
 
 }  // namespace orvelle

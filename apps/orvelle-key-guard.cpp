@@ -1,19 +1,26 @@
 // Lets go of the keys that the panel holds down, when the panel is gone without having done so, or goes on no more.
-// Started by the panel, with one end of a line, the set of held keys, and the name of the X server or the panel's own
-// keyboard in the kernel; of no use by itself.
+// Then has the user told of an end that was not an orderly one. Started by the panel, with one end of a line, the set
+// of held keys, the name of the X server or the panel's own keyboard in the kernel, and with its last word and its own
+// file where the user is to be told; of no use by itself.
+#include <fcntl.h>
+#include <linux/close_range.h>
 #include <poll.h>
 #include <unistd.h>
 
 #include <array>
 #include <cerrno>
-#include <cstring>
+#include <climits>
+#include <csignal>
 #include <optional>
+#include <string>
 #include <utility>
 
 #include "adapters/linux/ControlGroup.h"
 #include "adapters/linux/HeldKeys.h"
 #include "adapters/linux/KernelKeyboard.h"
 #include "adapters/linux/KeyGuard.h"
+#include "adapters/linux/LastWord.h"
+#include "adapters/linux/OwnFile.h"
 #include "adapters/x11/XTestConnection.h"
 
 using namespace orvelle;
@@ -45,15 +52,29 @@ bool PanelIsGone(int line) {
     return count == 0 || (count < 0 && errno != EINTR);
 }
 
+// This process becomes the program that tells the user; it returns where there is nothing to tell, or no such program.
+void TellOfEnd(const FileDescriptor& lastWord, const char* panel) {
+    if (fcntl(lastWord.Number(), F_GETFD) < 0) return;
+    const std::optional<std::string> said = linux::LastWord::Read(lastWord.Number());
+    if (said && said->empty()) return;
+    sigset_t none;
+    sigemptyset(&none);
+    sigprocmask(SIG_SETMASK, &none, nullptr);
+    close_range(linux::KeyGuard::LineDescriptor, UINT_MAX, CLOSE_RANGE_CLOEXEC);
+    const std::string file = linux::BesideOwnFile("orvelle-ended");
+    execl(file.c_str(), file.c_str(), panel, said ? said->c_str() : nullptr, nullptr);
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
     const FileDescriptor line(linux::KeyGuard::LineDescriptor);
     linux::HeldKeys held{FileDescriptor(linux::KeyGuard::HeldKeysDescriptor)};
-    if (count < 2 || held.Descriptor() < 0) return 2;
+    if (count != 3 || held.Descriptor() < 0) return 2;
+    const bool hasKernel = fcntl(linux::KeyGuard::KernelDescriptor, F_GETFD) >= 0;
     std::optional<linux::KernelKeyboard> kernel;
-    if (count == 3 && std::strcmp(arguments[2], linux::KeyGuard::KernelArgument) == 0)
-        kernel.emplace(FileDescriptor(linux::KeyGuard::KernelDescriptor));
+    if (hasKernel) kernel.emplace(FileDescriptor(linux::KeyGuard::KernelDescriptor));
+    const FileDescriptor lastWord(linux::KeyGuard::LastWordDescriptor);
     // An X server is reached anew each time.
     const auto letGo = [&](Panel panel) {
         if (held.IsEmpty()) return true;
@@ -68,7 +89,11 @@ int main(int count, char** arguments) {
         pollfd panel{line.Number(), POLLIN, 0};
         const int patience = held.IsEmpty() ? Forever : held.PatienceLeft();
         poll(&panel, 1, hasLetGo ? patience : NextTry);
-        if (panel.revents != 0 && PanelIsGone(line.Number())) return letGo(Panel::IsGone) ? 0 : 1;
+        if (panel.revents != 0 && PanelIsGone(line.Number())) {
+            hasLetGo = letGo(Panel::IsGone);
+            TellOfEnd(lastWord, arguments[2]);
+            return hasLetGo ? 0 : 1;
+        }
         hasLetGo = held.IsEmpty() || held.PatienceLeft() > 0 || letGo(Panel::Hangs);
     }
 }

@@ -10,16 +10,20 @@
 
 int main() {
     using namespace orvelle;
-    ThisProcess process;
+    // So that a library's exit, as at the X server's death, is an end of its own too.
+    static ThisProcess process;
     if (const std::string missing = process.MissingDisplay(); !missing.empty()) {
         std::cerr << "OrvelleCP: " << missing << "\n";
         return EXIT_FAILURE;
     }
     // The settings belong to the first instance.
-    if (process.Program().PrevInstance()) process.Program().End();
+    if (process.Program().PrevInstance()) {
+        process.AskRunning(Wish::ShowPanel);
+        process.Program().End();
+    }
 
     qt::Application application("orvelle-panel", process.WindowSystem(),
-                                [&](const std::exception& error) { process.EndByError(error); });
+                                [](const std::exception& error) { process.EndByError(error); });
     qt::Application::setDesktopFileName("net.orvelle.OrvelleCP");
     ApplyTheme(SystemScheme());
     PanelProgram panel(process, UserSettings::File());

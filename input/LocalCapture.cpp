@@ -8,8 +8,7 @@ namespace orvelle {
 
 namespace {
 
-constexpr Long CaptureTime = 3000;  // ms
-constexpr Long PollWait = 200;      // ms
+constexpr Long PollWait = 200;  // ms
 constexpr Long CodeBits = 511;
 constexpr double KeyMessageUnit = 65536;
 
@@ -24,7 +23,7 @@ void FrmOrvelle::LocalSet_Click(const LocalSlot& slot) {
     Windows.SetCapture(slot.Display);
     const Long start = Clock.GetTickCount();
     slot.Field = "";
-    while (TickDifference(Clock.GetTickCount(), CaptureTime) < start) {
+    while (TickDifference(Clock.GetTickCount(), LocalCaptureTime) < start) {
         WindowMessage message;
         while (Queue.PeekMessageA(message, RemoveMessage)) {
             if (message.Number == KeyDownMessage) {

@@ -12,6 +12,7 @@ class Control;
 
 constexpr Long KeyDownMessage = 256;
 constexpr Long RemoveMessage = 1;
+constexpr Long LocalCaptureTime = 3000;  // ms for which a field takes the keys of this computer
 constexpr Long WindowUserData = -21;
 constexpr Long WindowProcedureIndex = -4;
 constexpr Long InsertTopmost = -1;

@@ -20,6 +20,8 @@ public:
     // False if another process holds it. True if this one does, and where no lock can be had at all: rather two
     // panels than none. Problem() then tells why.
     bool Take();
+    // Where the first instance listens to the others (WakeSocket.h); of use where it holds the lock.
+    std::string WakePath() const { return folder + "/" + name + ".wake"; }
     // Why another instance may run beside this one; one sentence, "" if none does.
     const std::string& Problem() const { return problem; }
 

@@ -10,6 +10,7 @@
 #include <csignal>
 
 #include "adapters/linux/HeldKeys.h"
+#include "adapters/linux/OwnFile.h"
 #include "adapters/linux/SpawnPreparation.h"
 
 namespace orvelle::linux {
@@ -24,12 +25,16 @@ FileDescriptor OutOfTheWay(int number) { return FileDescriptor(fcntl(number, F_D
 
 // What the guard process is before its program runs: a session of its own, so that nothing sent to our group reaches
 // it; every signal blocked; no file open but its own.
-void Prepare(SpawnPreparation& start, int line, int held, int kernel) {
-    posix_spawn_file_actions_adddup2(&start.Files, line, KeyGuard::LineDescriptor);
-    posix_spawn_file_actions_adddup2(&start.Files, held, KeyGuard::HeldKeysDescriptor);
-    if (kernel >= 0) posix_spawn_file_actions_adddup2(&start.Files, kernel, KeyGuard::KernelDescriptor);
-    const int last = kernel >= 0 ? KeyGuard::KernelDescriptor : KeyGuard::HeldKeysDescriptor;
-    posix_spawn_file_actions_addclosefrom_np(&start.Files, last + 1);
+void Prepare(SpawnPreparation& start, const std::array<int, 4>& own) {
+    int number = KeyGuard::LineDescriptor;
+    for (const int each : own) {
+        if (each >= 0)
+            posix_spawn_file_actions_adddup2(&start.Files, each, number);
+        else
+            posix_spawn_file_actions_addclose(&start.Files, number);
+        ++number;
+    }
+    posix_spawn_file_actions_addclosefrom_np(&start.Files, number);
     posix_spawn_file_actions_addchdir_np(&start.Files, "/");
 
     posix_spawnattr_setflags(&start.Attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK);
@@ -40,8 +45,12 @@ void Prepare(SpawnPreparation& start, int line, int held, int kernel) {
 
 }  // namespace
 
-KeyGuard::KeyGuard(std::string file, std::string display)
-    : file(std::move(file)), display(std::move(display)), ending(epoll_create1(EPOLL_CLOEXEC)) {}
+KeyGuard::KeyGuard(std::string file, std::string display, int lastWord)
+    : file(std::move(file)),
+      display(std::move(display)),
+      program(OwnFile()),
+      lastWord(lastWord),
+      ending(epoll_create1(EPOLL_CLOEXEC)) {}
 
 // The guard never says anything, so all that can come along the line is its end.
 bool KeyGuard::Runs() const {
@@ -81,13 +90,13 @@ bool KeyGuard::Start(const HeldKeys& held, int kernelDescriptor) {
     const FileDescriptor theirs(ends[1]);
     const FileDescriptor theirLine = OutOfTheWay(theirs.Number());
     const FileDescriptor keys = OutOfTheWay(held.Descriptor());
-    const FileDescriptor kernel = kernelDescriptor < 0 ? FileDescriptor() : OutOfTheWay(kernelDescriptor);
+    const FileDescriptor kernel = OutOfTheWay(kernelDescriptor);
+    const FileDescriptor word = OutOfTheWay(lastWord);
     if (!theirLine || !keys || (kernelDescriptor >= 0 && !kernel)) return false;
 
     SpawnPreparation start;
-    Prepare(start, theirLine.Number(), keys.Number(), kernel.Number());
-    std::string argument = KernelArgument;
-    std::array<char*, 4> arguments{file.data(), display.data(), kernel ? argument.data() : nullptr, nullptr};
+    Prepare(start, {theirLine.Number(), keys.Number(), kernel.Number(), word.Number()});
+    std::array<char*, 4> arguments{file.data(), display.data(), program.data(), nullptr};
     // From its success on the process is the guard's own, whatever becomes of this one.
     if (posix_spawn(&process, file.c_str(), &start.Files, &start.Attributes, arguments.data(), environ) != 0) {
         process = -1;

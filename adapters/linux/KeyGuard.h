@@ -1,7 +1,8 @@
 // The process that lets go of the keys when this program can't do so itself, because it was killed or hangs. It sleeps
 // while no key is held; while one is, it looks whether this program's beat goes on. It has a session of its own, takes
 // no signal that can be refused, and leaves this program's control group where the system allows it. One that ended is
-// replaced; what keeps it from running is told by Problem().
+// replaced; what keeps it from running is told by Problem(). As it outlives this program, it is also the one that has
+// the user told of an end without a word (LastWord.h).
 #pragma once
 
 #include <sys/types.h>
@@ -20,11 +21,12 @@ public:
     // Where the guard finds what it is given.
     static constexpr int LineDescriptor = 3;
     static constexpr int HeldKeysDescriptor = 4;
-    static constexpr int KernelDescriptor = 5;  // where keys are those of the kernel's keyboard
-    static constexpr const char* KernelArgument = "kernel";
+    static constexpr int KernelDescriptor = 5;    // none where keys are those of the X server
+    static constexpr int LastWordDescriptor = 6;  // none where nobody is to be told of the end
 
-    // `file` is the guard's program; `display` the X server that it releases keys on.
-    KeyGuard(std::string file, std::string display);
+    // `file` is the guard's program; `display` the X server that it releases keys on; `lastWord` this program's last
+    // word, -1 where nobody is to be told of its end.
+    KeyGuard(std::string file, std::string display, int lastWord = -1);
 
     // Starts the guard unless it runs. Returns when it is sure to do its work, or Problem() tells why it won't. The
     // keys are those of a keyboard in the kernel by its descriptor, or of the X server where that is -1.
@@ -50,6 +52,8 @@ private:
 
     std::string file;
     std::string display;
+    std::string program;  // this one's own file, by which the user may start it again
+    int lastWord;
     FileDescriptor ending;
     FileDescriptor line;
     pid_t process = -1;

@@ -76,8 +76,18 @@ Long ResultOf(int error) {
     }
 }
 
+// Whose line begins with what follows the path; "" if the path is there.
+std::string ProgramWithoutPath(const std::string& line) {
+    const std::size_t start = line.find_first_not_of(' ');
+    if (start == std::string::npos) return "TeamSpeak";
+    const std::string_view rest = std::string_view(line).substr(start);
+    return start > 0 && (rest.starts_with("/join1 ") || rest.starts_with("/leave ")) ? "RogerWilco" : "";
+}
+
 std::string Sentence(const std::string& line, const std::string& program, int error) {
     if (error == 0) return "Started " + line;
+    if (const std::string name = ProgramWithoutPath(line); !name.empty())
+        return name + " was not started: the path to its program is empty; set it on the page " + name + ".";
     if (program.empty()) return "No program was started, because the command line names none.";
     if (ResultOf(error) == LinuxProcesses::NoSuchFile)
         return "No program was started, because there is no file " + program + ".";

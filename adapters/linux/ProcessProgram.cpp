@@ -27,7 +27,12 @@ std::string Meaning(int errorNumber) {
 
 }  // namespace
 
+std::string ProcessProgram::NameOfError(int errorNumber) {
+    return "run-time error " + std::to_string(errorNumber) + Meaning(errorNumber);
+}
+
 void ProcessProgram::CleanUp() {
+    Last.SayOrderly();
     // Each is taken off first, so that an end inside a clean-up goes on with the others.
     while (!cleanUps.empty()) {
         const Attachment<> cleanUp = std::move(cleanUps.back());
@@ -45,9 +50,7 @@ void ProcessProgram::End() {
     _exit(0);
 }
 
-void ProcessProgram::Fail(int errorNumber) {
-    Fail("run-time error " + std::to_string(errorNumber) + Meaning(errorNumber));
-}
+void ProcessProgram::Fail(int errorNumber) { Fail(NameOfError(errorNumber)); }
 
 void ProcessProgram::Fail(const std::string& reason) {
     CleanUp();

@@ -27,9 +27,11 @@ std::string Cut(std::string name, Long size) {
 
 }  // namespace
 
-X11Keyboard::X11Keyboard(EventLoop& loop, const std::string& display, std::string guardFile,
+X11Keyboard::X11Keyboard(EventLoop& loop, const std::string& display, std::string guardFile, int lastWord,
                          const std::string& kernelFile)
-    : server(display, kernelFile), changes(loop), Keys(loop, server, KeyGuard(std::move(guardFile), display)) {
+    : server(display, kernelFile),
+      changes(loop),
+      Keys(loop, server, KeyGuard(std::move(guardFile), display, lastWord)) {
     Keys.Changed = [this] { changes.Mark(); };
 }
 

@@ -18,9 +18,9 @@ class X11Keyboard : public Keyboard, public HeldKeysSide {
     Changes changes;
 
 public:
-    // `display` "" is the environment's. `guardFile` is the key guard's program, by its full path; `kernelFile` is
-    // where the kernel makes keyboards.
-    X11Keyboard(EventLoop& loop, const std::string& display, std::string guardFile,
+    // `display` "" is the environment's. `guardFile` is the key guard's program, by its full path, and `lastWord` as
+    // there; `kernelFile` is where the kernel makes keyboards.
+    X11Keyboard(EventLoop& loop, const std::string& display, std::string guardFile, int lastWord = -1,
                 const std::string& kernelFile = KernelKeyboard::File);
 
     // The virtual key alone decides which key it is (VirtualKeys.h), since every stroke bears the extended flag; the

@@ -25,6 +25,20 @@ xcb_atom_t XAtom(xcb_connection_t* connection, const std::string& name) {
     return reply == nullptr ? static_cast<xcb_atom_t>(XCB_ATOM_NONE) : reply->atom;
 }
 
+void XActivate(xcb_connection_t* connection, xcb_window_t window) {
+    constexpr std::uint32_t FromPager = 2;
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+    xcb_client_message_event_t event{};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 32;
+    event.window = window;
+    event.type = XAtom(connection, "_NET_ACTIVE_WINDOW");
+    event.data.data32[0] = FromPager;
+    xcb_send_event(connection, 0, root, XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+                   reinterpret_cast<const char*>(&event));
+    xcb_flush(connection);
+}
+
 xcb_window_t XHiddenWindow(xcb_connection_t* connection) {
     const xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
     const xcb_window_t window = xcb_generate_id(connection);

@@ -29,9 +29,9 @@ std::string AutostartFolder() {
 }  // namespace
 
 struct ThisComputer::Parts {
-    Parts(EventLoop& loop, orvelle::Registry& keptRegistry)
+    Parts(ThisProcess& process, EventLoop& loop, orvelle::Registry& keptRegistry)
         : Loop(loop),
-          Keyboard(loop, "", linux::BesideOwnFile("orvelle-key-guard")),
+          Keyboard(loop, "", linux::BesideOwnFile("orvelle-key-guard"), process.LastWord()),
           Autostart(keptRegistry, AutostartFolder()) {}
 
     EventLoop& Loop;
@@ -48,7 +48,7 @@ struct ThisComputer::Parts {
 const char* const ThisComputer::DesktopName = "X11";
 
 ThisComputer::ThisComputer(ThisProcess& process, EventLoop& loop, orvelle::Registry& keptRegistry)
-    : parts(std::make_unique<Parts>(loop, keptRegistry)) {
+    : parts(std::make_unique<Parts>(process, loop, keptRegistry)) {
     // A held key is then told from one that is struck again and again.
     TellRepeatsAsPresses();
     parts->ReleaseAtEnd = process.AtEnd([this] { parts->Keyboard.Keys.ReleaseAll(); });

@@ -86,15 +86,6 @@ TEST_F(ProcessTest, AnotherMessageThroughTheDoorDoesNothing) {
     EXPECT_EQ(panel.exitCode(), 0);
 }
 
-TEST_F(ProcessTest, ADriverSettingOutOfRangeEndsTheProgramWithARunTimeError) {
-    Settings().SaveSettingLong("OrvelleCP", "RWDriven", 7);
-    QProcess panel;
-    Start(panel);
-    ASSERT_TRUE(IsOver(panel));
-    EXPECT_EQ(panel.exitCode(), 70);
-    EXPECT_EQ(panel.readAllStandardError(), "OrvelleCP: run-time error 9: subscript out of range\n");
-}
-
 TEST_F(ProcessTest, WhatASignalledEndCannotWriteIsTold) {
     QProcess panel;
     Start(panel);

@@ -120,13 +120,24 @@ TEST_F(Processes, OfMissingFilesAreToldAndNothingElse) {
     EXPECT_EQ(processes.WinExec("\"" + missing + "\" /leave ", 7), 2);
     EXPECT_EQ(processes.WinExec("/nowhere/rw /leave ", 7), 2);
     EXPECT_EQ(processes.WinExec(R"(C:\Program Files\RogerWilco\rw.exe /leave )", 7), 2);
-    EXPECT_EQ(processes.WinExec(" /join1 srv1/ops", 7), 2);
+    EXPECT_EQ(processes.WinExec("/join1 srv1/ops", 7), 2);
     EXPECT_EQ(processes.WinExec("/etc/passwd/rw", 7), 2);
     EXPECT_EQ(told, (Texts{"No program was started, because there is no file " + missing + ".",
                            "No program was started, because there is no file /nowhere/rw.",
                            "No program was started, because there is no file C:\\Program.",
                            "No program was started, because there is no file /join1.",
                            "No program was started, because there is no file /etc/passwd/rw."}));
+}
+
+TEST_F(Processes, WithoutAPathAreToldByTheirNamesAndPages) {
+    EXPECT_EQ(processes.WinExec(" /join1 srv1/ops", 7), 2);
+    EXPECT_EQ(processes.WinExec("   /leave ", 7), 2);
+    EXPECT_EQ(processes.WinExec("", 7), 2);
+    const std::string rogerWilco =
+        "RogerWilco was not started: the path to its program is empty; set it on the page RogerWilco.";
+    EXPECT_EQ(told, (Texts{rogerWilco, rogerWilco,
+                           "TeamSpeak was not started: the path to its program is empty; set it on the page "
+                           "TeamSpeak."}));
 }
 
 TEST_F(Processes, OfAnEmptyLineDoNotExist) {

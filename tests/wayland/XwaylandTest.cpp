@@ -30,7 +30,7 @@ TEST(Xwayland, TakesStrokesForXProgramsAndThatIsToldOnce) {
     HandLoop loop;
     XClient client("");
     std::string told;
-    X11Keyboard keyboard(loop, "", KEY_GUARD, "/nowhere/uinput");
+    X11Keyboard keyboard(loop, "", KEY_GUARD, -1, "/nowhere/uinput");
     keyboard.Keys.Told = [&](const std::string& sentence) { told += sentence + "\n"; };
     keyboard.Keys.Begin();
     keyboard.keybd_event(0, 30, 0, 0);

@@ -27,7 +27,13 @@ ButtonMirror::ButtonMirror(CommandButton& commandButton, QPushButton& pushButton
       widget(pushButton),
       purpose(pushButton.accessibleName()) {
     widget.setAutoDefault(true);  // Enter presses it, as Space does
-    connect(&widget, &QPushButton::clicked, this, [this] { control.UserClick(); });
+    connect(&widget, &QPushButton::clicked, this, [this] {
+        const QWidget& window = *widget.window();
+        const bool hadFocus = window.focusWidget() == &widget;
+        control.UserClick();
+        // A handler that turned the button off meanwhile made it lose the focus.
+        if (hadFocus && window.focusWidget() != &widget && widget.isEnabled()) widget.setFocus();
+    });
 }
 
 void ButtonMirror::ShowOwn(ControlProperty property) {

@@ -19,9 +19,12 @@ void QtWindows::SetCapture(Control& window) {
     keys.SetMode(KeyCapture::Mode::Capturing);
     // A text that can be edited would have an input method compose the keys before they come here.
     if (widget != nullptr) widget->setFocus();
+    if (auto* field = qobject_cast<QLineEdit*>(widget))
+        secondsLeft = std::make_unique<SecondsLeft>(*field, LocalCaptureTime / 1000);
 }
 
 void QtWindows::ReleaseCapture() {
+    secondsLeft.reset();
     keys.SetMode(KeyCapture::Mode::Off);
     keys.DropWaiting();
 }

@@ -2,8 +2,11 @@
 // empty rectangle, and asking anything of it does nothing.
 #pragma once
 
+#include <memory>
+
 #include "adapters/qt/mirrors/WidgetLookup.h"
 #include "adapters/qt/services/KeyCapture.h"
+#include "adapters/qt/services/SecondsLeft.h"
 #include "adapters/shared/WindowTable.h"
 #include "platform/Windows.h"
 
@@ -31,6 +34,7 @@ private:
     WindowTable& table;
     KeyCapture& keys;
     const WidgetLookup widgetOf;
+    std::unique_ptr<SecondsLeft> secondsLeft;  // while a field takes keys
 };
 
 }  // namespace orvelle::qt

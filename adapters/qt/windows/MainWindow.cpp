@@ -69,6 +69,7 @@ QWidget& MainWindow::Page(int panel) {
         page = MakePage(static_cast<PanelNumber>(panel), pages);
         pages->addWidget(page);
         binder.Bind(*page);
+        neededFields.ShowAll();
     }
     return *page;
 }
@@ -81,6 +82,7 @@ QWidget* MainWindow::WidgetOf(const Control& control) {
 
 void MainWindow::ControlChanged(Control& control, ControlProperty property) {
     FormWindow::ControlChanged(control, property);
+    neededFields.ControlChanged(control);
     if (property == ControlProperty::Visible && control.Visible)
         if (const int panel = PanelOf(control); panel < PageCount) pages->setCurrentWidget(&Page(panel));
     if (property == ControlProperty::Picture)

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "adapters/qt/windows/FormWindow.h"
+#include "adapters/qt/windows/NeededFields.h"
 #include "adapters/qt/windows/Pages.h"
 
 class QStackedWidget;
@@ -29,6 +30,7 @@ private:
     int PanelOf(const Control& frame) const;
     void TellSize();
 
+    NeededFields neededFields{form, [this](const Control& control) { return binder.WidgetOf(control); }};
     QStackedWidget* pages = nullptr;
     std::array<Control*, PageCount> frames{};
     std::array<QWidget*, PageCount> made{};

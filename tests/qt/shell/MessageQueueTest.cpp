@@ -1,6 +1,7 @@
 // Keys that the user presses while a capture is on become messages, and nothing else.
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -94,6 +95,18 @@ TEST_F(MessageQueueTest, CapturedKeysBecomeCodesAndReachNoWidget) {
 
     Stroke(KeyTab);
     EXPECT_TRUE(ComesTrue([this] { return button.hasFocus(); }));
+}
+
+TEST_F(MessageQueueTest, TheFieldTellsTheSecondsLeft) {
+    const auto told = [this] { return display.actions().isEmpty() ? "" : display.actions().first()->text(); };
+    EXPECT_EQ(told(), "");
+    windows.SetCapture(box);
+    EXPECT_EQ(told(), "seconds left: 3");
+    EXPECT_TRUE(ComesTrue([&] { return told() == "seconds left: 2"; }));
+    EXPECT_TRUE(ComesTrue([&] { return told() == "seconds left: 1"; }));
+    windows.ReleaseCapture();
+    EXPECT_EQ(told(), "");
+    EXPECT_EQ(display.text(), "");
 }
 
 TEST_F(MessageQueueTest, AltCombinationsAreLeftToTheWidgets) {

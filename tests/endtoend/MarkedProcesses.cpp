@@ -1,0 +1,66 @@
+#include "tests/endtoend/MarkedProcesses.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "adapters/linux/ProcessExecutable.h"
+#include "tests/linux/WaitUntil.h"
+
+namespace orvelle {
+
+namespace {
+
+constexpr const char* Variable = "ORVELLE_TEST_MARK";
+
+std::vector<std::string> Parts(const std::string& file) {
+    std::ifstream stream(file, std::ios::binary);
+    std::vector<std::string> parts;
+    for (std::string part; std::getline(stream, part, '\0');) parts.push_back(part);
+    return parts;
+}
+
+}  // namespace
+
+// A test that runs itself again as a child of its own keeps its parent's.
+MarkedProcesses::MarkedProcesses() {
+    setenv(Variable, std::to_string(getpid()).c_str(), 0);
+    mark = Variable;
+    mark += '=';
+    mark += std::getenv(Variable);
+}
+
+MarkedProcesses::~MarkedProcesses() {
+    unsetenv(Variable);
+    linux::WaitUntil([this] {
+        const std::vector<pid_t> left = Running();
+        for (const pid_t process : left) kill(process, SIGKILL);
+        return left.empty();
+    });
+}
+
+std::vector<pid_t> MarkedProcesses::Running(const std::string& program) const {
+    std::vector<pid_t> found;
+    std::error_code failed;
+    for (const auto& each : std::filesystem::directory_iterator("/proc", failed)) {
+        const std::string name = each.path().filename();
+        if (name.find_first_not_of("0123456789") != std::string::npos) continue;
+        const pid_t process = std::stoi(name);
+        const std::vector<std::string> environment = Parts(each.path() / "environ");
+        const bool isMarked = std::ranges::find(environment, mark) != environment.end();
+        if (isMarked && process != getpid() && (program.empty() || linux::ExecutableOf(process) == program))
+            found.push_back(process);
+    }
+    return found;
+}
+
+std::vector<std::string> MarkedProcesses::WordsOf(pid_t process) {
+    return Parts("/proc/" + std::to_string(process) + "/cmdline");
+}
+
+}  // namespace orvelle
