@@ -23,8 +23,8 @@ PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile
           .Registry = Computer.Registry(),
           .Tessaly = Outside.Tessaly,
           .VVL = Outside.VVL,
-          .VolumeControl = Outside.Practice.VolumeControl,
-          .VolumeControlHP = Outside.Practice.VolumeControlHP,
+          .VolumeControl = Outside.VolumeControl,
+          .VolumeControlHP = Outside.VolumeControlHP,
           .TSRemote = Outside.TSRemote,
           .MediaPlayers = Outside.Practice.MediaPlayers,
           .Dialog = Desktop.Dialog,
@@ -71,6 +71,7 @@ PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile
 void PanelProgram::Open() {
     Computer.Begin();
     Panel.Show();
+    if (isEndAsked) return End();
     // The deck waits for the panel to be seen.
     loop.Post([this] {
         isOpen = true;
