@@ -4,6 +4,7 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <fstream>
 
 #include "tests/linux/WaitUntil.h"
 
@@ -33,6 +34,10 @@ void SoundServerProcesses::Await() {
 
 void PulseAudioServer::Start() {
     std::filesystem::create_directories(RuntimeFolder() / "pulse");
+    // By itself it has few descriptors, and each sink takes some.
+    const std::string settings = RuntimeFolder() / "daemon.conf";
+    std::ofstream(settings) << "rlimit-nofile = 4096\n";
+    setenv("PULSE_CONFIG", settings.c_str(), 1);
     Run({"pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no", "--disable-shm=yes",
          "--high-priority=no", "--realtime=no", "-L",
          "module-native-protocol-unix auth-anonymous=1 socket=" + (RuntimeFolder() / "pulse" / "native").string()});
