@@ -229,7 +229,9 @@ TYPED_TEST(PulseMixerTest, NamesWithOddCharactersLeadToTheirDevice) {
         const PulseDevice* const device = this->sound->Devices.Find(this->Source, name);
         ASSERT_NE(device, nullptr) << name;
         EXPECT_EQ(device->Title.find('\n'), std::string::npos);
-        if (number < 3) EXPECT_EQ(device->Title, this->hand->Description(this->Source, name));
+        if (number < 3) {
+            EXPECT_EQ(device->Title, this->hand->Description(this->Source, name));
+        }
         this->Mixer().InputDevice(device->Title);
         ASSERT_TRUE(this->UntilTold({"InputClosed", "InputOpened"})) << device->Title;
         const Long percent = 10 + static_cast<Long>(number);

@@ -64,7 +64,7 @@ SoundFolder::SoundFolder() {
     folder = mkdtemp(pattern.data());
     for (const char* const name : {"HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_STATE_HOME"})
         setenv(name, folder.c_str(), 1);
-    for (const char* const name : {"PULSE_SERVER", "PULSE_RUNTIME_PATH", "PULSE_STATE_PATH", "DISPLAY"}) unsetenv(name);
+    for (const char* const name : {"PULSE_SERVER", "PULSE_RUNTIME_PATH", "PULSE_STATE_PATH"}) unsetenv(name);
 }
 
 SoundFolder::~SoundFolder() { std::filesystem::remove_all(folder); }
