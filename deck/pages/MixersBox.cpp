@@ -31,7 +31,7 @@ QWidget* Beside(QWidget* first, QWidget* second) {
 
 MixersBox::MixersBox(MixerSide& headset, MixerSide& speakers)
     : Section("Mixers", "Mixers", 2),
-      realServe(new QLabel("This computer's sound server serves: its devices are set by any mixer program.")),
+      realServe(new QLabel("The sound server's mixers serve; any mixer program moves them.")),
       columns{NewColumn(headset, "Headset"), NewColumn(speakers, "Speakers")} {
     realServe->setObjectName("RealMixersServe");
     realServe->setWordWrap(true);

@@ -257,8 +257,8 @@ TYPED_TEST(PulseMixerTest, TheSecondOfOneDescriptionIsToldApart) {
     EXPECT_TRUE(this->UntilHears("Master 6"));
 }
 
-// Five seconds of a hand that goes up by one every fiftieth of a second, against a program that sets other levels at
-// the same pace. The slider is what an event handler of the panel would show.
+// Five seconds of a hand that moves twenty times a second, against a program that sets other levels at the same pace, each
+// between two moves. What the handler reads is what the panel's slider shows.
 TYPED_TEST(PulseMixerTest, ADraggedSliderNeverJumpsBackFromTheHand) {
     this->OpenMixer();
     this->Mixer().MasterVolume(0);
@@ -268,14 +268,18 @@ TYPED_TEST(PulseMixerTest, ADraggedSliderNeverJumpsBackFromTheHand) {
     PulseMixer& mixer = this->Mixer();
     mixer.MasterVolumeChanged = [&] { furthest = std::max(furthest, std::abs(hand - mixer.MasterVolume())); };
     Ticket next;
+    std::function<void()> interfere;
     const std::function<void()> move = [&] {
         hand = ++moves % 101;
         mixer.MasterVolume(hand);
         furthest = std::max(furthest, std::abs(hand - mixer.MasterVolume()));
-        this->hand->SetPercent(this->Sink, "headset", (hand + 50) % 100);
-        next = this->loop.After(50, move);
+        next = this->loop.After(25, interfere);
     };
-    next = this->loop.After(50, move);
+    interfere = [&] {
+        this->hand->SetPercent(this->Sink, "headset", (hand + 50) % 100);
+        next = this->loop.After(25, move);
+    };
+    next = this->loop.After(0, move);
     ASSERT_TRUE(this->Until([&] { return moves >= 100; }));
     next.End();
     EXPECT_EQ(furthest, 0);
