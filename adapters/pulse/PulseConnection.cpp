@@ -63,18 +63,23 @@ void PulseConnection::Asked(pa_operation* operation) {
     if (!operation) return;
     if (questions.empty()) bound = loop.Loop().After(patience, [this] { LookForAnswers(); });
     questions.push_back({operation, false});
+    pa_operation_set_state_callback(
+        operation,
+        [](pa_operation* answered, void* connection) { static_cast<PulseConnection*>(connection)->Answered(answered); },
+        this);
+}
+
+void PulseConnection::Answered(pa_operation* operation) {
+    std::erase_if(questions, [operation](const Question& question) { return question.Operation == operation; });
+    if (questions.empty()) bound.End();
+    pa_operation_unref(operation);
 }
 
 // A question has the whole of one look's time at least.
 void PulseConnection::LookForAnswers() {
-    std::erase_if(questions, [](const Question& question) {
-        const bool isAnswered = pa_operation_get_state(question.Operation) != PA_OPERATION_RUNNING;
-        if (isAnswered) pa_operation_unref(question.Operation);
-        return isAnswered;
-    });
     for (Question& question : questions)
         if (std::exchange(question.IsOld, true)) return LoseHanging();
-    if (!questions.empty()) bound = loop.Loop().After(patience, [this] { LookForAnswers(); });
+    bound = loop.Loop().After(patience, [this] { LookForAnswers(); });
 }
 
 void PulseConnection::LoseHanging() {
@@ -93,6 +98,7 @@ void PulseConnection::Leave() {
     bound.End();
     isReady = false;
     for (const Question& question : std::exchange(questions, {})) {
+        pa_operation_set_state_callback(question.Operation, nullptr, nullptr);
         pa_operation_cancel(question.Operation);
         pa_operation_unref(question.Operation);
     }

@@ -47,6 +47,7 @@ private:
 
     void Connect();
     void TakeState();
+    void Answered(pa_operation* operation);
     void LookForAnswers();
     void LoseHanging();
     void Leave();
