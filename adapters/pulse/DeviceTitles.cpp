@@ -24,7 +24,8 @@ std::string Trimmed(const std::string& text) {
 // One line. The panel leaves away what names the sound system before a device's name, so it is left away here.
 std::string InOneLine(const std::string& description) {
     std::string text = ToUtf8(description);
-    std::ranges::replace_if(text, [](unsigned char byte) { return byte < ' ' || byte == 0x7f; }, ' ');
+    std::ranges::replace_if(
+        text, [](unsigned char byte) { return byte < ' ' || byte == 0x7f; }, ' ');
     text = Trimmed(text);
     for (bool isFound = true; isFound;) {
         isFound = false;

@@ -38,8 +38,8 @@ void PulseConnection::Connect() {
     context = pa_context_new(loop.Api(), "Orvelle Control Panel");
     if (!context) return;
     bound = loop.Loop().After(patience, [this] { LoseHanging(); });
-    const int result = pa_context_connect(context, server.empty() ? nullptr : server.c_str(), PA_CONTEXT_NOAUTOSPAWN,
-                                          nullptr);
+    const int result =
+        pa_context_connect(context, server.empty() ? nullptr : server.c_str(), PA_CONTEXT_NOAUTOSPAWN, nullptr);
     // What comes later comes by a call; what is known now needs no turn of the loop.
     if (result < 0 || !PA_CONTEXT_IS_GOOD(pa_context_get_state(context))) return Lose();
     pa_context_set_state_callback(

@@ -35,7 +35,8 @@ PulseDevices::PulseDevices(EventLoop& eventLoop, PulseConnection& serverConnecti
 
 PulseDevice* PulseDevices::Find(DeviceKind kind, const std::string& name) const {
     const auto first = [&](const std::string& wanted, std::string PulseDevice::*member) -> PulseDevice* {
-        const auto found = std::ranges::find_if(Of(kind), [&](const auto& entry) { return *entry.second.*member == wanted; });
+        const auto found =
+            std::ranges::find_if(Of(kind), [&](const auto& entry) { return *entry.second.*member == wanted; });
         return found != Of(kind).end() ? found->second.get() : nullptr;
     };
     if (name == DefaultMixerDevice) return first(defaults[static_cast<std::size_t>(kind)], &PulseDevice::Name);

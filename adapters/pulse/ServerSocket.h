@@ -1,4 +1,5 @@
-// The file by which the user's sound server is reached, so that its coming can be watched for. Asked by whoever watches.
+// The file by which the user's sound server is reached, so that its coming can be watched for. Asked by whoever
+// watches.
 #pragma once
 
 #include <filesystem>

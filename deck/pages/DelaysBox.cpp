@@ -31,7 +31,8 @@ DelaysBox::DelaysBox(const FarSides& sides) : Section("Delays", "Delays", 2) {
     const auto served = [](MixerSide* mixer) { return mixer && mixer->IsServing() ? mixer : nullptr; };
     addRow("Headset mixer", "HeadsetMixerDelay", "From the mixer of microphone and headset to the panel",
            served(sides.HeadsetMixer));
-    addRow("Speakers mixer", "SpeakersMixerDelay", "From the mixer of the speakers to the panel", served(sides.SpeakersMixer));
+    addRow("Speakers mixer", "SpeakersMixerDelay", "From the mixer of the speakers to the panel",
+           served(sides.SpeakersMixer));
 }
 
 }  // namespace orvelle::deck

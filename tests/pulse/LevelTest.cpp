@@ -23,12 +23,12 @@ protected:
 
     HandLoop loop;
     std::vector<Long> sent;  // in percent
-    PulseLevel level{loop,
-                     [this](const pa_cvolume& volume) {
-                         sent.push_back(static_cast<Long>((pa_cvolume_max(&volume) * 100 + PA_VOLUME_NORM / 2) /
-                                                          PA_VOLUME_NORM));
-                     },
-                     [] {}};
+    PulseLevel level{
+        loop,
+        [this](const pa_cvolume& volume) {
+            sent.push_back(static_cast<Long>((pa_cvolume_max(&volume) * 100 + PA_VOLUME_NORM / 2) / PA_VOLUME_NORM));
+        },
+        [] {}};
 };
 
 TEST_F(LevelTest, OneMessageIsUnderWayAndTheNewestFollows) {

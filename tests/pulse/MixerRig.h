@@ -46,9 +46,8 @@ protected:
         }));
         hand->SetPercent(Sink, "headset", 60);
         hand->SetPercent(Source, "microphone", 40);
-        EXPECT_TRUE(Until([this] {
-            return hand->Percent(Sink, "headset") == 60 && hand->Percent(Source, "microphone") == 40;
-        }));
+        EXPECT_TRUE(Until(
+            [this] { return hand->Percent(Sink, "headset") == 60 && hand->Percent(Source, "microphone") == 40; }));
     }
     void Seek() {
         sound.emplace(loop);

@@ -185,8 +185,8 @@ TYPED_TEST(PulseMixerTest, AServerThatHangsForTenSecondsHoldsNothingUp) {
     this->server.Signal(SIGCONT);
     ASSERT_TRUE(this->UntilTold({"InputOpened", "OutputOpened"}));
     this->hand.emplace();
-    ASSERT_TRUE(this->Until(
-        [this] { return this->Mixer().MasterVolume() == this->hand->Percent(this->Sink, "headset"); }));
+    ASSERT_TRUE(
+        this->Until([this] { return this->Mixer().MasterVolume() == this->hand->Percent(this->Sink, "headset"); }));
     this->hand->SetPercent(this->Sink, "headset", 17);
     ASSERT_TRUE(this->UntilHears("Master 17"));
     this->Mixer().MasterVolume(71);
@@ -218,8 +218,13 @@ TYPED_TEST(PulseMixerTest, FiveHundredDevicesAreListedAndFollowed) {
 }
 
 TYPED_TEST(PulseMixerTest, NamesWithOddCharactersLeadToTheirDevice) {
-    const Texts odd{"Pilot's \"best\" headset", "Kopfhörer 耳机 🎧", std::string(300, 'n'), "a\nsecond line",
-                    "  a; b = {c}\\ (2) <DEFAULT>  ", "<DEFAULT>", "None"};
+    const Texts odd{"Pilot's \"best\" headset",
+                    "Kopfhörer 耳机 🎧",
+                    std::string(300, 'n'),
+                    "a\nsecond line",
+                    "  a; b = {c}\\ (2) <DEFAULT>  ",
+                    "<DEFAULT>",
+                    "None"};
     for (std::size_t number = 0; number < odd.size(); ++number)
         this->hand->AddSource(TypeParam::Microphone, "odd" + std::to_string(number), odd[number]);
     ASSERT_TRUE(this->Until([&] { return this->sound->Devices.InputNames().size() == odd.size() + 1; }));
@@ -243,22 +248,21 @@ TYPED_TEST(PulseMixerTest, NamesWithOddCharactersLeadToTheirDevice) {
 
 TYPED_TEST(PulseMixerTest, TheSecondOfOneDescriptionIsToldApart) {
     this->hand->AddSink("second", "Headset");
-    ASSERT_TRUE(this->Until(
-        [this] { return std::ranges::count(this->sound->Devices.OutputNames(), "Headset (2)") == 1; }));
+    ASSERT_TRUE(
+        this->Until([this] { return std::ranges::count(this->sound->Devices.OutputNames(), "Headset (2)") == 1; }));
     this->Mixer().OutputDevice("Headset (2)");
     this->OpenMixer();
     this->hand->SetPercent(this->Sink, "second", 5);
     ASSERT_TRUE(this->UntilTold({"Master 5"}));
     // It keeps its name when the first one goes.
     this->hand->Unload(this->sinkModule);
-    ASSERT_TRUE(this->Until(
-        [this] { return std::ranges::count(this->sound->Devices.OutputNames(), "Headset") == 0; }));
+    ASSERT_TRUE(this->Until([this] { return std::ranges::count(this->sound->Devices.OutputNames(), "Headset") == 0; }));
     this->hand->SetPercent(this->Sink, "second", 6);
     EXPECT_TRUE(this->UntilHears("Master 6"));
 }
 
-// Five seconds of a hand that moves twenty times a second, against a program that sets other levels at the same pace, each
-// between two moves. What the handler reads is what the panel's slider shows.
+// Five seconds of a hand that moves twenty times a second, against a program that sets other levels at the same pace,
+// each between two moves. What the handler reads is what the panel's slider shows.
 TYPED_TEST(PulseMixerTest, ADraggedSliderNeverJumpsBackFromTheHand) {
     this->OpenMixer();
     this->Mixer().MasterVolume(0);

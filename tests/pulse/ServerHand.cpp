@@ -61,8 +61,8 @@ std::uint32_t ServerHand::AddSink(const std::string& name, const std::string& de
 std::uint32_t ServerHand::AddSource(const std::string& module, const std::string& name,
                                     const std::string& description) {
     if (module == "module-null-sink")
-        return Load(module, "media.class=Audio/Source/Virtual sink_name=" + name +
-                                Described("sink_properties", description));
+        return Load(module,
+                    "media.class=Audio/Source/Virtual sink_name=" + name + Described("sink_properties", description));
     return Load(module, "source_name=" + name + " description=" + Quoted(description, '\''));
 }
 
@@ -102,12 +102,16 @@ ServerHand::Told ServerHand::Ask(DeviceKind kind, const std::string& name) {
     if (kind == DeviceKind::Source)
         Finish(pa_context_get_source_info_by_name(
             context, name.c_str(),
-            [](pa_context*, const pa_source_info* info, int, void* user) { if (info) decltype(take){}(*info, user); },
+            [](pa_context*, const pa_source_info* info, int, void* user) {
+                if (info) decltype(take){}(*info, user);
+            },
             &told));
     else
         Finish(pa_context_get_sink_info_by_name(
             context, name.c_str(),
-            [](pa_context*, const pa_sink_info* info, int, void* user) { if (info) decltype(take){}(*info, user); },
+            [](pa_context*, const pa_sink_info* info, int, void* user) {
+                if (info) decltype(take){}(*info, user);
+            },
             &told));
     return told;
 }

@@ -55,8 +55,7 @@ void PipeWireServer::Start() {
     Run({"pipewire-pulse"});
     Await();
     // It gives a server without sinks one of its own.
-    EXPECT_TRUE(linux::WaitUntil(
-        [] { return Pactl({"info"}).find("Default Sink: auto_null") != std::string::npos; }));
+    EXPECT_TRUE(linux::WaitUntil([] { return Pactl({"info"}).find("Default Sink: auto_null") != std::string::npos; }));
 }
 
 SoundFolder::SoundFolder() {

@@ -1,5 +1,5 @@
-// Real sound servers of a test's own, which passes the same cases with each: PulseAudio, and PipeWire with what makes it
-// serve PulseAudio's clients. Each starts without any device of the computer.
+// Real sound servers of a test's own, which passes the same cases with each: PulseAudio, and PipeWire with what makes
+// it serve PulseAudio's clients. Each starts without any device of the computer.
 #pragma once
 
 #include <filesystem>
