@@ -21,11 +21,15 @@ Outside::Outside(EventLoop& eventLoop, ControlValues& controlValues, const Compu
               }),
       simulatorLine(eventLoop, brokers),
       frameworkLine(eventLoop, brokers),
+      sound(eventLoop),
       Velmarc(eventLoop, controlValues, simulatorLines, {thisComputer.Name, thisComputer.Name + LocalDomain}),
       Tessaly(eventLoop, controlValues, frameworkLines),
       VVL(Practice.VVL, Velmarc),
+      VolumeControl(Practice.VolumeControl),
+      VolumeControlHP(Practice.VolumeControlHP),
       TSRemote(realTeamSpeak ? *realTeamSpeak : Practice.TSRemote) {
     brokers.Told = [this](const std::string& sentence) { Told(sentence); };
+    sound.Came = [this] { ChooseMixers(); };
 }
 
 void Outside::Join(const mqtt::SetUpSetting& setUp) {
@@ -58,6 +62,23 @@ void Outside::Look() {
         brokers.Found.Settle();
         if (!std::exchange(isMissingTold, true)) Told(sentence);
     };
+}
+
+void Outside::WhenSoundIsKnown(std::function<void()> act) {
+    sound.WhenKnown([this, act = std::move(act)] {
+        if (sound.Devices.AreKnown()) {
+            Practice.Devices.SetInputs(sound.Devices.InputNames());
+            Practice.Devices.SetOutputs(sound.Devices.OutputNames());
+        }
+        act();
+    });
+}
+
+void Outside::ChooseMixers() {
+    VolumeControl.Serve(sound.Headset);
+    VolumeControlHP.Serve(sound.Speakers);
+    Practice.VolumeControl.StandBack();
+    Practice.VolumeControlHP.StandBack();
 }
 
 void Outside::ChooseLines() {

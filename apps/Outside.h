@@ -4,6 +4,7 @@
 // the network.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -12,9 +13,11 @@
 #include "adapters/embedded/SetUp.h"
 #include "adapters/ends/FrameworkEnd.h"
 #include "adapters/ends/MicrophoneGuard.h"
+#include "adapters/ends/MixerEnd.h"
 #include "adapters/ends/SimulatorEnd.h"
 #include "adapters/mqtt/BrokerFrameworkLine.h"
 #include "adapters/mqtt/BrokerSimulatorLine.h"
+#include "apps/SoundServer.h"
 
 namespace orvelle {
 
@@ -35,6 +38,8 @@ public:
     void Join(const mqtt::SetUpSetting& setUp);
     void Practise();
     bool IsPractising() const { return !brokers.HasJoined(); }
+    // Acts once the panel can be loaded with this computer's audio devices, which it asks for at its load alone.
+    void WhenSoundIsKnown(std::function<void()> act);
     // To be called at the program's end.
     void SayGoodbye() { brokers.SayGoodbye(); }
 
@@ -45,6 +50,7 @@ public:
 
 private:
     void ChooseLines();
+    void ChooseMixers();
     void Look();
 
     EventLoop& loop;
@@ -53,6 +59,7 @@ private:
     bool isMissingTold = false;
     mqtt::BrokerSimulatorLine simulatorLine;
     mqtt::BrokerFrameworkLine frameworkLine;
+    SoundServer sound;
     // Every server's name leads to the one line or to the other.
     ends::LineTable<SimulatorLine> simulatorLines{Practice.SimulatorLink};
     ends::LineTable<FrameworkLine> frameworkLines{Practice.NetworkLink};
@@ -61,6 +68,9 @@ public:
     ends::SimulatorEnd Velmarc;
     ends::FrameworkEnd Tessaly;
     ends::MicrophoneGuard VVL;
+    // The sound server's from when there is one; without it the embedded ones. One that is lost is awaited.
+    ends::MixerEnd VolumeControl;
+    ends::MixerEnd VolumeControlHP;
     TeamSpeakRemote& TSRemote;
 };
 

@@ -28,8 +28,8 @@ PanelProgram::PanelProgram(ThisProcess& thisProcess, const std::string& settings
           .Registry = Computer.Registry(),
           .Tessaly = Outside.Tessaly,
           .VVL = Outside.VVL,
-          .VolumeControl = Outside.Practice.VolumeControl,
-          .VolumeControlHP = Outside.Practice.VolumeControlHP,
+          .VolumeControl = Outside.VolumeControl,
+          .VolumeControlHP = Outside.VolumeControlHP,
           .TSRemote = Outside.TSRemote,
           .MediaPlayers = Outside.Practice.MediaPlayers,
           .Dialog = Desktop.Dialog,
@@ -81,6 +81,7 @@ PanelProgram::PanelProgram(ThisProcess& thisProcess, const std::string& settings
 void PanelProgram::Open() {
     Computer.Begin();
     Panel.Show();
+    if (isEndAsked) return End();
     // The deck waits for the panel to be seen.
     loop.Post([this] {
         isOpen = true;

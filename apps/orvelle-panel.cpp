@@ -28,7 +28,9 @@ int main() {
     ApplyTheme(SystemScheme());
     PanelProgram panel(process, UserSettings::File());
     return application.Run([&] {
-        panel.Open();
-        PrepareFirstFlight(panel.Outside.Practice.Sides());
+        panel.Outside.WhenSoundIsKnown([&] {
+            panel.Open();
+            PrepareFirstFlight(panel.Outside.Practice.Sides());
+        });
     });
 }

@@ -37,6 +37,11 @@ void Mixer::Close() {
     changes.Mark();
 }
 
+void Mixer::StandBack() {
+    serving = false;
+    changes.Mark();
+}
+
 bool Mixer::MicUnavailable() { return At(MixerLine::Microphone).Unavailable; }
 Integer Mixer::MicMin() { return At(MixerLine::Microphone).Min; }
 Integer Mixer::MicMax() { return At(MixerLine::Microphone).Max; }

@@ -44,6 +44,9 @@ public:
     Integer WaveVolume() override;
     void WaveVolume(Long value) override;
 
+    // A real mixer serves from now on.
+    void StandBack();
+
     // The mixer from its far side.
     void SetLevel(MixerLine line, const MixerLevel& level) override;
     const MixerLevel& Level(MixerLine line) const override { return levels[static_cast<std::size_t>(line)]; }
@@ -52,6 +55,7 @@ public:
     bool Plugged(SoundDirection direction) const override { return At(direction).Plugged; }
     std::string DeviceName(SoundDirection direction) const override { return At(direction).Device; }
     bool IsOpen() const override { return open; }
+    bool IsServing() const override { return serving; }
     void SetDelay(Long milliseconds) override { delivery.SetDelay(milliseconds); }
     Long Delay() const override { return delivery.Delay(); }
     Ticket Observe(std::function<void()> observer) override { return changes.Observe(std::move(observer)); }
@@ -75,6 +79,7 @@ private:
     Changes changes;
     Delivery delivery;
     bool open = false;
+    bool serving = true;
     std::array<MixerLevel, 3> levels;
     std::array<Side, 2> sides;
 };

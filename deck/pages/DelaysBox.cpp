@@ -28,9 +28,11 @@ DelaysBox::DelaysBox(const FarSides& sides) : Section("Delays", "Delays", 2) {
     };
     addRow("Simulator", "SimulatorDelay", "From the simulator's computer to the panel", PlayedOf(sides.SimulatorLink));
     addRow("Network", "NetworkDelay", "From the network to the panel", PlayedOf(sides.NetworkLink));
+    const auto served = [](MixerSide* mixer) { return mixer && mixer->IsServing() ? mixer : nullptr; };
     addRow("Headset mixer", "HeadsetMixerDelay", "From the mixer of microphone and headset to the panel",
-           sides.HeadsetMixer);
-    addRow("Speakers mixer", "SpeakersMixerDelay", "From the mixer of the speakers to the panel", sides.SpeakersMixer);
+           served(sides.HeadsetMixer));
+    addRow("Speakers mixer", "SpeakersMixerDelay", "From the mixer of the speakers to the panel",
+           served(sides.SpeakersMixer));
 }
 
 }  // namespace orvelle::deck

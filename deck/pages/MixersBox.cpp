@@ -1,7 +1,9 @@
 #include "deck/pages/MixersBox.h"
 
 #include <QCheckBox>
+#include <QGridLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QSpinBox>
 
 #include "adapters/looks/Text.h"
@@ -28,7 +30,11 @@ QWidget* Beside(QWidget* first, QWidget* second) {
 }  // namespace
 
 MixersBox::MixersBox(MixerSide& headset, MixerSide& speakers)
-    : Section("Mixers", "Mixers", 2), columns{NewColumn(headset, "Headset"), NewColumn(speakers, "Speakers")} {
+    : Section("Mixers", "Mixers", 2),
+      realServe(new QLabel("The sound server's mixers serve; any mixer program moves them.")),
+      columns{NewColumn(headset, "Headset"), NewColumn(speakers, "Speakers")} {
+    realServe->setObjectName("RealMixersServe");
+    realServe->setWordWrap(true);
     AddCaptions({"Microphone and headset", "Speakers"});
     AddRow("Mixer", {columns[0].State, columns[1].State});
     AddRow("Input", {columns[0].Plugged[0], columns[1].Plugged[0]});
@@ -40,8 +46,9 @@ MixersBox::MixersBox(MixerSide& headset, MixerSide& speakers)
         AddRow(label, {Beside(left.IsThere, left.Level), Beside(right.IsThere, right.Level)});
         ++row;
     }
+    AddWide(realServe);
     for (Column& column : columns) {
-        column.Watch = column.Mixer->Observe([&column] { ShowState(column); });
+        column.Watch = column.Mixer->Observe([this, &column] { ShowState(column); });
         ShowState(column);
     }
 }
@@ -75,6 +82,11 @@ QCheckBox* MixersBox::NewPlug(MixerSide& mixer, SoundDirection side, const QStri
 
 void MixersBox::ShowState(const Column& column) {
     const MixerSide& mixer = *column.Mixer;
+    // Below the title.
+    for (int place = 1; place < Grid().count(); ++place) {
+        QWidget* const field = Grid().itemAt(place)->widget();
+        field->setVisible((field == realServe) != mixer.IsServing());
+    }
     const QString device = ToQt(mixer.DeviceName(SoundDirection::Output));
     column.State->Show(mixer.IsOpen() ? Sign::Good : Sign::Off, (mixer.IsOpen() ? "Open on " : "Closed, ") + device);
     for (const SoundDirection side : Sides)

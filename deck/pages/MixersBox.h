@@ -1,5 +1,5 @@
 // The two mixers, as somebody at the sound card handles them: lines that are there or not, their levels, and devices
-// that are plugged or not.
+// that are plugged or not. Where a sound server's mixers serve in their place, a line says so instead.
 #pragma once
 
 #include <array>
@@ -9,6 +9,7 @@
 #include "platform/sides/MixerSide.h"
 
 class QCheckBox;
+class QLabel;
 class QSpinBox;
 
 namespace orvelle::deck {
@@ -35,8 +36,9 @@ private:
     Column NewColumn(MixerSide& mixer, const QString& name);
     Line NewLine(MixerSide& mixer, MixerLine line, const QString& name);
     QCheckBox* NewPlug(MixerSide& mixer, SoundDirection side, const QString& name);
-    static void ShowState(const Column& column);
+    void ShowState(const Column& column);
 
+    QLabel* realServe;
     std::array<Column, 2> columns;
 };
 

@@ -32,6 +32,8 @@ public:
     virtual bool Plugged(SoundDirection direction) const = 0;
     virtual std::string DeviceName(SoundDirection direction) const = 0;  // as the panel named it
     virtual bool IsOpen() const = 0;
+    // False once a real mixer serves in its place: what is done here then goes nowhere.
+    virtual bool IsServing() const = 0;
     // How long a change takes to the panel, milliseconds.
     virtual void SetDelay(Long milliseconds) = 0;
     virtual Long Delay() const = 0;

@@ -162,6 +162,18 @@ TEST_F(DeckFaults, DevicesArePluggedAndUnplugged) {
     EXPECT_EQ(TextOf("HeadsetMixerText"), "Open on <DEFAULT>");
 }
 
+TEST_F(DeckFaults, MixersInWhosePlaceRealOnesServeAreNotShown) {
+    TurnTo(At<QWidget>("RealMixersServe"));
+    EXPECT_FALSE(At<QWidget>("RealMixersServe").isVisible());
+    EXPECT_TRUE(At<QWidget>("HeadsetMasterLevel").isVisible());
+    setUp.VolumeControl.StandBack();
+    setUp.VolumeControlHP.StandBack();
+    Settle();
+    EXPECT_TRUE(At<QWidget>("RealMixersServe").isVisible());
+    for (const char* const name : {"HeadsetMixer", "HeadsetMasterLine", "HeadsetMasterLevel", "SpeakersInputPlugged"})
+        EXPECT_FALSE(At<QWidget>(name).isVisible()) << name;
+}
+
 TEST_F(DeckFaults, LevelsFollowThePanel) {
     setUp.VolumeControl.MasterVolume(25);
     Settle();

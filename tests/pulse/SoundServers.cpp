@@ -1,0 +1,80 @@
+#include "tests/pulse/SoundServers.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <fstream>
+
+#include "tests/linux/WaitUntil.h"
+
+namespace orvelle::pulse {
+
+namespace {
+
+std::filesystem::path RuntimeFolder() { return std::getenv("XDG_RUNTIME_DIR"); }
+
+}  // namespace
+
+void SoundServerProcesses::Signal(int signal) {
+    for (const auto& process : processes) process->Kill(signal);
+}
+
+void SoundServerProcesses::Kill() {
+    while (!processes.empty()) processes.pop_back();
+}
+
+void SoundServerProcesses::Run(std::vector<std::string> commandLine) {
+    processes.push_back(std::make_unique<linux::ChildProcess>(std::move(commandLine)));
+}
+
+void SoundServerProcesses::Await() {
+    EXPECT_TRUE(linux::WaitUntil([] { return !Pactl({"info"}).empty(); }));
+}
+
+void PulseAudioServer::Start() {
+    std::filesystem::create_directories(RuntimeFolder() / "pulse");
+    // By itself it has few descriptors, and each sink takes some.
+    const std::string settings = RuntimeFolder() / "daemon.conf";
+    std::ofstream(settings) << "rlimit-nofile = 4096\n";
+    setenv("PULSE_CONFIG", settings.c_str(), 1);
+    Run({"pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no", "--disable-shm=yes",
+         "--high-priority=no", "--realtime=no", "-L",
+         "module-native-protocol-unix auth-anonymous=1 socket=" + (RuntimeFolder() / "pulse" / "native").string()});
+    Await();
+}
+
+void PipeWireServer::Start() {
+    const std::string bus = "unix:path=" + (RuntimeFolder() / "bus").string();
+    setenv("DBUS_SESSION_BUS_ADDRESS", bus.c_str(), 1);
+    Run({"dbus-daemon", "--session", "--nofork", "--nosyslog", "--nopidfile", "--address=" + bus});
+    EXPECT_TRUE(linux::WaitUntil([] { return std::filesystem::exists(RuntimeFolder() / "bus"); }));
+    Run({"pipewire"});
+    EXPECT_TRUE(linux::WaitUntil([] { return std::filesystem::exists(RuntimeFolder() / "pipewire-0"); }));
+    Run({"wireplumber"});
+    Run({"pipewire-pulse"});
+    Await();
+    // It gives a server without sinks one of its own.
+    EXPECT_TRUE(linux::WaitUntil([] { return Pactl({"info"}).find("Default Sink: auto_null") != std::string::npos; }));
+}
+
+SoundFolder::SoundFolder() {
+    std::string pattern = std::filesystem::temp_directory_path() / "orvelle-sound-XXXXXX";
+    folder = mkdtemp(pattern.data());
+    for (const char* const name : {"HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_STATE_HOME"})
+        setenv(name, folder.c_str(), 1);
+    for (const char* const name : {"PULSE_SERVER", "PULSE_RUNTIME_PATH", "PULSE_STATE_PATH"}) unsetenv(name);
+}
+
+SoundFolder::~SoundFolder() { std::filesystem::remove_all(folder); }
+
+std::string Pactl(std::vector<std::string> words) {
+    words.insert(words.begin(), {"env", "LC_ALL=C", "pactl"});
+    linux::ChildProcess pactl(words);
+    std::string printed;
+    for (std::string line = pactl.ReadLine(); !line.empty(); line = pactl.ReadLine())
+        printed += (printed.empty() ? "" : "\n") + line;
+    return pactl.Wait() == 0 ? printed : "";
+}
+
+}  // namespace orvelle::pulse
