@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "apps/OwnModules.h"
+
 namespace orvelle {
 
 namespace {
@@ -21,11 +23,14 @@ Outside::Outside(EventLoop& eventLoop, ControlValues& controlValues, const Compu
               }),
       simulatorLine(eventLoop, brokers),
       frameworkLine(eventLoop, brokers),
+      loadedPlayers(PlacesOfModule(media::ModuleName)),
       Velmarc(eventLoop, controlValues, simulatorLines, {thisComputer.Name, thisComputer.Name + LocalDomain}),
       Tessaly(eventLoop, controlValues, frameworkLines),
       VVL(Practice.VVL, Velmarc),
-      TSRemote(realTeamSpeak ? *realTeamSpeak : Practice.TSRemote) {
+      TSRemote(realTeamSpeak ? *realTeamSpeak : Practice.TSRemote),
+      MediaPlayers(loadedPlayers.IsThere() ? static_cast<MediaPlayerFactory&>(loadedPlayers) : Practice.MediaPlayers) {
     brokers.Told = [this](const std::string& sentence) { Told(sentence); };
+    loadedPlayers.Told = [this](const std::string& sentence) { Told(sentence); };
 }
 
 void Outside::Join(const mqtt::SetUpSetting& setUp) {

@@ -13,8 +13,10 @@
 #include "adapters/ends/FrameworkEnd.h"
 #include "adapters/ends/MicrophoneGuard.h"
 #include "adapters/ends/SimulatorEnd.h"
+#include "adapters/media/LoadedMediaPlayers.h"
 #include "adapters/mqtt/BrokerFrameworkLine.h"
 #include "adapters/mqtt/BrokerSimulatorLine.h"
+#include "apps/AskedSounds.h"
 
 namespace orvelle {
 
@@ -56,12 +58,17 @@ private:
     // Every server's name leads to the one line or to the other.
     ends::LineTable<SimulatorLine> simulatorLines{Practice.SimulatorLink};
     ends::LineTable<FrameworkLine> frameworkLines{Practice.NetworkLink};
+    // Asked for while practising alone; in a set-up the simulator's computer plays them.
+    AskedSounds sounds{loop, Practice.SimulatorLink, OwnSounds()};
+    media::LoadedMediaPlayers loadedPlayers;
 
 public:
     ends::SimulatorEnd Velmarc;
     ends::FrameworkEnd Tessaly;
     ends::MicrophoneGuard VVL;
     TeamSpeakRemote& TSRemote;
+    // Those that are heard where their module is installed, else the embedded ones, which are silent.
+    MediaPlayerFactory& MediaPlayers;
 };
 
 }  // namespace orvelle

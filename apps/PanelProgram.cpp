@@ -26,7 +26,7 @@ PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile
           .VolumeControl = Outside.Practice.VolumeControl,
           .VolumeControlHP = Outside.Practice.VolumeControlHP,
           .TSRemote = Outside.TSRemote,
-          .MediaPlayers = Outside.Practice.MediaPlayers,
+          .MediaPlayers = Outside.MediaPlayers,
           .Dialog = Desktop.Dialog,
           .Messages = Desktop.Messages,
           .Keyboard = Computer.Keyboard(),
