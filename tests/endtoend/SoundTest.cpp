@@ -1,11 +1,9 @@
 // What a whole panel makes heard, through a sound server of the test's own.
 #include <QListWidget>
 #include <algorithm>
-#include <cstdlib>
 
-#include "tests/devices/SoundServer.h"
-#include "tests/devices/Tone.h"
 #include "tests/endtoend/PanelTest.h"
+#include "tests/endtoend/UsersSoundServer.h"
 
 namespace orvelle {
 
@@ -14,19 +12,6 @@ namespace {
 constexpr const char* OnChannel = "Tessaly\\RADIO_ONCHANNEL.wav";
 constexpr double Loud = 4000;    // less than half of the tones' own amplitude
 constexpr double Silent = 1000;  // what a tone's swelling leaves beside its own frequency
-
-// There before the panel is.
-class UsersSoundServer {
-public:
-    UsersSoundServer() { setenv("PULSE_SERVER", server.Address().c_str(), 1); }
-    UsersSoundServer(const UsersSoundServer&) = delete;
-    UsersSoundServer& operator=(const UsersSoundServer&) = delete;
-    ~UsersSoundServer() { unsetenv("PULSE_SERVER"); }
-
-protected:
-    QTemporaryDir serversFolder;
-    SoundServer server{serversFolder.path().toStdString()};
-};
 
 class SoundTest : protected UsersSoundServer, public PanelTest {
 protected:
@@ -37,7 +22,6 @@ protected:
         store.HandlerEnded();
     }
 
-    double LoudnessOf(double frequency) const { return orvelle::LoudnessOf(frequency, server.Heard()); }
     bool IsHeard(double frequency) {
         return ComesTrue([&] { return LoudnessOf(frequency) > Loud; });
     }
