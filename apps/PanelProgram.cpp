@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "apps/OwnModules.h"
 #include "apps/ThisProcess.h"
 
 namespace orvelle {
@@ -38,7 +39,6 @@ PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile
           .Tray = Desktop.Tray,
           .Urls = urlFunctions,
       }),
-      joining(loop, std::filesystem::path(settingsFile).parent_path()),
       setUpFile(std::filesystem::path(settingsFile).parent_path() / "setup.json") {
     Desktop.Show(Panel);
     Computer.OpenDoor(Desktop.Table, Panel.Stub1);
@@ -69,7 +69,8 @@ PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile
 }
 
 void PanelProgram::Open() {
-    Computer.Begin();
+    // In the loop's first turn, before anything that the panel is told can press a key; nor would one go down without.
+    loop.Post([this] { Computer.Begin(); });
     Panel.Show();
     // The deck waits for the panel to be seen.
     loop.Post([this] {
@@ -107,11 +108,22 @@ void PanelProgram::ShowDeckWherePractising() {
 void PanelProgram::OpenDeck() {
     FarSides sides = Outside.Practice.Sides();
     sides.Notices = &Settings.Notices;
-    sides.Join = &joining;
+    sides.Join = Joining();
     Deck = std::make_unique<DeckWindow>(sides);
     ownStrokes = std::make_unique<OwnStrokes>(Computer, *Deck);
     for (const std::string& sentence : std::exchange(untold, {})) TellOfProgram(sentence);
     Deck->OpenAt(Desktop.Window().frameGeometry().topRight() + QPoint(GapBesidePanel, 0));
+}
+
+// Null, and told, where what it needs can't be loaded.
+JoinSide* PanelProgram::Joining() {
+    if (joining) return joining.get();
+    std::string why;
+    if (auto* const make = FunctionOf<NewOrvelleSetUpDeskFunction>(SetUpModuleName, "NewOrvelleSetUpDesk", why))
+        joining.reset(make(loop, setUpFile.parent_path()));
+    else
+        Desktop.Tray.Tell("No set-up can be joined: " + why + ".");
+    return joining.get();
 }
 
 void PanelProgram::TellOfProgram(const std::string& sentence) {

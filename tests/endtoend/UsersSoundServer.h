@@ -5,7 +5,7 @@
 #include <QTemporaryDir>
 #include <cstdlib>
 
-#include "tests/devices/SoundServer.h"
+#include "tests/devices/RecordedSoundServer.h"
 #include "tests/devices/Tone.h"
 
 namespace orvelle {
@@ -20,7 +20,7 @@ protected:
     double LoudnessOf(double frequency) const { return orvelle::LoudnessOf(frequency, server.Heard()); }
 
     QTemporaryDir serversFolder;
-    SoundServer server{serversFolder.path().toStdString()};
+    RecordedSoundServer server{serversFolder.path().toStdString()};
 };
 
 }  // namespace orvelle

@@ -13,9 +13,9 @@ constexpr const char* OnChannel = "Tessaly\\RADIO_ONCHANNEL.wav";
 constexpr double Loud = 4000;    // less than half of the tones' own amplitude
 constexpr double Silent = 1000;  // what a tone's swelling leaves beside its own frequency
 
-class SoundTest : protected UsersSoundServer, public PanelTest {
+class TonesTest : protected UsersSoundServer, public PanelTest {
 protected:
-    SoundTest() {
+    TonesTest() {
         store::SqliteStore& store = house.Settings.Store;
         store.SaveSettingLong("OrvelleCP", "RWEnable", 1);
         store.SaveSettingLong("OrvelleCP", "VoiceTuningSound", 1);
@@ -34,7 +34,7 @@ protected:
     }
 };
 
-TEST_F(SoundTest, APanelThatPractisesMakesTuningHeard) {
+TEST_F(TonesTest, APanelThatPractisesMakesTuningHeard) {
     ASSERT_NO_FATAL_FAILURE(Open());
     ASSERT_NO_FATAL_FAILURE(Connect());
     EXPECT_LT(LoudnessOf(660), Silent);
@@ -49,7 +49,7 @@ TEST_F(SoundTest, APanelThatPractisesMakesTuningHeard) {
     EXPECT_EQ(Asked(OnChannel), 1);
 }
 
-TEST_F(SoundTest, CopiesDoNotPileUpAndWhatCanNotBePlayedPassesInSilence) {
+TEST_F(TonesTest, CopiesDoNotPileUpAndWhatCanNotBePlayedPassesInSilence) {
     ASSERT_NO_FATAL_FAILURE(Open());
     ASSERT_NO_FATAL_FAILURE(Connect());
     for (const char* const sound : {"Tessaly\\NONE.wav", "..\\panel.html", ""}) house.Outside.Velmarc.PlaySound(sound);
@@ -61,7 +61,7 @@ TEST_F(SoundTest, CopiesDoNotPileUpAndWhatCanNotBePlayedPassesInSilence) {
     EXPECT_EQ(Asked(OnChannel), 100);
 }
 
-TEST_F(SoundTest, InASetUpThePanelItselfIsSilent) {
+TEST_F(TonesTest, InASetUpThePanelItselfIsSilent) {
     ASSERT_NO_FATAL_FAILURE(Open());
     ASSERT_NO_FATAL_FAILURE(Connect());
     const std::size_t asked = house.Outside.Practice.SimulatorLink.SoundsPlayed();
