@@ -6,7 +6,7 @@
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     QWidget window;
-    window.resize(640, 480);
+    window.resize(960, 450);  // as large as the panel
     window.show();
     return QApplication::exec();
 }

@@ -1,4 +1,4 @@
-// orvelle-neighbours RUNS SECONDS PROGRAM...: starts the programs in turn, RUNS times after once that doesn't count, and
+// orvelle-neighbours RUNS SECONDS COMMAND...: starts the programs in turn, RUNS times after once that doesn't count, and
 // prints the medians of each: the time to its first mapped window, the processor's time until then, its memory, and its
 // wake-ups in SECONDS of rest; and how the others compare with the first. bench/neighbours runs it.
 #include <algorithm>
@@ -16,7 +16,7 @@ namespace orvelle {
 namespace {
 
 struct Neighbour {
-    std::string Program;
+    std::string Command;
     Figures Measured;
 };
 
@@ -24,8 +24,8 @@ void Print(const std::vector<Neighbour>& neighbours) {
     std::printf("%-22s", "medians");
     for (const auto& [name, values] : neighbours.front().Measured) std::printf(" | %s", name.c_str() + 2);
     std::printf("\n");
-    for (const auto& [program, measured] : neighbours) {
-        std::printf("%-22s", std::filesystem::path(program).filename().c_str());
+    for (const auto& [command, measured] : neighbours) {
+        std::printf("%-22s", std::filesystem::path(command).filename().c_str());
         for (const auto& [name, values] : measured) {
             const double first = Median(neighbours.front().Measured.at(name));
             const double median = Median(values);
@@ -39,11 +39,11 @@ void Print(const std::vector<Neighbour>& neighbours) {
 void Measure(std::vector<Neighbour>& neighbours, int runs, int idleSeconds) {
     for (const Neighbour& neighbour : neighbours) {
         Figures warmUp;
-        MeasureOneStart(neighbour.Program, 0, warmUp);
+        MeasureOneStart(neighbour.Command, 0, warmUp);
     }
     for (int run = 0; run < runs; ++run) {
         WaitForQuietComputer();
-        for (Neighbour& neighbour : neighbours) MeasureOneStart(neighbour.Program, idleSeconds, neighbour.Measured);
+        for (Neighbour& neighbour : neighbours) MeasureOneStart(neighbour.Command, idleSeconds, neighbour.Measured);
     }
 }
 
@@ -54,7 +54,7 @@ void Measure(std::vector<Neighbour>& neighbours, int runs, int idleSeconds) {
 int main(int argc, char** argv) {
     const std::vector<std::string> arguments(argv + 1, argv + argc);
     if (arguments.size() < 3) {
-        std::cerr << "usage: orvelle-neighbours RUNS SECONDS PROGRAM...\n";
+        std::cerr << "usage: orvelle-neighbours RUNS SECONDS COMMAND...\n";
         return 2;
     }
     try {

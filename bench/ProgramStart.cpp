@@ -8,6 +8,8 @@
 #include <chrono>
 #include <csignal>
 #include <iostream>
+#include <iterator>
+#include <sstream>
 #include <stdexcept>
 #include <thread>
 
@@ -29,11 +31,14 @@ constexpr int QuietLimit = 60;  // seconds
 // A started program, ended with this object.
 class StartedProgram {
 public:
-    explicit StartedProgram(const std::string& path) {
-        std::string name = path;
-        char* arguments[] = {name.data(), nullptr};
-        if (posix_spawnp(&process, path.c_str(), nullptr, nullptr, arguments, environ) != 0)
-            throw std::runtime_error(path + " can't be started");
+    explicit StartedProgram(const std::string& command) {
+        std::istringstream text(command);
+        std::vector<std::string> words{std::istream_iterator<std::string>(text), {}};
+        std::vector<char*> arguments;
+        for (std::string& word : words) arguments.push_back(word.data());
+        arguments.push_back(nullptr);
+        if (posix_spawnp(&process, arguments.front(), nullptr, nullptr, arguments.data(), environ) != 0)
+            throw std::runtime_error(command + " can't be started");
     }
     StartedProgram(const StartedProgram&) = delete;
     StartedProgram& operator=(const StartedProgram&) = delete;
@@ -79,13 +84,13 @@ void WaitForQuietComputer() {
     std::cerr << "Warning: the computer is busy with other work\n";
 }
 
-void MeasureOneStart(const std::string& path, int idleSeconds, Figures& figures) {
+void MeasureOneStart(const std::string& command, int idleSeconds, Figures& figures) {
     WindowWatch watch;
     const auto start = SteadyClock::now();
-    StartedProgram program(path);
+    StartedProgram program(command);
     while (!watch.MappedOne(program.Id())) {
-        if (program.HasEnded()) throw std::runtime_error(path + " ended without a window");
-        if (SteadyClock::now() - start > StartLimit) throw std::runtime_error(path + " showed no window");
+        if (program.HasEnded()) throw std::runtime_error(command + " ended without a window");
+        if (SteadyClock::now() - start > StartLimit) throw std::runtime_error(command + " showed no window");
         watch.Wait();
     }
     const std::chrono::duration<double, std::milli> shown = SteadyClock::now() - start;
@@ -96,7 +101,7 @@ void MeasureOneStart(const std::string& path, int idleSeconds, Figures& figures)
     const Activity before = ReadActivity(program.Id());
     std::this_thread::sleep_for(seconds(idleSeconds));
     const Activity after = ReadActivity(program.Id());
-    if (program.HasEnded()) throw std::runtime_error(path + " ended by itself");
+    if (program.HasEnded()) throw std::runtime_error(command + " ended by itself");
 
     const std::string idle = " in " + std::to_string(idleSeconds) + " s";
     figures["1 first window, ms"].push_back(shown.count());

@@ -12,7 +12,8 @@ namespace orvelle {
 // All that was measured of each figure, by its name, which begins with its place in the table.
 using Figures = std::map<std::string, std::vector<double>>;
 
-void MeasureOneStart(const std::string& program, int idleSeconds, Figures& figures);
+// The command is a program, and its arguments after blanks.
+void MeasureOneStart(const std::string& command, int idleSeconds, Figures& figures);
 
 // Waits for a second in which the computer has little else to do; says so where none comes.
 void WaitForQuietComputer();
