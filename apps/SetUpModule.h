@@ -15,7 +15,7 @@
 
 namespace orvelle {
 
-constexpr const char* SetUpModuleName = "orvelle-set-up.so";
+constexpr const char* SetUpModuleName = "orvelle-links.so";
 
 // This computer as it is told to the others of a set-up, and to the panel.
 struct ComputerNames {
