@@ -1,6 +1,6 @@
-// The sounds that panels ask of the simulator's computer, played where this computer is that: in the simulator's program,
-// and in a panel that practises. Sounds asked for before this object was made are not played. Nothing fails or waits: a
-// sound that can't be had, or plays already, passes in silence. Loop and far side outlive this object.
+// The sounds that panels ask of the simulator's computer, played where this computer is that: in the simulator's
+// program, and in a panel that practises. Sounds asked for before this object was made are not played. Nothing fails or
+// waits: a sound that can't be had, or plays already, passes in silence. Loop and far side outlive this object.
 #pragma once
 
 #include <cstddef>

@@ -1,5 +1,5 @@
-// The modules that a program of ours loads when it first needs them. They lie beside the program, as in the build folder,
-// or in the private folder of libraries of the prefix that it is installed under.
+// The modules that a program of ours loads when it first needs them. They lie beside the program, as in the build
+// folder, or in the private folder of libraries of the prefix that it is installed under.
 #pragma once
 
 #include <filesystem>

@@ -1,6 +1,6 @@
-// orvelle-neighbours RUNS SECONDS COMMAND...: starts the programs in turn, RUNS times after once that doesn't count, and
-// prints the medians of each: the time to its first mapped window, the processor's time until then, its memory, and its
-// wake-ups in SECONDS of rest; and how the others compare with the first. bench/neighbours runs it.
+// orvelle-neighbours RUNS SECONDS COMMAND...: starts the programs in turn, RUNS times after once that doesn't count,
+// and prints the medians of each: the time to its first mapped window, the processor's time until then, its memory, and
+// its wake-ups in SECONDS of rest; and how the others compare with the first. bench/neighbours runs it.
 #include <algorithm>
 #include <cstdio>
 #include <exception>

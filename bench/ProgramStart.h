@@ -1,6 +1,6 @@
-// One start of a program on the display: the time to its first mapped window, then, once it has come to rest, its memory
-// and what it does while it rests, with all its descendants. For the measurements that compare starts; each throws a
-// std::runtime_error where the program shows no window within a generous time, or ends by itself.
+// One start of a program on the display: the time to its first mapped window, then, once it has come to rest, its
+// memory and what it does while it rests, with all its descendants. For the measurements that compare starts; each
+// throws a std::runtime_error where the program shows no window within a generous time, or ends by itself.
 #pragma once
 
 #include <map>

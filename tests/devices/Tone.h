@@ -1,5 +1,5 @@
-// How loud a tone was in what a sound server was sent, 22,050 samples a second: by Goertzel's algorithm, in stretches of a
-// twentieth of a second, which tells frequencies apart that are 20 Hz from one another.
+// How loud a tone was in what a sound server was sent, 22,050 samples a second: by Goertzel's algorithm, in stretches
+// of a twentieth of a second, which tells frequencies apart that are 20 Hz from one another.
 #pragma once
 
 #include <algorithm>

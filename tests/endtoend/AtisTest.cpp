@@ -33,7 +33,8 @@ std::string Recording() {
     std::string wave = "RIFF";
     Append(wave, static_cast<std::uint32_t>(36 + samples.size()), 4);
     wave += "WAVEfmt ";
-    for (const auto& [number, size] : {std::pair{16U, 4}, {1U, 2}, {1U, 2}, {Rate, 4}, {2 * Rate, 4}, {2U, 2}, {16U, 2}})
+    for (const auto& [number, size] :
+         {std::pair{16U, 4}, {1U, 2}, {1U, 2}, {Rate, 4}, {2 * Rate, 4}, {2U, 2}, {16U, 2}})
         Append(wave, number, size);
     wave += "data";
     Append(wave, static_cast<std::uint32_t>(samples.size()), 4);

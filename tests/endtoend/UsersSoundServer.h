@@ -1,5 +1,5 @@
-// A sound server of the test's own, as the user's whose panel is tested; there before the panel is, so a test stands on it
-// first.
+// A sound server of the test's own, as the user's whose panel is tested; there before the panel is, so a test stands on
+// it first.
 #pragma once
 
 #include <QTemporaryDir>

@@ -44,8 +44,9 @@ void WebFile::Serve() {
             request.append(part, static_cast<std::size_t>(size));
         }
         ++asked;
-        const std::string answer = "HTTP/1.1 200 OK\r\nContent-Type: audio/x-wav\r\nConnection: close\r\nContent-Length: " +
-                                   std::to_string(content.size()) + "\r\n\r\n" + content;
+        const std::string answer =
+            "HTTP/1.1 200 OK\r\nContent-Type: audio/x-wav\r\nConnection: close\r\nContent-Length: " +
+            std::to_string(content.size()) + "\r\n\r\n" + content;
         send(caller.Number(), answer.data(), answer.size(), MSG_NOSIGNAL);
     }
 }
