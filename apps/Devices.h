@@ -27,9 +27,6 @@ struct DevicesSetting {
     std::string SoundServer{};     // "" is the user's own
 };
 
-// Where this program's sounds lie, installed or in the build folder.
-std::filesystem::path OwnSounds();
-
 class Devices {
 public:
     Devices(EventLoop& loop, SimulatorSide& simulator, const DevicesSetting& setting);
@@ -45,12 +42,7 @@ public:
 private:
     struct Parts;
 
-    void PlayWhatIsAsked();
-
-    SimulatorSide& simulator;
     const std::unique_ptr<Parts> parts;
-    std::size_t played;
-    Ticket watch;
 };
 
 }  // namespace orvelle

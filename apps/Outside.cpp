@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "apps/OwnModules.h"
+
 namespace orvelle {
 
 namespace {
@@ -14,54 +16,41 @@ Outside::Outside(EventLoop& eventLoop, ControlValues& controlValues, const Compu
                  TeamSpeakRemote* realTeamSpeak)
     : Practice(eventLoop),
       loop(eventLoop),
-      brokers(eventLoop,
-              [thisComputer] {
-                  return mqtt::PresenceSetting{
-                      .Name = thisComputer.Name, .Address = "", .Desktop = thisComputer.Desktop};
-              }),
-      simulatorLine(eventLoop, brokers),
-      frameworkLine(eventLoop, brokers),
+      names(thisComputer),
+      loadedPlayers(PlacesOfModule(media::ModuleName)),
       sound(eventLoop),
       Velmarc(eventLoop, controlValues, simulatorLines, {thisComputer.Name, thisComputer.Name + LocalDomain}),
       Tessaly(eventLoop, controlValues, frameworkLines),
       VVL(Practice.VVL, Velmarc),
       VolumeControl(Practice.VolumeControl),
       VolumeControlHP(Practice.VolumeControlHP),
-      TSRemote(realTeamSpeak ? *realTeamSpeak : Practice.TSRemote) {
-    brokers.Told = [this](const std::string& sentence) { Told(sentence); };
+      TSRemote(realTeamSpeak ? *realTeamSpeak : Practice.TSRemote),
+      MediaPlayers(loadedPlayers.IsThere() ? static_cast<MediaPlayerFactory&>(loadedPlayers) : Practice.MediaPlayers) {
+    loadedPlayers.Told = [this](const std::string& sentence) { Told(sentence); };
     sound.Came = [this] { ChooseMixers(); };
 }
 
 void Outside::Join(const mqtt::SetUpSetting& setUp) {
-    Look();
-    brokers.Join(setUp);
-    simulatorLines.EnterOthers(simulatorLine);
-    frameworkLines.EnterOthers(frameworkLine);
+    if (!setUpLinks) {
+        std::string why;
+        auto* const make = FunctionOf<NewOrvelleSetUpLinksFunction>(SetUpModuleName, "NewOrvelleSetUpLinks", why);
+        if (make == nullptr) return Told("This computer can't take part in its set-up: " + why + ".");
+        setUpLinks.reset(make(loop, names));
+        setUpLinks->Told = [this](const std::string& sentence) { Told(sentence); };
+    }
+    hasJoined = true;
+    setUpLinks->Join(setUp);
+    simulatorLines.EnterOthers(setUpLinks->SimulatorLine());
+    frameworkLines.EnterOthers(setUpLinks->FrameworkLine());
     ChooseLines();
 }
 
 void Outside::Practise() {
-    browser.reset();
-    brokers.Found.End();
-    brokers.Leave();
+    if (setUpLinks) setUpLinks->Leave();
+    hasJoined = false;
     simulatorLines.EnterOthers(Practice.SimulatorLink);
     frameworkLines.EnterOthers(Practice.NetworkLink);
     ChooseLines();
-}
-
-void Outside::Look() {
-    if (browser) return;
-    const auto server = [](const avahi::FoundService& service) {
-        return mqtt::FoundServer{service.SetUp, {service.Host, service.Port}};
-    };
-    brokers.Found.Begin();
-    browser.emplace(loop);
-    browser->Came = [=, this](const avahi::FoundService& service) { brokers.Found.Add(server(service)); };
-    browser->Went = [=, this](const avahi::FoundService& service) { brokers.Found.Remove(server(service)); };
-    browser->Told = [this](const std::string& sentence) {
-        brokers.Found.Settle();
-        if (!std::exchange(isMissingTold, true)) Told(sentence);
-    };
 }
 
 void Outside::WhenSoundIsKnown(std::function<void()> act) {

@@ -5,27 +5,20 @@
 #pragma once
 
 #include <functional>
-#include <optional>
+#include <memory>
 #include <string>
-#include <vector>
 
-#include "adapters/avahi/ServiceBrowser.h"
 #include "adapters/embedded/SetUp.h"
 #include "adapters/ends/FrameworkEnd.h"
 #include "adapters/ends/MicrophoneGuard.h"
 #include "adapters/ends/MixerEnd.h"
 #include "adapters/ends/SimulatorEnd.h"
-#include "adapters/mqtt/BrokerFrameworkLine.h"
-#include "adapters/mqtt/BrokerSimulatorLine.h"
+#include "adapters/media/LoadedMediaPlayers.h"
+#include "apps/AskedSounds.h"
+#include "apps/SetUpModule.h"
 #include "apps/SoundServer.h"
 
 namespace orvelle {
-
-// This computer as it is told to the others of a set-up, and to the panel.
-struct ComputerNames {
-    std::string Name;
-    std::string Desktop;
-};
 
 class Outside {
 public:
@@ -34,14 +27,17 @@ public:
     Outside(EventLoop& loop, ControlValues& controlValues, const ComputerNames& thisComputer,
             TeamSpeakRemote* realTeamSpeak);
 
-    // From now on the links lead to that set-up's broker, or to the embedded set-up.
+    // From now on the links lead to that set-up's broker, or to the embedded set-up. Where what a set-up needs can't be
+    // loaded, which is told, the panel goes on practising.
     void Join(const mqtt::SetUpSetting& setUp);
     void Practise();
-    bool IsPractising() const { return !brokers.HasJoined(); }
+    bool IsPractising() const { return !hasJoined; }
     // Acts once the panel can be loaded with this computer's audio devices, which it asks for at its load alone.
     void WhenSoundIsKnown(std::function<void()> act);
     // To be called at the program's end.
-    void SayGoodbye() { brokers.SayGoodbye(); }
+    void SayGoodbye() {
+        if (setUpLinks) setUpLinks->SayGoodbye();
+    }
 
     // A sentence for the user about what the links can't have for now; it needs no answer.
     Event<const std::string&> Told;
@@ -51,18 +47,18 @@ public:
 private:
     void ChooseLines();
     void ChooseMixers();
-    void Look();
 
     EventLoop& loop;
-    mqtt::Brokers brokers;
-    std::optional<avahi::ServiceBrowser> browser;  // not while practising
-    bool isMissingTold = false;
-    mqtt::BrokerSimulatorLine simulatorLine;
-    mqtt::BrokerFrameworkLine frameworkLine;
-    SoundServer sound;
+    const ComputerNames names;
+    std::unique_ptr<SetUpLinks> setUpLinks;  // from the first set-up on that is joined
+    bool hasJoined = false;
     // Every server's name leads to the one line or to the other.
     ends::LineTable<SimulatorLine> simulatorLines{Practice.SimulatorLink};
     ends::LineTable<FrameworkLine> frameworkLines{Practice.NetworkLink};
+    // Asked for while practising alone; in a set-up the simulator's computer plays them.
+    AskedSounds sounds{loop, Practice.SimulatorLink, OwnSounds()};
+    media::LoadedMediaPlayers loadedPlayers;
+    SoundServer sound;
 
 public:
     ends::SimulatorEnd Velmarc;
@@ -72,6 +68,8 @@ public:
     ends::MixerEnd VolumeControl;
     ends::MixerEnd VolumeControlHP;
     TeamSpeakRemote& TSRemote;
+    // Those that are heard where their module is installed, else the embedded ones, which are silent.
+    MediaPlayerFactory& MediaPlayers;
 };
 
 }  // namespace orvelle

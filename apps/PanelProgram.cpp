@@ -6,6 +6,7 @@
 #include "adapters/qt/services/BringToFront.h"
 #include "apps/EndCause.h"
 #include "apps/EndSentences.h"
+#include "apps/OwnModules.h"
 #include "apps/ThisProcess.h"
 
 namespace orvelle {
@@ -31,7 +32,7 @@ PanelProgram::PanelProgram(ThisProcess& thisProcess, const std::string& settings
           .VolumeControl = Outside.VolumeControl,
           .VolumeControlHP = Outside.VolumeControlHP,
           .TSRemote = Outside.TSRemote,
-          .MediaPlayers = Outside.Practice.MediaPlayers,
+          .MediaPlayers = Outside.MediaPlayers,
           .Dialog = Desktop.Dialog,
           .Messages = Desktop.Messages,
           .Keyboard = Computer.Keyboard(),
@@ -43,7 +44,6 @@ PanelProgram::PanelProgram(ThisProcess& thisProcess, const std::string& settings
           .Tray = Desktop.Tray,
           .Urls = urlFunctions,
       }),
-      joining(loop, std::filesystem::path(settingsFile).parent_path()),
       setUpFile(std::filesystem::path(settingsFile).parent_path() / "setup.json") {
     Desktop.Show(Panel);
     Computer.OpenDoor(Desktop.Table, Panel.Stub1);
@@ -79,7 +79,8 @@ PanelProgram::PanelProgram(ThisProcess& thisProcess, const std::string& settings
 }
 
 void PanelProgram::Open() {
-    Computer.Begin();
+    // In the loop's first turn, before anything that the panel is told can press a key; nor would one go down without.
+    loop.Post([this] { Computer.Begin(); });
     Panel.Show();
     if (isEndAsked) return End();
     // The deck waits for the panel to be seen.
@@ -117,7 +118,7 @@ void PanelProgram::TakeUpSetUp() {
     if (found.Setting) {
         Outside.Join(*found.Setting);
         // Where the deck's window for joining did it, that goes with the deck.
-        if (hasPractised && isOpen)
+        if (hasPractised && isOpen && !Outside.IsPractising())
             Desktop.Tray.Tell("This computer is " + mqtt::WriteIdentity(found.Setting->Identity) + " of the set-up " +
                               found.Setting->Name + " now.");
     } else if (!hasPractised)
@@ -141,12 +142,23 @@ void PanelProgram::ShowDeckWherePractising() {
 void PanelProgram::OpenDeck() {
     FarSides sides = Outside.Practice.Sides();
     sides.Notices = &Settings.Notices;
-    sides.Join = &joining;
+    sides.Join = Joining();
     sides.HeldKeys = &Computer.HeldKeys();
     Deck = std::make_unique<DeckWindow>(sides);
     ownStrokes = std::make_unique<OwnStrokes>(Computer, *Deck);
     for (const std::string& sentence : std::exchange(untold, {})) TellOfProgram(sentence);
     Deck->OpenAt(Desktop.Window().frameGeometry().topRight() + QPoint(GapBesidePanel, 0));
+}
+
+// Null, and told, where what it needs can't be loaded.
+JoinSide* PanelProgram::Joining() {
+    if (joining) return joining.get();
+    std::string why;
+    if (auto* const make = FunctionOf<NewOrvelleSetUpDeskFunction>(SetUpModuleName, "NewOrvelleSetUpDesk", why))
+        joining.reset(make(loop, setUpFile.parent_path()));
+    else
+        Desktop.Tray.Tell("No set-up can be joined: " + why + ".");
+    return joining.get();
 }
 
 void PanelProgram::TellOfProgram(const std::string& sentence) {

@@ -13,7 +13,6 @@
 #include "apps/Desktop.h"
 #include "apps/Outside.h"
 #include "apps/OwnStrokes.h"
-#include "apps/SetUpDesk.h"
 #include "apps/ThisComputer.h"
 #include "apps/UserSettings.h"
 #include "deck/DeckWindow.h"
@@ -49,9 +48,10 @@ private:
     void ShowDeck();
     void ShowDeckWherePractising();
     void OpenDeck();
+    JoinSide* Joining();
     void TellOfProgram(const std::string& sentence);
 
-    SetUpDesk joining;                       // for the deck
+    std::unique_ptr<JoinSide> joining;       // for the deck, from its opening on
     const std::filesystem::path setUpFile;   // by which this computer belongs to a set-up
     std::unique_ptr<OwnStrokes> ownStrokes;  // kept out of the deck
     std::vector<std::string> untold;         // of programs and what they shall not be told, until there is a deck

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "adapters/mqtt/BrokerTroubles.h"
+#include "apps/AskedSounds.h"
 #include "apps/ComputerName.h"
 
 namespace orvelle {

@@ -64,6 +64,7 @@ Memory ReadMemory(pid_t process) {
         const fs::path file = fs::path("/proc") / std::to_string(member) / "smaps_rollup";
         memory.Resident += NumberNamed(file, "Rss") / KibibytesPerMebibyte;
         memory.Proportional += NumberNamed(file, "Pss") / KibibytesPerMebibyte;
+        memory.Private += NumberNamed(file, "Private_Dirty") / KibibytesPerMebibyte;
     }
     return memory;
 }

@@ -9,6 +9,7 @@ namespace orvelle {
 struct Memory {  // MiB
     double Resident = 0;
     double Proportional = 0;  // shared pages divided among those who share them
+    double Private = 0;       // written by it, so that nobody can share it
 };
 
 struct Activity {            // since the process began, over all threads

@@ -5,7 +5,7 @@
 
 #include "apps/UserStrokes.h"
 #include "tests/devices/DeviceRig.h"
-#include "tests/devices/SoundServer.h"
+#include "tests/devices/RecordedSoundServer.h"
 #include "tests/linux/XServer.h"
 
 namespace orvelle {
@@ -28,7 +28,7 @@ protected:
 };
 
 TEST_F(DevicesTest, PressKeysAndPlayTheSoundsThatAreAskedFor) {
-    SoundServer server(folder);
+    RecordedSoundServer server(folder);
     setting.SoundServer = server.Address();
     side.AskForSound("Tessaly\\RADIO_NOCHANNEL.wav");  // before
     const Devices devices(loop, side, setting);

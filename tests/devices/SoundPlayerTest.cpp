@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "tests/devices/DeviceRig.h"
-#include "tests/devices/SoundServer.h"
+#include "tests/devices/RecordedSoundServer.h"
 
 namespace orvelle::pulse {
 namespace {
@@ -46,7 +46,7 @@ protected:
     }
 
     std::filesystem::path folder;
-    std::optional<SoundServer> server;
+    std::optional<RecordedSoundServer> server;
 };
 
 TEST_F(SoundPlayerTest, PlaysTheToneToItsEnd) {

@@ -91,6 +91,10 @@ public:
         paint(&painter, drawn.rect(), mode, state);
         return drawn;
     }
+    // For windows and lists, which scale what is larger; each that is named here is drawn at every change.
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override {
+        return {QSize(16, 16), QSize(24, 24), QSize(32, 32), QSize(64, 64)};
+    }
     QIconEngine* clone() const override { return new StatusIconEngine(lamps); }
     QString key() const override { return QStringLiteral("orvelle-status"); }
 

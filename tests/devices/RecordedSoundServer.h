@@ -11,11 +11,11 @@
 
 namespace orvelle {
 
-class SoundServer {
+class RecordedSoundServer {
 public:
     // Its files lie in `folder`, where it can be started again.
-    explicit SoundServer(std::filesystem::path folder);
-    ~SoundServer();
+    explicit RecordedSoundServer(std::filesystem::path folder);
+    ~RecordedSoundServer();
 
     std::string Address() const { return "unix:" + (folder / "socket").string(); }
     void Kill(int signal) { process->Kill(signal); }

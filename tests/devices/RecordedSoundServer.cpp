@@ -1,4 +1,4 @@
-#include "tests/devices/SoundServer.h"
+#include "tests/devices/RecordedSoundServer.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@
 
 namespace orvelle {
 
-SoundServer::SoundServer(std::filesystem::path where) : folder(std::move(where)) {
+RecordedSoundServer::RecordedSoundServer(std::filesystem::path where) : folder(std::move(where)) {
     // All that the server keeps for a user lies there, too.
     for (const char* const name : {"HOME", "XDG_RUNTIME_DIR", "PULSE_RUNTIME_PATH", "PULSE_STATE_PATH"})
         setenv(name, folder.c_str(), 1);
@@ -31,13 +31,13 @@ SoundServer::SoundServer(std::filesystem::path where) : folder(std::move(where))
     EXPECT_TRUE(linux::WaitUntil([this] { return !Heard().empty(); }));
 }
 
-SoundServer::~SoundServer() {
+RecordedSoundServer::~RecordedSoundServer() {
     recorder.reset();
     process.reset();
     std::filesystem::remove(folder / "socket");
 }
 
-std::vector<std::int16_t> SoundServer::Heard() const {
+std::vector<std::int16_t> RecordedSoundServer::Heard() const {
     std::ifstream recording(folder / "heard", std::ios::binary);
     const std::string bytes(std::istreambuf_iterator<char>(recording), {});
     std::vector<std::int16_t> samples(bytes.size() / sizeof(std::int16_t));
