@@ -51,7 +51,8 @@ std::string NewAutostartEntry(const std::string& commandLine) {
     return "[Desktop Entry]\n"
            "Type=Application\n"
            "Name=Orvelle Control Panel\n"
-           "Comment=Joins the voice channel that the radios are tuned to, and takes push-to-talk keys to this computer\n"
+           "Comment=Joins the voice channel that the radios are tuned to, and takes push-to-talk keys to this "
+           "computer\n"
            "Exec=" +
            ExecOf(commandLine) + "\nIcon=net.orvelle.orvellecp\n";
 }

@@ -1,5 +1,5 @@
-// The text of an entry in the autostart folder, which the user and the desktop write, too: what it starts, whether it is
-// switched on, and what becomes of it when the program is to be started by another command line.
+// The text of an entry in the autostart folder, which the user and the desktop write, too: what it starts, whether it
+// is switched on, and what becomes of it when the program is to be started by another command line.
 #pragma once
 
 #include <string>

@@ -41,8 +41,9 @@ BaseFolders BaseFolders::OfThisUser() {
         PartsOf(Variable("XDG_CURRENT_DESKTOP")),
     };
     for (std::string& desktop : folders.Desktops)
-        std::transform(desktop.begin(), desktop.end(), desktop.begin(),
-                       [](char letter) { return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 32) : letter; });
+        std::transform(desktop.begin(), desktop.end(), desktop.begin(), [](char letter) {
+            return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 32) : letter;
+        });
     return folders;
 }
 

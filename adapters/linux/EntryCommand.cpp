@@ -97,7 +97,8 @@ std::string ShellCommandOf(const std::filesystem::path& file) {
     for (std::size_t index = 1; index < arguments->size(); ++index)
         for (const std::string& argument : Filled((*arguments)[index], entry, file)) {
             if (IsForbidden(argument)) return "";
-            const bool isPlain = !argument.empty() && argument != "%1" && argument.find_first_of(" \t") == std::string::npos;
+            const bool isPlain =
+                !argument.empty() && argument != "%1" && argument.find_first_of(" \t") == std::string::npos;
             command += ' ' + (isPlain ? argument : Quoted(argument));
         }
     return command;

@@ -1,5 +1,5 @@
-// A registry that stands before another one and answers as that does; for a class that gives some values another meaning
-// and overrides what it needs for that.
+// A registry that stands before another one and answers as that does; for a class that gives some values another
+// meaning and overrides what it needs for that.
 #pragma once
 
 #include <string>
