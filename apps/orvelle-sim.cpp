@@ -42,7 +42,7 @@ int ServeWithoutWindow(linux::TerminationSignals& endings, const SimulatorComman
 // The one with a window is a program of its own, beside this one. It returns where there is none, or no display.
 void BecomeProgramWithWindow(char** words) {
     if (std::getenv("DISPLAY") == nullptr) return Say("There is no display, so it serves without a window.");
-    execv(linux::BesideOwnFile("orvelle-sim-window").c_str(), words);
+    execv(linux::OwnProgram("orvelle-sim-window").c_str(), words);
     Say("Its window is not installed, so it serves without one.");
 }
 

@@ -23,7 +23,7 @@ namespace orvelle {
 struct ThisComputer::Parts {
     Parts(EventLoop& loop, orvelle::Registry& keptRegistry)
         : Loop(loop),
-          Keyboard(loop, "", linux::BesideOwnFile("orvelle-key-guard")),
+          Keyboard(loop, "", linux::OwnProgram("orvelle-key-guard")),
           Folders(linux::BaseFolders::OfThisUser()),
           Installed(keptRegistry, Folders),
           Autostart(Installed, Folders.Configuration.front() / "autostart") {}
