@@ -29,7 +29,7 @@ protected:
 
 TEST_F(PlacesTest, RescanFindsTheProgramThatOpensTeamSpeaksUrlsAndItIsStarted) {
     ASSERT_NO_FATAL_FAILURE(Open());
-    ShowPage("TeamSpeak");
+    ShowPage("Teamspeak");
     EXPECT_EQ(panel.TSPath.Text, "");
     ASSERT_NO_FATAL_FAILURE(InstallTeamSpeak());
     user.Click(OfPanel("TSRescan"));
