@@ -54,7 +54,7 @@ fs::path DesktopApplications::EntryOf(const std::string& id) const {
     for (const fs::path& folder : folders.Data) {
         std::string name = id;
         while (true) {
-            if (const fs::path entry = folder / "applications" / name; Exists(entry)) return entry;
+            if (fs::path entry = folder / "applications" / name; Exists(entry)) return entry;
             const std::size_t next = name.find('-');
             if (next == std::string::npos) break;
             name[next] = '/';
