@@ -181,7 +181,8 @@ TEST_F(InstalledProgramsTest, AnEntryThatStartsNothingHereHasNoCommand) {
 
 // Files of others, and of any size and form; what is no file would hold up whoever opens it.
 TEST_F(InstalledProgramsTest, FilesWithoutTheFormAreEmpty) {
-    Write("config/mimeapps.list", std::string(1 << 20, '[') + "\n=\n;\n[]\nx-scheme-handler/teamspeak\n\xff" + std::string(3, '\0'));
+    Write("config/mimeapps.list",
+          std::string(1 << 20, '[') + "\n=\n;\n[]\nx-scheme-handler/teamspeak\n\xff" + std::string(3, '\0'));
     fs::create_directories(folder / "xdg");
     ASSERT_EQ(mkfifo((folder / "xdg/mimeapps.list").c_str(), 0600), 0);
     fs::create_directories(folder / "share/applications/loop");
