@@ -9,7 +9,7 @@
 namespace orvelle {
 
 std::filesystem::path OwnSounds() {
-    const std::filesystem::path prefix = std::filesystem::path(linux::OwnFile()).parent_path().parent_path();
+    const std::filesystem::path prefix = linux::OwnPrefix();
     const std::filesystem::path installed = prefix / "share" / "orvellecp" / "sounds";
     std::error_code failed;
     return std::filesystem::is_directory(installed, failed) ? installed : prefix / "sounds";

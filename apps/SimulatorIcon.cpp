@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QPixmap>
 
+#include "adapters/qt/widgets/StatusImage.h"
+
 namespace orvelle {
 
 namespace {
@@ -16,31 +18,42 @@ constexpr qreal OneSize = 0.42;
 constexpr qreal OtherRadius = 0.1;
 constexpr qreal WayWidth = 0.06;
 
+QColor ColourOf(Sign sign) {
+    switch (sign) {
+        case Sign::Good:
+            return qt::LampColour('V');
+        case Sign::Bad:
+            return qt::LampColour('R');
+        case Sign::Waiting:
+            return qt::LampColour('Y');
+        case Sign::Off:
+            break;
+    }
+    return SignColour(sign, Scheme::Dark);
+}
+
 QPixmap Drawn(Sign sign, int size) {
     QPixmap picture(size, size);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(size, size);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0x1a, 0x21, 0x28));
-    painter.drawRoundedRect(QRectF(0, 0, 1, 1), 1.0 / 7, 1.0 / 7);
-    const QPointF middle(Middle, Middle);
+    qt::DrawIconFace(painter, picture.rect(), 1);
+    const QPointF middle(Middle * size, Middle * size);
     const QColor others(0xb4, 0xc0, 0xca);
     for (const qreal sideways : {-Sideways, Sideways})
         for (const qreal upwards : {-Upwards, Upwards}) {
-            const QPointF other = middle + QPointF(sideways, upwards);
-            painter.setPen(QPen(others, WayWidth));
+            const QPointF other = middle + QPointF(sideways, upwards) * size;
+            painter.setPen(QPen(others, WayWidth * size));
             painter.drawLine(middle, other);
             painter.setPen(Qt::NoPen);
             painter.setBrush(others);
-            painter.drawEllipse(other, OtherRadius, OtherRadius);
+            painter.drawEllipse(other, OtherRadius * size, OtherRadius * size);
         }
     // The ways end at the one's edge, also where its sign has holes.
-    painter.setBrush(QColor(0x1a, 0x21, 0x28));
-    painter.drawEllipse(middle, OneSize / 2, OneSize / 2);
-    DrawSign(painter, QRectF(Middle - OneSize / 2, Middle - OneSize / 2, OneSize, OneSize), sign,
-             SignColour(sign, Scheme::Dark));
+    const QPointF reach(OneSize * size / 2, OneSize * size / 2);
+    painter.setBrush(qt::IconFace);
+    painter.drawEllipse(middle, reach.x(), reach.y());
+    DrawSign(painter, QRectF(middle - reach, middle + reach), sign, ColourOf(sign));
     return picture;
 }
 

@@ -66,7 +66,7 @@ int main(int count, char** arguments) {
     if (!MissingDisplay().empty()) return EXIT_FAILURE;
 
     qt::Application application("orvelle-ended", "xcb", [](const std::exception&) { _exit(EXIT_FAILURE); });
-    qt::Application::setDesktopFileName("net.orvelle.OrvelleCP");
+    qt::Application::setDesktopFileName("net.orvelle.orvellecp");
     ApplyTheme(SystemScheme());
     qt::Application::setWindowIcon(qt::StatusIcon("VVVVVV"));
     if (Ask(sentences) == Answer::StartAgain) StartPanel(arguments[1]);

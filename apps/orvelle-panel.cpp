@@ -24,7 +24,7 @@ int main() {
 
     qt::Application application("orvelle-panel", process.WindowSystem(),
                                 [](const std::exception& error) { process.EndByError(error); });
-    qt::Application::setDesktopFileName("net.orvelle.OrvelleCP");
+    qt::Application::setDesktopFileName("net.orvelle.orvellecp");
     ApplyTheme(SystemScheme());
     PanelProgram panel(process, UserSettings::File());
     return application.Run([&] {

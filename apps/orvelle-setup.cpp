@@ -27,7 +27,7 @@ int ShowWindow(const SetUpCommand& command) {
         std::_Exit(EXIT_FAILURE);
     });
     qt::Application::setQuitOnLastWindowClosed(true);
-    qt::Application::setDesktopFileName("net.orvelle.OrvelleCP.SetUp");
+    qt::Application::setDesktopFileName("net.orvelle.orvellecp.setup");
     qt::Application::setWindowIcon(qt::StatusIcon("VVVVVV"));
     ApplyTheme(SystemScheme());
     qt::QtEventLoop loop;

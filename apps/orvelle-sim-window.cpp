@@ -31,7 +31,7 @@ int main(int count, char** words) {
         return EXIT_FAILURE;
     }
     qt::Application application("orvelle-sim", windows.Name, FailBy);
-    qt::Application::setDesktopFileName("net.orvelle.OrvelleCP.Simulator");
+    qt::Application::setDesktopFileName("net.orvelle.orvellecp.simulator");
     ApplyTheme(SystemScheme());
     qt::QtEventLoop loop;
     SimulatorProgram program(loop, *command);

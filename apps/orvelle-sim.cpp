@@ -43,7 +43,7 @@ int ServeWithoutWindow(linux::TerminationSignals& endings, const SimulatorComman
 void BecomeProgramWithWindow(char** words) {
     if (std::getenv("DISPLAY") == nullptr && std::getenv("WAYLAND_DISPLAY") == nullptr)
         return Say("There is no display, so it serves without a window.");
-    execv(linux::BesideOwnFile("orvelle-sim-window").c_str(), words);
+    execv(linux::OwnProgram("orvelle-sim-window").c_str(), words);
     Say("Its window is not installed, so it serves without one.");
 }
 

@@ -2,66 +2,38 @@
 
 #include <system_error>
 
+#include "adapters/linux/AutostartEntry.h"
+#include "adapters/linux/KeyFile.h"
 #include "adapters/shared/WholeFile.h"
 #include "platform/RegistryPaths.h"
 
 namespace orvelle::linux {
 
-namespace {
-
-namespace fs = std::filesystem;
-
-// Inside the quotes of a command line "\", "`" and "$" are escaped, each "\" again as every text of an entry's is, and
-// "%" stands for fields.
-std::string ExecOf(const std::string& commandLine) {
-    std::string exec;
-    for (const char letter : commandLine) {
-        if (letter == '\\') exec += R"(\\\)";
-        if (letter == '`' || letter == '$') exec += R"(\\)";
-        if (letter == '%') exec += '%';
-        exec += letter;
-    }
-    return exec;
-}
-
-}  // namespace
-
 void DesktopAutostart::WriteRegistryString(Long root, const std::string& path, const std::string& name,
                                            const std::string& value) {
+    const std::string before = path == RunPath ? registry.ReadRegistryString(root, path, name, "") : "";
     registry.WriteRegistryString(root, path, name, value);
     if (path != RunPath) return;
-    const std::string entry = "[Desktop Entry]\nType=Application\nName=" + name + "\nExec=" + ExecOf(value) + "\n";
-    if (const std::error_code error = WriteWholeFile(Entry(name), entry))
+    const std::string entry = KeyFile::TextOf(Entry(name));
+    const std::string changed = ChangedAutostartEntry(entry, before, value);
+    if (changed == entry) return;
+    if (const std::error_code error = WriteWholeFile(Entry(name), changed))
         Told("The autostart entry " + Entry(name).string() + " could not be written: " + error.message() + ".");
 }
 
 std::string DesktopAutostart::ReadRegistryString(Long root, const std::string& path, const std::string& name,
                                                  const std::string& defaultValue) {
-    std::error_code error;
-    if (path == RunPath && !fs::exists(Entry(name), error)) return defaultValue;
-    return registry.ReadRegistryString(root, path, name, defaultValue);
+    if (path != RunPath) return registry.ReadRegistryString(root, path, name, defaultValue);
+    const std::string commandLine = CommandLineOfEntry(KeyFile::TextOf(Entry(name)));
+    return commandLine.empty() ? defaultValue : commandLine;
 }
 
 void DesktopAutostart::DeleteRegistryValue(Long root, const std::string& path, const std::string& name) {
     registry.DeleteRegistryValue(root, path, name);
     std::error_code error;
-    if (path == RunPath) fs::remove(Entry(name), error);
+    if (path == RunPath) std::filesystem::remove(Entry(name), error);
     if (error)
         Told("The autostart entry " + Entry(name).string() + " could not be taken away: " + error.message() + ".");
-}
-
-void DesktopAutostart::WriteRegistryLong(Long root, const std::string& path, const std::string& name, Long value) {
-    registry.WriteRegistryLong(root, path, name, value);
-}
-
-Long DesktopAutostart::ReadRegistryLong(Long root, const std::string& path, const std::string& name,
-                                        Long defaultValue) {
-    return registry.ReadRegistryLong(root, path, name, defaultValue);
-}
-
-std::string DesktopAutostart::ReadRegistryDefault(const std::string& path, const std::string& name,
-                                                  const std::string& defaultValue) {
-    return registry.ReadRegistryDefault(path, name, defaultValue);
 }
 
 }  // namespace orvelle::linux

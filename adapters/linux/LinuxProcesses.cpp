@@ -4,15 +4,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
-#include <cstdlib>
 #include <filesystem>
-#include <string_view>
 #include <system_error>
 
 #include "adapters/linux/CommandLine.h"
 #include "adapters/linux/OwnFile.h"
+#include "adapters/linux/SearchPath.h"
 
 namespace orvelle::linux {
 
@@ -23,19 +21,6 @@ bool Exists(const std::string& path) { return access(path.c_str(), F_OK) == 0; }
 bool IsFile(const std::string& path) {
     struct stat status;
     return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
-}
-
-std::string SearchPath(const std::string& name) {
-    const char* const variable = std::getenv("PATH");
-    std::string_view rest = variable ? variable : "/usr/local/bin:/usr/bin:/bin";
-    while (!rest.empty()) {
-        const std::size_t end = std::min(rest.find(':'), rest.size());
-        // An empty part would be the working directory, which a file dialog moves about.
-        std::string path = std::string(rest.substr(0, end)) + "/" + name;
-        if (end > 0 && IsFile(path) && access(path.c_str(), X_OK) == 0) return path;
-        rest.remove_prefix(std::min(end + 1, rest.size()));
-    }
-    return "";
 }
 
 struct Command {

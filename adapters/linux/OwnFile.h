@@ -1,6 +1,8 @@
-// Where this program's own file lies. Whatever belongs to the program is looked for beside it.
+// Where this program's own file lies, and from there what belongs to it: beside it, as in the build folder, or in the
+// places of the prefix that it is installed under.
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 namespace orvelle::linux {
@@ -9,5 +11,10 @@ namespace orvelle::linux {
 std::string OwnFile();
 // The path of `name` in the folder of the running program; `name` alone if that is unknown.
 std::string BesideOwnFile(const std::string& name);
+// The path of a program that isn't for people, but for this one to start: in libexec/orvelle under the prefix if it is
+// there, else beside this program.
+std::string OwnProgram(const std::string& name);
+// The prefix under which this program is installed, as /usr: the folder above bin or libexec.
+std::filesystem::path OwnPrefix();
 
 }  // namespace orvelle::linux

@@ -1,13 +1,14 @@
 // This computer where it runs Linux with an X server.
 #include "apps/ThisComputer.h"
 
-#include <QStandardPaths>
 #include <QSysInfo>
 #include <optional>
 
+#include "adapters/linux/BaseFolders.h"
 #include "adapters/linux/DesktopAutostart.h"
 #include "adapters/linux/DynamicTeamSpeak.h"
 #include "adapters/linux/FileWatch.h"
+#include "adapters/linux/InstalledPrograms.h"
 #include "adapters/linux/LinuxProcesses.h"
 #include "adapters/linux/OwnFile.h"
 #include "adapters/linux/X11Keyboard.h"
@@ -19,24 +20,19 @@
 
 namespace orvelle {
 
-namespace {
-
-// Whose entries the desktop starts with the session.
-std::string AutostartFolder() {
-    return FromQt(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)) + "/autostart";
-}
-
-}  // namespace
-
 struct ThisComputer::Parts {
     Parts(ThisProcess& process, EventLoop& loop, orvelle::Registry& keptRegistry)
         : Loop(loop),
-          Keyboard(loop, "", linux::BesideOwnFile("orvelle-key-guard"), process.LastWord()),
-          Autostart(keptRegistry, AutostartFolder()) {}
+          Keyboard(loop, "", linux::OwnProgram("orvelle-key-guard"), process.LastWord()),
+          Folders(linux::BaseFolders::OfThisUser()),
+          Installed(keptRegistry, Folders),
+          Autostart(Installed, Folders.Configuration.front() / "autostart") {}
 
     EventLoop& Loop;
     linux::X11Keyboard Keyboard;
     linux::LinuxProcesses Processes{""};
+    linux::BaseFolders Folders;
+    linux::InstalledPrograms Installed;
     linux::DesktopAutostart Autostart;
     linux::DynamicTeamSpeak TeamSpeak;
     std::optional<orvelle::Door> Door;

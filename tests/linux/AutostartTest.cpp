@@ -10,40 +10,14 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
-#include <map>
 
 #include "adapters/linux/DesktopAutostart.h"
+#include "adapters/linux/KeyFile.h"
 #include "platform/RegistryPaths.h"
+#include "tests/linux/KeptRegistry.h"
 
 namespace orvelle::linux {
 namespace {
-
-// Keeps texts of one root; numbers pass through it.
-class KeptRegistry : public Registry {
-public:
-    void WriteRegistryString(Long, const std::string& path, const std::string& name,
-                             const std::string& value) override {
-        texts[path + '\\' + name] = value;
-    }
-    std::string ReadRegistryString(Long, const std::string& path, const std::string& name,
-                                   const std::string& defaultValue) override {
-        const auto found = texts.find(path + '\\' + name);
-        return found == texts.end() ? defaultValue : found->second;
-    }
-    void DeleteRegistryValue(Long, const std::string& path, const std::string& name) override {
-        texts.erase(path + '\\' + name);
-    }
-    void WriteRegistryLong(Long, const std::string&, const std::string&, Long value) override { number = value; }
-    Long ReadRegistryLong(Long, const std::string&, const std::string&, Long) override { return number; }
-    std::string ReadRegistryDefault(const std::string& path, const std::string& name,
-                                    const std::string& defaultValue) override {
-        return ReadRegistryString(LocalMachine, path, name, defaultValue);
-    }
-
-private:
-    std::map<std::string, std::string> texts;
-    Long number = 0;
-};
 
 class DesktopAutostartTest : public testing::Test {
 protected:
@@ -52,9 +26,14 @@ protected:
     }
     ~DesktopAutostartTest() override { std::filesystem::remove_all(folder); }
 
-    std::string Entry() const {
-        std::ifstream file(folder + "/autostart/OrvelleCP.desktop");
-        return {std::istreambuf_iterator<char>(file), {}};
+    std::string Entry() const { return KeyFile::TextOf(folder + "/autostart/OrvelleCP.desktop"); }
+    void EditEntry(const std::string& text) const {
+        std::filesystem::create_directories(folder + "/autostart");
+        std::ofstream(folder + "/autostart/OrvelleCP.desktop") << text;
+    }
+    std::string RunValue() { return registry.ReadRegistryString(LocalMachine, RunPath, "OrvelleCP", ""); }
+    void SetRunValue(const std::string& value) {
+        registry.WriteRegistryString(LocalMachine, RunPath, "OrvelleCP", value);
     }
 
     static std::string NewFolder() {
@@ -70,7 +49,7 @@ protected:
 
 TEST_F(DesktopAutostartTest, ARunValueIsAnEntryUntilItIsDeleted) {
     registry.WriteRegistryString(LocalMachine, RunPath, "OrvelleCP", "\"/opt/orvelle panel\" -MIN");
-    EXPECT_EQ(Entry(), "[Desktop Entry]\nType=Application\nName=OrvelleCP\nExec=\"/opt/orvelle panel\" -MIN\n");
+    EXPECT_EQ(KeyFile(Entry()).Text(DesktopEntryGroup, "Exec"), "\"/opt/orvelle panel\" -MIN");
     EXPECT_EQ(registry.ReadRegistryString(LocalMachine, RunPath, "OrvelleCP", ""), "\"/opt/orvelle panel\" -MIN");
     registry.DeleteRegistryValue(LocalMachine, RunPath, "OrvelleCP");
     EXPECT_EQ(Entry(), "");
@@ -87,6 +66,88 @@ TEST_F(DesktopAutostartTest, AnEntryThatTheUserTookAwayIsNoValue) {
     registry.WriteRegistryString(LocalMachine, RunPath, "OrvelleCP", "panel");
     std::filesystem::remove(folder + "/autostart/OrvelleCP.desktop");
     EXPECT_EQ(registry.ReadRegistryString(LocalMachine, RunPath, "OrvelleCP", ""), "");
+}
+
+TEST_F(DesktopAutostartTest, TheEntryIsCalledAndLooksAsInTheMenu) {
+    SetRunValue("panel");
+    const KeyFile entry(Entry());
+    const KeyFile menu = KeyFile::Read(MENU_ENTRY);
+    for (const char* const key : {"Type", "Name", "Comment", "Icon"}) {
+        EXPECT_EQ(entry.Text(DesktopEntryGroup, key), menu.Text(DesktopEntryGroup, key)) << key;
+        EXPECT_NE(entry.Text(DesktopEntryGroup, key), "") << key;
+    }
+}
+
+TEST_F(DesktopAutostartTest, AnEntryThatSomebodyElseMadeIsAValue) {
+    EditEntry("[Desktop Entry]\nType=Application\nExec=nice \"/opt/a\\\\$b%%/panel\"\n");
+    EXPECT_EQ(RunValue(), "nice \"/opt/a$b%/panel\"");
+}
+
+TEST_F(DesktopAutostartTest, EveryValueComesBackFromItsEntry) {
+    for (const char* const value : {R"("/a$b`c\d%e" -MIN)", R"("/a\\%%b")", "panel", R"("/ö ü/panel" -MIN)"}) {
+        SetRunValue(value);
+        EXPECT_EQ(RunValue(), value) << Entry();
+    }
+}
+
+// Each of them switches an entry off for some desktop's session, or is none that a session starts.
+TEST_F(DesktopAutostartTest, AnEntryThatIsSwitchedOffIsNoValueAndStaysAsItIs) {
+    for (const char* const off :
+         {"[Desktop Entry]\nExec=panel\nHidden=true\n",
+          "[Desktop Entry]\nExec=panel\nX-GNOME-Autostart-enabled = false\n", "", "no entry",
+          "[Desktop Entry]\nName=without a command line\n", "[Desktop Action a]\nExec=panel\n"}) {
+        SetRunValue("panel");
+        EditEntry(off);
+        EXPECT_EQ(RunValue(), "") << off;
+        EXPECT_EQ(Entry(), off);
+    }
+}
+
+TEST_F(DesktopAutostartTest, TickingAgainSwitchesAnEntryOnAndKeepsTheRest) {
+    EditEntry(
+        "# mine\n[Desktop Entry]\nName=Radios\nHidden=true\nExec=nice panel\nX-GNOME-Autostart-enabled=false\n"
+        "X-GNOME-Autostart-Delay=5\n\n[Desktop Action a]\nHidden=true\n");
+    SetRunValue("panel");
+    EXPECT_EQ(Entry(),
+              "# mine\n[Desktop Entry]\nName=Radios\nExec=nice panel\nX-GNOME-Autostart-Delay=5\n\n"
+              "[Desktop Action a]\nHidden=true\n");
+    EXPECT_EQ(RunValue(), "nice panel");
+    EXPECT_EQ(kept.ReadRegistryString(LocalMachine, RunPath, "OrvelleCP", ""), "panel");
+}
+
+// The panel writes the value at each start, with the place where it lies then.
+TEST_F(DesktopAutostartTest, AProgramThatMovedIsFollowedUnlessTheUserWroteAnotherCommandLine) {
+    SetRunValue("\"/old/panel\" -MIN");
+    EditEntry(Entry() + "Comment[de]=mein\n");
+    SetRunValue("\"/new/panel\" -MIN");
+    EXPECT_EQ(RunValue(), "\"/new/panel\" -MIN");
+    EXPECT_NE(Entry().find("Comment[de]=mein\n"), std::string::npos) << Entry();
+
+    EditEntry("[Desktop Entry]\nExec=nice panel\n");
+    SetRunValue("\"/newer/panel\" -MIN");
+    EXPECT_EQ(RunValue(), "nice panel");
+}
+
+TEST_F(DesktopAutostartTest, AnEntryOfAnEarlierVersionGetsNameAndIcon) {
+    kept.WriteRegistryString(LocalMachine, RunPath, "OrvelleCP", "\"/old/panel\" -MIN");
+    EditEntry("[Desktop Entry]\nType=Application\nName=OrvelleCP\nExec=\"/old/panel\" -MIN\n");
+    SetRunValue("\"/old/panel\" -MIN");
+    EXPECT_EQ(KeyFile(Entry()).Text(DesktopEntryGroup, "Name"), "Orvelle Control Panel");
+    EXPECT_NE(KeyFile(Entry()).Text(DesktopEntryGroup, "Icon"), "");
+    EXPECT_EQ(RunValue(), "\"/old/panel\" -MIN");
+}
+
+// Opening a pipe that nobody writes to would hold up the start.
+TEST_F(DesktopAutostartTest, WhatIsNoFileIsNoEntry) {
+    std::filesystem::create_directories(folder + "/autostart");
+    const std::string entry = folder + "/autostart/OrvelleCP.desktop";
+    ASSERT_EQ(mkfifo(entry.c_str(), 0600), 0);
+    EXPECT_EQ(RunValue(), "");
+    std::filesystem::remove(entry);
+    std::filesystem::create_symlink("/dev/null", entry);
+    EXPECT_EQ(RunValue(), "");
+    SetRunValue("panel");
+    EXPECT_EQ(RunValue(), "panel");
 }
 
 TEST_F(DesktopAutostartTest, OtherValuesMakeNoEntry) {

@@ -22,17 +22,6 @@ constexpr int DetailSize = 40;
 constexpr int FaceEdgeSize = 20;
 constexpr const char* Captions[Places] = {"FS", "NET", "USER", "RW", "TS", "VOICE"};
 
-QColor LampColour(char letter) {
-    switch (letter) {
-        case 'V':
-            return QColor(0x3d, 0xdc, 0x84);
-        case 'R':
-            return QColor(0xff, 0x5a, 0x4f);
-        default:
-            return QColor(0xff, 0xd0, 0x3b);
-    }
-}
-
 // A cross of two strokes, row by row in whole device pixels: lines drawn smoothly blur into a blot at this size.
 void DrawCross(QPainter& painter, const QRectF& box, qreal pixel) {
     const int columns = static_cast<int>(std::round(box.width() / pixel));
@@ -71,6 +60,9 @@ void DrawLamp(QPainter& painter, const QRectF& box, char letter, bool detailed, 
     }
 }
 
+// Whole device pixels, so that the lamps of a small icon have sharp and equal edges.
+qreal FitToPixels(qreal length, qreal pixel) { return std::max(1.0, std::round(length / pixel)) * pixel; }
+
 class StatusIconEngine : public QIconEngine {
 public:
     explicit StatusIconEngine(std::string lampKey) : lamps(std::move(lampKey)) {}
@@ -104,9 +96,33 @@ private:
 
 }  // namespace
 
+QColor LampColour(char letter) {
+    switch (letter) {
+        case 'V':
+            return QColor(0x3d, 0xdc, 0x84);
+        case 'R':
+            return QColor(0xff, 0x5a, 0x4f);
+        default:
+            return QColor(0xff, 0xd0, 0x3b);
+    }
+}
+
+void DrawIconFace(QPainter& painter, const QRectF& area, qreal pixel) {
+    const qreal size = area.width();
+    const qreal radius = size / 7;
+    const qreal edge = size / pixel < FaceEdgeSize ? 0 : FitToPixels(size / 64, pixel);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0x5d, 0x6b, 0x77));
+    painter.drawRoundedRect(area, radius, radius);
+    painter.setBrush(IconFace);
+    painter.drawRoundedRect(area.adjusted(edge, edge, -edge, -edge), radius - edge, radius - edge);
+    painter.restore();
+}
+
 void DrawStatusImage(QPainter& painter, const QRectF& area, const std::string& key, qreal pixel) {
-    // Whole device pixels, so that the lamps of a small icon have sharp and equal edges.
-    const auto fit = [pixel](qreal length) { return std::max(1.0, std::round(length / pixel)) * pixel; };
+    const auto fit = [pixel](qreal length) { return FitToPixels(length, pixel); };
     const qreal size = area.width();
     const bool captions = size / pixel >= CaptionSize;
     const bool detailed = size / pixel >= DetailSize;
@@ -123,12 +139,7 @@ void DrawStatusImage(QPainter& painter, const QRectF& area, const std::string& k
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    const qreal radius = size / 7;
-    painter.setBrush(QColor(0x5d, 0x6b, 0x77));
-    painter.drawRoundedRect(area, radius, radius);
-    const qreal edge = size / pixel < FaceEdgeSize ? 0 : fit(size / 64);
-    painter.setBrush(QColor(0x1a, 0x21, 0x28));
-    painter.drawRoundedRect(area.adjusted(edge, edge, -edge, -edge), radius - edge, radius - edge);
+    DrawIconFace(painter, area, pixel);
 
     for (int place = 0; place < Places; ++place) {
         const int column = place % Columns;

@@ -5,6 +5,7 @@
 // the overview show it. Letters that are none of the three leave their place dark.
 #pragma once
 
+#include <QColor>
 #include <QIcon>
 #include <QPixmap>
 #include <string>
@@ -12,6 +13,12 @@
 class QPainter;
 
 namespace orvelle::qt {
+
+// What all our icons have in common: the dark face, with an edge where there is room for one, and the lamps' colours by
+// their letters.
+constexpr QColor IconFace{0x1a, 0x21, 0x28};
+void DrawIconFace(QPainter& painter, const QRectF& area, qreal pixel);
+QColor LampColour(char letter);
 
 QIcon StatusIcon(const std::string& key);
 // `size` in device pixels.
