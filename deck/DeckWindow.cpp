@@ -7,6 +7,7 @@
 #include <QTabWidget>
 #include <algorithm>
 
+#include "adapters/looks/ScreenRoom.h"
 #include "adapters/looks/Text.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/ScrolledPage.h"
@@ -26,8 +27,6 @@ namespace {
 
 // Beside the panel on a screen of 1920 by 1080.
 constexpr QSize WantedSize(940, 760);
-// What a window manager may put around the window; how much it really is is known only after the window was shown.
-constexpr QSize FrameAllowance(16, 44);
 
 QWidget* SideBySide(std::initializer_list<QWidget*> columns) {
     auto* page = new QWidget;

@@ -1,9 +1,9 @@
 #include "deck/fields/ScrolledPage.h"
 
-#include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "adapters/looks/ScrolledArea.h"
 #include "adapters/looks/Theme.h"
 
 namespace orvelle::deck {
@@ -13,12 +13,7 @@ void AddScrolledPage(QTabWidget& tabs, QWidget* page, const QString& title) {
     auto* margins = new QVBoxLayout(frame);
     margins->setContentsMargins(2 * Unit, 2 * Unit, 2 * Unit, 2 * Unit);
     margins->addWidget(page);
-    auto* area = new QScrollArea;
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setWidget(frame);
-    tabs.addTab(area, title);
+    tabs.addTab(new ScrolledArea(frame), title);
 }
 
 }  // namespace orvelle::deck
