@@ -1,15 +1,21 @@
 #include "apps/PanelProgram.h"
 
+#include <QScreen>
 #include <utility>
 
+#include "adapters/looks/ScreenRoom.h"
+#include "apps/DeckPlace.h"
 #include "apps/ThisProcess.h"
 
 namespace orvelle {
 
 namespace {
 
-constexpr int GapBesidePanel = 16;       // logical pixels
 constexpr Long LongestLastWord = 30000;  // milliseconds
+constexpr std::size_t MostUntold = 200;  // sentences, as many as the deck shows
+constexpr const char* DeckValue = "FlightDeck";
+constexpr const char* DeckIsOpen = "open";
+constexpr const char* DeckIsClosed = "closed";
 
 }  // namespace
 
@@ -71,10 +77,12 @@ PanelProgram::PanelProgram(ThisProcess& process, const std::string& settingsFile
 void PanelProgram::Open() {
     Computer.Begin();
     Panel.Show();
-    // The deck waits for the panel to be seen.
+    // The deck waits for the panel to be seen, as it opens beside it.
     loop.Post([this] {
-        isOpen = true;
-        ShowDeckWherePractising();
+        panelSeen = std::make_unique<FirstSight>(Desktop.Window(), [this] {
+            isOpen = true;
+            ShowDeckWherePractising();
+        });
     });
 }
 
@@ -99,26 +107,56 @@ void PanelProgram::ShowDeckWherePractising() {
             Deck->hide();
             Deck.release()->deleteLater();
         }
-    } else if (!Deck) {
+    } else if (!Deck && Settings.Store.GetControlValue(DeckValue, DeckIsOpen) == DeckIsOpen) {
         OpenDeck();
     }
 }
 
+void PanelProgram::ShowDeck() {
+    if (!Outside.IsPractising()) {
+        Desktop.Tray.Tell("This computer has joined a set-up, so there is no flight deck to practise with.");
+        return;
+    }
+    KeepDeck(DeckIsOpen);
+    if (!Deck || !Deck->isVisible()) OpenDeck();
+    Deck->showNormal();
+    Deck->raise();
+    Deck->activateWindow();
+}
+
 void PanelProgram::OpenDeck() {
+    if (!Deck) MakeDeck();
+    const qt::MainWindow& panel = Desktop.Window();
+    const DeckPlace place = FindDeckPlace(
+        panel.frameGeometry(), panel.screen()->availableGeometry(),
+        {Deck->UsualSize() + FrameAllowance, Deck->LeastWidth() + FrameAllowance.width()}, Desktop.Tray.StandInPlace());
+    Deck->OpenIn(place.Frame);
+    if (place.Where == DeckPlace::Layer::BehindPanel) Desktop.Window().raise();
+    if (place.Where == DeckPlace::Layer::BeforePanel) Deck->raise();
+}
+
+void PanelProgram::MakeDeck() {
     FarSides sides = Outside.Practice.Sides();
     sides.Notices = &Settings.Notices;
     sides.Join = &joining;
     Deck = std::make_unique<DeckWindow>(sides);
+    Deck->Closed = [this] { KeepDeck(DeckIsClosed); };
     ownStrokes = std::make_unique<OwnStrokes>(Computer, *Deck);
     for (const std::string& sentence : std::exchange(untold, {})) TellOfProgram(sentence);
-    Deck->OpenAt(Desktop.Window().frameGeometry().topRight() + QPoint(GapBesidePanel, 0));
+}
+
+void PanelProgram::KeepDeck(const char* state) {
+    Settings.Store.SetControlValue(DeckValue, state);
+    Settings.Store.HandlerEnded();
 }
 
 void PanelProgram::TellOfProgram(const std::string& sentence) {
-    if (Deck)
+    if (Deck) {
         Deck->TellOfProgram(sentence);
-    else if (Outside.IsPractising())
+    } else if (Outside.IsPractising()) {
+        if (untold.size() == MostUntold) untold.erase(untold.begin());
         untold.push_back(sentence);
+    }
 }
 
 }  // namespace orvelle

@@ -5,6 +5,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "adapters/looks/ScreenRoom.h"
 #include "adapters/looks/Text.h"
 #include "apps/SimulatorIcon.h"
 #include "apps/SimulatorLinks.h"
@@ -35,7 +36,7 @@ SimulatorWindow::SimulatorWindow(SimulatorProgram& simulatorProgram)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(tabs);
-    resize(WantedSize);
+    resize(WantedSize.boundedTo(MostWindowSize(*screen())));
 
     tray.Pressed = [this] { isVisible() && !isMinimized() ? hide() : BringUp(); };
     tray.ShowAsked = [this] { BringUp(); };

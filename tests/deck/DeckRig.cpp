@@ -19,7 +19,7 @@ constexpr int Rounds = 20;
 
 DeckRig::DeckRig() {
     WriteDownEvents();
-    window.OpenAt({0, 0});
+    window.OpenIn({QPoint(0, 0), MostWindowSize(*window.screen()).boundedTo(window.UsualSize()) + FrameAllowance});
     window.activateWindow();
     EXPECT_TRUE(WaitForWindowActive(&window));
 }

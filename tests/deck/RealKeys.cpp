@@ -89,7 +89,7 @@ TEST(DeckBesideAPanel, OpensWithoutTakingTheFocus) {
     panel.show();
     ASSERT_TRUE(WaitForWindowActive(&panel));
     DeckWindow deck(setUp.Sides());
-    deck.OpenAt({200, 100});
+    deck.OpenIn({QPoint(200, 100), deck.UsualSize()});
     ASSERT_TRUE(WaitForWindowExposed(&deck));
     Xdotool({"type", "to the panel"});
     EXPECT_TRUE(WaitFor([&] { return panel.text() == "to the panel"; }));

@@ -21,6 +21,8 @@ namespace orvelle::qt {
 
 namespace {
 
+constexpr int LeastCharactersOfALine = 26;
+
 template <typename PageForm>
 QWidget* Make(QWidget* parent) {
     auto* page = new QWidget(parent);
@@ -29,12 +31,20 @@ QWidget* Make(QWidget* parent) {
     return page;
 }
 
+// The picture beside the status lines gives way before they are torn into single words.
+QWidget* MakeOverview(QWidget* parent) {
+    QWidget* page = Make<Ui::Overview>(parent);
+    auto* lines = page->findChild<QWidget*>("statusLines");
+    lines->setMinimumWidth(lines->fontMetrics().averageCharWidth() * LeastCharactersOfALine);
+    return page;
+}
+
 }  // namespace
 
 QWidget* MakePage(PanelNumber panel, QWidget* parent) {
     switch (panel) {
         case OverviewPanel:
-            return Make<Ui::Overview>(parent);
+            return MakeOverview(parent);
         case SimulatorLinkPanel:
             return Make<Ui::SimulatorLink>(parent);
         case RogerWilcoPanel:
