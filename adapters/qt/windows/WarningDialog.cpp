@@ -20,7 +20,6 @@ WarningDialog::WarningDialog(Form& warningForm) : FormWindow(warningForm) {
 }
 
 void WarningDialog::Prepare() {
-    ComeBefore(QApplication::activeWindow());
     if (layout() != nullptr) return;
     Ui::WarningDialog dialog;
     dialog.setupUi(this);
@@ -33,12 +32,9 @@ void WarningDialog::Prepare() {
 }
 
 // A window manager puts a window that nobody asked for under the one that the user works in, unless it belongs to that.
-void WarningDialog::ComeBefore(const QWidget* window) {
-    winId();
-    windowHandle()->setTransientParent(window != nullptr ? window->windowHandle() : nullptr);
-}
-
 void WarningDialog::showEvent(QShowEvent* event) {
+    const QWidget* window = QApplication::activeWindow();
+    windowHandle()->setTransientParent(window != nullptr ? window->windowHandle() : nullptr);
     FormWindow::showEvent(event);
     QApplication::alert(this);
 }

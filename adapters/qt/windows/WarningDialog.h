@@ -14,9 +14,6 @@ public:
 protected:
     void Prepare() override;
     void showEvent(QShowEvent* event) override;
-
-private:
-    void ComeBefore(const QWidget* window);
 };
 
 }  // namespace orvelle::qt

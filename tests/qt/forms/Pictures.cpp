@@ -44,6 +44,11 @@ void PickNode(MainWindow& window, const PanelControls& panel, const QString& tag
     }
 }
 
+// A page that changed its layout asks for another turn.
+void Settle() {
+    for (int turn = 0; turn < 5; ++turn) QApplication::processEvents();
+}
+
 void TakePages(MainWindow& window, PanelControls& panel, const Folder& folder) {
     static constexpr const char* Names[PageCount] = {"00-overview",    "01-velmarc", "02-rogerwilco", "03-teamspeak",
                                                      "04-joy-to-key",  "05-vatsim",  "06-volumes",    "07-key-to-key",
@@ -53,7 +58,7 @@ void TakePages(MainWindow& window, PanelControls& panel, const Folder& folder) {
         for (Long other = 0; other < PageCount; ++other) panel.Panels(other).Visible = false;
         panel.Panels(shown).Visible = true;
         PickNode(window, panel, QString::number(shown));
-        QApplication::processEvents();
+        Settle();
         folder.Keep(window.grab(), QLatin1String(Names[shown]));
     }
 }
@@ -101,19 +106,19 @@ int TakePictures(const Folder& folder, QSize size) {
     FillWithLongestTexts(longPanel);
     longPanel.Show();
     if (!size.isEmpty()) longWindow.resize(size);
-    QApplication::processEvents();
+    Settle();
     folder.Keep(longWindow.grab(), QStringLiteral("00-overview-longest"));
     PanelControls emptyPanel;
     MainWindow emptyWindow(emptyPanel);
     emptyPanel.Show();
     if (!size.isEmpty()) emptyWindow.resize(size);
-    QApplication::processEvents();
+    Settle();
     folder.Keep(emptyWindow.grab(), QStringLiteral("00-overview-empty"));
     emptyPanel.Panels(6).Visible = true;
-    QApplication::processEvents();
+    Settle();
     folder.Keep(emptyWindow.grab(), QStringLiteral("06-volumes-closed"));
     warning.Show();
-    QApplication::processEvents();
+    Settle();
     folder.Keep(dialog.grab(), QStringLiteral("20-warning"));
     folder.Keep(IconSheet(panel), QStringLiteral("30-icons"));
     return 0;
