@@ -99,7 +99,10 @@ void DeckWindow::OpenJoinDialog() {
 
 // Closed by the program, as at the end of the session, it just goes.
 void DeckWindow::closeEvent(QCloseEvent* event) {
-    if (event->spontaneous()) Closed();
+    if (!event->spontaneous()) return;
+    event->ignore();
+    hide();
+    Closed();
 }
 
 void DeckWindow::hideEvent(QHideEvent* event) {
