@@ -11,8 +11,8 @@ constexpr int FreeEdge = 48;  // enough to be seen and clicked
 
 // How far `one` sticks out from under `other`, at the side where it does most.
 int EdgeOutside(const QRect& one, const QRect& other) {
-    return std::max(
-        {one.right() - other.right(), other.left() - one.left(), one.bottom() - other.bottom(), other.top() - one.top()});
+    return std::max({one.right() - other.right(), other.left() - one.left(), one.bottom() - other.bottom(),
+                     other.top() - one.top()});
 }
 
 QRect Beside(const QRect& panel, const QRect& room, const DeckSizes& sizes) {

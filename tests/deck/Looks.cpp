@@ -1,5 +1,5 @@
-// How the deck looks: in each palette, with the desktop's letters and with those of 12 points, nothing is clipped or left
-// out, and a picture of each page is left for a look.
+// How the deck looks: in each palette, with the desktop's letters and with those of 12 points, nothing is clipped or
+// left out, and a picture of each page is left for a look.
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QDir>
@@ -103,7 +103,8 @@ TEST_P(DeckLooks, NothingIsClipped) {
                                    qobject_cast<const QComboBox*>(widget) || qobject_cast<const QLabel*>(widget);
             if (!showsText) continue;
             const auto* readout = dynamic_cast<const deck::Readout*>(widget);
-            const QSize needed = readout ? QSize(0, readout->heightForWidth(readout->width())) : widget->minimumSizeHint();
+            const QSize needed =
+                readout ? QSize(0, readout->heightForWidth(readout->width())) : widget->minimumSizeHint();
             EXPECT_GE(widget->width(), needed.width()) << widget->objectName().toStdString() << " on page " << index;
             EXPECT_GE(widget->height(), needed.height()) << widget->objectName().toStdString() << " on page " << index;
         }
@@ -117,7 +118,7 @@ TEST_P(DeckLooks, NothingIsClipped) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Palettes, DeckLooks, 
+INSTANTIATE_TEST_SUITE_P(Palettes, DeckLooks,
                          testing::Combine(testing::Values(Scheme::Light, Scheme::Dark), testing::Values(0, 12)));
 
 }  // namespace

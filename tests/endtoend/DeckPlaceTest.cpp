@@ -13,8 +13,8 @@ const QRect Wide(0, 0, 1920, 1080);
 
 // By the lesser side of what sticks out.
 int FreeEdge(const QRect& one, const QRect& other) {
-    return std::max(
-        {one.right() - other.right(), other.left() - one.left(), one.bottom() - other.bottom(), other.top() - one.top()});
+    return std::max({one.right() - other.right(), other.left() - one.left(), one.bottom() - other.bottom(),
+                     other.top() - one.top()});
 }
 
 TEST(FindDeckPlaceTest, ItStandsOnThePanelsRightWhereThereIsRoom) {
@@ -56,7 +56,8 @@ TEST(FindDeckPlaceTest, WhereThePanelFillsTheScreenItComesBeforeItAndLeavesItsEd
 }
 
 TEST(FindDeckPlaceTest, ItStaysOnTheScreenAndNeitherHidesTheOther) {
-    for (const QRect& room : {QRect(0, 0, 1024, 768), QRect(0, 0, 910, 512), QRect(1280, 0, 1280, 1024), QRect(0, 30, 960, 510)}) {
+    for (const QRect& room :
+         {QRect(0, 0, 1024, 768), QRect(0, 0, 910, 512), QRect(1280, 0, 1280, 1024), QRect(0, 30, 960, 510)}) {
         for (int left = 0; left < room.width(); left += 90) {
             for (int top = 0; top < room.height(); top += 70) {
                 const QRect panel = QRect(room.left() + left, room.top() + top, 640, 400) & room;

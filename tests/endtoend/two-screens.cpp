@@ -19,7 +19,8 @@ xcb_void_cookie_t SetMonitor(xcb_connection_t* connection, xcb_window_t root, xc
     xcb_protocol_request_t request{3, &xcb_randr_id, XCB_RANDR_SET_MONITOR, 1};
     xcb_randr_set_monitor_request_t head{};
     head.window = root;
-    iovec parts[5]{{}, {}, {&head, sizeof head}, {&monitor, sizeof monitor}, {&output, monitor.nOutput * sizeof output}};
+    iovec parts[5]{
+        {}, {}, {&head, sizeof head}, {&monitor, sizeof monitor}, {&output, monitor.nOutput * sizeof output}};
     return {xcb_send_request(connection, XCB_REQUEST_CHECKED, parts + 2, &request)};
 }
 
@@ -47,7 +48,7 @@ bool AddMonitor(xcb_connection_t* connection, const xcb_screen_t& screen, const 
     monitor.height = screen.height_in_pixels;
     monitor.width_in_millimeters = static_cast<std::uint32_t>(screen.width_in_millimeters) / 2;
     monitor.height_in_millimeters = screen.height_in_millimeters;
-    xcb_generic_error_t* const error = 
+    xcb_generic_error_t* const error =
         xcb_request_check(connection, SetMonitor(connection, screen.root, monitor, output));
     std::free(error);
     return error == nullptr;

@@ -69,9 +69,7 @@ int MainWindow::PanelOf(const Control& frame) const {
     return static_cast<int>(std::find(frames.begin(), frames.end(), &frame) - frames.begin());
 }
 
-QWidget& MainWindow::Page(int panel) {
-    return *AreaOf(panel).widget();
-}
+QWidget& MainWindow::Page(int panel) { return *AreaOf(panel).widget(); }
 
 PageArea& MainWindow::AreaOf(int panel) {
     PageArea*& area = made.at(static_cast<std::size_t>(panel));

@@ -8,7 +8,9 @@ namespace orvelle::qt {
 namespace {
 
 // Room is kept for the bar whether it is there or not: what comes and goes with the height would change the height.
-int BarWidth(const QWidget& widget) { return widget.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &widget); }
+int BarWidth(const QWidget& widget) {
+    return widget.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &widget);
+}
 
 }  // namespace
 
@@ -17,9 +19,7 @@ PageArea::PageArea(QWidget* formPage, QWidget* parent)
     Fit();
 }
 
-QSize PageArea::UsualSize(const QWidget& window) {
-    return PageGrid::UsualSize(window) + QSize(BarWidth(window), 0);
-}
+QSize PageArea::UsualSize(const QWidget& window) { return PageGrid::UsualSize(window) + QSize(BarWidth(window), 0); }
 
 void PageArea::Fit() {
     page.setMaximumWidth(PageGrid::MostWidth(page));

@@ -27,7 +27,7 @@ constexpr int ColumnCount = 4;
 
 constexpr int Gaps = (ColumnCount - 1) * Unit;
 constexpr int Margins = 2 * 2 * Unit;
-constexpr int LeastButton = 80;  // the style's own, logical pixels
+constexpr int LeastButton = 80;      // the style's own, logical pixels
 constexpr int LeastCharacters = 12;  // of a box to choose from
 
 int WidthOf(const QFontMetrics& metrics, const char* text) { return metrics.horizontalAdvance(QLatin1String(text)); }
@@ -84,7 +84,7 @@ PageGrid::Columns PageGrid::ColumnsFor(const QFontMetrics& metrics, int width) {
 
 void PageGrid::Fit(int width) {
     const Columns columns = ColumnsFor(QFontMetrics(page.font()), width);
-    for (QPushButton* button : page.findChildren<QPushButton*>()) 
+    for (QPushButton* button : page.findChildren<QPushButton*>())
         button->setMinimumWidth(std::max(columns.Button, button->sizeHint().width()));
     Place(columns.Labels);
     for (QGridLayout* grid : grids) {

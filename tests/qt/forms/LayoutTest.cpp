@@ -1,5 +1,5 @@
-// Nothing is clipped: on every page, in both palettes, at the scale that the test runs at, in the window's usual size and
-// in a larger one.
+// Nothing is clipped: on every page, in both palettes, at the scale that the test runs at, in the window's usual size
+// and in a larger one.
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>

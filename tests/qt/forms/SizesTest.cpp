@@ -122,7 +122,8 @@ TEST_P(SizesTest, TheFocusComesIntoView) {
         ScrolledArea& area = Turn(page);
         for (QWidget* widget : Seen(window->Page(page))) {
             if ((widget->focusPolicy() & Qt::TabFocus) == 0 || !widget->isEnabled()) continue;
-            area.verticalScrollBar()->setValue(widget->y() > area.height() / 2 ? 0 : area.verticalScrollBar()->maximum());
+            area.verticalScrollBar()->setValue(widget->y() > area.height() / 2 ? 0
+                                                                               : area.verticalScrollBar()->maximum());
             window->setFocus();
             widget->setFocus(Qt::ShortcutFocusReason);
             EXPECT_TRUE(IsInView(area, *widget)) << "page " << page << ", " << widget->objectName().toStdString();
