@@ -1,9 +1,12 @@
 #include "apps/PanelProgram.h"
 
+#include <QScreen>
 #include <utility>
 
+#include "adapters/looks/ScreenRoom.h"
 #include "adapters/mqtt/Topics.h"
 #include "adapters/qt/services/BringToFront.h"
+#include "apps/DeckPlace.h"
 #include "apps/EndCause.h"
 #include "apps/EndSentences.h"
 #include "apps/OwnModules.h"
@@ -13,8 +16,11 @@ namespace orvelle {
 
 namespace {
 
-constexpr int GapBesidePanel = 16;       // logical pixels
 constexpr Long LongestLastWord = 30000;  // milliseconds
+constexpr std::size_t MostUntold = 200;  // sentences, as many as the deck shows
+constexpr const char* DeckValue = "FlightDeck";
+constexpr const char* DeckIsOpen = "open";
+constexpr const char* DeckIsClosed = "closed";
 
 }  // namespace
 
@@ -57,7 +63,7 @@ PanelProgram::PanelProgram(ThisProcess& thisProcess, const std::string& settings
     };
     Outside.Told = [this](const std::string& sentence) { Desktop.Tray.Tell(sentence); };
     errorsExplained = process.Explain([this](const std::string& error, std::string& sentences) {
-        const std::string cause = isOpen ? CauseInPanel(Panel) : EndBySettings(setUpFile.parent_path(), error);
+        const std::string cause = isLoaded ? CauseInPanel(Panel) : EndBySettings(setUpFile.parent_path(), error);
         if (!cause.empty()) sentences = cause;
     });
     goodbyeAtEnd = process.AtEnd([this] { Outside.SayGoodbye(); });
@@ -83,10 +89,13 @@ void PanelProgram::Open() {
     loop.Post([this] { Computer.Begin(); });
     Panel.Show();
     if (isEndAsked) return End();
-    // The deck waits for the panel to be seen.
+    // The deck waits for the panel to be seen, as it opens beside it.
     loop.Post([this] {
-        isOpen = true;
-        ShowDeckWherePractising();
+        isLoaded = true;
+        panelSeen = std::make_unique<FirstSight>(Desktop.Window(), [this] {
+            isSeen = true;
+            ShowDeckWherePractising();
+        });
         wishesAsked = process.WhenAsked(loop, [this](Wish wish) { wish == Wish::ShowDeck ? ShowDeck() : ShowPanel(); });
     });
 }
@@ -99,17 +108,6 @@ void PanelProgram::ShowPanel() {
     qt::BringToFront(Desktop.Window());
 }
 
-void PanelProgram::ShowDeck() {
-    if (!Outside.IsPractising()) {
-        ShowPanel();
-        Desktop.Tray.Tell("This computer has joined a set-up, so there is no flight deck to practise with.");
-        return;
-    }
-    if (!Deck) OpenDeck();
-    Deck->showNormal();
-    qt::BringToFront(*Deck);
-}
-
 // A file that can't be read counts as none.
 void PanelProgram::TakeUpSetUp() {
     const mqtt::FoundSetUp found = mqtt::ReadSetUpFile(setUpFile);
@@ -118,7 +116,7 @@ void PanelProgram::TakeUpSetUp() {
     if (found.Setting) {
         Outside.Join(*found.Setting);
         // Where the deck's window for joining did it, that goes with the deck.
-        if (hasPractised && isOpen && !Outside.IsPractising())
+        if (hasPractised && isLoaded && !Outside.IsPractising())
             Desktop.Tray.Tell("This computer is " + mqtt::WriteIdentity(found.Setting->Identity) + " of the set-up " +
                               found.Setting->Name + " now.");
     } else if (!hasPractised)
@@ -126,7 +124,7 @@ void PanelProgram::TakeUpSetUp() {
 }
 
 void PanelProgram::ShowDeckWherePractising() {
-    if (!isOpen) return;
+    if (!isSeen) return;
     if (!Outside.IsPractising()) {
         ownStrokes.reset();
         // Its window for joining may be what has just joined.
@@ -134,20 +132,48 @@ void PanelProgram::ShowDeckWherePractising() {
             Deck->hide();
             Deck.release()->deleteLater();
         }
-    } else if (!Deck) {
+    } else if (!Deck && Settings.Store.GetControlValue(DeckValue, DeckIsOpen) == DeckIsOpen) {
         OpenDeck();
     }
 }
 
+void PanelProgram::ShowDeck() {
+    if (!Outside.IsPractising()) {
+        ShowPanel();
+        Desktop.Tray.Tell("This computer has joined a set-up, so there is no flight deck to practise with.");
+        return;
+    }
+    KeepDeck(DeckIsOpen);
+    if (!Deck || !Deck->isVisible()) OpenDeck();
+    Deck->showNormal();
+    qt::BringToFront(*Deck);
+}
+
 void PanelProgram::OpenDeck() {
+    if (!Deck) MakeDeck();
+    const qt::MainWindow& panel = Desktop.Window();
+    const DeckPlace place = FindDeckPlace(
+        panel.frameGeometry(), panel.screen()->availableGeometry(),
+        {Deck->UsualSize() + FrameAllowance, Deck->LeastWidth() + FrameAllowance.width()}, Desktop.Tray.StandInPlace());
+    Deck->OpenIn(place.Frame);
+    if (place.Where == DeckPlace::Layer::BehindPanel) Desktop.Window().raise();
+    if (place.Where == DeckPlace::Layer::BeforePanel) Deck->raise();
+}
+
+void PanelProgram::MakeDeck() {
     FarSides sides = Outside.Practice.Sides();
     sides.Notices = &Settings.Notices;
     sides.Join = Joining();
     sides.HeldKeys = &Computer.HeldKeys();
     Deck = std::make_unique<DeckWindow>(sides);
+    Deck->Closed = [this] { KeepDeck(DeckIsClosed); };
     ownStrokes = std::make_unique<OwnStrokes>(Computer, *Deck);
     for (const std::string& sentence : std::exchange(untold, {})) TellOfProgram(sentence);
-    Deck->OpenAt(Desktop.Window().frameGeometry().topRight() + QPoint(GapBesidePanel, 0));
+}
+
+void PanelProgram::KeepDeck(const char* state) {
+    Settings.Store.SetControlValue(DeckValue, state);
+    Settings.Store.HandlerEnded();
 }
 
 // Null, and told, where what it needs can't be loaded.
@@ -162,10 +188,12 @@ JoinSide* PanelProgram::Joining() {
 }
 
 void PanelProgram::TellOfProgram(const std::string& sentence) {
-    if (Deck)
+    if (Deck) {
         Deck->TellOfProgram(sentence);
-    else if (Outside.IsPractising())
+    } else if (Outside.IsPractising()) {
+        if (untold.size() == MostUntold) untold.erase(untold.begin());
         untold.push_back(sentence);
+    }
 }
 
 }  // namespace orvelle

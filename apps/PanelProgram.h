@@ -11,6 +11,7 @@
 #include "adapters/qt/services/QtEventLoop.h"
 #include "adapters/urls/StandardUrlFunctions.h"
 #include "apps/Desktop.h"
+#include "apps/FirstSight.h"
 #include "apps/Outside.h"
 #include "apps/OwnStrokes.h"
 #include "apps/ThisComputer.h"
@@ -35,19 +36,23 @@ public:
     orvelle::Outside Outside;
     orvelle::Desktop Desktop;
     FrmOrvelle Panel;
-    std::unique_ptr<DeckWindow> Deck;  // from the loop's first turn after Open; none in a set-up
+    std::unique_ptr<DeckWindow> Deck;  // once it was open; none in a set-up
 
-    // Loads and shows the panel, then opens the flight deck beside it.
+    // Loads and shows the panel, then opens the flight deck beside it, unless the user closed that in an earlier run.
     void Open();
+    // The user asked for the flight deck: it opens and comes to the front, and is there again from the next start on.
+    // In a set-up, where there is none, the user is told so.
+    void ShowDeck();
     // The orderly end, by the same door that other programs use. It ends the process unless nobody is behind it.
     void End();
 
 private:
     void TakeUpSetUp();
     void ShowPanel();
-    void ShowDeck();
     void ShowDeckWherePractising();
     void OpenDeck();
+    void MakeDeck();
+    void KeepDeck(const char* state);
     JoinSide* Joining();
     void TellOfProgram(const std::string& sentence);
 
@@ -56,7 +61,9 @@ private:
     std::unique_ptr<OwnStrokes> ownStrokes;  // kept out of the deck
     std::vector<std::string> untold;         // of programs and what they shall not be told, until there is a deck
     bool isEndAsked = false;                 // by a signal
-    bool isOpen = false;
+    bool isLoaded = false;
+    bool isSeen = false;
+    std::unique_ptr<FirstSight> panelSeen;
     Ticket errorsExplained;
     Ticket goodbyeAtEnd;
     Ticket microphonesCloseAtEnd;

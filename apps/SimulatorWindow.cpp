@@ -2,10 +2,10 @@
 
 #include <QCloseEvent>
 #include <QMessageBox>
-#include <QScreen>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "adapters/looks/ScreenRoom.h"
 #include "adapters/looks/Text.h"
 #include "apps/SimulatorIcon.h"
 #include "apps/SimulatorLinks.h"
@@ -20,7 +20,6 @@ namespace orvelle {
 namespace {
 
 constexpr QSize WantedSize(1000, 640);
-constexpr QSize FrameSize(16, 48);  // with room to spare
 
 }  // namespace
 
@@ -37,7 +36,7 @@ SimulatorWindow::SimulatorWindow(SimulatorProgram& simulatorProgram)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(tabs);
-    resize(WantedSize.boundedTo(screen()->availableSize() - FrameSize));
+    resize(WantedSize.boundedTo(MostWindowSize(*screen())));
 
     tray.Pressed = [this] { isVisible() && !isMinimized() ? hide() : BringUp(); };
     tray.ShowAsked = [this] { BringUp(); };

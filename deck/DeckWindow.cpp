@@ -3,10 +3,12 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QScreen>
+#include <QStyle>
 #include <QTabWidget>
 #include <algorithm>
 
+#include "adapters/looks/ScreenRoom.h"
+#include "adapters/looks/ScrolledArea.h"
 #include "adapters/looks/Text.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/ScrolledPage.h"
@@ -24,10 +26,9 @@ using namespace deck;
 
 namespace {
 
-// Beside the panel on a screen of 1920 by 1080.
-constexpr QSize WantedSize(940, 760);
-// What a window manager may put around the window; how much it really is is known only after the window was shown.
-constexpr QSize FrameAllowance(16, 44);
+// By the font: with letters of 9 points, beside the panel on a screen of 1920 by 1080.
+constexpr int WantedCharacters = 134;
+constexpr int WantedLines = 54;
 
 QWidget* SideBySide(std::initializer_list<QWidget*> columns) {
     auto* page = new QWidget;
@@ -63,16 +64,25 @@ DeckWindow::DeckWindow(const FarSides& farSides) : sides(farSides) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(tabs);
-    resize(WantedSize);
+    resize(UsualSize());
 }
 
-void DeckWindow::OpenAt(const QPoint& position) {
-    const QRect room = screen()->availableGeometry();
-    resize(size().boundedTo(room.size() - FrameAllowance));
-    const QSize outer = size() + FrameAllowance;
-    move(std::clamp(position.x(), room.left(), std::max(room.left(), room.right() + 1 - outer.width())),
-         std::clamp(position.y(), room.top(), std::max(room.top(), room.bottom() + 1 - outer.height())));
-    show();
+QSize DeckWindow::UsualSize() const {
+    return {std::max(LeastWidth(), WantedCharacters * fontMetrics().averageCharWidth()),
+            WantedLines * fontMetrics().height()};
+}
+
+int DeckWindow::LeastWidth() const {
+    int width = 0;
+    for (const ScrolledArea* area : findChildren<ScrolledArea*>())
+        width = std::max(width, area->widget()->minimumSizeHint().width());
+    return width + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+}
+
+void DeckWindow::OpenIn(const QRect& frame) {
+    resize(frame.size() - FrameAllowance);
+    move(frame.topLeft());
+    showNormal();
 }
 
 void DeckWindow::TellOfProgram(const std::string& sentence) {
@@ -87,12 +97,12 @@ void DeckWindow::OpenJoinDialog() {
     joinDialog->activateWindow();
 }
 
-// Hidden it could not be brought back. Minimising hides it too, as far as its events go. Closed by the program, as at
-// the end of the session, it just goes.
+// Closed by the program, as at the end of the session, it just goes.
 void DeckWindow::closeEvent(QCloseEvent* event) {
     if (!event->spontaneous()) return;
     event->ignore();
-    showMinimized();
+    hide();
+    Closed();
 }
 
 void DeckWindow::hideEvent(QHideEvent* event) {

@@ -4,9 +4,11 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
 #include <QTabWidget>
 #include <utility>
 
+#include "adapters/looks/ScreenRoom.h"
 #include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle {
@@ -19,7 +21,8 @@ constexpr int Rounds = 20;
 
 DeckRig::DeckRig() {
     WriteDownEvents();
-    window.OpenAt({0, 0});
+    const QSize size = window.UsualSize().boundedTo(MostWindowSize(*window.screen()));
+    window.OpenIn({QPoint(0, 0), size + FrameAllowance});
     window.activateWindow();
     EXPECT_TRUE(WaitForWindowActive(&window));
 }

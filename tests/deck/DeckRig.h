@@ -57,9 +57,9 @@ protected:
     DeckWindow window{Sides()};
     std::vector<std::string> events;  // raised since they were read last
     std::vector<std::string> TakeEvents();
+    FarSides Sides();
 
 private:
-    FarSides Sides();
     void WriteDownEvents();
 };
 

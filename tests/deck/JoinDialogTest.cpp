@@ -188,7 +188,7 @@ TEST_F(JoinDialogTest, TheDeckOpensItOnceAndOnlyWhereASetUpCanBeJoined) {
     EXPECT_EQ(DeckWindow(sides).findChild<QPushButton*>("JoinASetUp"), nullptr);
     sides.Join = &side;
     DeckWindow window(sides);
-    window.OpenAt({0, 0});
+    window.OpenIn({QPoint(0, 0), window.UsualSize()});
     auto* button = window.findChild<QPushButton*>("JoinASetUp");
     ASSERT_NE(button, nullptr);
     EXPECT_FALSE(button->toolTip().isEmpty());

@@ -6,7 +6,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QScreen>
 #include <set>
 
 #include "tests/deck/DeckRig.h"
@@ -14,6 +13,8 @@
 
 namespace orvelle {
 namespace {
+
+constexpr int LeastFrame = 24;
 
 class DeckWindowTest : public DeckRig {
 protected:
@@ -76,28 +77,30 @@ TEST_F(DeckWindowTest, AMnemonicLeadsToItsField) {
 
 TEST_F(DeckWindowTest, ItSaysWhatItIs) { EXPECT_EQ(window.windowTitle(), "OrvelleCP Flight Deck"); }
 
-TEST_F(DeckWindowTest, ClosedAtTheEndOfTheSessionItGoes) { EXPECT_TRUE(window.close()); }
+TEST_F(DeckWindowTest, ClosedAtTheEndOfTheSessionItGoesAndTellsNothing) {
+    window.Closed = [] { FAIL() << "the user did not close it"; };
+    EXPECT_TRUE(window.close());
+}
 
-TEST_F(DeckWindowTest, ClosingItMinimisesIt) {
+TEST_F(DeckWindowTest, ClosedByHandItIsHiddenAndTellsIt) {
+    int told = 0;
+    window.Closed = [&told] { ++told; };
     CloseByHand();
-    EXPECT_TRUE(window.isMinimized());
-    EXPECT_TRUE(window.isVisible()) << "out of the taskbar's reach";
-    window.showNormal();
-    EXPECT_FALSE(window.isMinimized());
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(told, 1);
 }
 
 TEST_F(DeckWindowTest, ItOpensWithoutTakingTheFocus) {
     EXPECT_TRUE(window.testAttribute(Qt::WA_ShowWithoutActivating));
 }
 
-TEST_F(DeckWindowTest, ItStaysOnTheScreen) {
-    const QRect room = window.screen()->availableGeometry();
-    constexpr int LeastFrame = 24;
+TEST_F(DeckWindowTest, ItOpensThereWithItsFrame) {
     DeckWindow other(setUp.Sides());
-    other.OpenAt(room.bottomRight());
-    EXPECT_TRUE(room.contains(other.frameGeometry()));
-    EXPECT_LE(other.height(), room.height() - LeastFrame);
-    EXPECT_LE(other.y() + other.height(), room.bottom() - LeastFrame) << "a title above would push its foot off";
+    const QRect frame(40, 30, 700, 500);
+    other.OpenIn(frame);
+    EXPECT_EQ(other.frameGeometry().topLeft(), frame.topLeft());
+    EXPECT_LE(other.width(), frame.width());
+    EXPECT_LE(other.height(), frame.height() - LeastFrame) << "a title above would push its foot out";
 }
 
 TEST_F(DeckWindowTest, NothingRunsWhileNothingHappens) {

@@ -41,6 +41,10 @@ void QtTray::Tell(const std::string& sentence) {
     QTimer::singleShot(0, &context, [this] { TellWhatWaits(); });
 }
 
+QRect QtTray::StandInPlace() const {
+    return standIn != nullptr && standIn->isVisible() ? standIn->frameGeometry() : QRect();
+}
+
 // A second balloon would take the place of the first.
 void QtTray::TellWhatWaits() {
     if (untold.isEmpty() || (trayIcon == nullptr && standIn == nullptr)) return;

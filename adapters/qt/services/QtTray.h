@@ -27,6 +27,8 @@ public:
     void Shell_NotifyIconA(Long command, const NotifyIconData& data) override;
     // A sentence that needs no answer, shown beside the icon for a while; as soon as there is one.
     void Tell(const std::string& sentence);
+    // Of the small window that stands in for the icon; null while there is none.
+    QRect StandInPlace() const;
 
 private:
     void Take(const NotifyIconData& data);

@@ -66,9 +66,19 @@ void StandInIcon::Resize(QSize newSize) {
     move(place);
 }
 
+// The lower right one; the left one where a window of the program lies under the first alone.
 void StandInIcon::PlaceInCorner() {
-    const QRect free = screen()->availableGeometry();
-    move(free.right() - ScreenMargin - width(), free.bottom() - ScreenMargin - height());
+    const QRect free = screen()->availableGeometry().marginsRemoved(QMargins() + ScreenMargin);
+    const QPoint last(free.right() + 1 - width(), free.bottom() + 1 - height());
+    const QPoint other(free.left(), last.y());
+    const bool goesToTheOther = CoversWindow(QRect(last, size())) && !CoversWindow(QRect(other, size()));
+    move(goesToTheOther ? other : last);
+}
+
+bool StandInIcon::CoversWindow(const QRect& place) const {
+    for (const QWidget* window : QApplication::topLevelWidgets())
+        if (window != this && window->isVisible() && window->frameGeometry().intersects(place)) return true;
+    return false;
 }
 
 void StandInIcon::Use(Mouse mouse) {

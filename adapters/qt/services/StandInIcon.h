@@ -1,7 +1,7 @@
 // The small window that stands in for the icon where the desktop has no notification area: always on top, in the task
-// list, in the lower right corner until the user drags it elsewhere. At first it says beside the icon what it is, until
-// it is used. A click is told when the button is let go, so that a drag is none; Enter and Space are a click too. It
-// can't be closed, as it is the only way back to a hidden panel.
+// list, in a lower corner, the right one if that is free, until the user drags it elsewhere. At first it says beside
+// the icon what it is, until it is used. A click is told when the button is let go, so that a drag is none; Enter and
+// Space are a click too. It can't be closed, as it is the only way back to a hidden panel.
 #pragma once
 
 #include <QIcon>
@@ -36,6 +36,7 @@ protected:
 
 private:
     void PlaceInCorner();
+    bool CoversWindow(const QRect& place) const;
     void Resize(QSize newSize);
     void Use(Mouse mouse);
 

@@ -12,6 +12,7 @@ namespace {
 
 // As high as the status lines beside it with their longest texts.
 constexpr int Lines = 14;
+constexpr int LeastLines = 8;
 
 }  // namespace
 
@@ -23,6 +24,11 @@ void StatusPicture::SetKey(const QString& pictureKey) {
 
 QSize StatusPicture::sizeHint() const {
     const int side = Lines * fontMetrics().height();
+    return {side, side};
+}
+
+QSize StatusPicture::minimumSizeHint() const {
+    const int side = LeastLines * fontMetrics().height();
     return {side, side};
 }
 

@@ -16,7 +16,7 @@ public:
     void SetKey(const QString& pictureKey);
 
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    QSize minimumSizeHint() const override;
 
 signals:
     void KeyChanged(const QString& pictureKey);

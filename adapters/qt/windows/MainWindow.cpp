@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "adapters/looks/ScreenRoom.h"
 #include "adapters/looks/Theme.h"
 #include "adapters/qt/widgets/StatusImage.h"
 #include "platform/controls/Label.h"
@@ -15,6 +16,9 @@ namespace {
 // The room that the tree needs: its widest name at its deepest level.
 constexpr char WidestNode[] = "Key Management";
 constexpr int TreeLevels = 3;
+
+// Any page is of use in it, scrolled; and the smallest screens have room for it.
+constexpr QSize LeastSize(640, 360);
 
 // The side is a shade apart from the page, and the chosen node stands out no more than it must.
 QPalette SidePalette(QPalette palette) {
@@ -36,7 +40,8 @@ MainWindow::MainWindow(Form& panelForm) : FormWindow(panelForm) {
     Ui::MainWindow window;
     window.setupUi(this);
     pages = window.pages;
-    pages->setMinimumSize(PageSize(*this));
+    side = window.side;
+    setMinimumSize(LeastSize);
     window.twCategory->setFixedWidth(fontMetrics().horizontalAdvance(QLatin1String(WidestNode)) +
                                      TreeLevels * window.twCategory->indentation() + 2 * Unit);
     window.twCategory->setPalette(SidePalette(palette()));
@@ -44,34 +49,37 @@ MainWindow::MainWindow(Form& panelForm) : FormWindow(panelForm) {
     binder.Bind(*this);
     for (int panel = 0; panel < PageCount; ++panel)
         frames[static_cast<std::size_t>(panel)] = form.Find("Panels(" + std::to_string(panel) + ")");
-    pages->setCurrentWidget(&Page(OverviewPanel));
+    pages->setCurrentWidget(&AreaOf(OverviewPanel));
     TellSize();
 }
 
 void MainWindow::TellSize() {
     auto* overview = dynamic_cast<Frame*>(frames[OverviewPanel]);
     if (overview == nullptr) return;
-    const QSize needed = layout()->totalSizeHint();
-    const int left = needed.width() - std::max(pages->sizeHint().width(), pages->minimumWidth());
+    const int left = side->sizeHint().width();
+    const QSize wanted = PageArea::UsualSize(*this) + QSize(left, 0);
+    const QSize size = wanted.boundedTo(MostWindowSize(*screen())).expandedTo(LeastSize);
     overview->Left = left * TwipsPerPixel;
     overview->Top = 0;
-    overview->Width = (needed.width() - left) * TwipsPerPixel;
-    overview->Height = needed.height() * TwipsPerPixel;
+    overview->Width = (size.width() - left) * TwipsPerPixel;
+    overview->Height = size.height() * TwipsPerPixel;
 }
 
 int MainWindow::PanelOf(const Control& frame) const {
     return static_cast<int>(std::find(frames.begin(), frames.end(), &frame) - frames.begin());
 }
 
-QWidget& MainWindow::Page(int panel) {
-    QWidget*& page = made.at(static_cast<std::size_t>(panel));
-    if (page == nullptr) {
-        page = MakePage(static_cast<PanelNumber>(panel), pages);
-        pages->addWidget(page);
-        binder.Bind(*page);
+QWidget& MainWindow::Page(int panel) { return *AreaOf(panel).widget(); }
+
+PageArea& MainWindow::AreaOf(int panel) {
+    PageArea*& area = made.at(static_cast<std::size_t>(panel));
+    if (area == nullptr) {
+        area = new PageArea(MakePage(static_cast<PanelNumber>(panel), pages), pages);
+        pages->addWidget(area);
+        binder.Bind(*area->widget());
         neededFields.ShowAll();
     }
-    return *page;
+    return *area;
 }
 
 QWidget* MainWindow::WidgetOf(const Control& control) {
@@ -84,7 +92,7 @@ void MainWindow::ControlChanged(Control& control, ControlProperty property) {
     FormWindow::ControlChanged(control, property);
     neededFields.ControlChanged(control);
     if (property == ControlProperty::Visible && control.Visible)
-        if (const int panel = PanelOf(control); panel < PageCount) pages->setCurrentWidget(&Page(panel));
+        if (const int panel = PanelOf(control); panel < PageCount) pages->setCurrentWidget(&AreaOf(panel));
     if (property == ControlProperty::Picture)
         if (const auto* image = dynamic_cast<const Image*>(&control)) setWindowIcon(StatusIcon(image->Picture().Name));
 }

@@ -1,6 +1,7 @@
 // The panel's window: the tree of categories on the left, beside it the page whose frame is visible. A page is made
 // when it is first seen. Built before the form loads: it gives the frame Panels(0) the place and size (twips) by which
-// the load then sizes the window, so that every page has room.
+// the load then sizes the window, so that every page has room as far as the screen has. The user may make it smaller:
+// then the pages give way, and scroll.
 #pragma once
 
 #include <array>
@@ -8,6 +9,7 @@
 
 #include "adapters/qt/windows/FormWindow.h"
 #include "adapters/qt/windows/NeededFields.h"
+#include "adapters/qt/windows/PageArea.h"
 #include "adapters/qt/windows/Pages.h"
 
 class QStackedWidget;
@@ -28,12 +30,14 @@ public:
 
 private:
     int PanelOf(const Control& frame) const;
+    PageArea& AreaOf(int panel);
     void TellSize();
 
     NeededFields neededFields{form, [this](const Control& control) { return binder.WidgetOf(control); }};
     QStackedWidget* pages = nullptr;
+    QWidget* side = nullptr;  // the tree's
     std::array<Control*, PageCount> frames{};
-    std::array<QWidget*, PageCount> made{};
+    std::array<PageArea*, PageCount> made{};
 };
 
 }  // namespace orvelle::qt

@@ -1,12 +1,7 @@
 #include "adapters/qt/windows/Pages.h"
 
-#include <QGridLayout>
-#include <QPushButton>
-#include <QStyle>
 #include <QWidget>
-#include <algorithm>
 
-#include "adapters/looks/Theme.h"
 #include "adapters/qt/widgets/SliderNumber.h"
 #include "ui_Extra.h"
 #include "ui_FrameworkLink.h"
@@ -26,53 +21,21 @@ namespace orvelle::qt {
 
 namespace {
 
-// The widest text of each column of the grid.
-constexpr char WidestLabel[] = "Inband voice signal tone Volume";
-constexpr char WidestField[] = "<Press a key sequence on FS PC keyboard>";
-constexpr char WidestButton[] = "Delete Selected";
-
-constexpr int Fields = 1;  // column of the grid
-constexpr int FirstButton = 2;
-constexpr int LastButton = 3;
-
-struct Columns {
-    int Label;
-    int Field;
-    int Button;
-};
-
-Columns ColumnsFor(const QWidget& widget) {
-    const QFontMetrics metrics(widget.font());
-    const auto widthOf = [&metrics](const char* text) { return metrics.horizontalAdvance(QLatin1String(text)); };
-    return {widthOf(WidestLabel) + Unit / 2, widthOf(WidestField) + 2 * Unit, widthOf(WidestButton) + 3 * Unit};
-}
-
-bool IsUsed(const QGridLayout& grid, int column) {
-    for (int row = 0; row < grid.rowCount(); ++row)
-        if (grid.itemAtPosition(row, column) != nullptr) return true;
-    return false;
-}
-
-void AlignToGrid(QWidget& page) {
-    const Columns columns = ColumnsFor(page);
-    for (QPushButton* button : page.findChildren<QPushButton*>()) button->setMinimumWidth(columns.Button);
-    for (QGridLayout* grid : page.findChildren<QGridLayout*>()) {
-        if (!grid->objectName().endsWith(QLatin1String("ieldGrid"))) continue;
-        grid->setColumnMinimumWidth(0, columns.Label);
-        grid->setColumnMinimumWidth(Fields, columns.Field);
-        grid->setColumnStretch(Fields, 1);
-        // A column with nothing in it has no gap before it.
-        for (int column = FirstButton; column <= LastButton; ++column)
-            grid->setColumnMinimumWidth(column, columns.Button + (IsUsed(*grid, column) ? 0 : Unit));
-    }
-    for (SliderNumber* number : page.findChildren<SliderNumber*>()) number->Follow();
-}
+constexpr int LeastCharactersOfALine = 26;
 
 template <typename PageForm>
 QWidget* Make(QWidget* parent) {
     auto* page = new QWidget(parent);
     PageForm().setupUi(page);
-    AlignToGrid(*page);
+    for (SliderNumber* number : page->findChildren<SliderNumber*>()) number->Follow();
+    return page;
+}
+
+// The picture beside the status lines gives way before they are torn into single words.
+QWidget* MakeOverview(QWidget* parent) {
+    QWidget* page = Make<Ui::Overview>(parent);
+    auto* lines = page->findChild<QWidget*>("statusLines");
+    lines->setMinimumWidth(lines->fontMetrics().averageCharWidth() * LeastCharactersOfALine);
     return page;
 }
 
@@ -81,7 +44,7 @@ QWidget* Make(QWidget* parent) {
 QWidget* MakePage(PanelNumber panel, QWidget* parent) {
     switch (panel) {
         case OverviewPanel:
-            return Make<Ui::Overview>(parent);
+            return MakeOverview(parent);
         case SimulatorLinkPanel:
             return Make<Ui::SimulatorLink>(parent);
         case RogerWilcoPanel:
@@ -108,14 +71,6 @@ QWidget* MakePage(PanelNumber panel, QWidget* parent) {
             return Make<Ui::VatsimKeys>(parent);
     }
     return nullptr;  // for no panel
-}
-
-QSize PageSize(const QWidget& window) {
-    const Columns columns = ColumnsFor(window);
-    // The highest page: the volumes, of 12 rows and a title.
-    constexpr int Rows = 14;
-    const int row = QFontMetrics(window.font()).height() + 2 * Unit;
-    return {columns.Label + columns.Field + 2 * columns.Button + 3 * Unit + 4 * Unit, Rows * row + 4 * Unit};
 }
 
 }  // namespace orvelle::qt

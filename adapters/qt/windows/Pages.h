@@ -1,8 +1,5 @@
-// The pages of the main window, one for each panel, made from its form. All share one grid, whose columns follow the
-// font: labels, fields, and two columns of buttons.
+// The pages of the main window, one for each panel, made from its form. All share one grid (PageGrid.h).
 #pragma once
-
-#include <QSize>
 
 #include "platform/PanelNumber.h"
 
@@ -14,7 +11,5 @@ constexpr int PageCount = PanelCount;
 
 // The page is named as its frame; its widgets show nothing yet.
 QWidget* MakePage(PanelNumber panel, QWidget* parent);
-// What every page has room in, whichever is there already.
-QSize PageSize(const QWidget& window);
 
 }  // namespace orvelle::qt

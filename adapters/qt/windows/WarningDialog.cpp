@@ -1,7 +1,9 @@
 #include "adapters/qt/windows/WarningDialog.h"
 
+#include <QApplication>
 #include <QLayout>
 #include <QShortcut>
+#include <QWindow>
 
 #include "ui_WarningDialog.h"
 
@@ -27,6 +29,14 @@ void WarningDialog::Prepare() {
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
         new QShortcut(key, this, [button = dialog.OKButton] { button->click(); });
     new QShortcut(Qt::Key_Escape, this, [this] { form.Unload(Form::ControlMenu); });
+}
+
+// A window manager puts a window that nobody asked for under the one that the user works in, unless it belongs to that.
+void WarningDialog::showEvent(QShowEvent* event) {
+    const QWidget* window = QApplication::activeWindow();
+    windowHandle()->setTransientParent(window != nullptr ? window->windowHandle() : nullptr);
+    FormWindow::showEvent(event);
+    QApplication::alert(this);
 }
 
 }  // namespace orvelle::qt

@@ -1,5 +1,6 @@
 // Takes pictures of every page, the warning and the icons, in one palette at the scale that Qt is told to have
-// (QT_SCALE_FACTOR). For looking at: orvelle-pictures FOLDER light|dark
+// (QT_SCALE_FACTOR), in the window's own size or in one that is named (logical pixels), with the font's own size or one
+// that is named. For looking at: orvelle-pictures FOLDER light|dark [WIDTHxHEIGHT [POINTS]]
 #include <QApplication>
 #include <QDir>
 #include <QPainter>
@@ -43,6 +44,11 @@ void PickNode(MainWindow& window, const PanelControls& panel, const QString& tag
     }
 }
 
+// A page that changed its layout asks for another turn.
+void Settle() {
+    for (int turn = 0; turn < 5; ++turn) QApplication::processEvents();
+}
+
 void TakePages(MainWindow& window, PanelControls& panel, const Folder& folder) {
     static constexpr const char* Names[PageCount] = {"00-overview",    "01-velmarc", "02-rogerwilco", "03-teamspeak",
                                                      "04-joy-to-key",  "05-vatsim",  "06-volumes",    "07-key-to-key",
@@ -52,7 +58,7 @@ void TakePages(MainWindow& window, PanelControls& panel, const Folder& folder) {
         for (Long other = 0; other < PageCount; ++other) panel.Panels(other).Visible = false;
         panel.Panels(shown).Visible = true;
         PickNode(window, panel, QString::number(shown));
-        QApplication::processEvents();
+        Settle();
         folder.Keep(window.grab(), QLatin1String(Names[shown]));
     }
 }
@@ -83,7 +89,8 @@ QPixmap IconSheet(const PanelControls& panel) {
     return sheet;
 }
 
-int TakePictures(const Folder& folder) {
+// An empty size is the window's own.
+int TakePictures(const Folder& folder, QSize size) {
     PanelControls panel;
     MultiFSWarningDlg warning;
     MainWindow window(panel);
@@ -92,21 +99,26 @@ int TakePictures(const Folder& folder) {
     panel.Width = panel.Panels(0).Left + panel.Panels(0).Width;
     panel.Height = panel.Panels(0).Height();
     panel.Show();
+    if (!size.isEmpty()) window.resize(size);
     TakePages(window, panel, folder);
     PanelControls longPanel;
     MainWindow longWindow(longPanel);
     FillWithLongestTexts(longPanel);
     longPanel.Show();
+    if (!size.isEmpty()) longWindow.resize(size);
+    Settle();
     folder.Keep(longWindow.grab(), QStringLiteral("00-overview-longest"));
     PanelControls emptyPanel;
     MainWindow emptyWindow(emptyPanel);
     emptyPanel.Show();
+    if (!size.isEmpty()) emptyWindow.resize(size);
+    Settle();
     folder.Keep(emptyWindow.grab(), QStringLiteral("00-overview-empty"));
     emptyPanel.Panels(6).Visible = true;
-    QApplication::processEvents();
+    Settle();
     folder.Keep(emptyWindow.grab(), QStringLiteral("06-volumes-closed"));
     warning.Show();
-    QApplication::processEvents();
+    Settle();
     folder.Keep(dialog.grab(), QStringLiteral("20-warning"));
     folder.Keep(IconSheet(panel), QStringLiteral("30-icons"));
     return 0;
@@ -119,11 +131,19 @@ int TakePictures(const Folder& folder) {
 int main(int count, char** values) {
     QApplication application(count, values);
     const QStringList arguments = QApplication::arguments();
-    if (arguments.size() != 3 || (arguments[2] != QLatin1String("light") && arguments[2] != QLatin1String("dark"))) {
-        std::cerr << "usage: orvelle-pictures FOLDER light|dark\n";
+    if (arguments.size() < 3 || arguments.size() > 5 ||
+        (arguments[2] != QLatin1String("light") && arguments[2] != QLatin1String("dark"))) {
+        std::cerr << "usage: orvelle-pictures FOLDER light|dark [WIDTHxHEIGHT [POINTS]]\n";
         return 2;
+    }
+    const QStringList sides = arguments.value(3).split('x');
+    const QSize size(sides.value(0).toInt(), sides.value(1).toInt());
+    if (arguments.size() == 5) {
+        QFont font = QApplication::font();
+        font.setPointSize(arguments[4].toInt());
+        QApplication::setFont(font);
     }
     orvelle::ApplyTheme(arguments[2] == QLatin1String("dark") ? orvelle::Scheme::Dark : orvelle::Scheme::Light);
     const QString suffix = QStringLiteral("-%1-%2x").arg(arguments[2]).arg(application.devicePixelRatio());
-    return orvelle::qt::TakePictures(orvelle::qt::Folder(arguments[1], suffix));
+    return orvelle::qt::TakePictures(orvelle::qt::Folder(arguments[1], suffix), size);
 }

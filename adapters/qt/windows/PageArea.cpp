@@ -1,0 +1,39 @@
+#include "adapters/qt/windows/PageArea.h"
+
+#include <QEvent>
+#include <QStyle>
+
+namespace orvelle::qt {
+
+namespace {
+
+// Room is kept for the bar whether it is there or not: what comes and goes with the height would change the height.
+int BarWidth(const QWidget& widget) {
+    return widget.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &widget);
+}
+
+}  // namespace
+
+PageArea::PageArea(QWidget* formPage, QWidget* parent)
+    : ScrolledArea(formPage, parent), page(*formPage), grid(*formPage) {
+    Fit();
+}
+
+QSize PageArea::UsualSize(const QWidget& window) { return PageGrid::UsualSize(window) + QSize(BarWidth(window), 0); }
+
+void PageArea::Fit() {
+    page.setMaximumWidth(PageGrid::MostWidth(page));
+    grid.Fit(width() - BarWidth(*this));
+}
+
+void PageArea::resizeEvent(QResizeEvent* event) {
+    Fit();
+    ScrolledArea::resizeEvent(event);
+}
+
+void PageArea::changeEvent(QEvent* event) {
+    ScrolledArea::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) Fit();
+}
+
+}  // namespace orvelle::qt
