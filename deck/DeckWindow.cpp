@@ -14,6 +14,7 @@
 #include "deck/join/JoinDialog.h"
 #include "deck/pages/FaultsPage.h"
 #include "deck/pages/NetworkPage.h"
+#include "deck/pages/NextStep.h"
 #include "deck/pages/SimulatorPage.h"
 #include "deck/pages/VoicePage.h"
 #include "platform/sides/SimulatorSide.h"
@@ -29,14 +30,19 @@ constexpr QSize WantedSize(940, 760);
 // What a window manager may put around the window; how much it really is is known only after the window was shown.
 constexpr QSize FrameAllowance(16, 44);
 
-QWidget* SideBySide(std::initializer_list<QWidget*> columns) {
+// A head or column that is null is left out.
+QWidget* FlightPage(QWidget* head, std::initializer_list<QWidget*> columns) {
     auto* page = new QWidget;
     page->setObjectName("FlightPage");
-    auto* row = new QHBoxLayout(page);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto* rows = new QVBoxLayout(page);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(SectionGap);
+    if (head) rows->addWidget(head);
+    auto* row = new QHBoxLayout;
     row->setSpacing(3 * Unit);
     for (QWidget* column : columns)
         if (column) row->addWidget(column, 1);
+    rows->addLayout(row, 1);
     return page;
 }
 
@@ -53,7 +59,8 @@ DeckWindow::DeckWindow(const FarSides& farSides) : sides(farSides) {
     tabs->setDocumentMode(true);
     if (sides.Simulator) simulator = new SimulatorPage(sides);
     NetworkPage* network = sides.Network ? new NetworkPage(sides) : nullptr;
-    if (simulator || network) AddScrolledPage(*tabs, SideBySide({simulator, network}), "Fl&ight");
+    NextStep* step = simulator && network ? new NextStep(sides) : nullptr;
+    if (simulator || network) AddScrolledPage(*tabs, FlightPage(step, {simulator, network}), "Fl&ight");
     if (sides.VoiceEngine) AddScrolledPage(*tabs, new VoicePage(sides), "Voice &engine");
     AddScrolledPage(*tabs, new FaultsPage(sides), "Fa&ults");
     if (sides.Join)

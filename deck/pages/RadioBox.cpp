@@ -6,7 +6,10 @@
 #include <utility>
 
 #include "deck/fields/Fields.h"
+#include "deck/fields/Frequencies.h"
+#include "deck/fields/Remark.h"
 #include "deck/fields/TextField.h"
+#include "deck/pages/RadioRemarks.h"
 #include "platform/RadioSelection.h"
 #include "platform/sides/NetworkSide.h"
 
@@ -41,8 +44,6 @@ int EntryOf(Long software) {
     return -1;
 }
 
-QString RadioName(int radio) { return radio == 0 ? "COM1" : "COM2"; }
-
 int SelectionOf(const std::string& text) {
     for (int index = 0; index < NoSelection; ++index)
         if (text == Selections[index]) return index;
@@ -71,15 +72,19 @@ RadioBox::RadioBox(NetworkSide& framework)
                            [this](const std::string& text) { network.SetReceive(text); })),
       transmit(NewSelection("Transmit", "The radio that transmits",
                             [this](const std::string& text) { network.SetTransmit(text); })),
+      frequencyRemark(new Remark("FrequencyRemark")),
+      voiceRemark(new Remark("VoiceRemark")),
       watch(network.Observe([this] { ShowState(); })) {
     AddCaptions({RadioName(0), RadioName(1)});
     AddRow("&Frequency", {radios[0].Frequency, radios[1].Frequency});
+    AddWide(frequencyRemark);
     AddRow("Soft&ware", {radios[0].Software, radios[1].Software});
     std::size_t row = 0;
     for (const char* label : {"Ser&ver", "C&hannel", "Lo&gin", "&Password"}) {
         AddRow(label, {radios[0].Texts[row], radios[1].Texts[row]});
         ++row;
     }
+    AddWide(voiceRemark);
     AddRow("&Receive", {receive, Labelled("&Transmit", transmit)});
     ShowState();
 }
@@ -87,7 +92,7 @@ RadioBox::RadioBox(NetworkSide& framework)
 RadioBox::Radio RadioBox::NewRadio(int radio) {
     const QString name = RadioName(radio);
     auto* frequency = NewEdit("Frequency" + name, "The frequency of " + name + "; Enter applies it",
-                              [this, radio](const std::string& text) { network.SetFrequency(radio, text); });
+                              [this, radio](const std::string& text) { Tune(radio, text); });
     frequency->setPlaceholderText(radio == 0 ? "122.800" : "121.500");
     auto* software = NewChoice(
         "Software" + name, "The voice software that serves " + name, SoftwareNames(), [this, radio](int index) {
@@ -101,6 +106,15 @@ RadioBox::Radio RadioBox::NewRadio(int radio) {
              NewVoiceEdit(radio, "Channel", "The channel on that server", &RadioVoiceSetting::Channel),
              NewVoiceEdit(radio, "Login", "The login name for the server", &RadioVoiceSetting::Login),
              NewVoiceEdit(radio, "Password", "The password for the server", &RadioVoiceSetting::Password)}};
+}
+
+// A frequency that is none leaves the radio as it is, and so does the field.
+void RadioBox::Tune(int radio, const std::string& typed) {
+    const std::optional<std::string> frequency = TunedFrequency(typed);
+    const std::string held = network.Session().Frequency.at(static_cast<std::size_t>(radio));
+    frequencyRemark->Show(frequency ? QString() : RefusedFrequency(radio, typed, held));
+    radios.at(static_cast<std::size_t>(radio)).Frequency->Show(frequency.value_or(held));
+    if (frequency) network.SetFrequency(radio, *frequency);
 }
 
 TextField* RadioBox::NewVoiceEdit(int radio, const QString& name, const QString& toolTip, VoiceText text) {
@@ -127,6 +141,7 @@ void RadioBox::ShowState() {
         for (std::size_t row = 0; row < std::size(VoiceTexts); ++row)
             radios.at(radio).Texts.at(row)->Show(voice.*VoiceTexts[row]);
     }
+    voiceRemark->Show(MissingOnRadios(session));
     receive->setCurrentIndex(SelectionOf(session.Receive));
     transmit->setCurrentIndex(SelectionOf(session.Transmit));
 }
