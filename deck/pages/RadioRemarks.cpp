@@ -37,10 +37,9 @@ bool NeedsChannel(Long software) {
 QString RadioName(int radio) { return radio == 0 ? "COM1" : "COM2"; }
 
 QString RefusedFrequency(int radio, const std::string& typed, const std::string& held) {
-    const QString rest = held.empty() ? "%1 stays tuned to nothing." : "%1 stays on " + ToQt(held) + ".";
-    return "\"" + Shortened(ToQt(typed)) +
-           "\" is no frequency, which go from 118.000 to 136.990 in steps of 25 or 8.33 kHz; " +
-           rest.arg(RadioName(radio));
+    return RadioName(radio) + (held.empty() ? " stays as it is" : " stays on " + ToQt(held)) + ": \"" +
+           Shortened(ToQt(typed)) +
+           "\" is none of its frequencies, 118.000 to 136.990 in steps of 25 or 8.33 kHz.";
 }
 
 QString MissingOnRadios(const SessionSetting& session) {
