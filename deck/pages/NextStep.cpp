@@ -14,6 +14,7 @@ namespace orvelle::deck {
 namespace {
 
 constexpr Long EngineRooms = 3;
+constexpr int MostLines = 2;
 
 constexpr const char* TakeUpLinks = "tick Simulator link and Network link, which the panel waits for.";
 constexpr const char* OpenSession = "tick Session open and Connected to multiplayer: voice is for who is on the network.";
@@ -84,6 +85,9 @@ NextStep::NextStep(const FarSides& farSides) : sides(farSides) {
     setObjectName("NextStep");
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
+    setAlignment(Qt::AlignTop);
+    // The page below doesn't move when the words change.
+    setMinimumHeight(MostLines * fontMetrics().lineSpacing());
     const auto show = [this] { ShowState(); };
     watches.push_back(sides.Network->Observe(show));
     for (LinkSide* link : {sides.SimulatorLink, sides.NetworkLink})

@@ -72,20 +72,19 @@ RadioBox::RadioBox(NetworkSide& framework)
                            [this](const std::string& text) { network.SetReceive(text); })),
       transmit(NewSelection("Transmit", "The radio that transmits",
                             [this](const std::string& text) { network.SetTransmit(text); })),
-      frequencyRemark(new Remark("FrequencyRemark")),
-      voiceRemark(new Remark("VoiceRemark")),
+      remark(new Remark("RadioRemark")),
       watch(network.Observe([this] { ShowState(); })) {
     AddCaptions({RadioName(0), RadioName(1)});
     AddRow("&Frequency", {radios[0].Frequency, radios[1].Frequency});
-    AddWide(frequencyRemark);
     AddRow("Soft&ware", {radios[0].Software, radios[1].Software});
     std::size_t row = 0;
     for (const char* label : {"Ser&ver", "C&hannel", "Lo&gin", "&Password"}) {
         AddRow(label, {radios[0].Texts[row], radios[1].Texts[row]});
         ++row;
     }
-    AddWide(voiceRemark);
     AddRow("&Receive", {receive, Labelled("&Transmit", transmit)});
+    // Below all fields, none of which moves when it comes or goes.
+    AddWide(remark);
     ShowState();
 }
 
@@ -112,9 +111,10 @@ RadioBox::Radio RadioBox::NewRadio(int radio) {
 void RadioBox::Tune(int radio, const std::string& typed) {
     const std::optional<std::string> frequency = TunedFrequency(typed);
     const std::string held = network.Session().Frequency.at(static_cast<std::size_t>(radio));
-    frequencyRemark->Show(frequency ? QString() : RefusedFrequency(radio, typed, held));
+    refused = frequency ? QString() : RefusedFrequency(radio, typed, held);
     radios.at(static_cast<std::size_t>(radio)).Frequency->Show(frequency.value_or(held));
     if (frequency) network.SetFrequency(radio, *frequency);
+    ShowRemark();
 }
 
 TextField* RadioBox::NewVoiceEdit(int radio, const QString& name, const QString& toolTip, VoiceText text) {
@@ -141,9 +141,13 @@ void RadioBox::ShowState() {
         for (std::size_t row = 0; row < std::size(VoiceTexts); ++row)
             radios.at(radio).Texts.at(row)->Show(voice.*VoiceTexts[row]);
     }
-    voiceRemark->Show(MissingOnRadios(session));
     receive->setCurrentIndex(SelectionOf(session.Receive));
     transmit->setCurrentIndex(SelectionOf(session.Transmit));
+    ShowRemark();
+}
+
+void RadioBox::ShowRemark() {
+    remark->Show(refused.isEmpty() ? MissingOnRadios(network.Session()) : refused);
 }
 
 }  // namespace orvelle::deck

@@ -38,13 +38,14 @@ private:
     QComboBox* NewSelection(const QString& name, const QString& toolTip, std::function<void(const std::string&)> apply);
     void Tune(int radio, const std::string& typed);
     void ShowState();
+    void ShowRemark();
 
     NetworkSide& network;
     std::array<Radio, 2> radios;
     QComboBox* receive;
     QComboBox* transmit;
-    Remark* frequencyRemark;
-    Remark* voiceRemark;
+    Remark* remark;
+    QString refused;  // the sentence on a frequency, "" for none
     Ticket watch;
 };
 

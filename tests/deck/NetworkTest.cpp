@@ -75,7 +75,7 @@ TEST_F(DeckNetwork, AFrequencyIsShownAsARadioShowsIt) {
         Type("FrequencyCOM1", text);
         EXPECT_EQ(setUp.NetworkLink.Session().Frequency[0], shown) << text;
         EXPECT_EQ(At<QLineEdit>("FrequencyCOM1").text(), shown) << text;
-        EXPECT_FALSE(At<QLabel>("FrequencyRemark").isVisible()) << text;
+        EXPECT_FALSE(At<QLabel>("RadioRemark").isVisible()) << text;
     }
 }
 
@@ -88,15 +88,15 @@ TEST_F(DeckNetwork, AFrequencyThatIsNoneIsRefusedWithARemark) {
         Type("FrequencyCOM2", text);
         EXPECT_EQ(setUp.NetworkLink.Session().Frequency[1], "121.500") << text;
         EXPECT_EQ(At<QLineEdit>("FrequencyCOM2").text(), "121.500") << text;
-        EXPECT_TRUE(At<QLabel>("FrequencyRemark").isVisible()) << text;
+        EXPECT_TRUE(At<QLabel>("RadioRemark").isVisible()) << text;
     }
     Type("FrequencyCOM2", "<b>tower</b> of Innsbruck and others");
-    EXPECT_EQ(TextOf("FrequencyRemark"),
+    EXPECT_EQ(TextOf("RadioRemark"),
               "COM2 stays on 121.500: \"<b>tower</b> of Innsbruc…\" is none of its frequencies, 118.000 to 136.990 in "
               "steps of 25 or 8.33 kHz.");
     EXPECT_EQ(TakeEvents(), Events({}));
     Type("FrequencyCOM1", "122.8");
-    EXPECT_FALSE(At<QLabel>("FrequencyRemark").isVisible());
+    EXPECT_FALSE(At<QLabel>("RadioRemark").isVisible());
 }
 
 TEST_F(DeckNetwork, WhatTheFarSideSaysIsShownWhateverItIs) {
@@ -108,16 +108,16 @@ TEST_F(DeckNetwork, WhatTheFarSideSaysIsShownWhateverItIs) {
 
 TEST_F(DeckNetwork, ARadioThatLacksItsServerOrChannelIsTold) {
     ConnectAll();
-    EXPECT_FALSE(At<QLabel>("VoiceRemark").isVisible());
+    EXPECT_FALSE(At<QLabel>("RadioRemark").isVisible());
     Pick("SoftwareCOM1", 3);
-    EXPECT_EQ(TextOf("VoiceRemark"), "COM1 needs a server and a channel for VATSIM.");
+    EXPECT_EQ(TextOf("RadioRemark"), "COM1 needs a server and a channel for VATSIM.");
     Type("ServerCOM1", "voice.example");
-    EXPECT_EQ(TextOf("VoiceRemark"), "COM1 needs a channel for VATSIM.");
+    EXPECT_EQ(TextOf("RadioRemark"), "COM1 needs a channel for VATSIM.");
     Pick("SoftwareCOM2", 5);
-    EXPECT_EQ(TextOf("VoiceRemark"), "COM1 needs a channel for VATSIM. COM2 needs a server for Voice ATIS.");
+    EXPECT_EQ(TextOf("RadioRemark"), "COM1 needs a channel for VATSIM. COM2 needs a server for Voice ATIS.");
     Type("ChannelCOM1", "tower");
     Pick("SoftwareCOM2", 0);
-    EXPECT_FALSE(At<QLabel>("VoiceRemark").isVisible());
+    EXPECT_FALSE(At<QLabel>("RadioRemark").isVisible());
 }
 
 TEST_F(DeckNetwork, EachSelectionHasItsText) {
