@@ -21,6 +21,7 @@ int main() {
     qt::Application application("orvelle-panel", process.WindowSystem(),
                                 [&](const std::exception& error) { process.EndByError(error); });
     qt::Application::setDesktopFileName("net.orvelle.OrvelleCP");
+    qt::Application::setApplicationVersion(ORVELLE_VERSION);
     ApplyTheme(SystemScheme());
     PanelProgram panel(process, UserSettings::File());
     return application.Run([&] {

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "adapters/looks/Text.h"
+#include "deck/AboutBox.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/ScrolledPage.h"
 #include "deck/fields/Section.h"
@@ -63,14 +64,25 @@ DeckWindow::DeckWindow(const FarSides& farSides) : sides(farSides) {
     if (simulator || network) AddScrolledPage(*tabs, FlightPage(step, {simulator, network}), "Fl&ight");
     if (sides.VoiceEngine) AddScrolledPage(*tabs, new VoicePage(sides), "Voice &engine");
     AddScrolledPage(*tabs, new FaultsPage(sides), "Fa&ults");
-    if (sides.Join)
-        tabs->setCornerWidget(NewButton("JoinASetUp", "&Join a set-up ...",
-                                        "Let this computer work together with others, instead of practising alone",
-                                        [this] { OpenJoinDialog(); }));
+    tabs->setCornerWidget(Corner());
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(tabs);
     resize(WantedSize);
+}
+
+QWidget* DeckWindow::Corner() {
+    auto* corner = new QWidget;
+    auto* row = new QHBoxLayout(corner);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Unit / 2);
+    row->addWidget(NewButton("About", "A&bout", "The version of this program, and where to read on",
+                             [this] { ShowAbout(*this); }));
+    if (sides.Join)
+        row->addWidget(NewButton("JoinASetUp", "&Join a set-up ...",
+                                 "Let this computer work together with others, instead of practising alone",
+                                 [this] { OpenJoinDialog(); }));
+    return corner;
 }
 
 void DeckWindow::OpenAt(const QPoint& position) {
