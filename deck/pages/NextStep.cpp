@@ -28,7 +28,8 @@ constexpr const char* MapKey =
     "in the panel's list click Key mappings, below VATSIM, and Set beside FS PTT Key Mapping; click into Keyboard here, "
     "and press F9. From then on F9 held here talks.";
 constexpr const char* HoldKey =
-    "map keys on the panel's page of that software, click into Keyboard here, and hold the first of them.";
+    "on the panel's page of that software set both FS Key Mapping and PTT Key Mapping; click into Keyboard here, and hold "
+    "the first of the two.";
 constexpr const char* LetGo = "let go of the key, and the microphone is silent again.";
 
 using Roles = std::array<const char*, 2>;

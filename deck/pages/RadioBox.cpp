@@ -97,7 +97,7 @@ RadioBox::Radio RadioBox::NewRadio(int radio) {
         "Software" + name, "The voice software that serves " + name, SoftwareNames(), [this, radio](int index) {
             RadioVoiceSetting voice = network.Session().Voice.at(static_cast<std::size_t>(radio));
             voice.Software = SoftwareEntries[index].Code;
-            network.SetVoice(radio, voice);
+            SetVoice(radio, voice);
         });
     return {frequency,
             software,
@@ -117,12 +117,19 @@ void RadioBox::Tune(int radio, const std::string& typed) {
     ShowRemark();
 }
 
+// Who goes on to something else has read what was refused.
+void RadioBox::SetVoice(int radio, const RadioVoiceSetting& voice) {
+    refused.clear();
+    network.SetVoice(radio, voice);
+    ShowRemark();
+}
+
 TextField* RadioBox::NewVoiceEdit(int radio, const QString& name, const QString& toolTip, VoiceText text) {
     return NewEdit(name + RadioName(radio), toolTip + " of " + RadioName(radio) + "; Enter applies it",
                    [this, radio, text](const std::string& value) {
                        RadioVoiceSetting voice = network.Session().Voice.at(static_cast<std::size_t>(radio));
                        voice.*text = value;
-                       network.SetVoice(radio, voice);
+                       SetVoice(radio, voice);
                    });
 }
 

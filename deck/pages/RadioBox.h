@@ -37,6 +37,7 @@ private:
     TextField* NewVoiceEdit(int radio, const QString& name, const QString& toolTip, VoiceText text);
     QComboBox* NewSelection(const QString& name, const QString& toolTip, std::function<void(const std::string&)> apply);
     void Tune(int radio, const std::string& typed);
+    void SetVoice(int radio, const RadioVoiceSetting& voice);
     void ShowState();
     void ShowRemark();
 

@@ -97,6 +97,9 @@ TEST_F(DeckNetwork, AFrequencyThatIsNoneIsRefusedWithARemark) {
     EXPECT_EQ(TakeEvents(), Events({}));
     Type("FrequencyCOM1", "122.8");
     EXPECT_FALSE(At<QLabel>("RadioRemark").isVisible());
+    Type("FrequencyCOM1", "abc");
+    Type("LoginCOM2", "pilot");
+    EXPECT_FALSE(At<QLabel>("RadioRemark").isVisible()) << "the user went on to something else";
 }
 
 TEST_F(DeckNetwork, WhatTheFarSideSaysIsShownWhateverItIs) {

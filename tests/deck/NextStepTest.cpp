@@ -51,7 +51,7 @@ TEST_F(DeckNextStep, LeadsWhoTickedAnotherSoftwareToItsKeys) {
     Pick("SoftwareCOM1", 1);
     ExpectStep("its Software, then any Server");
     Type("ServerCOM1", "voice.example");
-    ExpectStep("map keys on the panel's page of that software");
+    ExpectStep("on the panel's page of that software set both");
     Pick("SoftwareCOM1", 2);
     ExpectStep("its Software, then any Server");
 }
