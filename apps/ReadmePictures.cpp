@@ -21,9 +21,9 @@ namespace orvelle {
 namespace {
 
 constexpr const char* TalkKey = "F9";
-constexpr int CapturedKey = 96;  // F12, as the X server numbers it
+constexpr int CapturedKey = 96;       // F12, as the X server numbers it
 constexpr int CaptureHasBegun = 700;  // milliseconds
-constexpr QSize TrayIcon(24, 26);  // the place of the one icon, in the upper right corner
+constexpr QSize TrayIcon(24, 26);     // the place of the one icon, in the upper right corner
 constexpr int TrayScale = 4;
 
 struct Row {
@@ -32,9 +32,9 @@ struct Row {
     const char* Manner;
 };
 
-constexpr std::array KeyRows{Row{"F2", "29+50", "Push"},           Row{"F3", "29+56+20", "Push"},
-                             Row{"Ctrl+F4", "57", "Toggle"},       Row{"Shift+Num 5", "42+30", "Push"},
-                             Row{"Alt+R", "88", "Push"},           Row{"Tab", "29+31", "Push"}};
+constexpr std::array KeyRows{Row{"F2", "29+50", "Push"},     Row{"F3", "29+56+20", "Push"},
+                             Row{"Ctrl+F4", "57", "Toggle"}, Row{"Shift+Num 5", "42+30", "Push"},
+                             Row{"Alt+R", "88", "Push"},     Row{"Tab", "29+31", "Push"}};
 constexpr std::array ButtonRows{Row{"Stick.Button 2", "57", "Push"}, Row{"Stick.Button 4", "29+50", "Toggle"},
                                 Row{"Throttle.Button 1", "87", "Push"}, Row{"Throttle.Button 3", "42+19", "Push"}};
 
@@ -66,7 +66,8 @@ ReadmePictures::ReadmePictures(PanelProgram& panelProgram, const QDir& pictureFo
 
 void ReadmePictures::Prepare() {
     SettingsStore& store = house.Settings.Store;
-    for (const char* enable : {"VVLEnable", "TSEnable", "VoiceTuningSound"}) store.SaveSettingLong("OrvelleCP", enable, 1);
+    for (const char* enable : {"VVLEnable", "TSEnable", "VoiceTuningSound"})
+        store.SaveSettingLong("OrvelleCP", enable, 1);
     for (const auto& [key, text] : {std::pair("TSPath", "/usr/bin/teamspeak"), std::pair("TSFSKey", "F10"),
                                     std::pair("TSFSJoy", "Stick.Button 1"), std::pair("VVLFSKey", TalkKey)})
         store.SaveSettingString("OrvelleCP", key, text);
@@ -147,10 +148,13 @@ bool ReadmePictures::Take() {
     Keep(house.Deck->grab(), "deck");
     const QPixmap screen = QGuiApplication::primaryScreen()->grabWindow(0);
     Keep(screen.copy(house.Desktop.Window().frameGeometry() | house.Deck->frameGeometry()), "desktop");
-    Keep(screen.copy(QRect(QPoint(screen.width() - TrayIcon.width(), 0), TrayIcon)).scaled(TrayIcon * TrayScale), "tray");
+    Keep(screen.copy(QRect(QPoint(screen.width() - TrayIcon.width(), 0), TrayIcon)).scaled(TrayIcon * TrayScale),
+         "tray");
     return true;
 }
 
-void ReadmePictures::Keep(const QPixmap& picture, const QString& name) const { picture.save(folder.filePath(name + ending)); }
+void ReadmePictures::Keep(const QPixmap& picture, const QString& name) const {
+    picture.save(folder.filePath(name + ending));
+}
 
 }  // namespace orvelle

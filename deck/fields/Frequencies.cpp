@@ -11,9 +11,9 @@ namespace {
 // kHz
 constexpr int Lowest = 118'000;
 constexpr int Highest = 136'990;
-constexpr int Step = 25;      // each begins with the name of its 25 kHz channel
-constexpr int NameStep = 5;   // of the channels within it
-constexpr int NoName = 20;    // into a step: belongs to no channel
+constexpr int Step = 25;     // each begins with the name of its 25 kHz channel
+constexpr int NameStep = 5;  // of the channels within it
+constexpr int NoName = 20;   // into a step: belongs to no channel
 constexpr int WholeDigits = 3;
 
 }  // namespace

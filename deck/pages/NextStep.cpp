@@ -17,7 +17,8 @@ constexpr Long EngineRooms = 3;
 constexpr int MostLines = 2;
 
 constexpr const char* TakeUpLinks = "tick Simulator link and Network link, which the panel waits for.";
-constexpr const char* OpenSession = "tick Session open and Connected to multiplayer: voice is for who is on the network.";
+constexpr const char* OpenSession =
+    "tick Session open and Connected to multiplayer: voice is for who is on the network.";
 constexpr const char* EnableSoftware =
     "in the panel's list on the left click VATSIM, and tick \"Enable VATSIM Voice on this computer\".";
 constexpr const char* TuneEngine =
@@ -25,10 +26,12 @@ constexpr const char* TuneEngine =
 constexpr const char* TuneProgram =
     "tune COM1 under Radios: its Software, then any Server and any Channel, such as voice.example and tower.";
 constexpr const char* MapKey =
-    "in the panel's list click Key mappings, below VATSIM, and Set beside FS PTT Key Mapping; click into Keyboard here, "
+    "in the panel's list click Key mappings, below VATSIM, and Set beside FS PTT Key Mapping; click into Keyboard "
+    "here, "
     "and press F9. From then on F9 held here talks.";
 constexpr const char* HoldKey =
-    "on the panel's page of that software set both FS Key Mapping and PTT Key Mapping; click into Keyboard here, and hold "
+    "on the panel's page of that software set both FS Key Mapping and PTT Key Mapping; click into Keyboard here, and "
+    "hold "
     "the first of the two.";
 constexpr const char* LetGo = "let go of the key, and the microphone is silent again.";
 
@@ -69,7 +72,8 @@ const char* StepFor(const FarSides& sides) {
     const NetworkSide& network = *sides.Network;
     if (IsDown(sides.SimulatorLink) || IsDown(sides.NetworkLink)) return TakeUpLinks;
     if (network.Session().Handle == 0 || network.Session().Status != ConnectedToMultiplayer) return OpenSession;
-    if (AnyRoom(sides.VoiceEngine, [](const VoiceRoom& room) { return room.Presence == RoomPresence::In && !room.Muted; }))
+    if (AnyRoom(sides.VoiceEngine,
+                [](const VoiceRoom& room) { return room.Presence == RoomPresence::In && !room.Muted; }))
         return LetGo;
     if (AnyRoom(sides.VoiceEngine, [](const VoiceRoom& room) { return room.Presence == RoomPresence::In; }))
         return MapKey;

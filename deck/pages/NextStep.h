@@ -1,5 +1,5 @@
-// What somebody who is new here may try next, in one line at the head of the deck's first page. It follows what is there:
-// links and session, the voice duties that the panel holds, what the radios are tuned to, and who talks.
+// What somebody who is new here may try next, in one line at the head of the deck's first page. It follows what is
+// there: links and session, the voice duties that the panel holds, what the radios are tuned to, and who talks.
 #pragma once
 
 #include <QLabel>

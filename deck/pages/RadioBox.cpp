@@ -153,8 +153,6 @@ void RadioBox::ShowState() {
     ShowRemark();
 }
 
-void RadioBox::ShowRemark() {
-    remark->Show(refused.isEmpty() ? MissingOnRadios(network.Session()) : refused);
-}
+void RadioBox::ShowRemark() { remark->Show(refused.isEmpty() ? MissingOnRadios(network.Session()) : refused); }
 
 }  // namespace orvelle::deck

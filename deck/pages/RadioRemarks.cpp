@@ -11,9 +11,7 @@ namespace {
 
 constexpr qsizetype MostLetters = 24;
 
-QString Shortened(const QString& text) {
-    return text.size() > MostLetters ? text.left(MostLetters) + "…" : text;
-}
+QString Shortened(const QString& text) { return text.size() > MostLetters ? text.left(MostLetters) + "…" : text; }
 
 QString NameOf(Long software) {
     switch (software) {
@@ -38,8 +36,7 @@ QString RadioName(int radio) { return radio == 0 ? "COM1" : "COM2"; }
 
 QString RefusedFrequency(int radio, const std::string& typed, const std::string& held) {
     return RadioName(radio) + (held.empty() ? " stays as it is" : " stays on " + ToQt(held)) + ": \"" +
-           Shortened(ToQt(typed)) +
-           "\" is none of its frequencies, 118.000 to 136.990 in steps of 25 or 8.33 kHz.";
+           Shortened(ToQt(typed)) + "\" is none of its frequencies, 118.000 to 136.990 in steps of 25 or 8.33 kHz.";
 }
 
 QString MissingOnRadios(const SessionSetting& session) {

@@ -67,9 +67,12 @@ TEST_F(DeckNetwork, FrequencyAndSelectionsRaiseRadioChanged) {
 
 TEST_F(DeckNetwork, AFrequencyIsShownAsARadioShowsIt) {
     ConnectAll();
-    const std::pair<const char*, const char*> typed[] = {{"122.8", "122.800"},  {"122,8", "122.800"},
-                                                         {"118", "118.000"},    {" 136.99 ", "136.990"},
-                                                         {"118.02", "118.025"}, {"118.005", "118.005"},
+    const std::pair<const char*, const char*> typed[] = {{"122.8", "122.800"},
+                                                         {"122,8", "122.800"},
+                                                         {"118", "118.000"},
+                                                         {" 136.99 ", "136.990"},
+                                                         {"118.02", "118.025"},
+                                                         {"118.005", "118.005"},
                                                          {"", ""}};
     for (const auto& [text, shown] : typed) {
         Type("FrequencyCOM1", text);
@@ -83,8 +86,8 @@ TEST_F(DeckNetwork, AFrequencyThatIsNoneIsRefusedWithARemark) {
     ConnectAll();
     Type("FrequencyCOM2", "121.500");
     TakeEvents();
-    for (const char* text : {"abc", "99999999999999.5", "117.975", "136.995", "118.020", "118.001", "122.8000", "-122.8",
-                             "122.8 MHz"}) {
+    for (const char* text :
+         {"abc", "99999999999999.5", "117.975", "136.995", "118.020", "118.001", "122.8000", "-122.8", "122.8 MHz"}) {
         Type("FrequencyCOM2", text);
         EXPECT_EQ(setUp.NetworkLink.Session().Frequency[1], "121.500") << text;
         EXPECT_EQ(At<QLineEdit>("FrequencyCOM2").text(), "121.500") << text;

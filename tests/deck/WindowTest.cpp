@@ -159,8 +159,8 @@ TEST_F(DeckWindowTest, ThePageStaysInItsPlaceWhileItsWordsChange) {
     ConnectAll();
     const auto places = [this] {
         std::vector<QPoint> found;
-        for (const char* name : {"SimulatorLink", "SimulatorServerSeen", "KeyboardField", "FrequencyCOM1", "ServerCOM1", "ChannelCOM2",
-                                 "Receive"})
+        for (const char* name : {"SimulatorLink", "SimulatorServerSeen", "KeyboardField", "FrequencyCOM1", "ServerCOM1",
+                                 "ChannelCOM2", "Receive"})
             found.push_back(At<QWidget>(name).mapTo(&window, QPoint()));
         return found;
     };
