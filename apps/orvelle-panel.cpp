@@ -25,6 +25,7 @@ int main() {
     qt::Application application("orvelle-panel", process.WindowSystem(),
                                 [](const std::exception& error) { process.EndByError(error); });
     qt::Application::setDesktopFileName("net.orvelle.orvellecp");
+    qt::Application::setApplicationVersion(ORVELLE_VERSION);
     ApplyTheme(SystemScheme());
     PanelProgram panel(process, UserSettings::File());
     return application.Run([&] {

@@ -10,12 +10,14 @@
 #include "adapters/looks/ScreenRoom.h"
 #include "adapters/looks/ScrolledArea.h"
 #include "adapters/looks/Text.h"
+#include "deck/AboutBox.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/ScrolledPage.h"
 #include "deck/fields/Section.h"
 #include "deck/join/JoinDialog.h"
 #include "deck/pages/FaultsPage.h"
 #include "deck/pages/NetworkPage.h"
+#include "deck/pages/NextStep.h"
 #include "deck/pages/SimulatorPage.h"
 #include "deck/pages/VoicePage.h"
 #include "platform/sides/SimulatorSide.h"
@@ -30,14 +32,19 @@ namespace {
 constexpr int WantedCharacters = 134;
 constexpr int WantedLines = 54;
 
-QWidget* SideBySide(std::initializer_list<QWidget*> columns) {
+// A head or column that is null is left out.
+QWidget* FlightPage(QWidget* head, std::initializer_list<QWidget*> columns) {
     auto* page = new QWidget;
     page->setObjectName("FlightPage");
-    auto* row = new QHBoxLayout(page);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto* rows = new QVBoxLayout(page);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(SectionGap);
+    if (head) rows->addWidget(head);
+    auto* row = new QHBoxLayout;
     row->setSpacing(3 * Unit);
     for (QWidget* column : columns)
         if (column) row->addWidget(column, 1);
+    rows->addLayout(row, 1);
     return page;
 }
 
@@ -54,17 +61,29 @@ DeckWindow::DeckWindow(const FarSides& farSides) : sides(farSides) {
     tabs->setDocumentMode(true);
     if (sides.Simulator) simulator = new SimulatorPage(sides);
     NetworkPage* network = sides.Network ? new NetworkPage(sides) : nullptr;
-    if (simulator || network) AddScrolledPage(*tabs, SideBySide({simulator, network}), "Fl&ight");
+    NextStep* step = simulator && network ? new NextStep(sides) : nullptr;
+    if (simulator || network) AddScrolledPage(*tabs, FlightPage(step, {simulator, network}), "Fl&ight");
     if (sides.VoiceEngine) AddScrolledPage(*tabs, new VoicePage(sides), "Voice &engine");
     AddScrolledPage(*tabs, new FaultsPage(sides), "Fa&ults");
-    if (sides.Join)
-        tabs->setCornerWidget(NewButton("JoinASetUp", "&Join a set-up ...",
-                                        "Let this computer work together with others, instead of practising alone",
-                                        [this] { OpenJoinDialog(); }));
+    tabs->setCornerWidget(Corner());
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(tabs);
     resize(UsualSize());
+}
+
+QWidget* DeckWindow::Corner() {
+    auto* corner = new QWidget;
+    auto* row = new QHBoxLayout(corner);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Unit / 2);
+    row->addWidget(NewButton("About", "A&bout", "The version of this program, and where to read on",
+                             [this] { ShowAbout(*this); }));
+    if (sides.Join)
+        row->addWidget(NewButton("JoinASetUp", "&Join a set-up ...",
+                                 "Let this computer work together with others, instead of practising alone",
+                                 [this] { OpenJoinDialog(); }));
+    return corner;
 }
 
 QSize DeckWindow::UsualSize() const {

@@ -40,6 +40,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    QWidget* Corner();  // of the pages' tabs
     void OpenJoinDialog();
 
     const FarSides sides;

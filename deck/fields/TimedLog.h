@@ -1,5 +1,6 @@
 // A list of what happened, each line with its time of day, the latest at the end and in sight unless the user looks at
-// earlier ones. It keeps the last 200.
+// earlier ones. It keeps the last 200. Lines are selected by mouse or keys, and copied or cleared from the menu of the
+// right mouse button or by the usual keys.
 #pragma once
 
 #include <QListWidget>
@@ -17,6 +18,10 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void AddMenu();
+    void Copy() const;
 };
 
 }  // namespace orvelle::deck

@@ -22,7 +22,7 @@ PlayedLinkSide* PlayedOf(LinkSide* link) { return link ? link->Played() : nullpt
 
 }  // namespace
 
-DelaysBox::DelaysBox(const FarSides& sides) : Section("Delays", "Delays", 2) {
+DelaysBox::DelaysBox(const FarSides& sides) : Section("Delays", "How long events take to the panel", 2) {
     const auto addRow = [this](const QString& label, const QString& name, const QString& toolTip, auto* peer) {
         if (peer) AddRow(label, {NewPeerDelay(name, toolTip, *peer), new QWidget});
     };

@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "deck/fields/PageHead.h"
 #include "deck/pages/ComputerBox.h"
 #include "deck/pages/DelaysBox.h"
 #include "deck/pages/MixersBox.h"
@@ -39,6 +40,7 @@ FaultsPage::FaultsPage(const FarSides& sides) {
                   sides.HeadsetMixer&& sides.SpeakersMixer ? new MixersBox(*sides.HeadsetMixer, *sides.SpeakersMixer)
                                                            : nullptr}),
         1);
+    AddPageHead(*this, "How the panel takes it when something is slow, fails or is odd. A flight needs none of this.");
 }
 
 }  // namespace orvelle::deck

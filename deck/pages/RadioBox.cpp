@@ -6,7 +6,10 @@
 #include <utility>
 
 #include "deck/fields/Fields.h"
+#include "deck/fields/Frequencies.h"
+#include "deck/fields/Remark.h"
 #include "deck/fields/TextField.h"
+#include "deck/pages/RadioRemarks.h"
 #include "platform/RadioSelection.h"
 #include "platform/sides/NetworkSide.h"
 
@@ -41,8 +44,6 @@ int EntryOf(Long software) {
     return -1;
 }
 
-QString RadioName(int radio) { return radio == 0 ? "COM1" : "COM2"; }
-
 int SelectionOf(const std::string& text) {
     for (int index = 0; index < NoSelection; ++index)
         if (text == Selections[index]) return index;
@@ -71,6 +72,7 @@ RadioBox::RadioBox(NetworkSide& framework)
                            [this](const std::string& text) { network.SetReceive(text); })),
       transmit(NewSelection("Transmit", "The radio that transmits",
                             [this](const std::string& text) { network.SetTransmit(text); })),
+      remark(new Remark("RadioRemark")),
       watch(network.Observe([this] { ShowState(); })) {
     AddCaptions({RadioName(0), RadioName(1)});
     AddRow("&Frequency", {radios[0].Frequency, radios[1].Frequency});
@@ -81,19 +83,21 @@ RadioBox::RadioBox(NetworkSide& framework)
         ++row;
     }
     AddRow("&Receive", {receive, Labelled("&Transmit", transmit)});
+    // Below all fields, none of which moves when it comes or goes.
+    AddWide(remark);
     ShowState();
 }
 
 RadioBox::Radio RadioBox::NewRadio(int radio) {
     const QString name = RadioName(radio);
     auto* frequency = NewEdit("Frequency" + name, "The frequency of " + name + "; Enter applies it",
-                              [this, radio](const std::string& text) { network.SetFrequency(radio, text); });
+                              [this, radio](const std::string& text) { Tune(radio, text); });
     frequency->setPlaceholderText(radio == 0 ? "122.800" : "121.500");
     auto* software = NewChoice(
         "Software" + name, "The voice software that serves " + name, SoftwareNames(), [this, radio](int index) {
             RadioVoiceSetting voice = network.Session().Voice.at(static_cast<std::size_t>(radio));
             voice.Software = SoftwareEntries[index].Code;
-            network.SetVoice(radio, voice);
+            SetVoice(radio, voice);
         });
     return {frequency,
             software,
@@ -103,12 +107,29 @@ RadioBox::Radio RadioBox::NewRadio(int radio) {
              NewVoiceEdit(radio, "Password", "The password for the server", &RadioVoiceSetting::Password)}};
 }
 
+// A frequency that is none leaves the radio as it is, and so does the field.
+void RadioBox::Tune(int radio, const std::string& typed) {
+    const std::optional<std::string> frequency = TunedFrequency(typed);
+    const std::string held = network.Session().Frequency.at(static_cast<std::size_t>(radio));
+    refused = frequency ? QString() : RefusedFrequency(radio, typed, held);
+    radios.at(static_cast<std::size_t>(radio)).Frequency->Show(frequency.value_or(held));
+    if (frequency) network.SetFrequency(radio, *frequency);
+    ShowRemark();
+}
+
+// Who goes on to something else has read what was refused.
+void RadioBox::SetVoice(int radio, const RadioVoiceSetting& voice) {
+    refused.clear();
+    network.SetVoice(radio, voice);
+    ShowRemark();
+}
+
 TextField* RadioBox::NewVoiceEdit(int radio, const QString& name, const QString& toolTip, VoiceText text) {
     return NewEdit(name + RadioName(radio), toolTip + " of " + RadioName(radio) + "; Enter applies it",
                    [this, radio, text](const std::string& value) {
                        RadioVoiceSetting voice = network.Session().Voice.at(static_cast<std::size_t>(radio));
                        voice.*text = value;
-                       network.SetVoice(radio, voice);
+                       SetVoice(radio, voice);
                    });
 }
 
@@ -129,6 +150,9 @@ void RadioBox::ShowState() {
     }
     receive->setCurrentIndex(SelectionOf(session.Receive));
     transmit->setCurrentIndex(SelectionOf(session.Transmit));
+    ShowRemark();
 }
+
+void RadioBox::ShowRemark() { remark->Show(refused.isEmpty() ? MissingOnRadios(network.Session()) : refused); }
 
 }  // namespace orvelle::deck

@@ -1,5 +1,5 @@
 // The radio set of the session: both radios with their voice records side by side, and which of them are received and
-// transmitted on. Each change raises its event at the panel.
+// transmitted on. Each change raises its event at the panel; a frequency that is none is refused with a remark.
 #pragma once
 
 #include <array>
@@ -18,6 +18,7 @@ struct RadioVoiceSetting;
 
 namespace orvelle::deck {
 
+class Remark;
 class TextField;
 
 class RadioBox : public Section {
@@ -35,12 +36,17 @@ private:
     Radio NewRadio(int radio);
     TextField* NewVoiceEdit(int radio, const QString& name, const QString& toolTip, VoiceText text);
     QComboBox* NewSelection(const QString& name, const QString& toolTip, std::function<void(const std::string&)> apply);
+    void Tune(int radio, const std::string& typed);
+    void SetVoice(int radio, const RadioVoiceSetting& voice);
     void ShowState();
+    void ShowRemark();
 
     NetworkSide& network;
     std::array<Radio, 2> radios;
     QComboBox* receive;
     QComboBox* transmit;
+    Remark* remark;
+    QString refused;  // the sentence on a frequency, "" for none
     Ticket watch;
 };
 

@@ -45,12 +45,15 @@ void RefusalsBox::AddNetwork(PlayedNetworkSide& network) {
     AddRow("Refused", {NewRefusal("RefuseSession", "Open session", refuse.OpenSession),
                        NewRefusal("RefuseCreate", "Create record", refuse.CreateInterface),
                        NewRefusal("RefuseOpen", "Open record", refuse.OpenInterface)});
-    auto* type = NewPlainEdit("OddType", VoiceRecordType, "The record's type");
-    auto* role = NewPlainEdit("OddRole", "RWCom3", "The record's role");
-    AddRow("Odd record",
-           {type, role, NewButton("OddClaim", "Claim", "Another computer makes this record", [=, &network] {
-                network.Claim(RecordOwner, FromQt(role->text()), FromQt(type->text()));
-            })});
+    auto* type =
+        NewPlainEdit("OddType", VoiceRecordType,
+                     "The type of a record that another computer makes; the panel minds those of the type VOICE alone");
+    auto* role = NewPlainEdit("OddRole", "RWCom3", "The role of that record; the panel minds those that it has itself");
+    AddRow("Strange record",
+           {type, role,
+            NewButton("OddClaim", "Make it",
+                      "Another computer makes this record, which no panel would make; the panel must leave it alone",
+                      [=, &network] { network.Claim(RecordOwner, FromQt(role->text()), FromQt(type->text())); })});
 }
 
 void RefusalsBox::AddNotices(Notices& notices) {

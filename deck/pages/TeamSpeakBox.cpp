@@ -23,10 +23,14 @@ std::map<std::string, Long> ChannelsOf(const std::string& text) {
 }
 
 QSpinBox* NewResult(const QString& name, Integer& result) {
-    auto* box = NewNumber(name, "The result in place of success; 0 for none", std::numeric_limits<Integer>::min(),
-                          std::numeric_limits<Integer>::max(),
-                          [&result](int number) { result = static_cast<Integer>(number); });
+    auto* box =
+        NewNumber(name, "What TeamSpeak answers to this call of the panel: 0 is success, any other number a failure",
+                  std::numeric_limits<Integer>::min(), std::numeric_limits<Integer>::max(),
+                  [&result](int number) { result = static_cast<Integer>(number); });
+    const auto tellMeaning = [box] { box->setSuffix(box->value() == 0 ? "  succeeds" : "  fails"); };
+    QObject::connect(box, &QSpinBox::valueChanged, box, tellMeaning);
     ShowNumber(*box, result);
+    tellMeaning();
     return box;
 }
 
@@ -44,16 +48,17 @@ TeamSpeakBox::TeamSpeakBox(TeamSpeakSide& program)
     auto* channels = NewEdit("TeamSpeakChannels", "The channels of every server, with commas between; Enter applies",
                              [this](const std::string& text) { teamSpeak.SetChannels(ChannelsOf(text)); });
     channels->setPlaceholderText("Lobby, Tower");
-    auto* padding = NewChoice(
-        "TeamSpeakPadding", "What fills the field of the server's address behind it", {"Blanks", "Zeros"},
-        [this](int index) { teamSpeak.SetPadding(index == 0 ? AddressPadding::Blanks : AddressPadding::Zeros); });
+    auto* padding = NewChoice("TeamSpeakPadding", "What fills the field of the server's address behind it",
+                              {"Ends in blanks", "Ends in zeros"}, [this](int index) {
+                                  teamSpeak.SetPadding(index == 0 ? AddressPadding::Blanks : AddressPadding::Zeros);
+                              });
     TeamSpeakResults& results = teamSpeak.Fail();
 
     AddRow("Program", {running});
     AddRow("Server", {place});
     AddRow("Last URL", {url});
     AddRow("Channels", {channels});
-    AddRow("Padding", {padding, new QWidget});
+    AddRow("Address field", {padding, new QWidget});
     AddRow("Connect", {NewResult("ConnectResult", results.Connect), new QWidget});
     AddRow("Disconnect", {NewResult("DisconnectResult", results.Disconnect), new QWidget});
     AddRow("Server info", {NewResult("ServerInfoResult", results.ServerInfo), new QWidget});

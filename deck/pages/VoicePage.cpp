@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "deck/fields/PageHead.h"
 #include "deck/pages/CalibrationDialog.h"
 #include "deck/pages/DevicesBox.h"
 #include "deck/pages/EngineBox.h"
@@ -34,6 +35,9 @@ VoicePage::VoicePage(const FarSides& sides) {
     row->setSpacing(3 * Unit);
     row->addLayout(column, 1);
     if (sides.Network) row->addWidget(new ParametersBox(*sides.Network), 1);
+    AddPageHead(
+        *this,
+        "What the panel has the voice engine do, and how its starts and joins go. A flight needs no change here.");
 }
 
 }  // namespace orvelle::deck

@@ -1,8 +1,10 @@
 // The network's side but its records: link, session and radios.
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <algorithm>
+#include <utility>
 
 #include "deck/FirstFlight.h"
 #include "tests/deck/DeckRig.h"
@@ -61,6 +63,67 @@ TEST_F(DeckNetwork, FrequencyAndSelectionsRaiseRadioChanged) {
     EXPECT_EQ(session.Receive, "B");
     EXPECT_EQ(session.Transmit, "1");
     for (const std::string& event : TakeEvents()) EXPECT_EQ(event, "radio changed");
+}
+
+TEST_F(DeckNetwork, AFrequencyIsShownAsARadioShowsIt) {
+    ConnectAll();
+    const std::pair<const char*, const char*> typed[] = {{"122.8", "122.800"},
+                                                         {"122,8", "122.800"},
+                                                         {"118", "118.000"},
+                                                         {" 136.99 ", "136.990"},
+                                                         {"118.02", "118.025"},
+                                                         {"118.005", "118.005"},
+                                                         {"", ""}};
+    for (const auto& [text, shown] : typed) {
+        Type("FrequencyCOM1", text);
+        EXPECT_EQ(setUp.NetworkLink.Session().Frequency[0], shown) << text;
+        EXPECT_EQ(At<QLineEdit>("FrequencyCOM1").text(), shown) << text;
+        EXPECT_FALSE(At<QLabel>("RadioRemark").isVisible()) << text;
+    }
+}
+
+TEST_F(DeckNetwork, AFrequencyThatIsNoneIsRefusedWithARemark) {
+    ConnectAll();
+    Type("FrequencyCOM2", "121.500");
+    TakeEvents();
+    for (const char* text :
+         {"abc", "99999999999999.5", "117.975", "136.995", "118.020", "118.001", "122.8000", "-122.8", "122.8 MHz"}) {
+        Type("FrequencyCOM2", text);
+        EXPECT_EQ(setUp.NetworkLink.Session().Frequency[1], "121.500") << text;
+        EXPECT_EQ(At<QLineEdit>("FrequencyCOM2").text(), "121.500") << text;
+        EXPECT_TRUE(At<QLabel>("RadioRemark").isVisible()) << text;
+    }
+    Type("FrequencyCOM2", "<b>tower</b> of Innsbruck and others");
+    EXPECT_EQ(TextOf("RadioRemark"),
+              "COM2 stays on 121.500: \"<b>tower</b> of Innsbruc…\" is none of its frequencies, 118.000 to 136.990 in "
+              "steps of 25 or 8.33 kHz.");
+    EXPECT_EQ(TakeEvents(), Events({}));
+    Type("FrequencyCOM1", "122.8");
+    EXPECT_FALSE(At<QLabel>("RadioRemark").isVisible());
+    Type("FrequencyCOM1", "abc");
+    Type("LoginCOM2", "pilot");
+    EXPECT_FALSE(At<QLabel>("RadioRemark").isVisible()) << "the user went on to something else";
+}
+
+TEST_F(DeckNetwork, WhatTheFarSideSaysIsShownWhateverItIs) {
+    ConnectAll();
+    setUp.NetworkLink.SetFrequency(0, "Unicom");
+    Settle();
+    EXPECT_EQ(At<QLineEdit>("FrequencyCOM1").text(), "Unicom");
+}
+
+TEST_F(DeckNetwork, ARadioThatLacksItsServerOrChannelIsTold) {
+    ConnectAll();
+    EXPECT_FALSE(At<QLabel>("RadioRemark").isVisible());
+    Pick("SoftwareCOM1", 3);
+    EXPECT_EQ(TextOf("RadioRemark"), "COM1 needs a server and a channel for VATSIM.");
+    Type("ServerCOM1", "voice.example");
+    EXPECT_EQ(TextOf("RadioRemark"), "COM1 needs a channel for VATSIM.");
+    Pick("SoftwareCOM2", 5);
+    EXPECT_EQ(TextOf("RadioRemark"), "COM1 needs a channel for VATSIM. COM2 needs a server for Voice ATIS.");
+    Type("ChannelCOM1", "tower");
+    Pick("SoftwareCOM2", 0);
+    EXPECT_FALSE(At<QLabel>("RadioRemark").isVisible());
 }
 
 TEST_F(DeckNetwork, EachSelectionHasItsText) {

@@ -1,5 +1,8 @@
 // The simulator's side but its keyboard: link, servers, joysticks, sounds and starts of programs.
+#include <QAction>
 #include <QCheckBox>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QListWidget>
 
@@ -141,6 +144,30 @@ TEST_F(DeckSimulator, TheListOfSoundsKeepsTheLast200) {
     EXPECT_EQ(list.count(), 200);
     EXPECT_TRUE(list.item(0)->text().endsWith("  52"));
     EXPECT_TRUE(list.item(199)->text().endsWith("  last"));
+}
+
+TEST_F(DeckSimulator, LinesOfAListAreCopiedInTheirOrderAndCleared) {
+    for (const char* line : {"one", "two", "three"}) window.TellOfProgram(line);
+    auto& list = At<QListWidget>("Programs");
+    list.setFocus();
+    const auto clickLine = [&list](int row, Qt::KeyboardModifiers modifiers) {
+        list.scrollToItem(list.item(row));
+        ClickMouse(list.viewport(), Qt::LeftButton, modifiers, list.visualItemRect(list.item(row)).center());
+    };
+    clickLine(2, {});
+    clickLine(0, Qt::ControlModifier);
+    ClickKey(&list, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), list.item(0)->text() + "\n" + list.item(2)->text());
+    const QList<QAction*> menu = list.actions();
+    ASSERT_EQ(menu.size(), 3);
+    menu.at(1)->trigger();
+    menu.at(0)->trigger();
+    EXPECT_EQ(QGuiApplication::clipboard()->text().count('\n'), 2);
+    menu.at(2)->trigger();
+    EXPECT_EQ(list.count(), 0);
+    EXPECT_FALSE(menu.at(0)->isEnabled());
+    window.TellOfProgram("four");
+    EXPECT_EQ(list.count(), 1);
 }
 
 TEST_F(DeckSimulator, AFailedStartIsToldInItsSentence) {

@@ -6,6 +6,8 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QPointer>
 #include <set>
 
 #include "tests/deck/DeckRig.h"
@@ -143,6 +145,40 @@ TEST_F(DeckWindowTest, ADeckThatGoesLeavesTheSetUpAlone) {
     Settle();
     float value = 0;
     EXPECT_FALSE(setUp.VVL.Calibrate(-1, -1, value, value));
+}
+
+TEST_F(DeckWindowTest, AboutTellsTheVersion) {
+    QCoreApplication::setApplicationVersion("1.2.3");
+    Click("About");
+    const QPointer<QMessageBox> box = &At<QMessageBox>("AboutBox");
+    EXPECT_TRUE(box->isVisible());
+    EXPECT_TRUE(box->text().contains("Orvelle Control Panel 1.2.3")) << box->text().toStdString();
+    ClickMouse(box->button(QMessageBox::Close), Qt::LeftButton);
+    Settle();
+    EXPECT_TRUE(!box || !box->isVisible());
+}
+
+TEST_F(DeckWindowTest, ThePageStaysInItsPlaceWhileItsWordsChange) {
+    ConnectAll();
+    const auto places = [this] {
+        std::vector<QPoint> found;
+        for (const char* name : {"SimulatorLink", "SimulatorServerSeen", "KeyboardField", "FrequencyCOM1", "ServerCOM1",
+                                 "ChannelCOM2", "Receive"})
+            found.push_back(At<QWidget>(name).mapTo(&window, QPoint()));
+        return found;
+    };
+    const std::vector<QPoint> before = places();
+    Type("FrequencyCOM1", "abc");
+    EXPECT_EQ(places(), before);
+    Pick("SoftwareCOM1", 3);
+    setUp.NetworkLink.SetStatus(1);
+    Type("ServerCOM1", "voice.example");
+    setUp.VVL.Start(3);
+    Settle();
+    setUp.VVL.RoomJoin(0, "ORV123", "voice.example/");
+    Settle();
+    EXPECT_TRUE(TextOf("NextStep").contains("Key mappings"));
+    EXPECT_EQ(places(), before);
 }
 
 }  // namespace

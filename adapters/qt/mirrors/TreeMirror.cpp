@@ -42,6 +42,8 @@ void TreeMirror::ShowNodes(const std::vector<std::unique_ptr<TreeNode>>& nodes, 
             child = new QTreeWidgetItem;
             child->setData(0, NodeRole, QVariant::fromValue(static_cast<void*>(node.get())));
             item.insertChild(place, child);
+            // What is directly below a topmost node is seen from the beginning.
+            if (item.treeWidget()->indexOfTopLevelItem(&item) >= 0) item.setExpanded(true);
         }
         child->setText(0, ToQt(node->Text));
         ShowNodes(node->Children, *child);

@@ -20,6 +20,8 @@ constexpr int Places = Columns * Rows;
 constexpr int CaptionSize = 88;
 constexpr int DetailSize = 40;
 constexpr int FaceEdgeSize = 20;
+// From this place on a lamp is a voice software's, which a computer may well do without: its R is no alarm.
+constexpr int FirstSoftware = 3;
 constexpr const char* Captions[Places] = {"FS", "NET", "USER", "RW", "TS", "VOICE"};
 
 // A cross of two strokes, row by row in whole device pixels: lines drawn smoothly blur into a blot at this size.
@@ -34,6 +36,18 @@ void DrawCross(QPainter& painter, const QRectF& box, qreal pixel) {
         painter.drawRect(QRectF(box.left() + inset * pixel, y, stroke * pixel, pixel));
         painter.drawRect(QRectF(box.right() - (inset + stroke) * pixel, y, stroke * pixel, pixel));
     }
+}
+
+// A ring of a dull red: the software isn't at work here.
+void DrawRestingLamp(QPainter& painter, const QRectF& box, bool detailed, qreal pixel) {
+    const QColor colour(0xc0, 0x86, 0x81);
+    if (detailed) return DrawSign(painter, box, Sign::Off, colour);
+    QPainterPath ring;
+    ring.addRoundedRect(box, box.width() / 2, box.width() / 2);
+    QPainterPath hole;
+    const qreal stroke = std::max(1.0, std::round(box.width() / pixel / 5)) * pixel;
+    hole.addRoundedRect(box.adjusted(stroke, stroke, -stroke, -stroke), box.width() / 4, box.width() / 4);
+    painter.fillPath(ring.subtracted(hole), colour);
 }
 
 void DrawSmallLamp(QPainter& painter, const QRectF& box, char letter, qreal pixel) {
@@ -146,7 +160,11 @@ void DrawStatusImage(QPainter& painter, const QRectF& area, const std::string& k
         const int row = place / Columns;
         const QRectF box(left + column * (width + gap), top + row * (height + captionHeight + rowGap), width, height);
         const std::size_t position = static_cast<std::size_t>(place);
-        DrawLamp(painter, box, position < key.size() ? key[position] : ' ', detailed, pixel);
+        const char letter = position < key.size() ? key[position] : ' ';
+        if (letter == 'R' && place >= FirstSoftware)
+            DrawRestingLamp(painter, box, detailed, pixel);
+        else
+            DrawLamp(painter, box, letter, detailed, pixel);
         if (!captions) continue;
         QFont font = QGuiApplication::font();
         font.setPixelSize(std::max(1, static_cast<int>(size * 0.075)));

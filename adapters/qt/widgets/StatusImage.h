@@ -1,8 +1,9 @@
 // The status picture: a little annunciator of six lamps, drawn from the six letters of its key. The upper row is the
 // simulator link, the framework link and the user, the lower row RogerWilco, TeamSpeak and VATSIM voice; each says its
-// letter by shape and colour: V a green disc, R a red cross, Y a yellow triangle. It brings its own dark face, so that
-// it reads on any background, and is drawn anew for every size, 16 to 256 pixels and beyond. The tray, the taskbar and
-// the overview show it. Letters that are none of the three leave their place dark.
+// letter by shape and colour: V a green disc, R a red cross, or with a voice software, which may well be off, a ring of
+// a dull red, Y a yellow triangle. It brings its own dark face, so that it reads on any background, and is drawn anew
+// for every size, 16 to 256 pixels and beyond. The tray, the taskbar and the overview show it. Letters that are none of
+// the three leave their place dark.
 #pragma once
 
 #include <QColor>

@@ -174,11 +174,12 @@ protected:
     }
 };
 
-TEST_F(TreeTest, TheNodesStandInTheirOrderAndOneIsExpanded) {
+TEST_F(TreeTest, TheNodesStandInTheirOrderAndTheTopmostAreOpen) {
     ASSERT_EQ(Tree().topLevelItemCount(), 3);
     EXPECT_EQ(Tree().topLevelItem(0)->text(0), QStringLiteral("Config"));
     EXPECT_TRUE(Tree().topLevelItem(0)->isExpanded());
-    EXPECT_FALSE(Tree().topLevelItem(1)->isExpanded());
+    EXPECT_TRUE(Tree().topLevelItem(1)->isExpanded());
+    EXPECT_FALSE(Tree().topLevelItem(0)->child(1)->isExpanded());
     EXPECT_EQ(Tree().topLevelItem(0)->child(1)->child(0)->text(0), QStringLiteral("Extra"));
     EXPECT_EQ(events, Events{});
 }

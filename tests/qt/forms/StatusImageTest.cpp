@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <cmath>
 #include <set>
+#include <utility>
+#include <vector>
 
 #include "panel/Controls.h"
 
@@ -84,6 +86,31 @@ TEST_F(StatusImageTest, EachLetterHasItsPlaceOfItsOwn) {
                 if (lit.pixel(x, y) != dark.pixel(x, y)) changed |= QRect(x, y, 1, 1);
         EXPECT_EQ(changed.center().x() / 16, place % 3) << place;
         EXPECT_EQ(changed.center().y() / 24, place / 3) << place;
+    }
+}
+
+TEST_F(StatusImageTest, AVoiceSoftwareThatIsOffIsAnEmptyRing) {
+    // The points that a lamp lights, from its own corner on.
+    const auto shapeOf = [](int place, char letter, int size) {
+        std::string key(6, ' ');
+        const QImage dark = StatusPixmap(key, size).toImage();
+        key[static_cast<std::size_t>(place)] = letter;
+        const QImage lit = StatusPixmap(key, size).toImage();
+        std::vector<std::pair<int, int>> points;
+        QRect lamp;
+        for (int y = 0; y < size; ++y)
+            for (int x = 0; x < size; ++x)
+                if (qGray(lit.pixel(x, y)) > qGray(dark.pixel(x, y)) + 40) {
+                    points.emplace_back(x, y);
+                    lamp |= QRect(x, y, 1, 1);
+                }
+        for (auto& [x, y] : points) x -= lamp.left(), y -= lamp.top();
+        return points;
+    };
+    for (const int size : {16, 22, 32, 48}) {
+        EXPECT_NE(shapeOf(0, 'R', size), shapeOf(3, 'R', size)) << size;
+        for (int place = 3; place < 6; ++place)
+            EXPECT_LT(shapeOf(place, 'R', size).size(), shapeOf(place, 'V', size).size()) << place << " at " << size;
     }
 }
 
