@@ -45,7 +45,7 @@ public:
     void OpenDoor(const WindowTable& table, Control& control);
 
     Event<const std::string&> Told;      // a sentence for the user about what this computer can't do
-    Event<const std::string&> KeysTold;  // one about the keys that the panel presses; it needs no answer
+    Event<const std::string&> KeysTold;  // one on the windows that its keys don't reach; it needs no answer
     Event<> FileChanged;
     Event<const std::string&> ProgramTold;  // a sentence about a program that was started, or was not
 

@@ -27,6 +27,7 @@ void KeyHolder::Begin() {
     for (const int keyCode : target.NotedKeys()) held.Insert(keyCode);
     ReleaseAll();
     TellProblem();
+    if (!server.LimitProblem().empty()) LimitTold(server.LimitProblem());
 }
 
 void KeyHolder::Press(int keyCode) {

@@ -37,6 +37,8 @@ public:
 
     // What keeps keys from being pressed, or from being let go whatever happens; one sentence, once until it is over.
     Event<const std::string&> Told;
+    // At the beginning, that keys reach not every window of the session; one sentence.
+    Event<const std::string&> LimitTold;
 
 private:
     void LetGo(const std::vector<int>& keyCodes);

@@ -50,9 +50,9 @@ void KeyServer::Choose() {
 
 std::string KeyServer::Problem() const {
     if (kernel) return kernel->Problem();
-    const std::string problem = connection ? connection->Problem() : "";
-    // Of a server that never was there, the session's own sentence tells more.
-    return limit.empty() || (hadServer && !problem.empty()) ? problem : limit;
+    // A session without any server has its limit, which tells more.
+    const bool isLimitedToNothing = !limit.empty() && !hadServer;
+    return connection && !isLimitedToNothing ? connection->Problem() : "";
 }
 
 std::string KeyServer::Character(int keyCode) {

@@ -24,8 +24,10 @@ public:
     StrokeTarget& Reach();
     // The character of a key by the current layout, "" where there is none.
     std::string Character(int keyCode);
-    // Why strokes can't be sent, or don't reach every window; of what was reached last, "" also before.
+    // Why strokes can't be sent; of what was reached last, "" also before.
     std::string Problem() const;
+    // Which windows strokes don't reach in a Wayland session; one sentence, "" where they reach all.
+    const std::string& LimitProblem() const { return limit; }
     // The descriptor of the keyboard in the kernel; -1 where strokes go to an X server, or nowhere yet.
     int KernelDescriptor() const { return kernel ? kernel->Descriptor() : -1; }
 

@@ -48,7 +48,8 @@ ThisComputer::ThisComputer(ThisProcess& process, EventLoop& loop, orvelle::Regis
     // A held key is then told from one that is struck again and again.
     TellRepeatsAsPresses();
     parts->ReleaseAtEnd = process.AtEnd([this] { parts->Keyboard.Keys.ReleaseAll(); });
-    parts->Keyboard.Keys.Told = [this](const std::string& sentence) { KeysTold(sentence); };
+    parts->Keyboard.Keys.Told = [this](const std::string& sentence) { Told(sentence); };
+    parts->Keyboard.Keys.LimitTold = [this](const std::string& sentence) { KeysTold(sentence); };
     parts->Autostart.Told = [this](const std::string& sentence) { Told(sentence); };
     parts->Processes.Told = [this](const std::string& sentence) { ProgramTold(sentence); };
     parts->ProcessesReady = loop.WhenReadable(parts->Processes.Descriptor(), [this] { parts->Processes.Serve(); });

@@ -1,6 +1,7 @@
 #include "adapters/linux/Joysticks.h"
 
 #include "adapters/linux/EvdevKeyboards.h"
+#include "adapters/linux/KernelKeyboard.h"
 #include "tests/devices/DeviceRig.h"
 #include "tests/devices/MockedDevices.h"
 
@@ -106,6 +107,16 @@ TEST_F(JoysticksTest, ThatLostEventsAreAskedWhatIsHeld) {
 }
 
 const MockedDevice Keys{"Keyboard", {KEY_LEFTCTRL, KEY_A, KEY_F8, KEY_RIGHTALT}, {}, {KEY_LEFTCTRL}};
+
+// A panel on the same computer would hear itself.
+TEST_F(JoysticksTest, StandBesideThePanelsOwnKeyboardThatIsNotRead) {
+    MockedDevice panels = Keys;
+    panels.Name = KernelKeyboard::Name;
+    devices.Add(1, panels);
+    const EvdevKeyboards keyboards(loop, side);
+    EXPECT_NE(keyboards.Problem(), "");
+    EXPECT_EQ(side.HeldSequence(), "");
+}
 
 TEST_F(JoysticksTest, StandBesideKeyboardsThatAreReadByTheirPlaces) {
     devices.Add(1, Keys);

@@ -3,13 +3,13 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <linux/uinput.h>
-#include <stdlib.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <umockdev.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <mutex>
 #include <set>
@@ -119,7 +119,7 @@ protected:
 TEST_F(WaylandSession, HasThePanelsStrokesOnTheKeyboardInTheKernel) {
     X11Keyboard keyboard(loop, "", KEY_GUARD);
     std::string told;
-    keyboard.Keys.Told = [&](const std::string& sentence) { told += sentence; };
+    keyboard.Keys.Told = keyboard.Keys.LimitTold = [&](const std::string& sentence) { told += sentence; };
     keyboard.Keys.Begin();
     constexpr Long F12 = 88;
     keyboard.keybd_event(0, F12, KeyEventExtended, 0);

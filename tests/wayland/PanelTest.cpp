@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <QApplication>
 #include <QLabel>
 #include <QTemporaryDir>
 #include <QWindow>

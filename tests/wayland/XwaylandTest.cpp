@@ -31,7 +31,7 @@ TEST(Xwayland, TakesStrokesForXProgramsAndThatIsToldOnce) {
     XClient client("");
     std::string told;
     X11Keyboard keyboard(loop, "", KEY_GUARD, -1, "/nowhere/uinput");
-    keyboard.Keys.Told = [&](const std::string& sentence) { told += sentence + "\n"; };
+    keyboard.Keys.LimitTold = [&](const std::string& sentence) { told += sentence + "\n"; };
     keyboard.Keys.Begin();
     keyboard.keybd_event(0, 30, 0, 0);
     EXPECT_TRUE(WaitUntil([&] { return client.KeysDown() == std::vector<int>{38}; }));
