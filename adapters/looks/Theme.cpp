@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "adapters/looks/CalmStyle.h"
+#include "adapters/looks/reach/Reach.h"
 
 namespace orvelle {
 
@@ -95,6 +96,7 @@ QPalette CalmPalette(Scheme scheme) {
 }
 
 void ApplyTheme(Scheme scheme) {
+    InstallReach();
     QApplication::setStyle(new CalmStyle);
     QApplication::setPalette(CalmPalette(scheme));
 }

@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <algorithm>
 
+#include "deck/fields/FieldNames.h"
+
 namespace orvelle::deck {
 
 namespace {
@@ -52,6 +54,7 @@ void Section::AddRow(const QString& label, std::initializer_list<QWidget*> field
         caption->setBuddy(*fields.begin());
         grid->addWidget(caption, nextRow, 0);
     }
+    NameFields(label, captions, fields);
     int column = 1;
     for (const auto* field = fields.begin(); field != fields.end();) {
         const auto* next = std::find_if(field + 1, fields.end(), [](const QWidget* other) { return other != nullptr; });
@@ -68,7 +71,8 @@ void Section::AddWide(QWidget* widget, int stretch) {
     grid->setRowStretch(nextRow++, stretch);
 }
 
-void Section::AddCaptions(const QStringList& captions) {
+void Section::AddCaptions(const QStringList& texts) {
+    captions = texts;
     int column = 1;
     for (const QString& caption : captions) grid->addWidget(new QLabel(caption), nextRow, column++);
     ++nextRow;

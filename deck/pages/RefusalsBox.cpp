@@ -47,6 +47,8 @@ void RefusalsBox::AddNetwork(PlayedNetworkSide& network) {
                        NewRefusal("RefuseOpen", "Open record", refuse.OpenInterface)});
     auto* type = NewPlainEdit("OddType", VoiceRecordType, "The record's type");
     auto* role = NewPlainEdit("OddRole", "RWCom3", "The record's role");
+    type->setAccessibleName("Odd record, type");
+    role->setAccessibleName("Odd record, role");
     AddRow("Odd record",
            {type, role, NewButton("OddClaim", "Claim", "Another computer makes this record", [=, &network] {
                 network.Claim(RecordOwner, FromQt(role->text()), FromQt(type->text()));

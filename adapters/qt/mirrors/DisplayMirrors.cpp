@@ -1,5 +1,6 @@
 #include "adapters/qt/mirrors/DisplayMirrors.h"
 
+#include "adapters/looks/Reading.h"
 #include "adapters/looks/Signs.h"
 #include "adapters/looks/Text.h"
 #include "adapters/qt/widgets/SignLabel.h"
@@ -13,7 +14,11 @@ LabelMirror::LabelMirror(Label& mirroredLabel, QLabel& label)
 }
 
 void LabelMirror::ShowOwn(ControlProperty property) {
-    if (property == ControlProperty::Caption) widget.setText(ToQt(control.Caption));
+    if (property == ControlProperty::Caption) {
+        const QString before = widget.text();
+        widget.setText(ToQt(control.Caption));
+        TellWords(widget, before, widget.text());
+    }
     if (property != ControlProperty::ForeColor) return;
     QPalette palette;
     if (control.ForeColor != ButtonTextColour) {

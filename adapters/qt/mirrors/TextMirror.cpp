@@ -17,8 +17,10 @@ TextMirror::TextMirror(TextBox& textBox, QLineEdit& lineEdit)
         display.setColor(QPalette::Base, display.color(QPalette::Window));
         widget.setPalette(display);
     }
-    connect(&widget, &QLineEdit::textEdited, this, [this](const QString& typed) {
-        control.UserType(FromQt(typed));
+    // Whoever wrote it: an assistive program doesn't type. What the control has already was written by its program.
+    connect(&widget, &QLineEdit::textChanged, this, [this](const QString& written) {
+        if (written == ToQt(control.Text)) return;
+        control.UserType(FromQt(written));
         ShowOwn(ControlProperty::Text);
     });
 }

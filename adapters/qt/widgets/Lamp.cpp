@@ -26,22 +26,23 @@ void Lamp::SetOutgoing(bool outgoing) {
 }
 
 void Lamp::SetLit(bool lit) {
+    const QString before = Words();
     isLit = lit;
-    Describe();
+    TellWords(*this, before, Words());
     update();
 }
 
 void Lamp::SetFill(Long fillColor) {
+    const QString before = Words();
     sign = SignOfFill(fillColor);
-    Describe();
+    TellWords(*this, before, Words());
     update();
 }
 
-void Lamp::Describe() {
-    setAccessibleDescription(!isLit               ? tr("off")
-                             : !letters.isEmpty() ? tr("on")
-                             : sign == Sign::Good ? tr("works")
-                                                  : tr("does not work"));
+QString Lamp::Words() const {
+    if (!isLit) return tr("off");
+    if (!letters.isEmpty()) return tr("on");
+    return sign == Sign::Good ? tr("works") : tr("does not work");
 }
 
 QSize Lamp::sizeHint() const {

@@ -16,6 +16,7 @@ constexpr int FirstFieldCharacters = 22;
 
 StatusFields::StatusFields(QWidget* parent) : QFrame(parent) {
     setFrameShape(QFrame::StyledPanel);
+    setAccessibleName(tr("Status"));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(Unit, Unit / 2, Unit, Unit / 2);
     row->setSpacing(Unit);
@@ -33,10 +34,18 @@ StatusFields::StatusFields(QWidget* parent) : QFrame(parent) {
     row->addWidget(labels[1], 1);
 }
 
+QString StatusFields::Words() const {
+    const QString first = labels[0]->text();
+    const QString second = labels[1]->text();
+    return first.isEmpty() || second.isEmpty() ? first + second : first + QLatin1String(", ") + second;
+}
+
 QString StatusFields::Text(int field) const { return labels[field]->text(); }
 
 void StatusFields::SetField(int field, const QString& text, const QString& toolTip) {
+    const QString before = Words();
     labels[field]->setText(text);
+    TellWords(*this, before, Words());
     labels[field]->setToolTip(toolTip);
     divider->setVisible(!labels[1]->text().isEmpty());
 }

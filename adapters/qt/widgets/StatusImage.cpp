@@ -21,6 +21,8 @@ constexpr int CaptionSize = 88;
 constexpr int DetailSize = 40;
 constexpr int FaceEdgeSize = 20;
 constexpr const char* Captions[Places] = {"FS", "NET", "USER", "RW", "TS", "VOICE"};
+constexpr const char* Subjects[Places] = {"simulator link", "framework link", "main pilot user",
+                                          "RogerWilco",     "TeamSpeak",      "VATSIM voice"};
 
 QColor LampColour(char letter) {
     switch (letter) {
@@ -143,6 +145,15 @@ void DrawStatusImage(QPainter& painter, const QRectF& area, const std::string& k
         painter.setPen(Qt::NoPen);
     }
     painter.restore();
+}
+
+QString StatusWords(const std::string& key) {
+    QStringList words;
+    for (std::size_t place = 0; place < std::min<std::size_t>(key.size(), Places); ++place)
+        words << QLatin1String(Subjects[place]) + QLatin1String(key[place] == 'V'   ? " on"
+                                                                : key[place] == 'Y' ? " waiting"
+                                                                                    : " off");
+    return words.join(QLatin1String(", "));
 }
 
 QIcon StatusIcon(const std::string& key) { return QIcon(new StatusIconEngine(key)); }
