@@ -15,15 +15,15 @@ void Pick(QComboBox& box, int entry) {
 
 }  // namespace
 
-ReachedChoice::ReachedChoice(QComboBox& shown) : ReachedWords(shown, QAccessible::ComboBox), box(shown) {
+void ReachedChoice::HearList() const {
+    if (selections) return;
     // While the list is open the mouse and the keys mark its entries, and the box itself sees what is picked.
-    const auto selected = [this](const QItemSelection& entries) {
+    const auto selected = [&box = box](const QItemSelection& entries) {
         if (entries.isEmpty() || box.view()->isVisible()) return;
         QMetaObject::invokeMethod(
-            &box, [&box = box, entry = entries.indexes().constFirst().row()] { Pick(box, entry); },
-            Qt::QueuedConnection);
+            &box, [&box, entry = entries.indexes().constFirst().row()] { Pick(box, entry); }, Qt::QueuedConnection);
     };
-    QObject::connect(box.view()->selectionModel(), &QItemSelectionModel::selectionChanged, &box, selected);
+    selections = QObject::connect(box.view()->selectionModel(), &QItemSelectionModel::selectionChanged, &box, selected);
 }
 
 QString ReachedChoice::text(QAccessible::Text kind) const {
@@ -39,7 +39,10 @@ QAccessible::State ReachedChoice::state() const {
 }
 
 QAccessibleInterface* ReachedChoice::child(int index) const {
-    if (index == 0) return QAccessible::queryAccessibleInterface(box.view());
+    if (index == 0) {
+        HearList();
+        return QAccessible::queryAccessibleInterface(box.view());
+    }
     return index == 1 && box.isEditable() ? QAccessible::queryAccessibleInterface(box.lineEdit()) : nullptr;
 }
 

@@ -11,7 +11,7 @@ namespace orvelle {
 
 class ReachedChoice : public ReachedWords {
 public:
-    explicit ReachedChoice(QComboBox& shown);
+    explicit ReachedChoice(QComboBox& shown) : ReachedWords(shown, QAccessible::ComboBox), box(shown) {}
 
     QString text(QAccessible::Text kind) const override;
     using ReachedWords::text;
@@ -27,7 +27,10 @@ protected:
     QString Words() const override { return box.currentText(); }
 
 private:
+    void HearList() const;
+
     QComboBox& box;
+    mutable QMetaObject::Connection selections;  // in the list, heard from when it is first looked at
 };
 
 }  // namespace orvelle
