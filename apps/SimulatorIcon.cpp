@@ -40,7 +40,7 @@ QPixmap Drawn(Sign sign, int size) {
     painter.setBrush(QColor(0x1a, 0x21, 0x28));
     painter.drawEllipse(middle, OneSize / 2, OneSize / 2);
     DrawSign(painter, QRectF(Middle - OneSize / 2, Middle - OneSize / 2, OneSize, OneSize), sign,
-             SignColour(sign, Scheme::Dark));
+             SignColour(sign, CalmPalette(Scheme::Dark)));
     return picture;
 }
 

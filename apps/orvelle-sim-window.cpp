@@ -4,7 +4,7 @@
 
 #include "adapters/linux/TerminationSignals.h"
 #include "adapters/looks/Text.h"
-#include "adapters/looks/Theme.h"
+#include "adapters/looks/DesktopTheme.h"
 #include "adapters/qt/services/Application.h"
 #include "adapters/qt/services/QtEventLoop.h"
 #include "adapters/x11/Display.h"
@@ -31,7 +31,7 @@ int main(int count, char** words) {
     }
     qt::Application application("orvelle-sim", "xcb", FailBy);
     qt::Application::setDesktopFileName("net.orvelle.OrvelleCP.Simulator");
-    ApplyTheme(SystemScheme());
+    const DesktopTheme theme;
     qt::QtEventLoop loop;
     SimulatorProgram program(loop, *command);
     SimulatorWindow window(program);

@@ -1,5 +1,6 @@
 #include "deck/fields/Section.h"
 
+#include <QEvent>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -43,9 +44,16 @@ Section::Section(const QString& name, const QString& title, int columnCount)
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(Unit);
     grid->setVerticalSpacing(Unit / 2);
-    grid->setColumnMinimumWidth(0, fontMetrics().horizontalAdvance(LongestLabel));
+    FollowFont();
     for (int column = 1; column <= columns; ++column) grid->setColumnStretch(column, 1);
     grid->addWidget(Title(title), 0, 0, 1, columns + 1);
+}
+
+void Section::FollowFont() { grid->setColumnMinimumWidth(0, fontMetrics().horizontalAdvance(LongestLabel)); }
+
+void Section::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange) FollowFont();
+    QWidget::changeEvent(event);
 }
 
 void Section::AddRow(const QString& label, std::initializer_list<QWidget*> fields) {

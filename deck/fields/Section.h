@@ -27,7 +27,12 @@ public:
     void AddCaptions(const QStringList& texts);
     QGridLayout& Grid() { return *grid; }
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void FollowFont();
+
     QGridLayout* grid;
     int columns;
     QStringList captions;

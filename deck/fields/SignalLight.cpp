@@ -37,7 +37,7 @@ void SignalLight::paintEvent(QPaintEvent*) {
     if (Words().isEmpty()) return;
     QPainter painter(this);
     const qreal side = SideIn(*this);
-    const QColor colour = SignColour(isEnabled() ? sign : Sign::Off, SchemeOf(palette()));
+    const QColor colour = SignColour(isEnabled() ? sign : Sign::Off, palette());
     DrawSign(painter, QRectF(0, (height() - side) / 2, side, side), sign, colour);
 }
 

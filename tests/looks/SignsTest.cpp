@@ -7,7 +7,7 @@
 #include <QPainter>
 
 #include "platform/controls/Label.h"
-#include "tests/looks/Contrast.h"
+#include "adapters/looks/Contrast.h"
 
 namespace orvelle {
 namespace {

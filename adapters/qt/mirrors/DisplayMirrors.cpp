@@ -1,5 +1,8 @@
 #include "adapters/qt/mirrors/DisplayMirrors.h"
 
+#include <QApplication>
+#include <QEvent>
+
 #include "adapters/looks/Reading.h"
 #include "adapters/looks/Signs.h"
 #include "adapters/looks/Text.h"
@@ -11,6 +14,12 @@ LabelMirror::LabelMirror(Label& mirroredLabel, QLabel& label)
     : Mirror(mirroredLabel, label), control(mirroredLabel), widget(label) {
     // The texts speak of "<Enter>", which is no mark-up.
     widget.setTextFormat(Qt::PlainText);
+    widget.installEventFilter(this);
+}
+
+bool LabelMirror::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ApplicationPaletteChange) ShowOwn(ControlProperty::ForeColor);
+    return Mirror::eventFilter(watched, event);
 }
 
 void LabelMirror::ShowOwn(ControlProperty property) {
@@ -22,7 +31,7 @@ void LabelMirror::ShowOwn(ControlProperty property) {
     if (property != ControlProperty::ForeColor) return;
     QPalette palette;
     if (control.ForeColor != ButtonTextColour) {
-        const QColor color = TextColour(control.ForeColor, widget.palette());
+        const QColor color = TextColour(control.ForeColor, QApplication::palette());
         palette.setColor(QPalette::Active, QPalette::WindowText, color);
         palette.setColor(QPalette::Inactive, QPalette::WindowText, color);
     }

@@ -1,5 +1,7 @@
 #include "adapters/qt/widgets/Heading.h"
 
+#include <QApplication>
+#include <QEvent>
 #include <QPainter>
 
 #include "adapters/looks/Theme.h"
@@ -7,11 +9,20 @@
 namespace orvelle::qt {
 
 Heading::Heading(QWidget* parent) : QLabel(parent) {
-    QFont large = font();
+    FollowFont();
+    setContentsMargins(0, 0, 0, Unit);
+}
+
+void Heading::FollowFont() {
+    QFont large = QApplication::font(this);
     large.setPointSizeF(large.pointSizeF() * 1.3);
     large.setWeight(QFont::DemiBold);
     setFont(large);
-    setContentsMargins(0, 0, 0, Unit);
+}
+
+void Heading::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::ApplicationFontChange) FollowFont();
+    QLabel::changeEvent(event);
 }
 
 void Heading::paintEvent(QPaintEvent* event) {

@@ -12,7 +12,11 @@ public:
     explicit Heading(QWidget* parent = nullptr);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    void FollowFont();
 };
 
 }  // namespace orvelle::qt

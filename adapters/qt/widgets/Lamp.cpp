@@ -4,6 +4,8 @@
 #include <QPainterPath>
 #include <algorithm>
 
+#include "adapters/looks/Contrast.h"
+
 namespace orvelle::qt {
 
 namespace {
@@ -59,14 +61,13 @@ void Lamp::paintEvent(QPaintEvent*) {
     } else if (isLit) {
         const qreal side = std::min(width(), height()) - Unit / 2.0;
         const QRectF area((width() - side) / 2, (height() - side) / 2, side, side);
-        DrawSign(painter, area, sign, SignColour(isEnabled() ? sign : Sign::Off, SchemeOf(palette())));
+        DrawSign(painter, area, sign, SignColour(isEnabled() ? sign : Sign::Off, palette()));
     }
 }
 
 void Lamp::DrawKey(QPainter& painter) const {
-    const Scheme scheme = SchemeOf(palette());
-    const QColor outline = SignColour(isLit ? sign : Sign::Off, scheme);
-    const QColor text = isLit ? palette().color(scheme == Scheme::Dark ? QPalette::Base : QPalette::HighlightedText)
+    const QColor outline = SignColour(isLit ? sign : Sign::Off, palette());
+    const QColor text = isLit ? Readable(palette().color(QPalette::Base), {outline}, 4.5)
                               : palette().color(QPalette::PlaceholderText);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(outline, 1));

@@ -1,5 +1,6 @@
 #include "adapters/qt/widgets/StatusFields.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 
@@ -24,7 +25,7 @@ StatusFields::StatusFields(QWidget* parent) : QFrame(parent) {
         label = new QLabel(this);
         label->setTextFormat(Qt::PlainText);
     }
-    labels[0]->setMinimumWidth(fontMetrics().averageCharWidth() * FirstFieldCharacters);
+    FollowFont();
     labels[1]->setWordWrap(true);
     divider = new QFrame(this);
     divider->setFrameShape(QFrame::VLine);
@@ -38,6 +39,15 @@ QString StatusFields::Words() const {
     const QString first = labels[0]->text();
     const QString second = labels[1]->text();
     return first.isEmpty() || second.isEmpty() ? first + second : first + QLatin1String(", ") + second;
+}
+
+void StatusFields::FollowFont() {
+    labels[0]->setMinimumWidth(fontMetrics().averageCharWidth() * FirstFieldCharacters);
+}
+
+void StatusFields::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange) FollowFont();
+    QFrame::changeEvent(event);
 }
 
 QString StatusFields::Text(int field) const { return labels[field]->text(); }

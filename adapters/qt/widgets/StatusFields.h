@@ -23,7 +23,12 @@ public:
     // `field` from 0.
     void SetField(int field, const QString& text, const QString& toolTip);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void FollowFont();
+
     QLabel* labels[Fields];
     QFrame* divider;
 };

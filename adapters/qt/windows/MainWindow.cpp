@@ -1,5 +1,6 @@
 #include "adapters/qt/windows/MainWindow.h"
 
+#include <QEvent>
 #include <algorithm>
 #include <string>
 
@@ -36,16 +37,35 @@ MainWindow::MainWindow(Form& panelForm) : FormWindow(panelForm) {
     Ui::MainWindow window;
     window.setupUi(this);
     pages = window.pages;
-    pages->setMinimumSize(PageSize(*this));
-    window.twCategory->setFixedWidth(fontMetrics().horizontalAdvance(QLatin1String(WidestNode)) +
-                                     TreeLevels * window.twCategory->indentation() + 2 * Unit);
-    window.twCategory->setPalette(SidePalette(palette()));
-    window.side->setPalette(window.twCategory->palette());
+    tree = window.twCategory;
+    side = window.side;
+    FollowFont();
+    FollowPalette();
     binder.Bind(*this);
     for (int panel = 0; panel < PageCount; ++panel)
         frames[static_cast<std::size_t>(panel)] = form.Find("Panels(" + std::to_string(panel) + ")");
     pages->setCurrentWidget(&Page(OverviewPanel));
     TellSize();
+}
+
+void MainWindow::FollowFont() {
+    pages->setMinimumSize(PageSize(*this));
+    tree->setFixedWidth(fontMetrics().horizontalAdvance(QLatin1String(WidestNode)) +
+                        TreeLevels * tree->indentation() + 2 * Unit);
+    for (QWidget* page : made)
+        if (page != nullptr) AlignToGrid(*page);
+}
+
+void MainWindow::FollowPalette() {
+    tree->setPalette(SidePalette(palette()));
+    side->setPalette(tree->palette());
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    FormWindow::changeEvent(event);
+    if (tree == nullptr) return;
+    if (event->type() == QEvent::FontChange) FollowFont();
+    if (event->type() == QEvent::PaletteChange) FollowPalette();
 }
 
 void MainWindow::TellSize() {

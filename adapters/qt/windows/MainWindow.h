@@ -10,6 +10,7 @@
 #include "adapters/qt/windows/Pages.h"
 
 class QStackedWidget;
+class QTreeWidget;
 
 namespace orvelle::qt {
 
@@ -25,11 +26,18 @@ public:
 
     void ControlChanged(Control& control, ControlProperty property) override;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void FollowFont();
+    void FollowPalette();
     int PanelOf(const Control& frame) const;
     void TellSize();
 
     QStackedWidget* pages = nullptr;
+    QTreeWidget* tree = nullptr;
+    QWidget* side = nullptr;
     std::array<Control*, PageCount> frames{};
     std::array<QWidget*, PageCount> made{};
 };

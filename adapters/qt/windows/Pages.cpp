@@ -53,6 +53,8 @@ bool IsUsed(const QGridLayout& grid, int column) {
     return false;
 }
 
+}  // namespace
+
 void AlignToGrid(QWidget& page) {
     const Columns columns = ColumnsFor(page);
     for (QPushButton* button : page.findChildren<QPushButton*>()) button->setMinimumWidth(columns.Button);
@@ -65,14 +67,16 @@ void AlignToGrid(QWidget& page) {
         for (int column = FirstButton; column <= LastButton; ++column)
             grid->setColumnMinimumWidth(column, columns.Button + (IsUsed(*grid, column) ? 0 : Unit));
     }
-    for (SliderNumber* number : page.findChildren<SliderNumber*>()) number->Follow();
 }
+
+namespace {
 
 template <typename PageForm>
 QWidget* Make(QWidget* parent) {
     auto* page = new QWidget(parent);
     PageForm().setupUi(page);
     AlignToGrid(*page);
+    for (SliderNumber* number : page->findChildren<SliderNumber*>()) number->Follow();
     return page;
 }
 

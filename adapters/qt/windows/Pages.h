@@ -14,6 +14,8 @@ constexpr int PageCount = PanelCount;
 
 // The page is named as its frame; its widgets show nothing yet.
 QWidget* MakePage(PanelNumber panel, QWidget* parent);
+// By the font that it has now.
+void AlignToGrid(QWidget& page);
 // What every page has room in, whichever is there already.
 QSize PageSize(const QWidget& window);
 
