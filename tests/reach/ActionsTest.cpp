@@ -1,4 +1,6 @@
 // What an assistive program does to a control does what a click on it does: the panel's logic answers.
+#include <algorithm>
+
 #include "tests/reach/ReachedPanel.h"
 
 namespace orvelle {
@@ -47,6 +49,16 @@ TEST_F(ActionsTest, AnEntryThatIsSelectedIsPicked) {
     ASSERT_TRUE(entry && entry.Do("Toggle"));
     EXPECT_TRUE(ComesTrue([&] { return box.Text() == "VATSIM"; }));
     EXPECT_TRUE(OverviewComesToSay("COM1 voice software: VATSIM"));
+}
+
+TEST_F(ActionsTest, ALampAndAFrequencyThatChangeAreTold) {
+    HearNames();
+    const Reached receive = InDeck("combo box", "Receive");
+    const Reached frequency = InDeck("text", "Frequency, COM1");
+    ASSERT_TRUE(receive && FindBelow(receive, "list item", "Both").Do("Toggle"));
+    ASSERT_TRUE(frequency && frequency.SetText("118.100"));
+    for (const std::string name : {"COM2 receives: on", "COM1 frequency: 118.100"})
+        EXPECT_TRUE(ComesTrue([&] { return std::count(HeardNames.begin(), HeardNames.end(), name) > 0; })) << name;
 }
 
 TEST_F(ActionsTest, AFieldThatIsWrittenIsTyped) {

@@ -53,13 +53,13 @@ void NamesTest::Check(const Reached& control, const std::string& page) {
     if (role == "push button") lacks(Has(control.Actions(), "Press"), "cannot be pressed");
 }
 
-// Into all that shows; the list and the field of a combo box are that box's.
+// Into all that shows; the list and the field of a combo box are that box's, and so are the cells of a table.
 void NamesTest::Walk(const Reached& one, const std::string& page) {
     const std::string role = one.Role();
     if (!one.Is(ATSPI_STATE_SHOWING)) return;
     if (role == "unknown" || role == "invalid") missing.push_back(page + ": \"" + one.Name() + "\" has no role");
     if (Controls.contains(role)) Check(one, page);
-    if (role == "combo box" || role == "spin button") return;
+    if (role == "combo box" || role == "spin button" || role == "table") return;
     for (const Reached& child : one.Children()) Walk(child, page);
 }
 
@@ -97,7 +97,7 @@ TEST_F(NamesTest, EveryControlOfTheDeckIsFoundByItsName) {
         Walk(Deck(), page);
     }
     EXPECT_EQ(Lines(missing), "");
-    EXPECT_GE(controls, 130U);
+    EXPECT_GE(controls, 120U);
 }
 
 TEST_F(NamesTest, WindowsAreWindows) {

@@ -108,6 +108,8 @@ bool Reached::SetText(const std::string& text) const {
 
 Reached FindBelow(const Reached& top, const std::function<bool(const Reached&)>& isIt) {
     if (!top || isIt(top)) return top;
+    // The cells of a table are no controls, and there are many.
+    if (top.Role() == "table") return Reached();
     for (const Reached& child : top.Children())
         if (Reached found = FindBelow(child, isIt); found) return found;
     return Reached();

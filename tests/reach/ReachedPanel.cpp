@@ -6,6 +6,25 @@
 
 namespace orvelle {
 
+namespace {
+
+constexpr const char* NamesEvent = "object:property-change:accessible-name";
+
+void Hear(AtspiEvent* event, void* names) {
+    if (event->source != nullptr) {
+        g_object_ref(event->source);
+        static_cast<std::vector<std::string>*>(names)->push_back(Reached(event->source).Name());
+    }
+    g_boxed_free(ATSPI_TYPE_EVENT, event);
+}
+
+}  // namespace
+
+void ReachedPanel::HearNames() {
+    listener = atspi_event_listener_new(Hear, &HeardNames, nullptr);
+    ASSERT_TRUE(atspi_event_listener_register(listener, NamesEvent, nullptr));
+}
+
 void ReachedPanel::SetUp() {
     atspi_init();
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -20,6 +39,10 @@ void ReachedPanel::SetUp() {
 }
 
 void ReachedPanel::TearDown() {
+    if (listener != nullptr) {
+        atspi_event_listener_deregister(listener, NamesEvent, nullptr);
+        g_object_unref(listener);
+    }
     if (program.state() == QProcess::NotRunning) return;
     program.terminate();
     if (!program.waitForFinished(60'000)) program.kill();

@@ -29,12 +29,16 @@ protected:
     // Something in the page that shows, or in the deck; waits for it.
     Reached InPage(const std::string& role, const std::string& name) const;
     Reached InDeck(const std::string& role, const std::string& name) const;
+    // The names that things were told to have from now on, in order.
+    void HearNames();
+    std::vector<std::string> HeardNames;
     // The panel's overview comes to have a label of that name.
     bool OverviewComesToSay(const std::string& label) const;
 
 private:
     Reached Application() const;
 
+    AtspiEventListener* listener = nullptr;
     QTemporaryDir folder;
     QProcess program;
 };

@@ -6,6 +6,7 @@
 #include "adapters/looks/Reading.h"
 #include "adapters/looks/Signs.h"
 #include "adapters/looks/Text.h"
+#include "adapters/qt/mirrors/Mnemonic.h"
 #include "adapters/qt/widgets/SignLabel.h"
 
 namespace orvelle::qt {
@@ -18,14 +19,15 @@ LabelMirror::LabelMirror(Label& mirroredLabel, QLabel& label)
 }
 
 bool LabelMirror::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::ApplicationPaletteChange) ShowOwn(ControlProperty::ForeColor);
+    if (event->type() == QEvent::PaletteChange) ShowOwn(ControlProperty::ForeColor);
     return Mirror::eventFilter(watched, event);
 }
 
 void LabelMirror::ShowOwn(ControlProperty property) {
     if (property == ControlProperty::Caption) {
         const QString before = widget.text();
-        widget.setText(ToQt(control.Caption));
+        const QString caption = ToQt(control.Caption);
+        widget.setText(widget.buddy() == nullptr ? caption : ShownCaption(caption, widget));
         TellWords(widget, before, widget.text());
     }
     if (property != ControlProperty::ForeColor) return;

@@ -34,7 +34,7 @@ void TextMirror::ShowLocked() {
 }
 
 bool TextMirror::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::ApplicationPaletteChange) ShowLocked();
+    if (event->type() == QEvent::PaletteChange) ShowLocked();
     return Mirror::eventFilter(watched, event);
 }
 

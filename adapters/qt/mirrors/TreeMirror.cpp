@@ -17,8 +17,11 @@ TreeMirror::TreeMirror(TreeView& treeView, QTreeWidget& treeWidget)
       control(treeView),
       widget(treeWidget),
       clicks(treeWidget, [this](const QModelIndex& index) {
-          // An assistive program marks a node without going to it.
-          widget.selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+          {
+              // An assistive program marks a node without going to it.
+              const ItemClicks::Quiet quiet(clicks);
+              widget.selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+          }
           // A node that has pages below it opens, as it has none, or another's, itself.
           widget.expand(index);
           control.UserClick(*NodeOf(index.data(NodeRole)));
@@ -26,14 +29,12 @@ TreeMirror::TreeMirror(TreeView& treeView, QTreeWidget& treeWidget)
     widget.setAllColumnsShowFocus(true);
     // For assistive programs Qt counts the rows of a tree in two ways that differ where it branches.
     widget.setSelectionBehavior(QAbstractItemView::SelectItems);
-    // A click beside the nodes takes the mark off; the page that shows keeps it. Off a node and on another one are two
-    // changes of one act.
-    const auto keepMark = [this] {
+    // A click beside the nodes takes the mark off; the page that shows keeps it.
+    connect(&widget, &QTreeWidget::itemSelectionChanged, this, [this] {
         const ItemClicks::Quiet quiet(clicks);
         if (widget.selectedItems().isEmpty() && widget.currentItem() != nullptr)
             widget.currentItem()->setSelected(true);
-    };
-    connect(&widget, &QTreeWidget::itemSelectionChanged, this, keepMark, Qt::QueuedConnection);
+    });
 }
 
 void TreeMirror::ShowOwn(ControlProperty property) {

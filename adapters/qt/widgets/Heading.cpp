@@ -1,7 +1,6 @@
 #include "adapters/qt/widgets/Heading.h"
 
 #include <QApplication>
-#include <QEvent>
 #include <QPainter>
 
 #include "adapters/looks/Theme.h"
@@ -18,11 +17,6 @@ void Heading::FollowFont() {
     large.setPointSizeF(large.pointSizeF() * 1.3);
     large.setWeight(QFont::DemiBold);
     setFont(large);
-}
-
-void Heading::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::ApplicationFontChange) FollowFont();
-    QLabel::changeEvent(event);
 }
 
 void Heading::paintEvent(QPaintEvent* event) {

@@ -11,12 +11,11 @@ class Heading : public QLabel {
 public:
     explicit Heading(QWidget* parent = nullptr);
 
-protected:
-    void changeEvent(QEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
-
-private:
+    // Takes its size from the program's font, as it is now.
     void FollowFont();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 };
 
 }  // namespace orvelle::qt

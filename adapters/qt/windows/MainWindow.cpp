@@ -6,6 +6,9 @@
 
 #include "adapters/looks/Theme.h"
 #include "adapters/qt/widgets/StatusImage.h"
+#include "adapters/qt/windows/Mnemonics.h"
+#include "adapters/qt/windows/Shortcuts.h"
+#include "platform/controls/Buttons.h"
 #include "platform/controls/Label.h"
 #include "ui_MainWindow.h"
 
@@ -46,6 +49,9 @@ MainWindow::MainWindow(Form& panelForm) : FormWindow(panelForm) {
         frames[static_cast<std::size_t>(panel)] = form.Find("Panels(" + std::to_string(panel) + ")");
     pages->setCurrentWidget(&Page(OverviewPanel));
     TellSize();
+    LetKeysTurnPages(*this, *tree);
+    if (auto* quit = dynamic_cast<MenuEntry*>(form.Find("mnuTrayQuit")))
+        LetKeyDo(*this, QKeySequence(Qt::CTRL | Qt::Key_Q), [quit] { quit->UserClick(); });
 }
 
 void MainWindow::FollowFont() {
@@ -89,6 +95,7 @@ QWidget& MainWindow::Page(int panel) {
         page = MakePage(static_cast<PanelNumber>(panel), pages);
         pages->addWidget(page);
         binder.Bind(*page);
+        AssignMnemonics(*page);
     }
     return *page;
 }

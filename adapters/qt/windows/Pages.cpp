@@ -7,7 +7,10 @@
 #include <algorithm>
 
 #include "adapters/looks/Theme.h"
+#include "adapters/qt/widgets/GreyedNotice.h"
+#include "adapters/qt/widgets/Heading.h"
 #include "adapters/qt/widgets/SliderNumber.h"
+#include "adapters/qt/windows/Shortcuts.h"
 #include "ui_Extra.h"
 #include "ui_FrameworkLink.h"
 #include "ui_JoyToKey.h"
@@ -57,6 +60,7 @@ bool IsUsed(const QGridLayout& grid, int column) {
 
 void AlignToGrid(QWidget& page) {
     const Columns columns = ColumnsFor(page);
+    for (Heading* heading : page.findChildren<Heading*>()) heading->FollowFont();
     for (QPushButton* button : page.findChildren<QPushButton*>()) button->setMinimumWidth(columns.Button);
     for (QGridLayout* grid : page.findChildren<QGridLayout*>()) {
         if (!grid->objectName().endsWith(QLatin1String("ieldGrid"))) continue;
@@ -77,6 +81,14 @@ QWidget* Make(QWidget* parent) {
     PageForm().setupUi(page);
     AlignToGrid(*page);
     for (SliderNumber* number : page->findChildren<SliderNumber*>()) number->Follow();
+    LetDeleteDelete(*page);
+    return page;
+}
+
+// The tables' pages are greyed while no simulator is there.
+QWidget* Telling(QWidget* page) {
+    new GreyedNotice(*page, QWidget::tr("Greyed while the simulator is not connected: its keys and buttons come over that "
+                                        "link. The page Velmarc tells how it stands."));
     return page;
 }
 
@@ -93,13 +105,13 @@ QWidget* MakePage(PanelNumber panel, QWidget* parent) {
         case TeamSpeakPanel:
             return Make<Ui::TeamSpeak>(parent);
         case JoyToKeyPanel:
-            return Make<Ui::JoyToKey>(parent);
+            return Telling(Make<Ui::JoyToKey>(parent));
         case VatsimVoicePanel:
             return Make<Ui::VatsimVoice>(parent);
         case VolumesPanel:
             return Make<Ui::Volumes>(parent);
         case KeyToKeyPanel:
-            return Make<Ui::KeyToKey>(parent);
+            return Telling(Make<Ui::KeyToKey>(parent));
         case FrameworkLinkPanel:
             return Make<Ui::FrameworkLink>(parent);
         case OptionsPanel:
