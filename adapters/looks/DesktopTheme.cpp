@@ -19,11 +19,11 @@ DesktopTheme::DesktopTheme() {
 DesktopTheme::~DesktopTheme() = default;
 
 bool DesktopTheme::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::ApplicationPaletteChange && watched == qApp && !isOurs) {
-        Follow(QGuiApplication::palette());
-    } else if (event->type() == QEvent::ThemeChange && !std::exchange(isAskDue, true)) {
-        // Each window is told.
-        QMetaObject::invokeMethod(this, [this] { AskPlatform(); }, Qt::QueuedConnection);
+    if (event->type() == QEvent::ApplicationPaletteChange && watched == qApp) {
+        FollowLater();
+    } else if (event->type() == QEvent::ThemeChange) {
+        isThemeChanged = true;
+        FollowLater();
     }
     return QObject::eventFilter(watched, event);
 }
@@ -37,12 +37,20 @@ bool DesktopTheme::BringsPalette(const QPalette& palette) const {
     return false;
 }
 
-void DesktopTheme::AskPlatform() {
-    isAskDue = false;
-    isOurs = true;
+QPalette DesktopTheme::PlatformPalette() {
     QApplication::setPalette(QPalette());
-    isOurs = false;
-    Follow(QGuiApplication::palette());
+    return QGuiApplication::palette();
+}
+
+void DesktopTheme::FollowLater() {
+    if (std::exchange(isFollowDue, true)) return;
+    const auto follow = [this] {
+        const QPalette desktop = std::exchange(isThemeChanged, false) ? PlatformPalette() : QGuiApplication::palette();
+        isFollowDue = false;
+        // The change may be our own.
+        if (desktop != ours) Follow(desktop);
+    };
+    QMetaObject::invokeMethod(this, follow, Qt::QueuedConnection);
 }
 
 void DesktopTheme::Follow(const QPalette& desktop) {
@@ -55,9 +63,8 @@ void DesktopTheme::Follow(const QPalette& desktop) {
         const Appearance& wished = portal->Wished();
         palette = CalmPalette(wished.Wanted.value_or(SchemeOf(desktop)), wished);
     }
-    isOurs = true;
     QApplication::setPalette(palette);
-    isOurs = false;
+    ours = QGuiApplication::palette();
 }
 
 }  // namespace orvelle

@@ -22,11 +22,14 @@ public:
 private:
     bool BringsPalette(const QPalette& palette) const;
     void Follow(const QPalette& desktop);
-    // Of the platform, without ours in front of it.
-    void AskPlatform();
+    // From the loop, once for all that are told of one change.
+    void FollowLater();
+    // The platform's palette, without ours in front of it.
+    static QPalette PlatformPalette();
 
-    bool isOurs = false;  // the change of the palette that is just told
-    bool isAskDue = false;
+    QPalette ours;  // as it was set last
+    bool isFollowDue = false;
+    bool isThemeChanged = false;
     std::unique_ptr<PortalAppearance> portal;
 };
 

@@ -9,6 +9,7 @@
 
 #include "adapters/looks/Contrast.h"
 #include "adapters/looks/Signs.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle {
 namespace {
@@ -96,8 +97,10 @@ TEST_F(DesktopThemeTest, APaletteThatComesLaterIsFollowed) {
     EXPECT_EQ(window.palette().color(QPalette::Window), CalmPalette(Scheme::Light).color(QPalette::Window));
     for (const Desktop& desktop : Desktops) {
         QApplication::setPalette(PaletteOf(desktop));
-        EXPECT_EQ(QApplication::palette(), CalmPalette(PaletteOf(desktop))) << desktop.Name;
+        const QPalette followed = CalmPalette(PaletteOf(desktop));
+        EXPECT_TRUE(WaitFor([&followed] { return QApplication::palette() == followed; })) << desktop.Name;
         EXPECT_EQ(window.palette().color(QPalette::Window).rgb(), desktop.Window) << desktop.Name;
+        EXPECT_EQ(window.palette().color(QPalette::Shadow), followed.color(QPalette::Shadow)) << desktop.Name;
     }
 }
 
@@ -109,9 +112,8 @@ TEST_F(DesktopThemeTest, AChangedThemeIsAskedAnew) {
     QWidget window;
     QEvent change(QEvent::ThemeChange);
     QCoreApplication::sendEvent(&window, &change);
-    QCoreApplication::processEvents();
     // This platform brings none.
-    EXPECT_EQ(QApplication::palette().color(QPalette::Window), CalmPalette(Scheme::Light).color(QPalette::Window));
+    EXPECT_TRUE(WaitFor([] { return QApplication::palette() == CalmPalette(Scheme::Light); }));
 }
 
 }  // namespace

@@ -76,7 +76,7 @@ private:
 namespace {
 
 bool WindowIs(const QPalette& palette) {
-    return QTest::qWaitFor([&] { return QApplication::palette() == palette; }, 60'000);
+    return QTest::qWaitFor([&] { return QApplication::palette() == palette; }, 20'000);
 }
 
 TEST(PortalTest, LightOrDarkAccentAndContrastAreFollowed) {

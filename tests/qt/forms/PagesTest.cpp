@@ -4,6 +4,7 @@
 #include <QStackedWidget>
 
 #include "adapters/qt/widgets/Lamp.h"
+#include "adapters/looks/Text.h"
 #include "tests/qt/forms/ShownPanel.h"
 
 namespace orvelle::qt {
