@@ -2,9 +2,9 @@
 
 #include <QDBusArgument>
 #include <QDBusConnection>
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusVariant>
 #include <utility>
 
 namespace orvelle {
@@ -44,7 +44,7 @@ PortalAppearance::PortalAppearance(std::function<void()> whenChanged) : changed(
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) return;
     bus.connect(Service, Path, Settings, QStringLiteral("SettingChanged"), this,
-                SLOT(SettingChanged(QString, QString, QDBusVariant)));
+                SLOT(SettingChanged(QDBusMessage)));
     QDBusMessage question = QDBusMessage::createMethodCall(Service, Path, Settings, QStringLiteral("ReadAll"));
     question << QStringList{Place};
     auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
@@ -60,9 +60,10 @@ void PortalAppearance::Answered(QDBusPendingCallWatcher* answer) {
     if (!settings.isEmpty()) changed();
 }
 
-void PortalAppearance::SettingChanged(const QString& place, const QString& key, const QDBusVariant& value) {
-    if (place != Place) return;
-    Take(key, value.variant());
+void PortalAppearance::SettingChanged(const QDBusMessage& message) {
+    const QVariantList parts = message.arguments();
+    if (message.signature() != QLatin1String("ssv") || parts[0].toString() != Place) return;
+    Take(parts[1].toString(), parts[2].value<QDBusVariant>().variant());
     changed();
 }
 

@@ -2,7 +2,7 @@
 // then heard of. Nothing waits for the answer; without a bus or a portal nothing is ever told.
 #pragma once
 
-#include <QDBusVariant>
+#include <QDBusMessage>
 #include <QObject>
 #include <functional>
 
@@ -23,7 +23,7 @@ public:
 
 private slots:
     void Answered(QDBusPendingCallWatcher* answer);
-    void SettingChanged(const QString& place, const QString& key, const QDBusVariant& value);
+    void SettingChanged(const QDBusMessage& message);
 
 private:
     void Take(const QString& key, const QVariant& value);
