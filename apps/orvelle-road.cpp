@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <iostream>
 
-#include "adapters/looks/Text.h"
 #include "adapters/looks/DesktopTheme.h"
+#include "adapters/looks/Text.h"
 #include "adapters/qt/services/Application.h"
 #include "apps/Road.h"
 #include "apps/ThisProcess.h"

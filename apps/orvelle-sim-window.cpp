@@ -3,8 +3,8 @@
 #include <iostream>
 
 #include "adapters/linux/TerminationSignals.h"
-#include "adapters/looks/Text.h"
 #include "adapters/looks/DesktopTheme.h"
+#include "adapters/looks/Text.h"
 #include "adapters/qt/services/Application.h"
 #include "adapters/qt/services/QtEventLoop.h"
 #include "adapters/x11/Display.h"

@@ -1,6 +1,7 @@
-// The looks of a program that follows its desktop, from the start and live: palette, accent, contrast and font. A palette
-// that the platform brings is kept in its main colours; where it brings none the desktop's portal is asked for light or
-// dark, accent and contrast. The font is the desktop's by itself. Made by main functions before the first widget.
+// The looks of a program that follows its desktop, from the start and live: palette, accent, contrast and font. A
+// palette that the platform brings is kept in its main colours; where it brings none the desktop's portal is asked for
+// light or dark, accent and contrast. The font is the desktop's by itself. Made by main functions before the first
+// widget.
 #pragma once
 
 #include <QObject>

@@ -43,8 +43,7 @@ QColor ColourOf(const QVariant& value) {
 PortalAppearance::PortalAppearance(std::function<void()> whenChanged) : changed(std::move(whenChanged)) {
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) return;
-    bus.connect(Service, Path, Settings, QStringLiteral("SettingChanged"), this,
-                SLOT(SettingChanged(QDBusMessage)));
+    bus.connect(Service, Path, Settings, QStringLiteral("SettingChanged"), this, SLOT(SettingChanged(QDBusMessage)));
     QDBusMessage question = QDBusMessage::createMethodCall(Service, Path, Settings, QStringLiteral("ReadAll"));
     question << QStringList{Place};
     auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(question), this);

@@ -1,5 +1,5 @@
-// Light or dark, accent and contrast as the desktop's portal tells them (org.freedesktop.appearance), asked for once and
-// then heard of. Nothing waits for the answer; without a bus or a portal nothing is ever told.
+// Light or dark, accent and contrast as the desktop's portal tells them (org.freedesktop.appearance), asked for once
+// and then heard of. Nothing waits for the answer; without a bus or a portal nothing is ever told.
 #pragma once
 
 #include <QDBusMessage>

@@ -1,6 +1,6 @@
-// What a widget says by what it draws, in words, for who doesn't see the screen. Assistive programs get the words as the
-// widget's text, and behind its accessible name, which tells what they are about: "COM1 receives: on". The widget itself
-// tells of new words by TellWords.
+// What a widget says by what it draws, in words, for who doesn't see the screen. Assistive programs get the words as
+// the widget's text, and behind its accessible name, which tells what they are about: "COM1 receives: on". The widget
+// itself tells of new words by TellWords.
 #pragma once
 
 #include <QAccessible>

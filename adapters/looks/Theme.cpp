@@ -82,7 +82,8 @@ Tones TonesOf(const QPalette& desktop) {
     const auto colour = [&desktop](QPalette::ColorRole role) { return desktop.color(QPalette::Active, role); };
     const QColor window = colour(QPalette::Window);
     const QColor base = colour(QPalette::Base);
-    const QColor text = Readable(colour(QPalette::WindowText), {window, base, colour(QPalette::AlternateBase)}, TextContrast);
+    const QColor text =
+        Readable(colour(QPalette::WindowText), {window, base, colour(QPalette::AlternateBase)}, TextContrast);
     const QColor button = colour(QPalette::Button);
     const auto between = [&](double share, double least) {
         return Readable(Mixed(window, text, share), {window, base, colour(QPalette::AlternateBase)}, least).rgb();
@@ -113,7 +114,8 @@ QPalette PaletteOf(const Tones& tones) {
     all(QPalette::AlternateBase, tones.Alternate);
     all(QPalette::WindowText, tones.Text);
     all(QPalette::Text, tones.Text);
-    all(QPalette::ButtonText, Readable(QColor::fromRgb(tones.Text), {QColor::fromRgb(tones.Button)}, TextContrast).rgb());
+    all(QPalette::ButtonText,
+        Readable(QColor::fromRgb(tones.Text), {QColor::fromRgb(tones.Button)}, TextContrast).rgb());
     all(QPalette::BrightText, tones.HighlightedText);
     all(QPalette::PlaceholderText, tones.Placeholder);
     all(QPalette::Highlight, tones.Highlight);

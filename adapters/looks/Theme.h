@@ -24,8 +24,8 @@ Scheme SchemeOf(const QPalette& palette);
 QPalette CalmPalette(Scheme scheme, const Appearance& appearance = {});
 // From the main colours of the desktop's palette, which stay as they are.
 QPalette CalmPalette(const QPalette& desktop);
-// Style and palette of the whole program, and what assistive programs see of it; called before the first widget is made.
-// Programs follow the desktop instead: adapters/looks/DesktopTheme.h.
+// Style and palette of the whole program, and what assistive programs see of it; called before the first widget is
+// made. Programs follow the desktop instead: adapters/looks/DesktopTheme.h.
 void ApplyTheme(Scheme scheme);
 
 }  // namespace orvelle

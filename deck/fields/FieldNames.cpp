@@ -22,8 +22,9 @@ bool IsNamed(const QWidget& field, const QString& label, bool hasCaption) {
 // Of a kind that says or takes something; others only hold such.
 bool IsField(const QWidget& widget) {
     const auto* label = qobject_cast<const QLabel*>(&widget);
-    return (label && !label->buddy()) || qobject_cast<const QAbstractButton*>(&widget) || qobject_cast<const QAbstractSpinBox*>(&widget) ||
-           qobject_cast<const QComboBox*>(&widget) || qobject_cast<const QLineEdit*>(&widget) || dynamic_cast<const Reading*>(&widget);
+    return (label && !label->buddy()) || qobject_cast<const QAbstractButton*>(&widget) ||
+           qobject_cast<const QAbstractSpinBox*>(&widget) || qobject_cast<const QComboBox*>(&widget) ||
+           qobject_cast<const QLineEdit*>(&widget) || dynamic_cast<const Reading*>(&widget);
 }
 
 void NameField(QWidget& field, const QString& label, const QString& caption) {

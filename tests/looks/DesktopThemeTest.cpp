@@ -20,12 +20,13 @@ struct Desktop {
 };
 
 // Of usual desktops, of high contrast, and two in which little stands out.
-constexpr Desktop Desktops[] = {{"Light", 0xffeff0f1, 0xffffffff, 0xff232629, 0xfffcfcfc, 0xff3daee9, 0xffffffff},
-                                {"Dark", 0xff2a2e32, 0xff1b1e20, 0xfffcfcfc, 0xff31363b, 0xff3daee9, 0xfffcfcfc},
-                                {"HighContrast", 0xffffffff, 0xffffffff, 0xff000000, 0xffffffff, 0xff000000, 0xffffffff},
-                                {"HighContrastDark", 0xff000000, 0xff000000, 0xffffff00, 0xff000000, 0xff00ffff, 0xff000000},
-                                {"Sepia", 0xffeee8d5, 0xfffdf6e3, 0xff839496, 0xffeee8d5, 0xff268bd2, 0xffeee8d5},
-                                {"Grey", 0xff808080, 0xff8a8a8a, 0xff909090, 0xff808080, 0xff7a8088, 0xff808080}};
+constexpr Desktop Desktops[] = {
+    {"Light", 0xffeff0f1, 0xffffffff, 0xff232629, 0xfffcfcfc, 0xff3daee9, 0xffffffff},
+    {"Dark", 0xff2a2e32, 0xff1b1e20, 0xfffcfcfc, 0xff31363b, 0xff3daee9, 0xfffcfcfc},
+    {"HighContrast", 0xffffffff, 0xffffffff, 0xff000000, 0xffffffff, 0xff000000, 0xffffffff},
+    {"HighContrastDark", 0xff000000, 0xff000000, 0xffffff00, 0xff000000, 0xff00ffff, 0xff000000},
+    {"Sepia", 0xffeee8d5, 0xfffdf6e3, 0xff839496, 0xffeee8d5, 0xff268bd2, 0xffeee8d5},
+    {"Grey", 0xff808080, 0xff8a8a8a, 0xff909090, 0xff808080, 0xff7a8088, 0xff808080}};
 
 QPalette PaletteOf(const Desktop& desktop) {
     QPalette palette(QColor::fromRgb(desktop.Button), QColor::fromRgb(desktop.Window));

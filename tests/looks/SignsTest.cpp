@@ -6,8 +6,8 @@
 #include <QImage>
 #include <QPainter>
 
-#include "platform/controls/Label.h"
 #include "adapters/looks/Contrast.h"
+#include "platform/controls/Label.h"
 
 namespace orvelle {
 namespace {

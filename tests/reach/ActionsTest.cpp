@@ -15,9 +15,8 @@ TEST_F(ActionsTest, ABoxThatIsToggledIsTicked) {
     ASSERT_TRUE(box && box.Do("Toggle"));
     EXPECT_TRUE(ComesTrue([&] { return box.Is(ATSPI_STATE_CHECKED); }));
     ASSERT_TRUE(OpenPage("Config", "Overview"));
-    EXPECT_TRUE(ComesTrue([this] {
-        return !FindBelow(Page(), "label", "RogerWilco: RogerWilco is disabled on this computer.");
-    }));
+    EXPECT_TRUE(ComesTrue(
+        [this] { return !FindBelow(Page(), "label", "RogerWilco: RogerWilco is disabled on this computer."); }));
 }
 
 TEST_F(ActionsTest, AButtonThatIsPressedIsClicked) {

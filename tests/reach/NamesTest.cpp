@@ -1,5 +1,5 @@
-// Every control of the panel and of the deck is found, page by page, by a name that no other one of its role on that page
-// has, with a role, what it holds, and a description without markup.
+// Every control of the panel and of the deck is found, page by page, by a name that no other one of its role on that
+// page has, with a role, what it holds, and a description without markup.
 #include <map>
 #include <regex>
 
@@ -10,9 +10,10 @@ namespace {
 
 using Missing = std::vector<std::string>;
 
-const std::set<std::string> Controls = {"check box",    "combo box", "image",  "list", "page tab", "push button", "radio button",
-                                        "slider",       "spin button", "status bar", "table", "text", "toggle button",
-                                        "tree",         "tree table",  "frame",      "dialog", "label"};
+const std::set<std::string> Controls = {"check box",   "combo box",    "image",         "list",        "page tab",
+                                        "push button", "radio button", "slider",        "spin button", "status bar",
+                                        "table",       "text",         "toggle button", "tree",        "tree table",
+                                        "frame",       "dialog",       "label"};
 
 class NamesTest : public ReachedPanel {
 protected:
@@ -74,11 +75,20 @@ TEST_F(NamesTest, EveryControlOfThePanelIsFoundByItsName) {
         const char* Name;
         const char* Page;
     };
-    for (const auto& [node, page] :
-         {Node{"Config", "Overview"}, {"Velmarc", "Velmarc"}, {"Kestrine", "Kestrine"}, {"Extra", "Extra"},
-          {"Options", "Options"}, {"Voice", "Overview"}, {"Teamspeak", "Teamspeak"}, {"RogerWilco", "RogerWilco"},
-          {"VATSIM", "VATSIM"}, {"Volumes", "Volumes"}, {"Key mappings", "Key mappings"}, {"Key Management", "Overview"},
-          {"Joy to Key", "Joy to Key"}, {"Key to Key", "Key to Key"}}) {
+    for (const auto& [node, page] : {Node{"Config", "Overview"},
+                                     {"Velmarc", "Velmarc"},
+                                     {"Kestrine", "Kestrine"},
+                                     {"Extra", "Extra"},
+                                     {"Options", "Options"},
+                                     {"Voice", "Overview"},
+                                     {"Teamspeak", "Teamspeak"},
+                                     {"RogerWilco", "RogerWilco"},
+                                     {"VATSIM", "VATSIM"},
+                                     {"Volumes", "Volumes"},
+                                     {"Key mappings", "Key mappings"},
+                                     {"Key Management", "Overview"},
+                                     {"Joy to Key", "Joy to Key"},
+                                     {"Key to Key", "Key to Key"}}) {
         ASSERT_TRUE(OpenPage(node, page)) << node;
         Walk(Page(), node);
     }
@@ -111,8 +121,7 @@ TEST_F(NamesTest, TheOverviewIsRead) {
         return FindBelow(Page(), [&](const Reached& one) {
                    return one.Role() == role && one.Name().starts_with(subject + ": ") && one.Text() &&
                           one.Name() == subject + ": " + *one.Text();
-               })
-            .Object() != nullptr;
+               }).Object() != nullptr;
     };
     for (const char* subject : {"COM1 frequency", "COM2 frequency", "COM1 receives", "COM1 transmits", "COM2 receives",
                                 "COM2 transmits", "Simulator link", "Framework link", "RogerWilco", "VATSIM voice"})

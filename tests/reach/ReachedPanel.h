@@ -1,4 +1,5 @@
-// A panel that runs as a program of its own, with empty settings, seen and worked by the bus of assistive programs alone.
+// A panel that runs as a program of its own, with empty settings, seen and worked by the bus of assistive programs
+// alone.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -40,7 +40,8 @@ QAccessibleInterface* ReachedButtonOf(QAbstractButton& button) {
     return isUsual ? new ReachedButton(button, QAccessible::Button) : nullptr;
 }
 
-// Asked for each class of an object, from its own to the last that it is made of; Qt's answer follows where ours is null.
+// Asked for each class of an object, from its own to the last that it is made of; Qt's answer follows where ours is
+// null.
 QAccessibleInterface* Reached(const QString& className, QObject* object) {
     auto* widget = qobject_cast<QWidget*>(object);
     if (widget == nullptr) return nullptr;

@@ -53,7 +53,7 @@ int ReachedChoice::indexOfChild(const QAccessibleInterface* child) const {
 
 QAccessibleInterface* ReachedChoice::childAt(int x, int y) const {
     return box.isEditable() && box.lineEdit()->rect().contains(box.lineEdit()->mapFromGlobal(QPoint(x, y))) ? child(1)
-                                                                                                           : nullptr;
+                                                                                                            : nullptr;
 }
 
 QStringList ReachedChoice::actionNames() const {

@@ -1,5 +1,6 @@
-// A label, or a widget that says by drawing (adapters/looks/Reading.h), as assistive programs see it. One that has a name
-// of its own, or a label, bears its words behind that name: a screen reader says the name of such things, and no more.
+// A label, or a widget that says by drawing (adapters/looks/Reading.h), as assistive programs see it. One that has a
+// name of its own, or a label, bears its words behind that name: a screen reader says the name of such things, and no
+// more.
 #pragma once
 
 #include <QLabel>

@@ -1,5 +1,5 @@
-// Tells on a page, in one sentence, why it is greyed, while it is; the same sentence is then the tool tip of what the page
-// holds, and what assistive programs say of the page.
+// Tells on a page, in one sentence, why it is greyed, while it is; the same sentence is then the tool tip of what the
+// page holds, and what assistive programs say of the page.
 #pragma once
 
 #include <QHash>

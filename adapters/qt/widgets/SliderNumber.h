@@ -1,4 +1,5 @@
-// The number beside a slider: shows the value of the slider that `sliderName` names, on the same page, and hides with it.
+// The number beside a slider: shows the value of the slider that `sliderName` names, on the same page, and hides with
+// it.
 #pragma once
 
 #include <QLabel>

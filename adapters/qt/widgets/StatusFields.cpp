@@ -41,9 +41,7 @@ QString StatusFields::Words() const {
     return first.isEmpty() || second.isEmpty() ? first + second : first + QLatin1String(", ") + second;
 }
 
-void StatusFields::FollowFont() {
-    labels[0]->setMinimumWidth(fontMetrics().averageCharWidth() * FirstFieldCharacters);
-}
+void StatusFields::FollowFont() { labels[0]->setMinimumWidth(fontMetrics().averageCharWidth() * FirstFieldCharacters); }
 
 void StatusFields::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange) FollowFont();

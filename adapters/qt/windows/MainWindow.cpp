@@ -56,8 +56,8 @@ MainWindow::MainWindow(Form& panelForm) : FormWindow(panelForm) {
 
 void MainWindow::FollowFont() {
     pages->setMinimumSize(PageSize(*this));
-    tree->setFixedWidth(fontMetrics().horizontalAdvance(QLatin1String(WidestNode)) +
-                        TreeLevels * tree->indentation() + 2 * Unit);
+    tree->setFixedWidth(fontMetrics().horizontalAdvance(QLatin1String(WidestNode)) + TreeLevels * tree->indentation() +
+                        2 * Unit);
     for (QWidget* page : made)
         if (page != nullptr) AlignToGrid(*page);
 }

@@ -1,5 +1,5 @@
-// Gives the buttons, boxes and labelled fields of a page the letters that lead to them with Alt: no letter twice, as many
-// controls as their captions let, and the same ones at every start.
+// Gives the buttons, boxes and labelled fields of a page the letters that lead to them with Alt: no letter twice, as
+// many controls as their captions let, and the same ones at every start.
 #pragma once
 
 class QWidget;

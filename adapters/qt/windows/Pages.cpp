@@ -87,8 +87,9 @@ QWidget* Make(QWidget* parent) {
 
 // The tables' pages are greyed while no simulator is there.
 QWidget* Telling(QWidget* page) {
-    new GreyedNotice(*page, QWidget::tr("Greyed while the simulator is not connected: its keys and buttons come over that "
-                                        "link. The page Velmarc tells how it stands."));
+    new GreyedNotice(*page,
+                     QWidget::tr("Greyed while the simulator is not connected: its keys and buttons come over that "
+                                 "link. The page Velmarc tells how it stands."));
     return page;
 }
 

@@ -28,10 +28,10 @@ void LetKeyDo(QWidget& window, const QKeySequence& keys, std::function<void()> a
 }
 
 void LetKeysTurnPages(QWidget& window, QTreeWidget& tree) {
-    for (const auto& [keys, turn] : {std::pair(Qt::CTRL | Qt::Key_PageDown, Turn::On),
-                                     std::pair(Qt::CTRL | Qt::Key_Tab, Turn::On),
-                                     std::pair(Qt::CTRL | Qt::Key_PageUp, Turn::Back),
-                                     std::pair(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, Turn::Back)})
+    for (const auto& [keys, turn] :
+         {std::pair(Qt::CTRL | Qt::Key_PageDown, Turn::On), std::pair(Qt::CTRL | Qt::Key_Tab, Turn::On),
+          std::pair(Qt::CTRL | Qt::Key_PageUp, Turn::Back),
+          std::pair(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, Turn::Back)})
         LetKeyDo(window, QKeySequence(keys), [&tree, turn = turn] { TurnPage(tree, turn); });
 }
 

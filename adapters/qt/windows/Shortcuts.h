@@ -1,5 +1,5 @@
-// Keys that do what a click elsewhere does: Delete in a table, and in the whole window Ctrl+Page Up and Down, or Ctrl+Tab,
-// for the page before and after.
+// Keys that do what a click elsewhere does: Delete in a table, and in the whole window Ctrl+Page Up and Down, or
+// Ctrl+Tab, for the page before and after.
 #pragma once
 
 #include <QKeySequence>

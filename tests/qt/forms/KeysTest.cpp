@@ -1,5 +1,5 @@
-// The keys of the panel's window: mnemonics, Delete in the tables, turning pages, the end; and pages that say why they are
-// greyed.
+// The keys of the panel's window: mnemonics, Delete in the tables, turning pages, the end; and pages that say why they
+// are greyed.
 #include <QAbstractButton>
 #include <QLabel>
 #include <QTest>

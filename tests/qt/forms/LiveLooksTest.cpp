@@ -42,9 +42,10 @@ TEST_F(LiveLooksTest, EveryPageTurnsDarkAndBack) {
         const QPalette palette = QApplication::palette();
         for (int page = 0; page < PageCount; ++page) {
             EXPECT_GT(ShareOf(page, palette.color(QPalette::Window)), 0.2) << page;
-            EXPECT_LT(ShareOf(page, CalmPalette(scheme == Scheme::Dark ? Scheme::Light : Scheme::Dark)
-                                        .color(QPalette::Window)),
-                      0.001)
+            EXPECT_LT(
+                ShareOf(page,
+                        CalmPalette(scheme == Scheme::Dark ? Scheme::Light : Scheme::Dark).color(QPalette::Window)),
+                0.001)
                 << page;
         }
         const auto& line = Widget<QLabel>(panel.StatusVelmarc);

@@ -3,8 +3,8 @@
 #include <QPushButton>
 #include <QStackedWidget>
 
-#include "adapters/qt/widgets/Lamp.h"
 #include "adapters/looks/Text.h"
+#include "adapters/qt/widgets/Lamp.h"
 #include "tests/qt/forms/ShownPanel.h"
 
 namespace orvelle::qt {
@@ -44,7 +44,8 @@ TEST_F(PagesTest, APageThatComesLateShowsWhatHasHappened) {
     panel.RWJoyClear.Enabled = false;
     panel.Panels(2).Visible = true;
     EXPECT_EQ(qobject_cast<QLineEdit*>(window.WidgetOf(panel.RWPath))->text(), QStringLiteral("path"));
-    EXPECT_EQ(WithoutMnemonic(qobject_cast<QPushButton*>(window.WidgetOf(panel.RWJoySet))->text()), QStringLiteral("Cancel"));
+    EXPECT_EQ(WithoutMnemonic(qobject_cast<QPushButton*>(window.WidgetOf(panel.RWJoySet))->text()),
+              QStringLiteral("Cancel"));
     EXPECT_FALSE(window.WidgetOf(panel.RWJoyClear)->isEnabled());
 }
 
