@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPixmap>
 
+#include "adapters/looks/Theme.h"
 #include "adapters/qt/widgets/StatusImage.h"
 
 namespace orvelle {
@@ -17,20 +18,6 @@ constexpr qreal Upwards = 0.26;
 constexpr qreal OneSize = 0.42;
 constexpr qreal OtherRadius = 0.1;
 constexpr qreal WayWidth = 0.06;
-
-QColor ColourOf(Sign sign) {
-    switch (sign) {
-        case Sign::Good:
-            return qt::LampColour('V');
-        case Sign::Bad:
-            return qt::LampColour('R');
-        case Sign::Waiting:
-            return qt::LampColour('Y');
-        case Sign::Off:
-            break;
-    }
-    return SignColour(sign, Scheme::Dark);
-}
 
 QPixmap Drawn(Sign sign, int size) {
     QPixmap picture(size, size);
@@ -53,7 +40,7 @@ QPixmap Drawn(Sign sign, int size) {
     const QPointF reach(OneSize * size / 2, OneSize * size / 2);
     painter.setBrush(qt::IconFace);
     painter.drawEllipse(middle, reach.x(), reach.y());
-    DrawSign(painter, QRectF(middle - reach, middle + reach), sign, ColourOf(sign));
+    DrawSign(painter, QRectF(middle - reach, middle + reach), sign, SignColour(sign, CalmPalette(Scheme::Dark)));
     return picture;
 }
 

@@ -15,7 +15,7 @@
 #include "adapters/linux/StartedPrograms.h"
 #include "adapters/looks/SignIcon.h"
 #include "adapters/looks/Text.h"
-#include "adapters/looks/Theme.h"
+#include "adapters/looks/DesktopTheme.h"
 #include "adapters/qt/services/Application.h"
 #include "adapters/qt/widgets/StatusImage.h"
 #include "adapters/x11/Display.h"
@@ -67,7 +67,7 @@ int main(int count, char** arguments) {
 
     qt::Application application("orvelle-ended", "xcb", [](const std::exception&) { _exit(EXIT_FAILURE); });
     qt::Application::setDesktopFileName("net.orvelle.orvellecp");
-    ApplyTheme(SystemScheme());
+    const DesktopTheme theme;
     qt::Application::setWindowIcon(qt::StatusIcon("VVVVVV"));
     if (Ask(sentences) == Answer::StartAgain) StartPanel(arguments[1]);
 }

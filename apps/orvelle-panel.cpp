@@ -2,7 +2,7 @@
 #include <cstdlib>
 #include <iostream>
 
-#include "adapters/looks/Theme.h"
+#include "adapters/looks/DesktopTheme.h"
 #include "adapters/qt/services/Application.h"
 #include "apps/PanelProgram.h"
 #include "apps/ThisProcess.h"
@@ -26,7 +26,7 @@ int main() {
                                 [](const std::exception& error) { process.EndByError(error); });
     qt::Application::setDesktopFileName("net.orvelle.orvellecp");
     qt::Application::setApplicationVersion(ORVELLE_VERSION);
-    ApplyTheme(SystemScheme());
+    const DesktopTheme theme;
     PanelProgram panel(process, UserSettings::File());
     return application.Run([&] {
         panel.Outside.WhenSoundIsKnown([&] {

@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "adapters/looks/DesktopTheme.h"
 #include "adapters/looks/Text.h"
-#include "adapters/looks/Theme.h"
 #include "adapters/qt/services/Application.h"
 #include "apps/Road.h"
 #include "apps/ThisProcess.h"
@@ -19,7 +19,7 @@ int main() {
     }
     qt::Application application("orvelle-road", process.WindowSystem(),
                                 [&](const std::exception& error) { process.EndByError(error); });
-    ApplyTheme(SystemScheme());
+    const DesktopTheme theme;
     // Made anew under a name that nobody can guess, for this user alone.
     QTemporaryDir work;
     if (!work.isValid()) {

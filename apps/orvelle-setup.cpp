@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <iostream>
 
-#include "adapters/looks/Theme.h"
+#include "adapters/looks/DesktopTheme.h"
 #include "adapters/qt/services/Application.h"
 #include "adapters/qt/services/QtEventLoop.h"
 #include "adapters/qt/widgets/StatusImage.h"
@@ -29,7 +29,7 @@ int ShowWindow(const SetUpCommand& command) {
     qt::Application::setQuitOnLastWindowClosed(true);
     qt::Application::setDesktopFileName("net.orvelle.orvellecp.setup");
     qt::Application::setWindowIcon(qt::StatusIcon("VVVVVV"));
-    ApplyTheme(SystemScheme());
+    const DesktopTheme theme;
     qt::QtEventLoop loop;
     SetUpDesk desk(loop, command.DataFolder);
     deck::JoinDialog dialog(desk);

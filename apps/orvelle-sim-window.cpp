@@ -3,8 +3,8 @@
 #include <iostream>
 
 #include "adapters/linux/TerminationSignals.h"
+#include "adapters/looks/DesktopTheme.h"
 #include "adapters/looks/Text.h"
-#include "adapters/looks/Theme.h"
 #include "adapters/qt/services/Application.h"
 #include "adapters/qt/services/QtEventLoop.h"
 #include "apps/SimulatorProgram.h"
@@ -32,7 +32,7 @@ int main(int count, char** words) {
     }
     qt::Application application("orvelle-sim", windows.Name, FailBy);
     qt::Application::setDesktopFileName("net.orvelle.orvellecp.simulator");
-    ApplyTheme(SystemScheme());
+    const DesktopTheme theme;
     qt::QtEventLoop loop;
     SimulatorProgram program(loop, *command);
     SimulatorWindow window(program);

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "adapters/looks/Contrast.h"
 #include "platform/controls/Label.h"
 
 namespace orvelle {
@@ -81,7 +82,9 @@ QPainterPath OutlineOf(const QRectF& area, Sign sign) {
 
 }  // namespace
 
-QColor SignColour(Sign sign, Scheme scheme) {
+namespace {
+
+QColor UsualColour(Sign sign, Scheme scheme) {
     const bool dark = scheme == Scheme::Dark;
     switch (sign) {
         case Sign::Good:
@@ -96,9 +99,18 @@ QColor SignColour(Sign sign, Scheme scheme) {
     return QColor::fromRgb(dark ? 0xff84919c : 0xff75818c);
 }
 
+}  // namespace
+
+QColor SignColour(Sign sign, const QPalette& palette) {
+    constexpr double Least = 4.5;
+    const auto ground = [&palette](QPalette::ColorRole role) { return palette.color(QPalette::Active, role); };
+    return Readable(UsualColour(sign, SchemeOf(palette)),
+                    {ground(QPalette::Window), ground(QPalette::Base), ground(QPalette::AlternateBase)}, Least);
+}
+
 QColor TextColour(Long foreColor, const QPalette& palette) {
     if (foreColor == ButtonTextColour) return palette.color(QPalette::WindowText);
-    if (foreColor == RedText) return SignColour(Sign::Bad, SchemeOf(palette));
+    if (foreColor == RedText) return SignColour(Sign::Bad, palette);
     return QColor(foreColor & 0xff, (foreColor >> 8) & 0xff, (foreColor >> 16) & 0xff);
 }
 

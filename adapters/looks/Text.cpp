@@ -14,4 +14,13 @@ QString PlainTip(const QString& text) {
     return text.isEmpty() ? QString() : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
 }
 
+QString WithoutMnemonic(const QString& text) {
+    QString shown;
+    for (qsizetype place = 0; place < text.size(); ++place) {
+        if (text[place] == QLatin1Char('&') && ++place == text.size()) break;
+        shown += text[place];
+    }
+    return shown;
+}
+
 }  // namespace orvelle

@@ -13,4 +13,7 @@ std::string FromQt(const QString& text);
 // A tool tip that shows `text` to the letter, whatever marks are in it; "" for none.
 QString PlainTip(const QString& text);
 
+// What a text with a mnemonic (an ampersand before the letter, two for one that stands) shows.
+QString WithoutMnemonic(const QString& text);
+
 }  // namespace orvelle

@@ -3,6 +3,8 @@
 #include <QApplication>
 
 #include "adapters/looks/CalmStyle.h"
+#include "adapters/looks/Contrast.h"
+#include "adapters/looks/reach/Reach.h"
 
 namespace orvelle {
 
@@ -54,18 +56,57 @@ constexpr Tones DarkTones{.Window = 0xff20262c,
                           .Line = 0xff3d4750,
                           .Outline = 0xff66737f};
 
-}  // namespace
+constexpr double TextContrast = 4.5;
+constexpr double OutlineContrast = 3;
+constexpr double DisabledContrast = 2.5;
 
-Scheme SchemeOf(const QPalette& palette) {
-    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness()
-               ? Scheme::Dark
-               : Scheme::Light;
+QRgb TextOn(const QColor& ground) { return Readable(Qt::white, {ground}, TextContrast).rgb(); }
+
+Tones WithAccent(Tones tones, const QColor& accent) {
+    tones.Highlight = accent.rgb();
+    tones.HighlightedText = TextOn(accent);
+    tones.Link = Readable(accent, {QColor(tones.Window), QColor(tones.Base)}, TextContrast).rgb();
+    return tones;
 }
 
-Scheme SystemScheme() { return SchemeOf(QGuiApplication::palette()); }
+Tones WithHighContrast(Tones tones, Scheme scheme) {
+    const bool isDark = scheme == Scheme::Dark;
+    tones.Window = tones.Base = tones.Alternate = tones.Button = isDark ? 0xff000000 : 0xffffffff;
+    tones.Text = tones.Placeholder = tones.Line = tones.Outline = isDark ? 0xffffffff : 0xff000000;
+    tones.Disabled = isDark ? 0xffb0b0b0 : 0xff505050;
+    return tones;
+}
 
-QPalette CalmPalette(Scheme scheme) {
-    const Tones& tones = scheme == Scheme::Dark ? DarkTones : LightTones;
+// The desktop's own colours, and between them those that it doesn't name or names too faintly.
+Tones TonesOf(const QPalette& desktop) {
+    const auto colour = [&desktop](QPalette::ColorRole role) { return desktop.color(QPalette::Active, role); };
+    const QColor window = colour(QPalette::Window);
+    const QColor base = colour(QPalette::Base);
+    const QColor text =
+        Readable(colour(QPalette::WindowText), {window, base, colour(QPalette::AlternateBase)}, TextContrast);
+    const QColor button = colour(QPalette::Button);
+    const auto between = [&](double share, double least) {
+        return Readable(Mixed(window, text, share), {window, base, colour(QPalette::AlternateBase)}, least).rgb();
+    };
+    const QColor highlight = colour(QPalette::Highlight);
+    const QColor tip = colour(QPalette::ToolTipBase);
+    return {.Window = window.rgb(),
+            .Base = base.rgb(),
+            .Alternate = colour(QPalette::AlternateBase).rgb(),
+            .Button = button.rgb(),
+            .Text = text.rgb(),
+            .Disabled = between(0.45, DisabledContrast),
+            .Placeholder = between(0.65, TextContrast),
+            .Highlight = highlight.rgb(),
+            .HighlightedText = Readable(colour(QPalette::HighlightedText), {highlight}, TextContrast).rgb(),
+            .Tip = tip.rgb(),
+            .TipText = Readable(colour(QPalette::ToolTipText), {tip}, TextContrast).rgb(),
+            .Link = Readable(colour(QPalette::Link), {window, base}, TextContrast).rgb(),
+            .Line = Mixed(window, text, 0.25).rgb(),
+            .Outline = between(0.45, OutlineContrast)};
+}
+
+QPalette PaletteOf(const Tones& tones) {
     const QColor window = QColor::fromRgb(tones.Window);
     QPalette palette(QColor::fromRgb(tones.Button), window);
     const auto all = [&](QPalette::ColorRole role, QRgb tone) { palette.setColor(role, QColor::fromRgb(tone)); };
@@ -73,7 +114,8 @@ QPalette CalmPalette(Scheme scheme) {
     all(QPalette::AlternateBase, tones.Alternate);
     all(QPalette::WindowText, tones.Text);
     all(QPalette::Text, tones.Text);
-    all(QPalette::ButtonText, tones.Text);
+    all(QPalette::ButtonText,
+        Readable(QColor::fromRgb(tones.Text), {QColor::fromRgb(tones.Button)}, TextContrast).rgb());
     all(QPalette::BrightText, tones.HighlightedText);
     all(QPalette::PlaceholderText, tones.Placeholder);
     all(QPalette::Highlight, tones.Highlight);
@@ -94,7 +136,25 @@ QPalette CalmPalette(Scheme scheme) {
     return palette;
 }
 
+}  // namespace
+
+Scheme SchemeOf(const QPalette& palette) {
+    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness()
+               ? Scheme::Dark
+               : Scheme::Light;
+}
+
+QPalette CalmPalette(Scheme scheme, const Appearance& appearance) {
+    Tones tones = scheme == Scheme::Dark ? DarkTones : LightTones;
+    if (appearance.HighContrast) tones = WithHighContrast(tones, scheme);
+    if (appearance.Accent.isValid()) tones = WithAccent(tones, appearance.Accent);
+    return PaletteOf(tones);
+}
+
+QPalette CalmPalette(const QPalette& desktop) { return PaletteOf(TonesOf(desktop)); }
+
 void ApplyTheme(Scheme scheme) {
+    InstallReach();
     QApplication::setStyle(new CalmStyle);
     QApplication::setPalette(CalmPalette(scheme));
 }

@@ -43,9 +43,7 @@ KeyboardField::KeyboardField(SimulatorSide& simulatorSide)
     setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
 
-    QFont large = sequence->font();
-    large.setPointSizeF(large.pointSizeF() * SequenceSize);
-    sequence->setFont(large);
+    FollowFont();
     sequence->setObjectName("KeysHeld");
     hint->setObjectName("KeyboardHint");
     hint->setForegroundRole(QPalette::PlaceholderText);
@@ -59,6 +57,17 @@ KeyboardField::KeyboardField(SimulatorSide& simulatorSide)
     column->addWidget(sequence);
     column->addWidget(hint);
     ShowState();
+}
+
+void KeyboardField::FollowFont() {
+    QFont large = font();
+    large.setPointSizeF(large.pointSizeF() * SequenceSize);
+    sequence->setFont(large);
+}
+
+void KeyboardField::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange) FollowFont();
+    QFrame::changeEvent(event);
 }
 
 bool KeyboardField::event(QEvent* event) {

@@ -30,6 +30,7 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     struct Held {
@@ -37,6 +38,7 @@ private:
         std::string Name;
     };
 
+    void FollowFont();
     void ReleaseAll();
     void ShowState();
 

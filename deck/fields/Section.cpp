@@ -1,10 +1,13 @@
 #include "deck/fields/Section.h"
 
+#include <QEvent>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <algorithm>
+
+#include "deck/fields/FieldNames.h"
 
 namespace orvelle::deck {
 
@@ -41,9 +44,16 @@ Section::Section(const QString& name, const QString& title, int columnCount)
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(Unit);
     grid->setVerticalSpacing(Unit / 2);
-    grid->setColumnMinimumWidth(0, fontMetrics().horizontalAdvance(LongestLabel));
+    FollowFont();
     for (int column = 1; column <= columns; ++column) grid->setColumnStretch(column, 1);
     grid->addWidget(Title(title), 0, 0, 1, columns + 1);
+}
+
+void Section::FollowFont() { grid->setColumnMinimumWidth(0, fontMetrics().horizontalAdvance(LongestLabel)); }
+
+void Section::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange) FollowFont();
+    QWidget::changeEvent(event);
 }
 
 void Section::AddRow(const QString& label, std::initializer_list<QWidget*> fields) {
@@ -52,6 +62,7 @@ void Section::AddRow(const QString& label, std::initializer_list<QWidget*> field
         caption->setBuddy(*fields.begin());
         grid->addWidget(caption, nextRow, 0);
     }
+    NameFields(label, captions, fields);
     int column = 1;
     for (const auto* field = fields.begin(); field != fields.end();) {
         const auto* next = std::find_if(field + 1, fields.end(), [](const QWidget* other) { return other != nullptr; });
@@ -68,7 +79,8 @@ void Section::AddWide(QWidget* widget, int stretch) {
     grid->setRowStretch(nextRow++, stretch);
 }
 
-void Section::AddCaptions(const QStringList& captions) {
+void Section::AddCaptions(const QStringList& texts) {
+    captions = texts;
     int column = 1;
     for (const QString& caption : captions) grid->addWidget(new QLabel(caption), nextRow, column++);
     ++nextRow;

@@ -1,6 +1,7 @@
 // A titled part of a page: rows of a label and its fields on one grid, the label columns of all sections of one width.
 #pragma once
 
+#include <QStringList>
 #include <QWidget>
 #include <initializer_list>
 
@@ -22,13 +23,19 @@ public:
     void AddRow(const QString& label, std::initializer_list<QWidget*> fields);
     // Over the whole width, labels' column included. `stretch` other than 0 takes the height that is left.
     void AddWide(QWidget* widget, int stretch = 0);
-    // Captions over the fields' columns.
-    void AddCaptions(const QStringList& captions);
+    // Captions over the fields' columns, also part of the names of the fields in the rows that follow.
+    void AddCaptions(const QStringList& texts);
     QGridLayout& Grid() { return *grid; }
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void FollowFont();
+
     QGridLayout* grid;
     int columns;
+    QStringList captions;
     int nextRow = 1;
 };
 

@@ -23,18 +23,21 @@ SignalLight::SignalLight(const QString& name) : words(new Readout(name + "Text")
 }
 
 void SignalLight::Show(Sign newSign, const QString& text) {
-    if (sign == newSign && accessibleName() == text) return;
+    const QString before = Words();
+    if (sign == newSign && before == text) return;
     words->Show(text);
-    setAccessibleName(text);
+    TellWords(*this, before, text);
     sign = newSign;
     update();
 }
 
+QString SignalLight::Words() const { return words->text(); }
+
 void SignalLight::paintEvent(QPaintEvent*) {
-    if (accessibleName().isEmpty()) return;
+    if (Words().isEmpty()) return;
     QPainter painter(this);
     const qreal side = SideIn(*this);
-    const QColor colour = SignColour(isEnabled() ? sign : Sign::Off, SchemeOf(palette()));
+    const QColor colour = SignColour(isEnabled() ? sign : Sign::Off, palette());
     DrawSign(painter, QRectF(0, (height() - side) / 2, side, side), sign, colour);
 }
 

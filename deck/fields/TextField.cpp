@@ -13,14 +13,21 @@ constexpr int LeastLetters = 12;
 
 }  // namespace
 
-TextField::TextField(std::function<void(const std::string&)> apply) {
+TextField::TextField(std::function<void(const std::string&)> apply) : applyText(std::move(apply)) {
     setMinimumWidth(fontMetrics().averageCharWidth() * LeastLetters);
-    connect(this, &QLineEdit::editingFinished, this, [this, apply = std::move(apply)] {
-        if (!isModified()) return;
-        setModified(false);
-        holding = text();
-        apply(FromQt(holding));
+    connect(this, &QLineEdit::editingFinished, this, [this] {
+        if (isModified()) Apply();
     });
+    // Written at once and not typed: by an assistive program.
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (!isModified() && text() != holding) Apply();
+    });
+}
+
+void TextField::Apply() {
+    setModified(false);
+    holding = text();
+    applyText(FromQt(holding));
 }
 
 void TextField::Show(const std::string& text) {

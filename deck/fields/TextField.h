@@ -20,8 +20,10 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void Apply();
     void ShowHolding();
 
+    std::function<void(const std::string&)> applyText;
     QString holding;
 };
 

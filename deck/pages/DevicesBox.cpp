@@ -13,7 +13,9 @@ namespace orvelle::deck {
 namespace {
 
 QCheckBox* NewFailure(const QString& name, std::function<void(bool)> apply) {
-    return NewCheck(name + "Fails", "Fails", "This device does not work", std::move(apply));
+    auto* check = NewCheck(name + "Fails", "Fails", "This device does not work", std::move(apply));
+    check->setAccessibleName(name + ", Fails");
+    return check;
 }
 
 }  // namespace
@@ -29,6 +31,8 @@ DevicesBox::DevicesBox(VoiceEngineSide& voiceEngine, const AudioDevices& audioDe
       outputs{new Readout("HeadsetDevice"), new Readout("SpeakersDevice")},
       levels{new Readout("HeadsetLevels"), new Readout("SpeakersLevels")},
       watch(engine.Observe([this] { ShowState(); })) {
+    levels[0]->setAccessibleName("Headset levels");
+    levels[1]->setAccessibleName("Speakers levels");
     AddRow("Microphone", {microphoneFails, microphone});
     AddRow("Headset", {outputFails[0], outputs[0]});
     AddRow("", {new QWidget, levels[0]});

@@ -32,18 +32,23 @@ LinkBox::LinkBox(const QString& name, const QString& title, const QString& switc
       watch(link.Observe([this] { ShowState(); })) {
     // A click doesn't take the focus, so that keys stay held while a link goes.
     up->setFocusPolicy(Qt::TabFocus);
+    state->setAccessibleName(title + " link");
     AddRow("Link", {up, state});
-    if (played) AddServers(name);
+    if (played) AddServers(name, title);
     ShowState();
 }
 
-void LinkBox::AddServers(const QString& name) {
+void LinkBox::AddServers(const QString& name, const QString& title) {
     seen = new QLineEdit;
     allSeen = new Readout(name + "ServersSeen");
     seen->setObjectName(name + "ServerSeen");
     seen->setToolTip("A name or an address that is reported to the panel as a server on the network");
     connect(seen, &QLineEdit::returnPressed, this, [this] { SeeServer(); });
     auto* see = NewButton(name + "SeeServer", "See server", "Report this server to the panel", [this] { SeeServer(); });
+    // Each link has these.
+    seen->setAccessibleName("Server seen, " + title);
+    see->setAccessibleName("See server, " + title);
+    allSeen->setAccessibleName("Servers seen, " + title);
     AddRow("Server seen", {seen, see, allSeen});
 }
 

@@ -20,7 +20,7 @@ public:
     LinkBox(const QString& name, const QString& title, const QString& switchLabel, LinkSide& linkSide);
 
 private:
-    void AddServers(const QString& name);
+    void AddServers(const QString& name, const QString& title);
     void SeeServer();
     void ShowState();
 

@@ -126,6 +126,7 @@ ParametersBox::ParametersBox(NetworkSide& framework)
       watch(network.Observe([this] { ShowState(); })) {
     clock.start();
     late.Forget(network.Writes());
+    table->horizontalHeaderItem(Late)->setData(Qt::AccessibleTextRole, "Last changed");
     table->horizontalHeader()->setSectionResizeMode(Value, QHeaderView::Interactive);
     table->setColumnWidth(Value, table->fontMetrics().averageCharWidth() * ValueLetters);
     table->setRowCount(static_cast<int>(ParameterNames().size()));

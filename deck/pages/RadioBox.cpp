@@ -82,6 +82,8 @@ RadioBox::RadioBox(NetworkSide& framework)
         AddRow(label, {radios[0].Texts[row], radios[1].Texts[row]});
         ++row;
     }
+    receive->setAccessibleName("Receive");
+    transmit->setAccessibleName("Transmit");
     AddRow("&Receive", {receive, Labelled("&Transmit", transmit)});
     // Below all fields, none of which moves when it comes or goes.
     AddWide(remark);

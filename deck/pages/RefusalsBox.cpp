@@ -49,6 +49,8 @@ void RefusalsBox::AddNetwork(PlayedNetworkSide& network) {
         NewPlainEdit("OddType", VoiceRecordType,
                      "The type of a record that another computer makes; the panel minds those of the type VOICE alone");
     auto* role = NewPlainEdit("OddRole", "RWCom3", "The role of that record; the panel minds those that it has itself");
+    type->setAccessibleName("Strange record, type");
+    role->setAccessibleName("Strange record, role");
     AddRow("Strange record",
            {type, role,
             NewButton("OddClaim", "Make it",

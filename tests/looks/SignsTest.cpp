@@ -6,8 +6,8 @@
 #include <QImage>
 #include <QPainter>
 
+#include "adapters/looks/Contrast.h"
 #include "platform/controls/Label.h"
-#include "tests/looks/Contrast.h"
 
 namespace orvelle {
 namespace {
@@ -29,7 +29,7 @@ protected:
 
 TEST_P(SignsTest, HaveContrast) {
     for (const QPalette::ColorRole ground : {QPalette::Window, QPalette::Base})
-        for (const Sign sign : AllSigns) EXPECT_GE(Contrast(SignColour(sign, GetParam()), palette.color(ground)), 3);
+        for (const Sign sign : AllSigns) EXPECT_GE(Contrast(SignColour(sign, palette), palette.color(ground)), 4.5);
 }
 
 TEST_P(SignsTest, TheTextsOfControlsHaveContrast) {

@@ -5,7 +5,7 @@
 
 #include <QLineEdit>
 
-#include "tests/looks/Contrast.h"
+#include "adapters/looks/Contrast.h"
 
 namespace orvelle {
 namespace {

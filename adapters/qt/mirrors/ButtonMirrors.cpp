@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "adapters/looks/Text.h"
+#include "adapters/qt/mirrors/Mnemonic.h"
 
 namespace orvelle::qt {
 
@@ -10,9 +11,6 @@ namespace {
 
 constexpr Long Unticked = 0;
 constexpr Long Ticked = 1;
-
-// Captions stand as they are: an ampersand is no mnemonic.
-QString ButtonText(const std::string& caption) { return ToQt(caption).replace(QLatin1Char('&'), QLatin1String("&&")); }
 
 Qt::CheckState CheckStateOf(Long value) {
     if (value == Unticked) return Qt::Unchecked;
@@ -39,7 +37,7 @@ ButtonMirror::ButtonMirror(CommandButton& commandButton, QPushButton& pushButton
 void ButtonMirror::ShowOwn(ControlProperty property) {
     if (property != ControlProperty::Caption) return;
     const QString caption = ToQt(control.Caption);
-    widget.setText(ButtonText(control.Caption));
+    widget.setText(ShownCaption(ToQt(control.Caption), widget));
     if (purpose.isEmpty()) return;
     const bool isWord = std::any_of(caption.begin(), caption.end(), [](QChar letter) { return letter.isLetter(); });
     widget.setAccessibleName(isWord ? caption + QLatin1String(", ") + purpose : purpose);
@@ -54,7 +52,7 @@ CheckBoxMirror::CheckBoxMirror(CheckBox& checkBox, QCheckBox& box)
 }
 
 void CheckBoxMirror::ShowOwn(ControlProperty property) {
-    if (property == ControlProperty::Caption) widget.setText(ButtonText(control.Caption));
+    if (property == ControlProperty::Caption) widget.setText(ShownCaption(ToQt(control.Caption), widget));
     if (property == ControlProperty::Value) {
         const Qt::CheckState state = CheckStateOf(control.Value);
         widget.setTristate(state == Qt::PartiallyChecked);
@@ -80,7 +78,7 @@ OptionMirror::OptionMirror(OptionButton& optionButton, QRadioButton& radioButton
 }
 
 void OptionMirror::ShowOwn(ControlProperty property) {
-    if (property == ControlProperty::Caption) widget.setText(ButtonText(control.Caption));
+    if (property == ControlProperty::Caption) widget.setText(ShownCaption(ToQt(control.Caption), widget));
     if (property != ControlProperty::Value || widget.isChecked() == control.Value) return;
     widget.setAutoExclusive(control.Value);
     widget.setChecked(control.Value);

@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QLineEdit>
+#include <QSignalBlocker>
 
 #include "adapters/looks/Text.h"
 
@@ -24,8 +25,12 @@ void ComboMirror::MakeEditable() {
     widget.setCompleter(nullptr);
     // Qt would pick the entry that equals the text when the field loses the focus.
     disconnect(widget.lineEdit(), SIGNAL(editingFinished()), &widget, nullptr);
-    connect(widget.lineEdit(), &QLineEdit::textEdited, this, [this](const QString& typed) {
-        control.UserType(FromQt(typed));
+    widget.lineEdit()->setAccessibleName(widget.accessibleName());
+    // Whoever wrote it: an assistive program doesn't type. The text of an entry that is picked comes with its pick.
+    connect(widget.lineEdit(), &QLineEdit::textChanged, this, [this](const QString& written) {
+        if (written == ToQt(control.Text)) return;
+        if (widget.currentIndex() >= 0 && written == widget.itemText(widget.currentIndex())) return;
+        control.UserType(FromQt(written));
         ShowSelection();
     });
     connect(widget.lineEdit(), &QLineEdit::returnPressed, this, [this] {
@@ -51,6 +56,7 @@ void ComboMirror::ShowOwn(ControlProperty property) {
 }
 
 void ComboMirror::ShowList() {
+    const QSignalBlocker quiet(widget.lineEdit());
     const int count = control.ListCount();
     if (widget.count() >= count) widget.clear();
     for (int entry = widget.count(); entry < count; ++entry)
@@ -58,6 +64,7 @@ void ComboMirror::ShowList() {
 }
 
 void ComboMirror::ShowSelection() {
+    const QSignalBlocker quiet(widget.lineEdit());
     const QString text = ToQt(control.Text);
     // Selecting writes the field anew; who is typing keeps the place in the text.
     const int cursor = control.IsEditable() ? widget.lineEdit()->cursorPosition() : 0;

@@ -1,7 +1,12 @@
 #include "adapters/qt/mirrors/DisplayMirrors.h"
 
+#include <QApplication>
+#include <QEvent>
+
+#include "adapters/looks/Reading.h"
 #include "adapters/looks/Signs.h"
 #include "adapters/looks/Text.h"
+#include "adapters/qt/mirrors/Mnemonic.h"
 #include "adapters/qt/widgets/SignLabel.h"
 
 namespace orvelle::qt {
@@ -10,14 +15,25 @@ LabelMirror::LabelMirror(Label& mirroredLabel, QLabel& label)
     : Mirror(mirroredLabel, label), control(mirroredLabel), widget(label) {
     // The texts speak of "<Enter>", which is no mark-up.
     widget.setTextFormat(Qt::PlainText);
+    widget.installEventFilter(this);
+}
+
+bool LabelMirror::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::PaletteChange) ShowOwn(ControlProperty::ForeColor);
+    return Mirror::eventFilter(watched, event);
 }
 
 void LabelMirror::ShowOwn(ControlProperty property) {
-    if (property == ControlProperty::Caption) widget.setText(ToQt(control.Caption));
+    if (property == ControlProperty::Caption) {
+        const QString before = widget.text();
+        const QString caption = ToQt(control.Caption);
+        widget.setText(widget.buddy() == nullptr ? caption : ShownCaption(caption, widget));
+        TellWords(widget, before, widget.text());
+    }
     if (property != ControlProperty::ForeColor) return;
     QPalette palette;
     if (control.ForeColor != ButtonTextColour) {
-        const QColor color = TextColour(control.ForeColor, widget.palette());
+        const QColor color = TextColour(control.ForeColor, QApplication::palette());
         palette.setColor(QPalette::Active, QPalette::WindowText, color);
         palette.setColor(QPalette::Inactive, QPalette::WindowText, color);
     }

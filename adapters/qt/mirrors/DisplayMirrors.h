@@ -16,6 +16,9 @@ class LabelMirror : public Mirror {
 public:
     LabelMirror(Label& mirroredLabel, QLabel& label);
 
+    // The colour of a text follows the palette.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 protected:
     void ShowOwn(ControlProperty property) override;
     void ShowAllOwn() override;

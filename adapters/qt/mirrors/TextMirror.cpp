@@ -1,5 +1,7 @@
 #include "adapters/qt/mirrors/TextMirror.h"
 
+#include <QApplication>
+#include <QEvent>
 #include <limits>
 
 #include "adapters/looks/Text.h"
@@ -13,14 +15,27 @@ TextMirror::TextMirror(TextBox& textBox, QLineEdit& lineEdit)
     widget.setMaxLength(std::numeric_limits<int>::max());
     if (control.Locked()) {
         widget.setReadOnly(true);
-        QPalette display = widget.palette();
-        display.setColor(QPalette::Base, display.color(QPalette::Window));
-        widget.setPalette(display);
+        widget.installEventFilter(this);
+        ShowLocked();
     }
-    connect(&widget, &QLineEdit::textEdited, this, [this](const QString& typed) {
-        control.UserType(FromQt(typed));
+    // Whoever wrote it: an assistive program doesn't type. What the control has already was written by its program.
+    connect(&widget, &QLineEdit::textChanged, this, [this](const QString& written) {
+        if (written == ToQt(control.Text)) return;
+        control.UserType(FromQt(written));
         ShowOwn(ControlProperty::Text);
     });
+}
+
+// A field that only shows stands in the colour of the page.
+void TextMirror::ShowLocked() {
+    QPalette display;
+    display.setColor(QPalette::Base, QApplication::palette().color(QPalette::Window));
+    widget.setPalette(display);
+}
+
+bool TextMirror::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::PaletteChange) ShowLocked();
+    return Mirror::eventFilter(watched, event);
 }
 
 void TextMirror::ShowOwn(ControlProperty property) {

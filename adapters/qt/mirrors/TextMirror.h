@@ -12,11 +12,15 @@ class TextMirror : public Mirror {
 public:
     TextMirror(TextBox& textBox, QLineEdit& lineEdit);
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 protected:
     void ShowOwn(ControlProperty property) override;
     void ShowAllOwn() override { ShowOwn(ControlProperty::Text); }
 
 private:
+    void ShowLocked();
+
     TextBox& control;
     QLineEdit& widget;
 };

@@ -16,8 +16,19 @@ TreeMirror::TreeMirror(TreeView& treeView, QTreeWidget& treeWidget)
     : Mirror(treeView, treeWidget),
       control(treeView),
       widget(treeWidget),
-      clicks(treeWidget, [this](const QModelIndex& index) { control.UserClick(*NodeOf(index.data(NodeRole))); }) {
+      clicks(treeWidget, [this](const QModelIndex& index) {
+          {
+              // An assistive program marks a node without going to it.
+              const ItemClicks::Quiet quiet(clicks);
+              widget.selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+          }
+          // A node that has pages below it opens, as it has none, or another's, itself.
+          widget.expand(index);
+          control.UserClick(*NodeOf(index.data(NodeRole)));
+      }) {
     widget.setAllColumnsShowFocus(true);
+    // For assistive programs Qt counts the rows of a tree in two ways that differ where it branches.
+    widget.setSelectionBehavior(QAbstractItemView::SelectItems);
     // A click beside the nodes takes the mark off; the page that shows keeps it.
     connect(&widget, &QTreeWidget::itemSelectionChanged, this, [this] {
         const ItemClicks::Quiet quiet(clicks);

@@ -76,6 +76,11 @@ bool KeyCapture::eventFilter(QObject* receiver, QEvent* event) {
         static_cast<QInputMethodQueryEvent*>(event)->setValue(Qt::ImEnabled, false);
         return true;
     }
+    // With Alt it is not taken, but must not lead away from what is captured either.
+    if (event->type() == QEvent::ShortcutOverride && IsSystemKey(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
     if (event->type() == QEvent::ShortcutOverride && TakesKey(*static_cast<QKeyEvent*>(event))) {
         // Accepted, so that the key is no shortcut and comes as a press.
         event->accept();

@@ -3,14 +3,17 @@
 
 #include <QLabel>
 
+#include "adapters/looks/Reading.h"
+
 namespace orvelle::qt {
 
-class FrequencyDisplay : public QLabel {
+class FrequencyDisplay : public QLabel, public Reading {
     Q_OBJECT
 
 public:
     explicit FrequencyDisplay(QWidget* parent = nullptr) : QLabel(parent) {}
 
+    QString Words() const override { return text().isEmpty() ? tr("none") : text(); }
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 

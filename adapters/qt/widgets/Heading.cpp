@@ -1,5 +1,6 @@
 #include "adapters/qt/widgets/Heading.h"
 
+#include <QApplication>
 #include <QPainter>
 
 #include "adapters/looks/Theme.h"
@@ -7,11 +8,15 @@
 namespace orvelle::qt {
 
 Heading::Heading(QWidget* parent) : QLabel(parent) {
-    QFont large = font();
+    FollowFont();
+    setContentsMargins(0, 0, 0, Unit);
+}
+
+void Heading::FollowFont() {
+    QFont large = QApplication::font(this);
     large.setPointSizeF(large.pointSizeF() * 1.3);
     large.setWeight(QFont::DemiBold);
     setFont(large);
-    setContentsMargins(0, 0, 0, Unit);
 }
 
 void Heading::paintEvent(QPaintEvent* event) {

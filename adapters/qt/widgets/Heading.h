@@ -11,6 +11,9 @@ class Heading : public QLabel {
 public:
     explicit Heading(QWidget* parent = nullptr);
 
+    // Takes its size from the program's font, as it is now.
+    void FollowFont();
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 };

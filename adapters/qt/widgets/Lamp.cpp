@@ -4,6 +4,8 @@
 #include <QPainterPath>
 #include <algorithm>
 
+#include "adapters/looks/Contrast.h"
+
 namespace orvelle::qt {
 
 namespace {
@@ -26,22 +28,23 @@ void Lamp::SetOutgoing(bool outgoing) {
 }
 
 void Lamp::SetLit(bool lit) {
+    const QString before = Words();
     isLit = lit;
-    Describe();
+    TellWords(*this, before, Words());
     update();
 }
 
 void Lamp::SetFill(Long fillColor) {
+    const QString before = Words();
     sign = SignOfFill(fillColor);
-    Describe();
+    TellWords(*this, before, Words());
     update();
 }
 
-void Lamp::Describe() {
-    setAccessibleDescription(!isLit               ? tr("off")
-                             : !letters.isEmpty() ? tr("on")
-                             : sign == Sign::Good ? tr("works")
-                                                  : tr("does not work"));
+QString Lamp::Words() const {
+    if (!isLit) return tr("off");
+    if (!letters.isEmpty()) return tr("on");
+    return sign == Sign::Good ? tr("works") : tr("does not work");
 }
 
 QSize Lamp::sizeHint() const {
@@ -58,15 +61,14 @@ void Lamp::paintEvent(QPaintEvent*) {
     } else if (isLit) {
         const qreal side = std::min(width(), height()) - Unit / 2.0;
         const QRectF area((width() - side) / 2, (height() - side) / 2, side, side);
-        DrawSign(painter, area, sign, SignColour(isEnabled() ? sign : Sign::Off, SchemeOf(palette())));
+        DrawSign(painter, area, sign, SignColour(isEnabled() ? sign : Sign::Off, palette()));
     }
 }
 
 void Lamp::DrawKey(QPainter& painter) const {
-    const Scheme scheme = SchemeOf(palette());
-    const QColor outline = SignColour(isLit ? sign : Sign::Off, scheme);
-    const QColor text = isLit ? palette().color(scheme == Scheme::Dark ? QPalette::Base : QPalette::HighlightedText)
-                              : palette().color(QPalette::PlaceholderText);
+    const QColor outline = SignColour(isLit ? sign : Sign::Off, palette());
+    const QColor text =
+        isLit ? Readable(palette().color(QPalette::Base), {outline}, 4.5) : palette().color(QPalette::PlaceholderText);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(outline, 1));
     painter.setBrush(isLit ? QBrush(outline) : QBrush(Qt::NoBrush));

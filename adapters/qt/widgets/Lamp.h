@@ -5,12 +5,13 @@
 
 #include <QWidget>
 
+#include "adapters/looks/Reading.h"
 #include "adapters/looks/Signs.h"
 #include "platform/Types.h"
 
 namespace orvelle::qt {
 
-class Lamp : public QWidget {
+class Lamp : public QWidget, public Reading {
     Q_OBJECT
     Q_PROPERTY(QString letters READ Letters WRITE SetLetters)
     Q_PROPERTY(bool outgoing READ IsOutgoing WRITE SetOutgoing)
@@ -26,6 +27,7 @@ public:
     void SetLit(bool lit);
     Sign ShownSign() const { return sign; }
     void SetFill(Long fillColor);
+    QString Words() const override;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -35,7 +37,6 @@ protected:
 
 private:
     void DrawKey(QPainter& painter) const;
-    void Describe();
 
     QString letters;
     bool isOutgoing = false;

@@ -22,7 +22,7 @@ void SignLabel::changeEvent(QEvent* event) {
 void SignLabel::paintEvent(QPaintEvent* event) {
     QLabel::paintEvent(event);
     QPainter painter(this);
-    const QColor colour = SignColour(isEnabled() ? ShownSign() : Sign::Off, SchemeOf(palette()));
+    const QColor colour = SignColour(isEnabled() ? ShownSign() : Sign::Off, palette());
     const int side = fontMetrics().height();
     // Beside the first line, wherever the text stands in the label.
     const int textHeight = heightForWidth(width());
@@ -47,7 +47,7 @@ QSize WarningSign::sizeHint() const {
 
 void WarningSign::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    DrawSign(painter, QRectF(rect()), Sign::Waiting, SignColour(Sign::Waiting, SchemeOf(palette())));
+    DrawSign(painter, QRectF(rect()), Sign::Waiting, SignColour(Sign::Waiting, palette()));
 }
 
 Sign StatusLine::ShownSign() const {

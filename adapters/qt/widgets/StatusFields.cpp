@@ -1,5 +1,6 @@
 #include "adapters/qt/widgets/StatusFields.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 
@@ -16,6 +17,7 @@ constexpr int FirstFieldCharacters = 22;
 
 StatusFields::StatusFields(QWidget* parent) : QFrame(parent) {
     setFrameShape(QFrame::StyledPanel);
+    setAccessibleName(tr("Status"));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(Unit, Unit / 2, Unit, Unit / 2);
     row->setSpacing(Unit);
@@ -23,7 +25,7 @@ StatusFields::StatusFields(QWidget* parent) : QFrame(parent) {
         label = new QLabel(this);
         label->setTextFormat(Qt::PlainText);
     }
-    labels[0]->setMinimumWidth(fontMetrics().averageCharWidth() * FirstFieldCharacters);
+    FollowFont();
     labels[1]->setWordWrap(true);
     divider = new QFrame(this);
     divider->setFrameShape(QFrame::VLine);
@@ -33,10 +35,25 @@ StatusFields::StatusFields(QWidget* parent) : QFrame(parent) {
     row->addWidget(labels[1], 1);
 }
 
+QString StatusFields::Words() const {
+    const QString first = labels[0]->text();
+    const QString second = labels[1]->text();
+    return first.isEmpty() || second.isEmpty() ? first + second : first + QLatin1String(", ") + second;
+}
+
+void StatusFields::FollowFont() { labels[0]->setMinimumWidth(fontMetrics().averageCharWidth() * FirstFieldCharacters); }
+
+void StatusFields::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange) FollowFont();
+    QFrame::changeEvent(event);
+}
+
 QString StatusFields::Text(int field) const { return labels[field]->text(); }
 
 void StatusFields::SetField(int field, const QString& text, const QString& toolTip) {
+    const QString before = Words();
     labels[field]->setText(text);
+    TellWords(*this, before, Words());
     labels[field]->setToolTip(toolTip);
     divider->setVisible(!labels[1]->text().isEmpty());
 }

@@ -3,11 +3,13 @@
 
 #include <QFrame>
 
+#include "adapters/looks/Reading.h"
+
 class QLabel;
 
 namespace orvelle::qt {
 
-class StatusFields : public QFrame {
+class StatusFields : public QFrame, public Reading {
     Q_OBJECT
 
 public:
@@ -16,10 +18,17 @@ public:
     explicit StatusFields(QWidget* parent = nullptr);
 
     QString Text(int field) const;
+    QString Words() const override;
+    QAccessible::Role Role() const override { return QAccessible::StatusBar; }
     // `field` from 0.
     void SetField(int field, const QString& text, const QString& toolTip);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void FollowFont();
+
     QLabel* labels[Fields];
     QFrame* divider;
 };

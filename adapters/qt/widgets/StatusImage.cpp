@@ -23,6 +23,8 @@ constexpr int FaceEdgeSize = 20;
 // From this place on a lamp is a voice software's, which a computer may well do without: its R is no alarm.
 constexpr int FirstSoftware = 3;
 constexpr const char* Captions[Places] = {"FS", "NET", "USER", "RW", "TS", "VOICE"};
+constexpr const char* Subjects[Places] = {"simulator link", "framework link", "main pilot user",
+                                          "RogerWilco",     "TeamSpeak",      "VATSIM voice"};
 
 // A cross of two strokes, row by row in whole device pixels: lines drawn smoothly blur into a blot at this size.
 void DrawCross(QPainter& painter, const QRectF& box, qreal pixel) {
@@ -176,6 +178,15 @@ void DrawStatusImage(QPainter& painter, const QRectF& area, const std::string& k
         painter.setPen(Qt::NoPen);
     }
     painter.restore();
+}
+
+QString StatusWords(const std::string& key) {
+    QStringList words;
+    for (std::size_t place = 0; place < std::min<std::size_t>(key.size(), Places); ++place)
+        words << QLatin1String(Subjects[place]) + QLatin1String(key[place] == 'V'   ? " on"
+                                                                : key[place] == 'Y' ? " waiting"
+                                                                                    : " off");
+    return words.join(QLatin1String(", "));
 }
 
 QIcon StatusIcon(const std::string& key) { return QIcon(new StatusIconEngine(key)); }

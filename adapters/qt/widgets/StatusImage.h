@@ -9,6 +9,7 @@
 #include <QColor>
 #include <QIcon>
 #include <QPixmap>
+#include <QString>
 #include <string>
 
 class QPainter;
@@ -26,5 +27,8 @@ QIcon StatusIcon(const std::string& key);
 QPixmap StatusPixmap(const std::string& key, int size);
 // `area` is a square; `pixel` is the size of a device pixel in the painter's units, to which edges are fitted.
 void DrawStatusImage(QPainter& painter, const QRectF& area, const std::string& key, qreal pixel);
+
+// What the picture of a key says, lamp by lamp; "" for an empty key.
+QString StatusWords(const std::string& key);
 
 }  // namespace orvelle::qt

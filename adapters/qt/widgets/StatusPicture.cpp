@@ -17,10 +17,14 @@ constexpr int LeastLines = 8;
 }  // namespace
 
 void StatusPicture::SetKey(const QString& pictureKey) {
+    const QString before = Words();
     key = pictureKey;
+    TellWords(*this, before, Words());
     emit KeyChanged(key);
     update();
 }
+
+QString StatusPicture::Words() const { return StatusWords(FromQt(key)); }
 
 QSize StatusPicture::sizeHint() const {
     const int side = Lines * fontMetrics().height();

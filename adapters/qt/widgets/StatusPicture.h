@@ -3,9 +3,11 @@
 
 #include <QWidget>
 
+#include "adapters/looks/Reading.h"
+
 namespace orvelle::qt {
 
-class StatusPicture : public QWidget {
+class StatusPicture : public QWidget, public Reading {
     Q_OBJECT
 
 public:
@@ -14,6 +16,9 @@ public:
     QString Key() const { return key; }
     // An empty key shows nothing.
     void SetKey(const QString& pictureKey);
+    // The state of each lamp.
+    QString Words() const override;
+    QAccessible::Role Role() const override { return QAccessible::Graphic; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

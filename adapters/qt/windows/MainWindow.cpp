@@ -1,11 +1,15 @@
 #include "adapters/qt/windows/MainWindow.h"
 
+#include <QEvent>
 #include <algorithm>
 #include <string>
 
 #include "adapters/looks/ScreenRoom.h"
 #include "adapters/looks/Theme.h"
 #include "adapters/qt/widgets/StatusImage.h"
+#include "adapters/qt/windows/Mnemonics.h"
+#include "adapters/qt/windows/Shortcuts.h"
+#include "platform/controls/Buttons.h"
 #include "platform/controls/Label.h"
 #include "ui_MainWindow.h"
 
@@ -40,17 +44,36 @@ MainWindow::MainWindow(Form& panelForm) : FormWindow(panelForm) {
     Ui::MainWindow window;
     window.setupUi(this);
     pages = window.pages;
+    tree = window.twCategory;
     side = window.side;
     setMinimumSize(LeastSize);
-    window.twCategory->setFixedWidth(fontMetrics().horizontalAdvance(QLatin1String(WidestNode)) +
-                                     TreeLevels * window.twCategory->indentation() + 2 * Unit);
-    window.twCategory->setPalette(SidePalette(palette()));
-    window.side->setPalette(window.twCategory->palette());
+    FollowFont();
+    FollowPalette();
     binder.Bind(*this);
     for (int panel = 0; panel < PageCount; ++panel)
         frames[static_cast<std::size_t>(panel)] = form.Find("Panels(" + std::to_string(panel) + ")");
     pages->setCurrentWidget(&AreaOf(OverviewPanel));
     TellSize();
+    LetKeysTurnPages(*this, *tree);
+    if (auto* quit = dynamic_cast<MenuEntry*>(form.Find("mnuTrayQuit")))
+        LetKeyDo(*this, QKeySequence(Qt::CTRL | Qt::Key_Q), [quit] { quit->UserClick(); });
+}
+
+void MainWindow::FollowFont() {
+    tree->setFixedWidth(fontMetrics().horizontalAdvance(QLatin1String(WidestNode)) + TreeLevels * tree->indentation() +
+                        2 * Unit);
+}
+
+void MainWindow::FollowPalette() {
+    tree->setPalette(SidePalette(palette()));
+    side->setPalette(tree->palette());
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    FormWindow::changeEvent(event);
+    if (tree == nullptr) return;
+    if (event->type() == QEvent::FontChange) FollowFont();
+    if (event->type() == QEvent::PaletteChange) FollowPalette();
 }
 
 void MainWindow::TellSize() {
@@ -78,6 +101,7 @@ PageArea& MainWindow::AreaOf(int panel) {
         pages->addWidget(area);
         binder.Bind(*area->widget());
         neededFields.ShowAll();
+        AssignMnemonics(*area->widget());
     }
     return *area;
 }

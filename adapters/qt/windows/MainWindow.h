@@ -13,6 +13,7 @@
 #include "adapters/qt/windows/Pages.h"
 
 class QStackedWidget;
+class QTreeWidget;
 
 namespace orvelle::qt {
 
@@ -28,14 +29,20 @@ public:
 
     void ControlChanged(Control& control, ControlProperty property) override;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void FollowFont();
+    void FollowPalette();
     int PanelOf(const Control& frame) const;
     PageArea& AreaOf(int panel);
     void TellSize();
 
     NeededFields neededFields{form, [this](const Control& control) { return binder.WidgetOf(control); }};
     QStackedWidget* pages = nullptr;
-    QWidget* side = nullptr;  // the tree's
+    QTreeWidget* tree = nullptr;
+    QWidget* side = nullptr;
     std::array<Control*, PageCount> frames{};
     std::array<PageArea*, PageCount> made{};
 };

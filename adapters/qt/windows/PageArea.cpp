@@ -3,6 +3,8 @@
 #include <QEvent>
 #include <QStyle>
 
+#include "adapters/qt/widgets/Heading.h"
+
 namespace orvelle::qt {
 
 namespace {
@@ -33,7 +35,9 @@ void PageArea::resizeEvent(QResizeEvent* event) {
 
 void PageArea::changeEvent(QEvent* event) {
     ScrolledArea::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) Fit();
+    if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
+    for (Heading* heading : page.findChildren<Heading*>()) heading->FollowFont();
+    Fit();
 }
 
 }  // namespace orvelle::qt

@@ -2,7 +2,9 @@
 
 #include <QWidget>
 
+#include "adapters/qt/widgets/GreyedNotice.h"
 #include "adapters/qt/widgets/SliderNumber.h"
+#include "adapters/qt/windows/Shortcuts.h"
 #include "ui_Extra.h"
 #include "ui_FrameworkLink.h"
 #include "ui_JoyToKey.h"
@@ -28,6 +30,15 @@ QWidget* Make(QWidget* parent) {
     auto* page = new QWidget(parent);
     PageForm().setupUi(page);
     for (SliderNumber* number : page->findChildren<SliderNumber*>()) number->Follow();
+    LetDeleteDelete(*page);
+    return page;
+}
+
+// The tables' pages are greyed while no simulator is there.
+QWidget* Telling(QWidget* page) {
+    new GreyedNotice(*page,
+                     QWidget::tr("Greyed while the simulator is not connected: its keys and buttons come over that "
+                                 "link. The page Velmarc tells how it stands."));
     return page;
 }
 
@@ -52,13 +63,13 @@ QWidget* MakePage(PanelNumber panel, QWidget* parent) {
         case TeamSpeakPanel:
             return Make<Ui::TeamSpeak>(parent);
         case JoyToKeyPanel:
-            return Make<Ui::JoyToKey>(parent);
+            return Telling(Make<Ui::JoyToKey>(parent));
         case VatsimVoicePanel:
             return Make<Ui::VatsimVoice>(parent);
         case VolumesPanel:
             return Make<Ui::Volumes>(parent);
         case KeyToKeyPanel:
-            return Make<Ui::KeyToKey>(parent);
+            return Telling(Make<Ui::KeyToKey>(parent));
         case FrameworkLinkPanel:
             return Make<Ui::FrameworkLink>(parent);
         case OptionsPanel:

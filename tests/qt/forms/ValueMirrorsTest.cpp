@@ -167,7 +167,7 @@ TEST_F(ValueMirrorsTest, BadAndGoodTextsHaveTheirColours) {
     EXPECT_EQ(line.ShownSign(), Sign::Off);
     panel.StatusIcon.Picture = panel.IconList.Image("VVVRVY");
     panel.StatusVelmarc.ForeColor = 255;
-    EXPECT_EQ(line.palette().color(QPalette::WindowText), SignColour(Sign::Bad, Scheme::Light));
+    EXPECT_EQ(line.palette().color(QPalette::WindowText), SignColour(Sign::Bad, CalmPalette(Scheme::Light)));
     EXPECT_EQ(line.ShownSign(), Sign::Bad);
     panel.StatusVelmarc.ForeColor = ButtonTextColour;
     EXPECT_EQ(line.palette().color(QPalette::WindowText), good);

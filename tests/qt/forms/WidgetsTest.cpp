@@ -35,7 +35,7 @@ TEST(LampTest, ALampTellsItsStateByShapeAlone) {
     const QImage off = Shape(radio);
     radio.SetLit(true);
     EXPECT_NE(off, Shape(radio));
-    EXPECT_EQ(radio.accessibleDescription(), QStringLiteral("on"));
+    EXPECT_EQ(radio.Words(), QStringLiteral("on"));
 }
 
 TEST(FrequencyDisplayTest, DigitsAreOfOneWidth) {

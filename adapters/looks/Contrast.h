@@ -4,6 +4,7 @@
 #include <QColor>
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 
 namespace orvelle {
 
@@ -19,5 +20,11 @@ inline double Contrast(const QColor& one, const QColor& other) {
     const double b = Luminance(other);
     return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
+
+// `colour`, or the nearest to it on the way to black or white that stands out from every ground by `least`; black or
+// white itself where none does.
+QColor Readable(const QColor& colour, std::initializer_list<QColor> grounds, double least);
+// `share` of the second colour, 0 to 1, in the first.
+QColor Mixed(const QColor& first, const QColor& second, double share);
 
 }  // namespace orvelle
