@@ -133,7 +133,7 @@ void PulseDevices::Take(DeviceKind kind, std::uint32_t index, const char* name, 
     const std::string& title = titles.For(Text(name), Text(description));
     if (!device || device->Name != Text(name)) {
         const auto send = [this, kind, &device](const pa_cvolume& wanted) { Send(kind, *device, wanted); };
-        device.reset(new PulseDevice{index, Text(name), title, {loop, send, [this] { changes.Mark(); }}});
+        device = std::make_unique<PulseDevice>(index, Text(name), title, loop, send, [this] { changes.Mark(); });
         changes.Mark();
     }
     if (std::exchange(device->Title, title) != title) changes.Mark();

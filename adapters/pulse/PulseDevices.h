@@ -13,6 +13,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "adapters/pulse/DeviceTitles.h"
@@ -30,11 +31,18 @@ struct OperationEnd {
 };
 
 struct PulseDevice {
+    PulseDevice(std::uint32_t index, std::string name, std::string title, EventLoop& loop,
+                std::function<void(const pa_cvolume&)> send, std::function<void()> changed)
+        : Index(index),
+          Name(std::move(name)),
+          Title(std::move(title)),
+          Level(loop, std::move(send), std::move(changed)) {}
+
     std::uint32_t Index;  // of the server; another one when the device has come back
     std::string Name;     // the server's own
     std::string Title;
     PulseLevel Level;
-    std::unique_ptr<pa_operation, OperationEnd> Sending = {};  // of a level
+    std::unique_ptr<pa_operation, OperationEnd> Sending;  // of a level
 };
 
 class PulseDevices : public AudioDevices {
