@@ -18,8 +18,8 @@
 #include "adapters/looks/DesktopTheme.h"
 #include "adapters/qt/services/Application.h"
 #include "adapters/qt/widgets/StatusImage.h"
-#include "adapters/x11/Display.h"
 #include "apps/EndSentences.h"
+#include "apps/WindowSystem.h"
 
 using namespace orvelle;
 
@@ -63,9 +63,10 @@ int main(int count, char** arguments) {
     if (count < 2 || count > 3) return 2;
     const std::string sentences = count == 3 ? arguments[2] : EndWithoutWord();
     WriteToJournal(sentences);
-    if (!MissingDisplay().empty()) return EXIT_FAILURE;
+    const WindowSystem windows = FindWindowSystem();
+    if (!windows.Missing.empty()) return EXIT_FAILURE;
 
-    qt::Application application("orvelle-ended", "xcb", [](const std::exception&) { _exit(EXIT_FAILURE); });
+    qt::Application application("orvelle-ended", windows.Name, [](const std::exception&) { _exit(EXIT_FAILURE); });
     qt::Application::setDesktopFileName("net.orvelle.orvellecp");
     const DesktopTheme theme;
     qt::Application::setWindowIcon(qt::StatusIcon("VVVVVV"));
