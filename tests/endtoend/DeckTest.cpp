@@ -140,7 +140,11 @@ TEST_P(DeckPlaceTest, PanelAndDeckStandOnTheScreenAndNeitherIsLostUnderTheOther)
 TEST_P(DeckPlaceTest, TheWarningComesBeforeTheDeckThatTheUserWorksIn) {
     ASSERT_NO_FATAL_FAILURE(Show());
     // Who has just typed there is not disturbed by a window manager.
-    for (const char* server : {"10.0.0.1", "TOWERPC"}) user.Enter(OfDeck("SimulatorServerSeen"), server);
+    OfDeck("SimulatorServerSeen").setFocus();
+    for (const char* server : {"10.0.0.1", "TOWERPC"}) {
+        user.Do({"type", server});
+        user.Do({"key", "Return"});
+    }
     ExpectTheWarningBeforeBoth();
 }
 
