@@ -145,7 +145,9 @@ TEST_P(DeckPlaceTest, TheWarningComesBeforeTheDeckThatTheUserWorksIn) {
         user.Do({"type", server});
         user.Do({"key", "Return"});
     }
-    ExpectTheWarningBeforeBoth();
+    ASSERT_NO_FATAL_FAILURE(ExpectTheWarningBeforeBoth());
+    // A window manager that lets nobody take the focus keeps it there, too.
+    EXPECT_EQ(Warning()->windowHandle()->transientParent(), house.Deck->windowHandle());
 }
 
 INSTANTIATE_TEST_SUITE_P(Letters, DeckPlaceTest, testing::Values(9, 11));
