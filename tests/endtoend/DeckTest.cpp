@@ -140,8 +140,14 @@ TEST_P(DeckPlaceTest, PanelAndDeckStandOnTheScreenAndNeitherIsLostUnderTheOther)
 TEST_P(DeckPlaceTest, TheWarningComesBeforeTheDeckThatTheUserWorksIn) {
     ASSERT_NO_FATAL_FAILURE(Show());
     // Who has just typed there is not disturbed by a window manager.
-    for (const char* server : {"10.0.0.1", "TOWERPC"}) user.Enter(OfDeck("SimulatorServerSeen"), server);
-    ExpectTheWarningBeforeBoth();
+    OfDeck("SimulatorServerSeen").setFocus();
+    for (const char* server : {"10.0.0.1", "TOWERPC"}) {
+        user.Do({"type", server});
+        user.Do({"key", "Return"});
+    }
+    ASSERT_NO_FATAL_FAILURE(ExpectTheWarningBeforeBoth());
+    // A window manager that lets nobody take the focus keeps it there, too.
+    EXPECT_EQ(Warning()->windowHandle()->transientParent(), house.Deck->windowHandle());
 }
 
 INSTANTIATE_TEST_SUITE_P(Letters, DeckPlaceTest, testing::Values(9, 11));
