@@ -2,6 +2,7 @@
 // applications menu, as the panel itself reads no command line.
 #include <poll.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
 #include <iostream>
@@ -17,7 +18,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 constexpr std::chrono::seconds Patience{20};  // with a panel that begins
-constexpr int BetweenTries = 20;              // ms
+constexpr std::chrono::seconds PatienceWithAnother{3};
+constexpr int BetweenTries = 20;  // ms
 
 // The name under which the desktop expects a window, for the panel, whose window it will be.
 std::string StartupId() {
@@ -25,12 +27,15 @@ std::string StartupId() {
     return id ? id : "";
 }
 
-// False when a time is up that only a panel needs which can't begin, or when it has ended.
+// False when the time is up. A panel that ended may have found another one that is just beginning.
 bool AskOnceItListens(const linux::WakeSocket& wake, const linux::StartedPrograms& panel) {
-    const auto end = Clock::now() + Patience;
-    for (bool runs = true; runs && Clock::now() < end;) {
+    auto end = Clock::now() + Patience;
+    for (bool runs = true; Clock::now() < end;) {
         pollfd ended{panel.Descriptor(), POLLIN, 0};
-        runs = poll(&ended, 1, BetweenTries) == 0;
+        if (poll(&ended, runs ? 1 : 0, BetweenTries) > 0) {
+            runs = false;
+            end = std::min(end, Clock::now() + PatienceWithAnother);
+        }
         if (wake.Ask(Wish::ShowDeck)) return true;
     }
     return false;

@@ -13,9 +13,9 @@
 
 #include "adapters/linux/ControlGroup.h"
 #include "adapters/linux/StartedPrograms.h"
+#include "adapters/looks/DesktopTheme.h"
 #include "adapters/looks/SignIcon.h"
 #include "adapters/looks/Text.h"
-#include "adapters/looks/DesktopTheme.h"
 #include "adapters/qt/services/Application.h"
 #include "adapters/qt/widgets/StatusImage.h"
 #include "apps/EndSentences.h"
