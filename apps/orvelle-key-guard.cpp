@@ -55,6 +55,9 @@ bool PanelIsGone(int line) {
 // This process becomes the program that tells the user; it returns where there is nothing to tell, or no such program.
 void TellOfEnd(const FileDescriptor& lastWord, const char* panel) {
     if (fcntl(lastWord.Number(), F_GETFD) < 0) return;
+    // The panel may go on for a moment when it has given its keys up.
+    pollfd word{lastWord.Number(), POLLIN, 0};
+    poll(&word, 1, Forever);
     const std::optional<std::string> said = linux::LastWord::Read(lastWord.Number());
     if (said && said->empty()) return;
     sigset_t none;

@@ -15,7 +15,7 @@ public:
     QIconEngine* clone() const override { return new Engine(*this); }
     void paint(QPainter* painter, const QRect& area, QIcon::Mode mode, QIcon::State) override {
         const Sign shown = mode == QIcon::Disabled ? Sign::Off : sign;
-        DrawSign(*painter, area, sign, SignColour(shown, SchemeOf(QGuiApplication::palette())));
+        DrawSign(*painter, area, sign, SignColour(shown, QGuiApplication::palette()));
     }
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
         QPixmap drawn(size);

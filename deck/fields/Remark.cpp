@@ -23,7 +23,7 @@ void Remark::paintEvent(QPaintEvent* event) {
     QLabel::paintEvent(event);
     QPainter painter(this);
     const int side = fontMetrics().height();
-    DrawSign(painter, QRectF(0, 0, side, side), Sign::Waiting, SignColour(Sign::Waiting, SchemeOf(palette())));
+    DrawSign(painter, QRectF(0, 0, side, side), Sign::Waiting, SignColour(Sign::Waiting, palette()));
 }
 
 }  // namespace orvelle::deck

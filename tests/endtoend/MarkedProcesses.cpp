@@ -1,5 +1,7 @@
 #include "tests/endtoend/MarkedProcesses.h"
 
+#include <poll.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -10,6 +12,7 @@
 #include <sstream>
 
 #include "adapters/linux/ProcessExecutable.h"
+#include "adapters/shared/FileDescriptor.h"
 #include "tests/linux/WaitUntil.h"
 
 namespace orvelle {
@@ -23,6 +26,15 @@ std::vector<std::string> Parts(const std::string& file) {
     std::vector<std::string> parts;
     for (std::string part; std::getline(stream, part, '\0');) parts.push_back(part);
     return parts;
+}
+
+// Waits until its files are closed, its lock among them.
+void End(pid_t process) {
+    const FileDescriptor ended(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
+    if (!ended) return;
+    kill(process, SIGKILL);
+    pollfd end{ended.Number(), POLLIN, 0};
+    poll(&end, 1, -1);
 }
 
 }  // namespace
@@ -39,7 +51,7 @@ MarkedProcesses::~MarkedProcesses() {
     unsetenv(Variable);
     linux::WaitUntil([this] {
         const std::vector<pid_t> left = Running();
-        for (const pid_t process : left) kill(process, SIGKILL);
+        for (const pid_t process : left) End(process);
         return left.empty();
     });
 }
