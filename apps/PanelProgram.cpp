@@ -63,6 +63,8 @@ PanelProgram::PanelProgram(ThisProcess& thisProcess, const std::string& settings
     };
     Outside.Told = [this](const std::string& sentence) { Desktop.Tray.Tell(sentence); };
     errorsExplained = process.Explain([this](const std::string& error, std::string& sentences) {
+        // It has the user told, and begins after the load.
+        if (!isLoaded) Computer.Begin();
         const std::string cause = isLoaded ? CauseInPanel(Panel) : EndBySettings(setUpFile.parent_path(), error);
         if (!cause.empty()) sentences = cause;
     });

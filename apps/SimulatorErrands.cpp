@@ -6,7 +6,6 @@
 #include <iostream>
 #include <map>
 
-#include "adapters/linux/InstanceLock.h"
 #include "adapters/linux/PollEventLoop.h"
 #include "adapters/mqtt/BrokerConnection.h"
 #include "adapters/mqtt/OwnSetUp.h"
@@ -14,6 +13,7 @@
 #include "adapters/mqtt/Topics.h"
 #include "apps/ComputerName.h"
 #include "apps/OneLine.h"
+#include "apps/SimulatorProgram.h"
 
 namespace orvelle {
 
@@ -116,8 +116,7 @@ int RunErrand(const SimulatorCommand& command) {
 }
 
 bool IsServed(const SimulatorCommand& command) {
-    const mqtt::OwnSetUp setUp(command.Data);
-    return std::filesystem::exists(setUp.File()) && !linux::InstanceLock(setUp.Folder().string(), "orvelle-sim").Take();
+    return std::filesystem::exists(mqtt::OwnSetUp(command.Data).Folder()) && !ServingLock(command).Take();
 }
 
 }  // namespace orvelle

@@ -21,6 +21,10 @@ std::string DesktopName() {
 
 }  // namespace
 
+linux::InstanceLock ServingLock(const SimulatorCommand& command) {
+    return {mqtt::OwnSetUp(command.Data).Folder().string(), "orvelle-sim"};
+}
+
 SimulatorProgram::SimulatorProgram(EventLoop& eventLoop, const SimulatorCommand& asked)
     : loop(eventLoop),
       SetUp(asked.Data),
@@ -28,7 +32,7 @@ SimulatorProgram::SimulatorProgram(EventLoop& eventLoop, const SimulatorCommand&
                [] { return mqtt::PresenceSetting{.Name = ComputerName(), .Address = "", .Desktop = DesktopName()}; }),
       Devices(eventLoop, Simulator, {.SessionType = DesktopName(), .Sounds = OwnSounds()}),
       command(asked),
-      lock(SetUp.Folder().string(), "orvelle-sim") {
+      lock(ServingLock(asked)) {
     Simulator.SetLink(LinkState::Up);
     Network.SetLink(LinkState::Up);
     troubleWatch = AtBroker.Observe([this] { TellOfTrouble(); });

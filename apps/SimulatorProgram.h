@@ -18,6 +18,9 @@
 
 namespace orvelle {
 
+// Of the one that serves the command's set-up; where it has a window, the others ask beside it for that (WakeSocket.h).
+linux::InstanceLock ServingLock(const SimulatorCommand& command);
+
 class SimulatorProgram {
     EventLoop& loop;
 

@@ -7,6 +7,7 @@
 
 #include "adapters/looks/ScreenRoom.h"
 #include "adapters/looks/Text.h"
+#include "adapters/qt/services/BringToFront.h"
 #include "apps/SimulatorIcon.h"
 #include "apps/SimulatorLinks.h"
 #include "apps/SimulatorProgram.h"
@@ -58,8 +59,7 @@ void SimulatorWindow::Tell(const std::string& sentence) {
 
 void SimulatorWindow::BringUp() {
     showNormal();
-    raise();
-    activateWindow();
+    qt::BringToFront(*this);
 }
 
 void SimulatorWindow::AskToEnd() {

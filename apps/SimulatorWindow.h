@@ -23,6 +23,8 @@ public:
 
     // A sentence for the user: in the window, and while that is hidden by the icon, too.
     void Tell(const std::string& sentence);
+    // Shows it before all others.
+    void BringUp();
     SimulatorTray& Tray() { return tray; }
 
     Event<> EndAsked;
@@ -31,7 +33,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void BringUp();
     void AskToEnd();
     void ShowState();
     QString Tip() const;

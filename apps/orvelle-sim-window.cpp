@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "adapters/linux/TerminationSignals.h"
+#include "adapters/linux/WakeSocket.h"
 #include "adapters/looks/DesktopTheme.h"
 #include "adapters/looks/Text.h"
 #include "adapters/qt/services/Application.h"
@@ -46,11 +47,18 @@ int main(int count, char** words) {
     const Ticket ended = loop.WhenReadable(endings.Descriptor(), [&] {
         if (endings.Take() != 0) qt::Application::exit(EXIT_SUCCESS);
     });
+    linux::WakeSocket wake(ServingLock(*command).WakePath());
+    Ticket woken;
     const int status = application.Run([&] {
         window.show();
         // From the loop: what hasn't begun to run can't be ended.
         loop.Post([&] {
-            if (const std::string reason = program.Open(); !reason.empty()) program.Ends(reason);
+            if (const std::string reason = program.Open(); !reason.empty()) return program.Ends(reason);
+            wake.Listen();
+            if (wake.Descriptor() < 0) return;
+            woken = loop.WhenReadable(wake.Descriptor(), [&] {
+                if (wake.Take() == Wish::ShowSimulator) window.BringUp();
+            });
         });
     });
     program.Close();

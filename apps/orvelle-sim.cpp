@@ -7,6 +7,7 @@
 #include "adapters/linux/OwnFile.h"
 #include "adapters/linux/PollEventLoop.h"
 #include "adapters/linux/TerminationSignals.h"
+#include "adapters/linux/WakeSocket.h"
 #include "apps/SimulatorErrands.h"
 #include "apps/SimulatorProgram.h"
 
@@ -56,9 +57,16 @@ int main(int count, char** words) {
         Say(sentence);
         return EXIT_FAILURE;
     }
-    // Another name for the set-up of the one that runs is an errand, too.
-    if (command->Serves() && !command->Name.empty() && IsServed(*command)) return RunErrand(*command);
     using Task = SimulatorCommand::Task;
+    if (command->Serves() && IsServed(*command)) {
+        // Another name for the set-up of the one that runs is an errand, too.
+        if (!command->Name.empty()) return RunErrand(*command);
+        if (command->What == Task::Serve &&
+            linux::WakeSocket(ServingLock(*command).WakePath()).Ask(Wish::ShowSimulator))
+            return EXIT_SUCCESS;
+        Say("Another orvelle-sim serves this set-up already.");
+        return EXIT_FAILURE;
+    }
     switch (command->What) {
         case Task::Help:
             std::cout << SimulatorCommand::Help();

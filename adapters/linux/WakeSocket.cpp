@@ -16,7 +16,8 @@ struct Word {
     Wish What;
     std::string_view Text;
 };
-constexpr std::array Words{Word{Wish::ShowPanel, "show panel"}, Word{Wish::ShowDeck, "show deck"}};
+constexpr std::array Words{Word{Wish::ShowPanel, "show panel"}, Word{Wish::ShowDeck, "show deck"},
+                           Word{Wish::ShowSimulator, "show simulator"}};
 
 constexpr std::size_t Longest = 64;
 

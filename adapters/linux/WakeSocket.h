@@ -1,6 +1,6 @@
-// The way by which another program of this user asks the running panel to show itself: a socket beside the instance
-// lock, so that it needs neither window system nor session bus. A wish is one datagram of a word. What comes from
-// another user or is no such word is dropped. A socket that a panel left behind does no harm.
+// The way by which another program of this user asks the running one, as the panel, to show itself: a socket beside the
+// instance lock, so that it needs neither window system nor session bus. A wish is one datagram of a word. What comes
+// from another user or is no such word is dropped. A socket that a panel left behind does no harm.
 #pragma once
 
 #include <optional>

@@ -32,7 +32,7 @@ protected:
         ASSERT_TRUE(ComesTrue([this] { return panel.Variables().ActiveVoiceSoftware == RogerWilco; }));
     }
     // What the deck tells of this computer's keys.
-    std::string HeldHere() { return OfDeck("HeldKeys").accessibleName().toStdString(); }
+    std::string HeldHere() { return static_cast<QLabel&>(OfDeck("HeldKeysText")).text().toStdString(); }
     // From the start to the mapped key held over there and the talk key held here.
     void HoldTheTalkKey() {
         ASSERT_NO_FATAL_FAILURE(Open());

@@ -72,8 +72,10 @@ Reached ReachedPanel::Window(const std::string& title) const {
 Reached ReachedPanel::Page() const {
     const Reached pages = FindBelow(Main(), [](const Reached& one) { return one.Role() == "layered pane"; });
     if (!pages) return Reached();
-    for (const Reached& page : pages.Children())
-        if (page.Is(ATSPI_STATE_SHOWING)) return page;
+    // Each lies in what scrolls it.
+    for (const Reached& area : pages.Children())
+        if (area.Is(ATSPI_STATE_SHOWING))
+            return FindBelow(area, [](const Reached& one) { return !one.Name().empty(); });
     return Reached();
 }
 

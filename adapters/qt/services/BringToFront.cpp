@@ -39,6 +39,8 @@ public:
 void BringToFront(QWidget& widget) {
     QWindow* const window = widget.windowHandle();
     if (window == nullptr) return;
+    // Who shows it may not have learned yet that it is an icon by now.
+    if (widget.isMinimized()) widget.setWindowState(widget.windowState() & ~Qt::WindowMinimized);
     if (window->isExposed())
         Activate(*window);
     else

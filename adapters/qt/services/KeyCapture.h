@@ -1,7 +1,6 @@
 // Takes the keys that the user presses in this program's windows away from the widgets and keeps them as key-down
-// messages, or drops them. While it captures, the mouse acts on no
-// other widget of the captured one's window. Combinations with Alt are
-// system keys, which are left to the widgets. Costs nothing while it is off.
+// messages, or drops them. While it captures, the mouse acts on no other widget of the captured one's window.
+// Combinations with Alt are system keys: they are not taken, and no shortcuts meanwhile. Costs nothing while it is off.
 #pragma once
 
 #include <QObject>
