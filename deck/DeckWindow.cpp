@@ -75,7 +75,7 @@ DeckWindow::DeckWindow(const FarSides& farSides) : sides(farSides) {
 QWidget* DeckWindow::Corner() {
     auto* corner = new QWidget;
     auto* row = new QHBoxLayout(corner);
-    row->setContentsMargins(0, 0, 0, 0);
+    row->setContentsMargins(0, 0, Unit / 2, 0);
     row->setSpacing(Unit / 2);
     row->addWidget(NewButton("About", "A&bout", "The version of this program, and where to read on",
                              [this] { ShowAbout(*this); }));

@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::string RadioVoiceSetting::*VoiceTexts[] = {&RadioVoiceSetting::Server, &RadioVoiceSetting::Channel,
                                                           &RadioVoiceSetting::Login, &RadioVoiceSetting::Password};
-// In the order of the entries "1", "2", "Both", "None"
+// In the order of the entries "COM1", "COM2", "Both", "None"
 constexpr const char* Selections[] = {SelectsCom1, SelectsCom2, SelectsBoth, SelectsNone};
 constexpr int NoSelection = 3;
 
@@ -137,7 +137,7 @@ TextField* RadioBox::NewVoiceEdit(int radio, const QString& name, const QString&
 
 QComboBox* RadioBox::NewSelection(const QString& name, const QString& toolTip,
                                   std::function<void(const std::string&)> apply) {
-    return NewChoice(name, toolTip, {"1", "2", "Both", "None"},
+    return NewChoice(name, toolTip, {"COM1", "COM2", "Both", "None"},
                      [apply = std::move(apply)](int index) { apply(Selections[index]); });
 }
 

@@ -201,8 +201,8 @@ TEST_F(DeckNetwork, AFirstFlightIsReadyToBeTuned) {
     EXPECT_EQ(At<QLineEdit>("Callsign").text(), "ORV123");
     EXPECT_EQ(At<QLineEdit>("FrequencyCOM1").text(), "122.800");
     EXPECT_EQ(At<QComboBox>("SoftwareCOM1").currentText(), "None");
-    EXPECT_EQ(At<QComboBox>("Receive").currentText(), "1");
-    EXPECT_EQ(At<QComboBox>("Transmit").currentText(), "1");
+    EXPECT_EQ(At<QComboBox>("Receive").currentText(), "COM1");
+    EXPECT_EQ(At<QComboBox>("Transmit").currentText(), "COM1");
     EXPECT_TRUE(At<QCheckBox>("SessionConnected").isChecked());
 }
 
