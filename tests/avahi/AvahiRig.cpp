@@ -29,9 +29,13 @@ constexpr const char* DaemonConfiguration =
     "[server]\nhost-name=localhost\ndomain-name=local\nuse-ipv6=no\nallow-interfaces=lo\nenable-dbus=yes\n"
     "disallow-other-stacks=no\n[publish]\npublish-workstation=no\n";
 
-// Its process id file and its socket have fixed places, in a folder that only root could make.
+// Its process id file and its socket have fixed places, in a folder that only root could make, and that must be its own
+// user's, who is this one here.
 constexpr const char* RunDaemon =
     "ip link set lo up && ip link set lo multicast on && mount -t tmpfs none /run && mkdir /run/avahi-daemon && "
+    "sed \"s/^avahi:[^:]*:[0-9]*:[0-9]*:/avahi:x:$(id -u):$(id -g):/\" /etc/passwd >/run/passwd && "
+    "sed \"s/^avahi:[^:]*:[0-9]*:/avahi:x:$(id -g):/\" /etc/group >/run/group && "
+    "mount --bind /run/passwd /etc/passwd && mount --bind /run/group /etc/group && "
     "exec /usr/sbin/avahi-daemon --no-drop-root --no-chroot --no-rlimits --debug -f \"$0\"";
 
 }  // namespace
