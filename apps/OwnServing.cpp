@@ -25,7 +25,7 @@ std::string OwnServing::Open(const std::string& firstName) {
         if (std::string sentence = setUp.Rename(command.Name); !sentence.empty()) return sentence;
         setting->Name = command.Name;
     }
-    const mqtt::HostAndPort place = command.Broker.value_or(mqtt::HostAndPort{"localhost", setting->Port});
+    const HostAndPort place = command.Broker.value_or(HostAndPort{"localhost", setting->Port});
     const auto other = command.Own ? mqtt::OwnSetUp::OtherSetUp::IsLeft : mqtt::OwnSetUp::OtherSetUp::Stays;
     if (std::string sentence = setUp.JoinThisComputer(*setting, place.Host, place.Port, other); !sentence.empty())
         return sentence;

@@ -19,9 +19,9 @@ std::string PlainHost(std::string host) {
     return host;
 }
 
-mqtt::HostAndPort PlaceOf(const avahi::FoundService& service) { return {service.Host, service.Port}; }
+HostAndPort PlaceOf(const avahi::FoundService& service) { return {service.Host, service.Port}; }
 
-bool IsAt(const avahi::FoundService& service, const mqtt::HostAndPort& place) {
+bool IsAt(const avahi::FoundService& service, const HostAndPort& place) {
     return service.Port == place.Port && PlainHost(service.Host) == PlainHost(place.Host);
 }
 
@@ -43,7 +43,7 @@ SetUpDesk::SetUpDesk(EventLoop& eventLoop, const std::filesystem::path& dataFold
 std::optional<JoinedSetUp> SetUpDesk::Joined() const {
     if (!found.Setting) return std::nullopt;
     const mqtt::SetUpSetting& setUp = *found.Setting;
-    return JoinedSetUp{setUp.Name, mqtt::WriteHostAndPort({setUp.Host, setUp.Port}), setUp.Identity};
+    return JoinedSetUp{setUp.Name, WriteHostAndPort({setUp.Host, setUp.Port}, mqtt::UsualPort), setUp.Identity};
 }
 
 void SetUpDesk::Look(Looking newLooking) {
@@ -58,7 +58,7 @@ std::vector<SeenSetUp> SetUpDesk::Seen() const {
     std::vector<SeenSetUp> seen;
     if (browser)
         for (const avahi::FoundService& each : browser->Found())
-            seen.push_back({each.SetUp, mqtt::WriteHostAndPort(PlaceOf(each))});
+            seen.push_back({each.SetUp, WriteHostAndPort(PlaceOf(each), mqtt::UsualPort)});
     return seen;
 }
 
@@ -66,7 +66,7 @@ void SetUpDesk::Join(const std::string& code, const std::string& place) {
     Cancel();
     const std::optional<mqtt::JoinCode> read = mqtt::ReadJoinCode(code);
     if (!read) return End(JoinState::Failed, "The code is mistyped; please compare it with the one that was given.");
-    wantedPlace = mqtt::ReadHostAndPort(place);
+    wantedPlace = ReadHostAndPort(place, mqtt::UsualPort);
     if (!place.empty() && !wantedPlace) return End(JoinState::Failed, "\"" + place + "\" is no name of a host.");
     wanted.Identity = read->Number;
     wanted.Key = read->Key;
@@ -79,7 +79,7 @@ void SetUpDesk::Join(const std::string& code, const std::string& place) {
 
 void SetUpDesk::MoveTo(const std::string& place) {
     Cancel();
-    const std::optional<mqtt::HostAndPort> read = mqtt::ReadHostAndPort(place);
+    const std::optional<HostAndPort> read = ReadHostAndPort(place, mqtt::UsualPort);
     if (!found.Setting) return End(JoinState::Failed, "This computer is in no set-up.");
     if (!read) return End(JoinState::Failed, "\"" + place + "\" is no name of a host.");
     wanted = *found.Setting;
@@ -163,11 +163,11 @@ void SetUpDesk::TakeTheOneSeen() {
                    missing.empty() ? "No set-up is found on the network; please name its host." : missing);
     std::string names;
     for (const avahi::FoundService& each : seen)
-        names += (names.empty() ? "" : ", ") + each.SetUp + " at " + mqtt::WriteHostAndPort(PlaceOf(each));
+        names += (names.empty() ? "" : ", ") + each.SetUp + " at " + WriteHostAndPort(PlaceOf(each), mqtt::UsualPort);
     End(JoinState::Failed, "Several set-ups are found; please name the host of one: " + names + ".");
 }
 
-void SetUpDesk::Try(const std::string& name, const mqtt::HostAndPort& place) {
+void SetUpDesk::Try(const std::string& name, const HostAndPort& place) {
     wanted.Name = name;
     wanted.Host = place.Host;
     wanted.Port = place.Port;

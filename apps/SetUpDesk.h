@@ -10,7 +10,7 @@
 
 #include "adapters/avahi/ServiceBrowser.h"
 #include "adapters/linux/FileWatch.h"
-#include "adapters/mqtt/HostAndPort.h"
+#include "adapters/shared/HostAndPort.h"
 #include "adapters/mqtt/Joining.h"
 #include "adapters/shared/Changes.h"
 #include "platform/sides/JoinSide.h"
@@ -42,7 +42,7 @@ private:
     void Settle();
     void LookForName();
     void TakeTheOneSeen();
-    void Try(const std::string& name, const mqtt::HostAndPort& place);
+    void Try(const std::string& name, const HostAndPort& place);
     void End(JoinState how, const std::string& what);
 
     EventLoop& loop;
@@ -54,7 +54,7 @@ private:
     std::string sentence;
     std::string missing;  // why set-ups aren't found by themselves, "" where they are
     mqtt::SetUpSetting wanted;
-    std::optional<mqtt::HostAndPort> wantedPlace;
+    std::optional<HostAndPort> wantedPlace;
     std::optional<avahi::ServiceBrowser> browser;
     mqtt::Joining joining;
     linux::FileWatch watch;

@@ -99,7 +99,7 @@ ReadCommand ReadSimulatorCommand(int count, const char* const* words) {
             command.Port = PortOf(value());
             if (command.Port == 0) return {std::nullopt, "--port needs a number from 1 to 65535"};
         } else if (word == "--host") {
-            command.Broker = mqtt::ReadHostAndPort(value());
+            command.Broker = ReadHostAndPort(value(), mqtt::UsualPort);
             if (!command.Broker) return {std::nullopt, "--host needs HOST or HOST:PORT"};
         } else {
             return {std::nullopt, "\"" + std::string(word) + "\" is not understood; --help tells what is"};

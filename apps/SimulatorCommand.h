@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "adapters/mqtt/HostAndPort.h"
+#include "adapters/shared/HostAndPort.h"
 
 namespace orvelle {
 
@@ -18,7 +18,7 @@ struct SimulatorCommand {
     std::string Name;                           // of the set-up from now on, "" for the kept or the usual one
     int Port = 0;                               // of the broker, 0 for the kept or the usual one
     bool Own = false;                           // leaves the set-up of another computer that was joined
-    std::optional<mqtt::HostAndPort> Broker{};  // an existing one in place of one of our own
+    std::optional<HostAndPort> Broker{};  // an existing one in place of one of our own
 
     bool Serves() const { return What == Task::Serve || What == Task::ServeWithoutWindow; }
 

@@ -5,7 +5,7 @@
 #include <QVBoxLayout>
 
 #include "adapters/looks/Text.h"
-#include "adapters/mqtt/HostAndPort.h"
+#include "adapters/shared/HostAndPort.h"
 #include "apps/ComputersBox.h"
 #include "apps/SimulatorLinks.h"
 #include "apps/SimulatorProgram.h"
@@ -119,7 +119,7 @@ void SimulatorSetUpPage::ShowState() {
                          : QString("In no set-up"));
     const std::string trouble = program.Trouble();
     const bool isThere = program.AtBroker.IsThere();
-    const QString at = member ? ToQt(mqtt::WriteHostAndPort({member->Host, member->Port})) : QString();
+    const QString at = member ? ToQt(WriteHostAndPort({member->Host, member->Port}, mqtt::UsualPort)) : QString();
     broker->Show(isThere            ? Sign::Good
                  : !trouble.empty() ? Sign::Bad
                  : member           ? Sign::Waiting

@@ -1,16 +1,15 @@
 #include "adapters/avahi/DaemonThread.h"
 
 #include <avahi-common/simple-watch.h>
-#include <pthread.h>
 #include <sys/eventfd.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <system_error>
 #include <thread>
 #include <utility>
 
 #include "adapters/avahi/DaemonConnection.h"
+#include "adapters/shared/SignalsHeldBack.h"
 
 namespace orvelle::avahi {
 
@@ -44,22 +43,6 @@ void Serve(int end, DaemonWork& work) {
     poll->watch_free(watch);
     avahi_simple_poll_free(turns);
 }
-
-// The program's signals are for its own thread.
-class SignalsHeldBack {
-public:
-    SignalsHeldBack() {
-        sigset_t all;
-        sigfillset(&all);
-        pthread_sigmask(SIG_SETMASK, &all, &before);
-    }
-    SignalsHeldBack(const SignalsHeldBack&) = delete;
-    SignalsHeldBack& operator=(const SignalsHeldBack&) = delete;
-    ~SignalsHeldBack() { pthread_sigmask(SIG_SETMASK, &before, nullptr); }
-
-private:
-    sigset_t before{};
-};
 
 }  // namespace
 

@@ -8,7 +8,7 @@
 #include <memory>
 #include <utility>
 
-#include "adapters/avahi/LoopInbox.h"
+#include "adapters/shared/LoopInbox.h"
 
 namespace orvelle::avahi {
 

@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "adapters/mqtt/BrokerAccess.h"
-#include "adapters/mqtt/HostLookup.h"
+#include "adapters/shared/HostLookup.h"
 #include "platform/Event.h"
 #include "platform/EventLoop.h"
 

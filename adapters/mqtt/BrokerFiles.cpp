@@ -4,7 +4,7 @@
 
 #include <cstddef>
 
-#include "adapters/mqtt/PrivateFile.h"
+#include "adapters/shared/PrivateFile.h"
 #include "adapters/mqtt/Topics.h"
 
 namespace orvelle::mqtt {

@@ -5,7 +5,7 @@
 namespace orvelle::mqtt {
 
 std::string SentenceOf(BrokerTrouble trouble, const HostAndPort& place, int identity, KeyFrom origin) {
-    const std::string where = WriteHostAndPort(place);
+    const std::string where = WriteHostAndPort(place, UsualPort);
     using enum BrokerTrouble;
     switch (trouble) {
         case HostUnknown:
@@ -32,7 +32,7 @@ std::string SentenceOf(BrokerTrouble trouble, const HostAndPort& place, int iden
 }
 
 std::string SentenceOfReached(const HostAndPort& place) {
-    return "The set-up at " + WriteHostAndPort(place) + " is reached again.";
+    return "The set-up at " + WriteHostAndPort(place, UsualPort) + " is reached again.";
 }
 
 }  // namespace orvelle::mqtt

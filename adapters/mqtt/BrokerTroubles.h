@@ -5,7 +5,7 @@
 #include <string>
 
 #include "adapters/mqtt/BrokerConnection.h"
-#include "adapters/mqtt/HostAndPort.h"
+#include "adapters/shared/HostAndPort.h"
 
 namespace orvelle::mqtt {
 

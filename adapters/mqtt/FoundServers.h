@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "adapters/mqtt/HostAndPort.h"
+#include "adapters/shared/HostAndPort.h"
 #include "adapters/shared/Changes.h"
 
 namespace orvelle::mqtt {

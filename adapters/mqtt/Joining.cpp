@@ -81,6 +81,6 @@ void Joining::End(JoinOutcome outcome, const std::string& sentence) {
     Ended(outcome, sentence);
 }
 
-std::string Joining::Place() const { return WriteHostAndPort({wanted.Host, wanted.Port}); }
+std::string Joining::Place() const { return WriteHostAndPort({wanted.Host, wanted.Port}, UsualPort); }
 
 }  // namespace orvelle::mqtt

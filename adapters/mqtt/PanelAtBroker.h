@@ -9,7 +9,7 @@
 #include <set>
 #include <string>
 
-#include "adapters/mqtt/HostAndPort.h"
+#include "adapters/shared/HostAndPort.h"
 #include "adapters/mqtt/Member.h"
 #include "adapters/mqtt/RetainedMessages.h"
 #include "platform/FrameworkLine.h"

@@ -1,12 +1,11 @@
 #include "adapters/mqtt/SetUpFile.h"
 
-#include <algorithm>
-
 #include "adapters/mqtt/Bounds.h"
 #include "adapters/mqtt/JsonReading.h"
 #include "adapters/mqtt/JsonWriting.h"
-#include "adapters/mqtt/PrivateFile.h"
 #include "adapters/mqtt/Topics.h"
+#include "adapters/shared/HostAndPort.h"
+#include "adapters/shared/PrivateFile.h"
 
 namespace orvelle::mqtt {
 
@@ -14,15 +13,8 @@ namespace {
 
 constexpr Long Version = 1;
 constexpr Long LastPort = 65535;
-constexpr std::size_t LongestHost = 253;  // the longest name that the domain name system has
 
 }  // namespace
-
-bool IsHost(std::string_view text) {
-    return !text.empty() && text.size() <= LongestHost && std::all_of(text.begin(), text.end(), [](char character) {
-        return static_cast<unsigned char>(character) > ' ' && character != '\x7F';
-    });
-}
 
 std::optional<SetUpSetting> ReadSetUp(std::string_view text) {
     JsonReading reading(text);

@@ -23,9 +23,6 @@ struct SetUpSetting {
     bool operator==(const SetUpSetting&) const = default;
 };
 
-// Whether a text can be the name or the address of a host: no blanks in it, and no longer than names get.
-bool IsHost(std::string_view text);
-
 // The file's text. Nothing for a text that is none.
 std::optional<SetUpSetting> ReadSetUp(std::string_view text);
 std::string WriteSetUp(const SetUpSetting& setting);

@@ -7,7 +7,7 @@
 #include <set>
 
 #include "adapters/mqtt/BrokerConnection.h"
-#include "adapters/mqtt/HostAndPort.h"
+#include "adapters/shared/HostAndPort.h"
 
 namespace orvelle::mqtt {
 

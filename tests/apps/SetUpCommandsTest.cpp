@@ -5,7 +5,7 @@
 #include <fstream>
 
 #include "tests/avahi/AvahiRig.h"
-#include "tests/mqtt/OwnFolder.h"
+#include "tests/shared/OwnFolder.h"
 #include "tests/mqtt/broker/BrokerProcess.h"
 #include "tests/mqtt/broker/LoopbackPorts.h"
 

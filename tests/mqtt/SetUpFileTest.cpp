@@ -4,7 +4,7 @@
 
 #include <fstream>
 
-#include "tests/mqtt/OwnFolder.h"
+#include "tests/shared/OwnFolder.h"
 #include "tests/mqtt/Refusals.h"
 
 namespace orvelle::mqtt {

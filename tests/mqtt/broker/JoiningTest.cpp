@@ -4,7 +4,7 @@
 #include <fstream>
 
 #include "tests/linux/WaitUntil.h"
-#include "tests/mqtt/OwnFolder.h"
+#include "tests/shared/OwnFolder.h"
 #include "tests/mqtt/broker/LoopbackPorts.h"
 #include "tests/mqtt/broker/SetUpRig.h"
 

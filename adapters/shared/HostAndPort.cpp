@@ -1,14 +1,15 @@
-#include "adapters/mqtt/HostAndPort.h"
+#include "adapters/shared/HostAndPort.h"
 
 #include <algorithm>
 #include <cctype>
 #include <charconv>
 
-namespace orvelle::mqtt {
+namespace orvelle {
 
 namespace {
 
 constexpr int LastPort = 65535;
+constexpr std::size_t LongestHost = 253;  // the longest name that the domain name system has
 constexpr std::string_view Blanks = " \t\r\n";
 
 std::string_view WithoutBlanksAround(std::string_view text) {
@@ -25,10 +26,16 @@ std::optional<int> ReadPort(std::string_view text) {
 
 }  // namespace
 
-std::optional<HostAndPort> ReadHostAndPort(std::string_view text) {
+bool IsHost(std::string_view text) {
+    return !text.empty() && text.size() <= LongestHost && std::all_of(text.begin(), text.end(), [](char character) {
+        return static_cast<unsigned char>(character) > ' ' && character != '\x7F';
+    });
+}
+
+std::optional<HostAndPort> ReadHostAndPort(std::string_view text, int usualPort) {
     text = WithoutBlanksAround(text);
     std::string_view host = text;
-    std::optional<int> port = UsualPort;
+    std::optional<int> port = usualPort;
     if (text.starts_with('[')) {
         const std::size_t bracket = text.find(']');
         if (bracket == text.npos) return std::nullopt;
@@ -43,8 +50,8 @@ std::optional<HostAndPort> ReadHostAndPort(std::string_view text) {
     return HostAndPort{std::string(host), *port};
 }
 
-std::string WriteHostAndPort(const HostAndPort& place) {
-    if (place.Port == UsualPort) return place.Host;
+std::string WriteHostAndPort(const HostAndPort& place, int usualPort) {
+    if (place.Port == usualPort) return place.Host;
     const bool isVersion6 = place.Host.find(':') != std::string::npos;
     return (isVersion6 ? "[" + place.Host + "]" : place.Host) + ":" + std::to_string(place.Port);
 }
@@ -54,4 +61,4 @@ HostAndPort InLowerCase(HostAndPort place) {
     return place;
 }
 
-}  // namespace orvelle::mqtt
+}  // namespace orvelle

@@ -1,4 +1,4 @@
-#include "adapters/mqtt/HostLookup.h"
+#include "adapters/shared/HostLookup.h"
 
 #include <netdb.h>
 #include <sys/eventfd.h>
@@ -15,7 +15,7 @@
 #include "adapters/shared/FileDescriptor.h"
 #include "platform/ServerNames.h"
 
-namespace orvelle::mqtt {
+namespace orvelle {
 
 namespace {
 
@@ -75,4 +75,4 @@ void HostLookup::Take() {
     call(addresses);
 }
 
-}  // namespace orvelle::mqtt
+}  // namespace orvelle

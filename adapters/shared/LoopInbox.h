@@ -6,7 +6,7 @@
 #include <functional>
 #include <mutex>
 
-namespace orvelle::avahi {
+namespace orvelle {
 
 class LoopInbox {
 public:
@@ -31,4 +31,4 @@ private:
     bool isClosed = false;
 };
 
-}  // namespace orvelle::avahi
+}  // namespace orvelle

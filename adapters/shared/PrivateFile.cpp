@@ -1,4 +1,4 @@
-#include "adapters/mqtt/PrivateFile.h"
+#include "adapters/shared/PrivateFile.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -11,7 +11,7 @@
 #include "adapters/shared/FileDescriptor.h"
 #include "adapters/shared/WholeFile.h"
 
-namespace orvelle::mqtt {
+namespace orvelle {
 
 namespace {
 
@@ -65,4 +65,4 @@ std::string RemovePrivateFile(const fs::path& file) {
     return error ? error.message() : "";
 }
 
-}  // namespace orvelle::mqtt
+}  // namespace orvelle

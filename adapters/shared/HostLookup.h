@@ -9,7 +9,7 @@
 
 #include "platform/EventLoop.h"
 
-namespace orvelle::mqtt {
+namespace orvelle {
 
 class HostLookup {
 public:
@@ -32,4 +32,4 @@ private:
     Ticket ready;
 };
 
-}  // namespace orvelle::mqtt
+}  // namespace orvelle

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace orvelle::mqtt {
+namespace orvelle {
 
 struct PrivateText {
     std::optional<std::string> Text;
@@ -25,4 +25,4 @@ std::string WritePrivateFile(const std::filesystem::path& file, std::string_view
 // "" for success, or where there was none.
 std::string RemovePrivateFile(const std::filesystem::path& file);
 
-}  // namespace orvelle::mqtt
+}  // namespace orvelle

@@ -1,11 +1,11 @@
-#include "adapters/avahi/LoopInbox.h"
+#include "adapters/shared/LoopInbox.h"
 
 #include <sys/eventfd.h>
 #include <unistd.h>
 
 #include <utility>
 
-namespace orvelle::avahi {
+namespace orvelle {
 
 LoopInbox::LoopInbox() : descriptor(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {}
 
@@ -43,4 +43,4 @@ std::function<void()> LoopInbox::Next() {
     return task;
 }
 
-}  // namespace orvelle::avahi
+}  // namespace orvelle

@@ -8,11 +8,11 @@
 #include <string>
 #include <system_error>
 
-namespace orvelle::mqtt {
+namespace orvelle {
 
 struct OwnFolder {
     OwnFolder() {
-        std::string name = testing::TempDir() + "orvelle-mqtt-XXXXXX";
+        std::string name = testing::TempDir() + "orvelle-tests-XXXXXX";
         if (mkdtemp(name.data())) Path = name;
         EXPECT_FALSE(Path.empty()) << name;
     }
@@ -26,4 +26,4 @@ struct OwnFolder {
     std::filesystem::path Path;
 };
 
-}  // namespace orvelle::mqtt
+}  // namespace orvelle

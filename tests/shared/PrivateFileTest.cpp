@@ -1,4 +1,4 @@
-#include "adapters/mqtt/PrivateFile.h"
+#include "adapters/shared/PrivateFile.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -7,9 +7,9 @@
 #include <fstream>
 #include <iterator>
 
-#include "tests/mqtt/OwnFolder.h"
+#include "tests/shared/OwnFolder.h"
 
-namespace orvelle::mqtt {
+namespace orvelle {
 namespace {
 
 namespace fs = std::filesystem;
@@ -95,4 +95,4 @@ TEST_F(PrivateFileTest, IsRemoved) {
 }
 
 }  // namespace
-}  // namespace orvelle::mqtt
+}  // namespace orvelle
