@@ -1,4 +1,5 @@
 #include "apps/SetUpDesk.h"
+#include "adapters/mqtt/SetUpFile.h"
 
 #include <QStandardPaths>
 #include <algorithm>

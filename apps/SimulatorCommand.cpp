@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "adapters/mqtt/OwnSetUp.h"
+#include "adapters/mqtt/SetUpFile.h"
 #include "adapters/mqtt/Topics.h"
 
 namespace orvelle {

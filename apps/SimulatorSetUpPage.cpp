@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "adapters/looks/Text.h"
+#include "adapters/mqtt/SetUpFile.h"
 #include "adapters/shared/HostAndPort.h"
 #include "apps/ComputersBox.h"
 #include "apps/SimulatorLinks.h"

@@ -9,6 +9,7 @@
 
 #include "adapters/mqtt/BrokerConnection.h"
 #include "adapters/mqtt/FoundServers.h"
+#include "adapters/mqtt/SetUpFile.h"
 
 namespace orvelle::mqtt {
 

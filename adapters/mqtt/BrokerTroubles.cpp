@@ -1,5 +1,6 @@
 #include "adapters/mqtt/BrokerTroubles.h"
 
+#include "adapters/mqtt/SetUpFile.h"
 #include "adapters/mqtt/Topics.h"
 
 namespace orvelle::mqtt {

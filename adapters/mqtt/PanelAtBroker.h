@@ -9,6 +9,7 @@
 #include <set>
 #include <string>
 
+#include "adapters/mqtt/SetUpFile.h"
 #include "adapters/shared/HostAndPort.h"
 #include "adapters/mqtt/Member.h"
 #include "adapters/mqtt/RetainedMessages.h"
