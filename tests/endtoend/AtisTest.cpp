@@ -5,7 +5,6 @@
 #include <fstream>
 #include <iterator>
 #include <numbers>
-#include <sstream>
 
 #include "adapters/media/LoadedMediaPlayers.h"
 #include "tests/endtoend/PanelTest.h"

@@ -58,12 +58,16 @@ void PipeWireServer::Start() {
     EXPECT_TRUE(linux::WaitUntil([] { return Pactl({"info"}).find("Default Sink: auto_null") != std::string::npos; }));
 }
 
-SoundFolder::SoundFolder() {
-    std::string pattern = std::filesystem::temp_directory_path() / "orvelle-sound-XXXXXX";
-    folder = mkdtemp(pattern.data());
+void NameSoundFolder(const std::filesystem::path& folder) {
     for (const char* const name : {"HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_STATE_HOME"})
         setenv(name, folder.c_str(), 1);
     for (const char* const name : {"PULSE_SERVER", "PULSE_RUNTIME_PATH", "PULSE_STATE_PATH"}) unsetenv(name);
+}
+
+SoundFolder::SoundFolder() {
+    std::string pattern = std::filesystem::temp_directory_path() / "orvelle-sound-XXXXXX";
+    folder = mkdtemp(pattern.data());
+    NameSoundFolder(folder);
 }
 
 SoundFolder::~SoundFolder() { std::filesystem::remove_all(folder); }
