@@ -1,10 +1,10 @@
 #include "apps/SimulatorProgram.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <utility>
 
 #include "adapters/mqtt/BrokerTroubles.h"
+#include "adapters/shared/Environment.h"
 #include "apps/AskedSounds.h"
 #include "apps/ComputerName.h"
 
@@ -14,10 +14,7 @@ namespace {
 
 constexpr Long StandingMilliseconds = 60'000;
 
-std::string DesktopName() {
-    const char* const type = std::getenv("XDG_SESSION_TYPE");
-    return type ? type : "";
-}
+std::string DesktopName() { return Variable("XDG_SESSION_TYPE"); }
 
 }  // namespace
 
