@@ -26,9 +26,8 @@ std::string EndByOwnError(const std::string& error) {
 
 std::string EndWithoutWord() {
     return "The panel has ended without being asked to: it crashed, or something else ended it, as the system does "
-           "when "
-           "memory runs short. Start it again: your settings are kept, but for the talk keys, which must be set after "
-           "each start.";
+           "when memory runs short. Start it again: your settings are kept, but for the talk keys, which must be set "
+           "after each start.";
 }
 
 }  // namespace orvelle

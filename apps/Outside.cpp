@@ -17,7 +17,9 @@ Outside::Outside(EventLoop& eventLoop, ControlValues& controlValues, const Compu
     : Practice(eventLoop),
       loop(eventLoop),
       names(thisComputer),
-      loadedPlayers(PlacesOfModule(media::ModuleName)),
+      loadedPlayers([](std::string& why) {
+          return FunctionOf<NewOrvelleMediaPlayerFunction>(media::ModuleName, "NewOrvelleMediaPlayer", why);
+      }),
       sound(eventLoop),
       Velmarc(eventLoop, controlValues, simulatorLines, {thisComputer.Name, thisComputer.Name + LocalDomain}),
       Tessaly(eventLoop, controlValues, frameworkLines),
@@ -25,7 +27,8 @@ Outside::Outside(EventLoop& eventLoop, ControlValues& controlValues, const Compu
       VolumeControl(Practice.VolumeControl),
       VolumeControlHP(Practice.VolumeControlHP),
       TSRemote(realTeamSpeak ? *realTeamSpeak : Practice.TSRemote),
-      MediaPlayers(loadedPlayers.IsThere() ? static_cast<MediaPlayerFactory&>(loadedPlayers) : Practice.MediaPlayers) {
+      MediaPlayers(IsModuleThere(media::ModuleName) ? static_cast<MediaPlayerFactory&>(loadedPlayers)
+                                                    : Practice.MediaPlayers) {
     loadedPlayers.Told = [this](const std::string& sentence) { Told(sentence); };
     sound.Came = [this] { ChooseMixers(); };
 }

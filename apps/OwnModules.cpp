@@ -6,22 +6,34 @@
 
 namespace orvelle {
 
-std::vector<std::filesystem::path> PlacesOfModule(const std::string& name) {
-    const std::filesystem::path folder = std::filesystem::path(linux::OwnFile()).parent_path();
-    return {folder / name, (folder / ORVELLE_MODULES / name).lexically_normal()};
-}
+namespace {
 
-void* FunctionOfModule(const std::string& name, const char* function, std::string& why) {
-    void* module = nullptr;
+// The file of a module, "" where it is not installed.
+std::filesystem::path FileOf(const std::string& name) {
     std::error_code unknown;
     for (const std::filesystem::path& place : PlacesOfModule(name))
-        if (module == nullptr && std::filesystem::exists(place, unknown))
-            module = dlopen(place.c_str(), RTLD_NOW | RTLD_LOCAL);
+        if (std::filesystem::exists(place, unknown)) return place;
+    return {};
+}
+
+}  // namespace
+
+std::vector<std::filesystem::path> PlacesOfModule(const std::string& name) {
+    return {linux::BesideOwnFile(name), linux::OwnPrefix() / ORVELLE_MODULES / name};
+}
+
+bool IsModuleThere(const std::string& name) { return !FileOf(name).empty(); }
+
+void* FunctionOfModule(const std::string& name, const char* function, std::string& why) {
+    const std::filesystem::path file = FileOf(name);
+    if (file.empty()) {
+        why = "the module " + name + " is not installed";
+        return nullptr;
+    }
+    void* const module = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
     void* const found = module ? dlsym(module, function) : nullptr;
-    if (found) return found;
-    const char* const error = dlerror();
-    why = error ? error : "the module " + name + " is not installed";
-    return nullptr;
+    if (!found) why = dlerror();
+    return found;
 }
 
 }  // namespace orvelle

@@ -8,8 +8,11 @@
 
 namespace orvelle {
 
-// The places to look in, the first one first.
+// The places to look in, the first one first. A name that is a full path is its own only place.
 std::vector<std::filesystem::path> PlacesOfModule(const std::string& name);
+
+// Whether a module is installed; it is not loaded for that.
+bool IsModuleThere(const std::string& name);
 
 // Loads a module, which then stays. Null where that can't be done; `why` is then a part of a sentence.
 void* FunctionOfModule(const std::string& name, const char* function, std::string& why);

@@ -1,17 +1,17 @@
 #include "apps/ReadmePictures.h"
 
 #include <QAbstractButton>
-#include <QCoreApplication>
 #include <QGuiApplication>
+#include <QLineEdit>
 #include <QPixmap>
 #include <QScreen>
 #include <QTimer>
-#include <QTreeWidget>
 #include <array>
+#include <functional>
 #include <iostream>
 #include <utility>
 
-#include "adapters/looks/Text.h"
+#include "apps/PanelPages.h"
 #include "apps/UserStrokes.h"
 #include "apps/Waiting.h"
 #include "deck/FirstFlight.h"
@@ -21,9 +21,8 @@ namespace orvelle {
 namespace {
 
 constexpr const char* TalkKey = "F9";
-constexpr int CapturedKey = 96;       // F12, as the X server numbers it
-constexpr int CaptureHasBegun = 700;  // milliseconds
-constexpr QSize TrayIcon(24, 26);     // the place of the one icon, in the upper right corner
+constexpr int CapturedKey = 96;    // F12, as the X server numbers it
+constexpr QSize TrayIcon(24, 26);  // the place of the one icon, in the upper right corner
 constexpr int TrayScale = 4;
 
 struct Row {
@@ -50,12 +49,17 @@ void SaveRows(SettingsStore& store, const std::array<Row, Count>& rows, const st
     }
 }
 
-// Serves the loop until nothing waits there.
-void Settle() {
-    for (int turn = 0; turn < 10; ++turn) QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+bool IsShown(const QWidget& window) { return window.isVisible() && window.windowHandle()->isExposed(); }
+
+bool Tell(const char* told, bool isReached) {
+    if (!isReached) std::cerr << "OrvelleCP: this was not reached: " << told << std::endl;
+    return isReached;
 }
 
-bool IsShown(const QWidget& window) { return window.isVisible() && window.windowHandle()->isExposed(); }
+bool Reach(const char* told, const std::function<void()>& act, const std::function<bool()>& isDone) {
+    act();
+    return Tell(told, WaitUntil(isDone));
+}
 
 }  // namespace
 
@@ -76,13 +80,6 @@ void ReadmePictures::Prepare() {
     store.HandlerEnded();
 }
 
-bool ReadmePictures::Reach(const char* told, const std::function<void()>& act, const std::function<bool()>& isDone) {
-    act();
-    const bool done = WaitUntil(isDone);
-    if (!done) std::cerr << "OrvelleCP: this was not reached: " << told << std::endl;
-    return done;
-}
-
 bool ReadmePictures::PlayFlight() {
     FrmOrvelle& panel = house.Panel;
     embedded::SetUp& practice = house.Outside.Practice;
@@ -96,10 +93,16 @@ bool ReadmePictures::PlayFlight() {
                    panel.twCategory.UserClick(*panel.twCategory.Find("Teamspeak"));
                    house.Desktop.Window().activateWindow();
                    WaitUntil([&] { return house.Desktop.Window().isActiveWindow(); });
-                   QTimer::singleShot(CaptureHasBegun, [&strokes] {
+                   // The click returns when the capture is over; while it lasts, its field tells the seconds left.
+                   const auto& field = *house.Desktop.Window().findChild<QLineEdit*>("TSPTTKeyDisplay");
+                   QTimer look;
+                   look.callOnTimeout([&] {
+                       if (field.actions().isEmpty()) return;
+                       look.stop();
                        strokes.Press(CapturedKey);
                        strokes.Release(CapturedKey);
                    });
+                   look.start(20);
                    house.Desktop.Window().findChild<QAbstractButton*>("TSPTTKeySet")->click();
                },
                [&] { return panel.TSPTTKeyDisplay.Text == "F12"; }) &&
@@ -118,23 +121,9 @@ bool ReadmePictures::PlayFlight() {
 }
 
 bool ReadmePictures::TakePage(const char* node, const char* name) {
-    FrmOrvelle& panel = house.Panel;
-    qt::MainWindow& window = house.Desktop.Window();
-    auto& tree = *window.findChild<QTreeWidget*>("twCategory");
-    TreeNode& wanted = *panel.twCategory.Find(node);
-    return Reach(
-        name,
-        [&] {
-            tree.expandAll();
-            tree.setCurrentItem(tree.findItems(node, Qt::MatchExactly | Qt::MatchRecursive).value(0));
-            panel.twCategory.UserClick(wanted);
-        },
-        [&] {
-            if (!panel.Panels(std::stoi(wanted.Tag)).Visible()) return false;
-            Settle();
-            Keep(window.grab(), name);
-            return true;
-        });
+    if (!Tell(name, TurnToPage(house, *house.Panel.twCategory.Find(node)))) return false;
+    Keep(house.Desktop.Window().grab(), name);
+    return true;
 }
 
 bool ReadmePictures::Take() {

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <QDir>
-#include <functional>
 
 #include "apps/PanelProgram.h"
 
@@ -21,7 +20,6 @@ public:
     bool Take();
 
 private:
-    bool Reach(const char* told, const std::function<void()>& act, const std::function<bool()>& isDone);
     bool PlayFlight();
     bool TakePage(const char* node, const char* name);
     void Keep(const QPixmap& picture, const QString& name) const;

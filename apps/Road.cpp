@@ -1,16 +1,15 @@
 #include "apps/Road.h"
 
 #include <QAbstractButton>
-#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QScreen>
-#include <QTreeWidget>
 #include <array>
 #include <iostream>
 
 #include "adapters/looks/Text.h"
 #include "adapters/shared/ScanCodes.h"
+#include "apps/PanelPages.h"
 #include "apps/Waiting.h"
 
 namespace orvelle {
@@ -38,11 +37,6 @@ constexpr std::array<Page, PanelCount> Pages{{{OverviewPanel, "Config", "overvie
                                               {VoiceAtisPanel, nullptr, "voice-atis"},
                                               {ExtraPanel, "Extra", "extra"},
                                               {VatsimKeysPanel, "Key mappings", "vatsim-keys"}}};
-
-// Serves the loop until nothing waits there.
-void Settle() {
-    for (int turn = 0; turn < 10; ++turn) QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
-}
 
 }  // namespace
 
@@ -138,7 +132,6 @@ bool Road::Play() {
 }
 
 void Road::TakePictures() {
-    FrmOrvelle& panel = house.Panel;
     Settle();
     QScreen& screen = *QGuiApplication::primaryScreen();
     const QPixmap desktop = screen.grabWindow(0);
@@ -147,20 +140,11 @@ void Road::TakePictures() {
     desktop.copy(QRect(QPoint(desktop.width() - TrayCorner.width(), 0), TrayCorner))
         .scaled(TrayCorner * 8)
         .save(pictures.filePath("tray-icon.png"));
-    auto& tree = *house.Desktop.Window().findChild<QTreeWidget*>("twCategory");
-    tree.expandAll();
     for (const Page& page : Pages) {
-        if (page.Node != nullptr) {
-            tree.setCurrentItem(tree.findItems(page.Node, Qt::MatchExactly | Qt::MatchRecursive).value(0));
-            panel.twCategory.UserClick(*panel.twCategory.Find(page.Node));
-        } else {
-            // The tree has no node for it while the media players are away; the panel takes one from beside the tree.
-            TreeNode beside;
-            beside.Tag = std::to_string(page.Panel);
-            panel.twCategory.UserClick(beside);
-        }
-        WaitUntil([&] { return panel.Panels(page.Panel).Visible(); });
-        Settle();
+        // The tree has no node for some while the media players are away; the panel takes one from beside the tree.
+        TreeNode beside;
+        beside.Tag = std::to_string(page.Panel);
+        TurnToPage(house, page.Node != nullptr ? *house.Panel.twCategory.Find(page.Node) : beside);
         const QString name = QStringLiteral("panel-%1-%2.png").arg(page.Panel, 2, 10, QChar('0')).arg(page.Picture);
         house.Desktop.Window().grab().save(pictures.filePath(name));
     }

@@ -6,6 +6,8 @@
 #include <cctype>
 #include <utility>
 
+#include "adapters/mqtt/OwnSetUp.h"
+
 namespace orvelle {
 
 namespace {
@@ -89,8 +91,10 @@ void SetUpDesk::MoveTo(const std::string& place) {
 
 void SetUpDesk::Leave() {
     Cancel();
+    const mqtt::OwnSetUp own(file.parent_path());
+    const std::optional<mqtt::OwnSetting> made = own.Read().Setting;
     const std::string left = !found.Setting ? "This computer is in no set-up."
-                             : found.Setting->Identity == 1
+                             : made && own.OfThisComputer(*made)
                                  ? "The panel of this computer has left the set-up " + found.Setting->Name +
                                        ", which orvelle-sim goes on serving."
                                  : "This computer has left the set-up " + found.Setting->Name + ".";

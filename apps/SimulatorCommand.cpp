@@ -1,9 +1,9 @@
 #include "apps/SimulatorCommand.h"
 
 #include <charconv>
-#include <cstdlib>
 #include <string_view>
 
+#include "adapters/linux/BaseFolders.h"
 #include "adapters/mqtt/OwnSetUp.h"
 #include "adapters/mqtt/SetUpFile.h"
 #include "adapters/mqtt/Topics.h"
@@ -14,17 +14,8 @@ namespace {
 
 using Task = SimulatorCommand::Task;
 
-std::string Variable(const char* name) {
-    const char* const value = std::getenv(name);
-    return value ? value : "";
-}
-
 // The same that Qt calls GenericDataLocation, without Qt.
-std::filesystem::path UsualData() {
-    const std::string folder = Variable("XDG_DATA_HOME");
-    if (folder.starts_with('/')) return std::filesystem::path(folder) / "OrvelleCP";
-    return std::filesystem::path(Variable("HOME")) / ".local/share/OrvelleCP";
-}
+std::filesystem::path UsualData() { return linux::BaseFolders::OfThisUser().Data.front() / "OrvelleCP"; }
 
 // 0 for none.
 int PortOf(std::string_view text) {

@@ -1,10 +1,10 @@
 #include "apps/SimulatorProgram.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <utility>
 
 #include "adapters/mqtt/BrokerTroubles.h"
+#include "adapters/shared/Environment.h"
 #include "apps/AskedSounds.h"
 #include "apps/ComputerName.h"
 
@@ -12,12 +12,7 @@ namespace orvelle {
 
 namespace {
 
-constexpr Long StandingMilliseconds = 60'000;
-
-std::string DesktopName() {
-    const char* const type = std::getenv("XDG_SESSION_TYPE");
-    return type ? type : "";
-}
+std::string DesktopName() { return Variable("XDG_SESSION_TYPE"); }
 
 }  // namespace
 
@@ -35,7 +30,10 @@ SimulatorProgram::SimulatorProgram(EventLoop& eventLoop, const SimulatorCommand&
       lock(ServingLock(asked)) {
     Simulator.SetLink(LinkState::Up);
     Network.SetLink(LinkState::Up);
-    troubleWatch = AtBroker.Observe([this] { TellOfTrouble(); });
+    reached = AtBroker.Reached.Attach([this] { troubles->Reach({member->Host, member->Port}); });
+    failed = AtBroker.Failed.Attach([this](mqtt::BrokerTrouble why) {
+        IsOwnBrokersEnd(why) ? troubles->Rest() : troubles->Fail(why, {member->Host, member->Port});
+    });
 }
 
 std::string SimulatorProgram::Open() {
@@ -64,12 +62,14 @@ void SimulatorProgram::Close() {
 }
 
 std::string SimulatorProgram::Trouble() const {
-    if (!member || AtBroker.IsThere()) return "";
-    // The broker's own end is told by itself.
     const mqtt::BrokerTrouble trouble = AtBroker.Trouble();
-    if (own && own->BringsBroker() && trouble == mqtt::BrokerTrouble::Unreachable) return "";
-    if (trouble == mqtt::BrokerTrouble::None) return "";
+    if (!member || AtBroker.IsThere() || trouble == mqtt::BrokerTrouble::None || IsOwnBrokersEnd(trouble)) return "";
     return mqtt::SentenceOf(trouble, {member->Host, member->Port}, member->Identity, mqtt::KeyFrom::SetUpFile);
+}
+
+// That is told by itself.
+bool SimulatorProgram::IsOwnBrokersEnd(mqtt::BrokerTrouble why) const {
+    return own && own->BringsBroker() && why == mqtt::BrokerTrouble::Unreachable;
 }
 
 std::string SimulatorProgram::ServeOwn() {
@@ -87,7 +87,11 @@ std::string SimulatorProgram::ServeOwn() {
 
 void SimulatorProgram::GoTo(const mqtt::SetUpSetting& setUp) {
     member = setUp;
-    toldOfTrouble.clear();
+    troubles.emplace(loop, 0);
+    troubles->Told = [this](mqtt::BrokerTrouble why, const mqtt::HostAndPort& place) {
+        Told(mqtt::SentenceOf(why, place, member->Identity, mqtt::KeyFrom::SetUpFile));
+    };
+    troubles->Over = [this](const mqtt::HostAndPort& place) { Told(mqtt::SentenceOfReached(place)); };
     AtBroker.Open(setUp);
     SetUpChanged();
 }
@@ -100,6 +104,7 @@ void SimulatorProgram::TakeUpFile() {
     const bool isOwn = found.Setting && !SetUp.JoinedElsewhere();
     if (isOwn || (own && !found.Setting) || found.Setting == member) return;
     AtBroker.Close();
+    troubles.reset();
     member.reset();
     own.reset();
     if (found.Setting) return GoTo(*found.Setting);
@@ -108,19 +113,6 @@ void SimulatorProgram::TakeUpFile() {
             "This computer has left its set-up, so nothing is served. Started again, orvelle-sim makes one of its "
             "own.");
     SetUpChanged();
-}
-
-// Each reason once, until the broker was there for a while.
-void SimulatorProgram::TellOfTrouble() {
-    if (AtBroker.IsThere()) {
-        if (!std::exchange(isReached, true))
-            standing = loop.After(StandingMilliseconds, [this] { toldOfTrouble.clear(); });
-        return;
-    }
-    isReached = false;
-    standing.End();
-    const std::string sentence = Trouble();
-    if (!sentence.empty() && toldOfTrouble.insert(sentence).second) Told(sentence);
 }
 
 // Each once, until it is over.

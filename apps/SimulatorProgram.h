@@ -4,7 +4,6 @@
 #pragma once
 
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -13,6 +12,7 @@
 #include "adapters/mqtt/BrokerNetworkSide.h"
 #include "adapters/mqtt/BrokerSimulatorSide.h"
 #include "adapters/mqtt/SimulatorAtBroker.h"
+#include "adapters/mqtt/TroubleTeller.h"
 #include "apps/Devices.h"
 #include "apps/OwnServing.h"
 
@@ -54,7 +54,7 @@ private:
     std::string ServeOwn();
     void GoTo(const mqtt::SetUpSetting& setUp);
     void TakeUpFile();
-    void TellOfTrouble();
+    bool IsOwnBrokersEnd(mqtt::BrokerTrouble why) const;
     void TellOfDevices();
 
     const SimulatorCommand command;
@@ -63,10 +63,9 @@ private:
     std::optional<mqtt::SetUpSetting> member;
     std::optional<linux::FileWatch> watch;
     std::string toldOfFile;
-    std::set<std::string> toldOfTrouble;
-    bool isReached = false;
+    std::optional<mqtt::TroubleTeller> troubles;  // of the member
     std::vector<std::string> toldOfDevices;
-    Ticket troubleWatch, standing;
+    Ticket reached, failed;
 };
 
 }  // namespace orvelle

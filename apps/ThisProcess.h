@@ -29,8 +29,8 @@ public:
     orvelle::Program& Program();
     // Why the program may run a second time though it asked before; one sentence, "" if it can't.
     std::string Problem() const;
-    // For a second instance: asks the first one, which does it if it has opened already.
-    void AskRunning(Wish wish) const;
+    // For a second instance: asks the first one to show itself, which it does if it has opened already.
+    void ShowRunning() const;
     // For the first one, once it has opened: calls `grant` from the loop when another program of this user asks for
     // something.
     [[nodiscard]] Ticket WhenAsked(EventLoop& loop, std::function<void(Wish)> grant);

@@ -18,7 +18,7 @@ int main() {
     }
     // The settings belong to the first instance.
     if (process.Program().PrevInstance()) {
-        process.AskRunning(Wish::ShowPanel);
+        process.ShowRunning();
         process.Program().End();
     }
 

@@ -7,6 +7,9 @@
 #
 # With FOLDER the name begins with another folder than that of the list that calls. PROPERTIES, last but for COMMAND,
 # are those of set_tests_properties.
+#
+#   orvelle_beside(wayland-tests orvelle-key-guard...)      links beside the test's program what the panel in it looks
+#                                                           for beside its own file
 include(GoogleTest)
 
 function(orvelle_test)
@@ -22,4 +25,12 @@ function(orvelle_test)
     endif()
     add_test(NAME ${test_FOLDER}/${test_NAME} COMMAND ${test_COMMAND})
     set_tests_properties(${test_FOLDER}/${test_NAME} PROPERTIES TIMEOUT 300 ${test_PROPERTIES})
+endfunction()
+
+function(orvelle_beside program)
+    add_dependencies(${program} ${ARGN})
+    foreach(other ${ARGN})
+        add_custom_command(TARGET ${program} POST_BUILD COMMAND ${CMAKE_COMMAND} -E create_symlink
+            $<TARGET_FILE:${other}> $<TARGET_FILE_DIR:${program}>/$<TARGET_FILE_NAME:${other}>)
+    endforeach()
 endfunction()

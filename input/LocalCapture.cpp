@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "panel/FrmOrvelle.h"
+#include "platform/LocalKeyTexts.h"
 
 namespace orvelle {
 
@@ -15,7 +16,7 @@ constexpr double KeyMessageUnit = 65536;
 }  // namespace
 
 void FrmOrvelle::LocalSet_Click(const LocalSlot& slot) {
-    slot.Display.Text = "<Press a key on current PC>";
+    slot.Display.Text = LocalKeyPrompt;
     slot.Set.Enabled = false;
     slot.Clear.Enabled = false;
     const HandlerDepth::Suspension suspension(handlers);
@@ -51,7 +52,7 @@ void FrmOrvelle::CollectKey(const LocalSlot& slot, const WindowMessage& message)
 
 void FrmOrvelle::LocalClear_Click(const LocalSlot& slot) {
     slot.Field = "";
-    slot.Display.Text = "<No Hotkey>";
+    slot.Display.Text = LocalKeyCleared;
     if (!slot.Setting.empty()) SaveSettingString(slot.Setting, "");
 }
 

@@ -2,6 +2,7 @@
 // links their servers and writes settings back; so the order of the steps is behaviour.
 #include "panel/FrmOrvelle.h"
 #include "panel/Texts.h"
+#include "platform/LocalKeyTexts.h"
 #include "platform/RegistryPaths.h"
 #include "platform/RuntimeError.h"
 
@@ -131,7 +132,7 @@ void FrmOrvelle::LoadTeamSpeak() {
     LoadSlot(joySlots[TeamSpeakSlot]);
     LoadSlot(keySlots[TeamSpeakSlot]);
     // The talk key is never read back: it is unset after each start.
-    TSPTTKeyDisplay.Text = TSPTTKey.empty() ? "<Not Hotkey>" : KeyDisplayName(TSPTTKey);
+    TSPTTKeyDisplay.Text = TSPTTKey.empty() ? LocalKeyNotSet : KeyDisplayName(TSPTTKey);
 }
 
 void FrmOrvelle::LoadRogerWilco() {
@@ -142,7 +143,7 @@ void FrmOrvelle::LoadRogerWilco() {
     LoadSlot(joySlots[RogerWilcoSlot]);
     LoadSlot(keySlots[RogerWilcoSlot]);
     RWPTTKey = GetSettingString("RWPTTKey", "");
-    RWPTTKeyDisplay.Text = RWPTTKey.empty() ? "<Not Hotkey>" : KeyDisplayName(RWPTTKey);
+    RWPTTKeyDisplay.Text = RWPTTKey.empty() ? LocalKeyNotSet : KeyDisplayName(RWPTTKey);
 }
 
 void FrmOrvelle::LoadSlot(const RemoteSlot& slot) {

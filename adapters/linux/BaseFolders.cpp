@@ -1,18 +1,14 @@
 #include "adapters/linux/BaseFolders.h"
 
 #include <algorithm>
-#include <cstdlib>
+
+#include "adapters/shared/Environment.h"
 
 namespace orvelle::linux {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string Variable(const char* name) {
-    const char* const value = std::getenv(name);
-    return value ? value : "";
-}
 
 std::vector<std::string> PartsOf(std::string list) {
     std::vector<std::string> parts;

@@ -5,17 +5,13 @@
 #include <sys/stat.h>
 
 #include <cerrno>
-#include <cstdlib>
 #include <system_error>
+
+#include "adapters/shared/Environment.h"
 
 namespace orvelle::linux {
 
 namespace {
-
-std::string Variable(const char* name) {
-    const char* const value = std::getenv(name);
-    return value ? value : "";
-}
 
 // ":0" and ":0.1" are screens of one display.
 std::string Session() {

@@ -1,5 +1,6 @@
 #include "adapters/linux/KeyFile.h"
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <system_error>

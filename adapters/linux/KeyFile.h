@@ -19,7 +19,6 @@ public:
     static KeyFile Read(const std::filesystem::path& file) { return KeyFile(TextOf(file)); }
     static std::string TextOf(const std::filesystem::path& file);
 
-    bool Has(const std::string& group) const { return groups.contains(group); }
     // "" where there is none. Escapes stand for what they mean.
     std::string Text(const std::string& group, const std::string& key) const;
     bool IsTrue(const std::string& group, const std::string& key) const { return Text(group, key) == "true"; }

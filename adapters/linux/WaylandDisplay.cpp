@@ -4,21 +4,12 @@
 #include <sys/un.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <string>
 
+#include "adapters/shared/Environment.h"
 #include "adapters/shared/FileDescriptor.h"
 
 namespace orvelle::linux {
-
-namespace {
-
-std::string Variable(const char* name) {
-    const char* const value = std::getenv(name);
-    return value ? value : "";
-}
-
-}  // namespace
 
 bool HasWaylandDisplay() {
     std::string socketFile = Variable("WAYLAND_DISPLAY");

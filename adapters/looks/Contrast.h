@@ -8,6 +8,9 @@
 
 namespace orvelle {
 
+// What a text or sign needs at least to be read.
+constexpr double TextContrast = 4.5;
+
 inline double Luminance(const QColor& color) {
     const auto linear = [](double part) {
         return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);

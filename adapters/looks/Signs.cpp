@@ -80,10 +80,6 @@ QPainterPath OutlineOf(const QRectF& area, Sign sign) {
     return Disc(outer).subtracted(Disc(outer.adjusted(2 * step, 2 * step, -2 * step, -2 * step)));
 }
 
-}  // namespace
-
-namespace {
-
 QColor UsualColour(Sign sign, Scheme scheme) {
     const bool dark = scheme == Scheme::Dark;
     switch (sign) {
@@ -102,10 +98,9 @@ QColor UsualColour(Sign sign, Scheme scheme) {
 }  // namespace
 
 QColor SignColour(Sign sign, const QPalette& palette) {
-    constexpr double Least = 4.5;
     const auto ground = [&palette](QPalette::ColorRole role) { return palette.color(QPalette::Active, role); };
     return Readable(UsualColour(sign, SchemeOf(palette)),
-                    {ground(QPalette::Window), ground(QPalette::Base), ground(QPalette::AlternateBase)}, Least);
+                    {ground(QPalette::Window), ground(QPalette::Base), ground(QPalette::AlternateBase)}, TextContrast);
 }
 
 QColor TextColour(Long foreColor, const QPalette& palette) {

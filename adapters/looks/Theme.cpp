@@ -56,7 +56,6 @@ constexpr Tones DarkTones{.Window = 0xff20262c,
                           .Line = 0xff3d4750,
                           .Outline = 0xff66737f};
 
-constexpr double TextContrast = 4.5;
 constexpr double OutlineContrast = 3;
 constexpr double DisabledContrast = 2.5;
 

@@ -1,7 +1,5 @@
 #include "adapters/media/LoadedMediaPlayers.h"
 
-#include <dlfcn.h>
-
 #include <utility>
 
 namespace orvelle::media {
@@ -30,11 +28,9 @@ private:
         if (player) (player.get()->*tell)(value);
     }
     void Begin() {
-        NewOrvelleMediaPlayerFunction* const make = players.Load();
-        if (make == nullptr) {
-            const char* const why = dlerror();
-            return Tell(std::string("Recordings can't be played: ") + (why ? why : "their module does not fit") + ".");
-        }
+        std::string reason;
+        NewOrvelleMediaPlayerFunction* const make = players.load(reason);
+        if (make == nullptr) return Tell("Recordings can't be played: " + reason + ".");
         player.reset(make([this](const std::string& source, const std::string& why) {
             Tell("The recording \"" + source + "\" can't be played: " + why + ".");
         }));
@@ -55,20 +51,8 @@ private:
     Long volume = 0;
 };
 
-LoadedMediaPlayers::LoadedMediaPlayers(const std::vector<std::filesystem::path>& places) {
-    std::error_code unknown;
-    for (const std::filesystem::path& place : places)
-        if (module.empty() && std::filesystem::exists(place, unknown)) module = place;
-}
+LoadedMediaPlayers::LoadedMediaPlayers(LoadModule loadModule) : load(std::move(loadModule)) {}
 
 std::unique_ptr<MediaPlayer> LoadedMediaPlayers::New(Long) { return std::make_unique<Player>(*this); }
-
-// Never unloaded, as threads of its libraries go on.
-NewOrvelleMediaPlayerFunction* LoadedMediaPlayers::Load() {
-    if (newPlayer == nullptr)
-        if (void* const loaded = dlopen(module.c_str(), RTLD_NOW | RTLD_LOCAL))
-            newPlayer = reinterpret_cast<NewOrvelleMediaPlayerFunction*>(dlsym(loaded, "NewOrvelleMediaPlayer"));
-    return newPlayer;
-}
 
 }  // namespace orvelle::media

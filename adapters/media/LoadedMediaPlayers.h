@@ -4,10 +4,9 @@
 // The factory outlives its players.
 #pragma once
 
-#include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "adapters/media/MediaModule.h"
 #include "platform/Event.h"
@@ -19,11 +18,12 @@ constexpr const char* ModuleName = "orvelle-media.so";
 
 class LoadedMediaPlayers : public MediaPlayerFactory {
 public:
-    // The places where the module may lie, the first one first.
-    explicit LoadedMediaPlayers(const std::vector<std::filesystem::path>& places);
+    // The module's function; null where that can't be had, and then a part of a sentence. A module that was loaded
+    // stays loaded, as threads of its libraries go on.
+    using LoadModule = std::function<NewOrvelleMediaPlayerFunction*(std::string& why)>;
 
-    // Whether the module is installed; it is not loaded for that.
-    bool IsThere() const { return !module.empty(); }
+    explicit LoadedMediaPlayers(LoadModule loadModule);
+
     std::unique_ptr<MediaPlayer> New(Long radio) override;
 
     Event<const std::string&> Told;  // a sentence for the user
@@ -31,11 +31,7 @@ public:
 private:
     class Player;
 
-    // The module's function; null where it can't be loaded, as dlerror then says.
-    NewOrvelleMediaPlayerFunction* Load();
-
-    std::filesystem::path module;  // "" where there is none
-    NewOrvelleMediaPlayerFunction* newPlayer = nullptr;
+    const LoadModule load;
 };
 
 }  // namespace orvelle::media

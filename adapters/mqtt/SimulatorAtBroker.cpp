@@ -20,6 +20,7 @@ SimulatorAtBroker::SimulatorAtBroker(EventLoop& eventLoop, std::function<Presenc
                  presence.OffersFramework = offers.OffersFramework;
                  return presence;
              }) {
+    member.Reached = [this] { Reached.Tell(); };
     // A session of an earlier run must not live on for the moment until this run's is published.
     member.Coming = [this] {
         if (session.Handle == 0) member.Say(TopicKind::Session, "", 1, Retain::Yes);
@@ -35,7 +36,10 @@ SimulatorAtBroker::SimulatorAtBroker(EventLoop& eventLoop, std::function<Presenc
         changes.Mark();
     };
     member.OthersChanged = [this] { changes.Mark(); };
-    member.Failed = [this](BrokerTrouble) { changes.Mark(); };
+    member.Failed = [this](BrokerTrouble why) {
+        Failed.Tell(why);
+        changes.Mark();
+    };
     member.Heard = [this](const Topic& topic, const std::string& payload) { Hear(topic, payload); };
 }
 

@@ -44,6 +44,8 @@ public:
     // Of the panels that are there, by id.
     std::map<Long, RecordContent> Records() const;
 
+    Observers<> Reached;  // the broker takes this program
+    Observers<BrokerTrouble> Failed;
     Observers<const std::string&> SoundAsked;  // the name of a file of sound
     Ticket Observe(std::function<void()> observer) { return changes.Observe(std::move(observer)); }
     void MarkChange() { changes.Mark(); }

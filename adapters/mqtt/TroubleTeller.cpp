@@ -6,7 +6,7 @@ namespace orvelle::mqtt {
 
 namespace {
 
-constexpr Long LastingMilliseconds = 10000;  // of a trouble, or of a success
+constexpr Long LastingMilliseconds = 10000;  // of a success
 
 }  // namespace
 
@@ -17,7 +17,7 @@ void TroubleTeller::Fail(BrokerTrouble why, const HostAndPort& place) {
     const bool comesAgain = why == BrokerTrouble::TakenOver && std::exchange(wasTakenOver, true);
     if (lasts || comesAgain) return TellOnce();
     if (std::exchange(isWaiting, true)) return;
-    waiting = loop.After(LastingMilliseconds, [this] {
+    waiting = loop.After(patience, [this] {
         lasts = true;
         TellOnce();
     });

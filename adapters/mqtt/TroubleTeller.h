@@ -1,7 +1,7 @@
-// When a panel's user is told why the broker can't be had: what has lasted for ten seconds, each reason once until the
-// broker was had for ten seconds, when its end is told; so a network that comes late, or goes for a moment, is not
-// told. That another program comes under this computer's name is told when it comes again, whatever lies between. Used
-// by Brokers for each server that a line wants.
+// When the user is told why the broker can't be had: what has lasted for a while, each reason once until the broker was
+// had for ten seconds, when its end is told; so a network that comes late, or goes for a moment, is not told. That
+// another program comes under this computer's name is told when it comes again, whatever lies between. Used by Brokers
+// for each server that a line wants, and by the simulator's program, whose user is told at once.
 #pragma once
 
 #include <set>
@@ -11,9 +11,13 @@
 
 namespace orvelle::mqtt {
 
+constexpr Long UsualTroublePatience = 10000;  // milliseconds
+
 class TroubleTeller {
 public:
-    explicit TroubleTeller(EventLoop& eventLoop) : loop(eventLoop) {}
+    // `patience` is how long a trouble lasts untold.
+    explicit TroubleTeller(EventLoop& eventLoop, Long patience = UsualTroublePatience)
+        : loop(eventLoop), patience(patience) {}
 
     void Fail(BrokerTrouble why, const HostAndPort& place);
     void Reach(const HostAndPort& place);
@@ -27,6 +31,7 @@ private:
     void TellOnce();
 
     EventLoop& loop;
+    const Long patience;
     BrokerTrouble trouble = BrokerTrouble::None;
     HostAndPort where;
     bool isWaiting = false;

@@ -1,15 +1,10 @@
 #include "adapters/pulse/ServerSocket.h"
 
-#include <cstdlib>
+#include "adapters/shared/Environment.h"
 
 namespace orvelle::pulse {
 
 namespace {
-
-std::string Named(const char* variable) {
-    const char* const value = std::getenv(variable);
-    return value ? value : "";
-}
 
 std::filesystem::path OfAddress(std::string address) {
     const std::string scheme = "unix:";
@@ -23,10 +18,10 @@ std::filesystem::path OfAddress(std::string address) {
 
 std::filesystem::path ServerSocket(const std::string& server) {
     if (!server.empty()) return OfAddress(server);
-    if (const std::string named = Named("PULSE_SERVER"); !named.empty()) return OfAddress(named);
-    if (const std::string folder = Named("PULSE_RUNTIME_PATH"); !folder.empty())
+    if (const std::string named = Variable("PULSE_SERVER"); !named.empty()) return OfAddress(named);
+    if (const std::string folder = Variable("PULSE_RUNTIME_PATH"); !folder.empty())
         return std::filesystem::path(folder) / "native";
-    if (const std::string folder = Named("XDG_RUNTIME_DIR"); !folder.empty())
+    if (const std::string folder = Variable("XDG_RUNTIME_DIR"); !folder.empty())
         return std::filesystem::path(folder) / "pulse" / "native";
     return {};
 }

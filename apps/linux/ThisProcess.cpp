@@ -30,7 +30,7 @@ std::string ThisProcess::WindowSystem() const { return parts->Windows.Name; }
 orvelle::Program& ThisProcess::Program() { return parts->Program; }
 std::string ThisProcess::Problem() const { return parts->Program.Problem(); }
 
-void ThisProcess::AskRunning(Wish wish) const { parts->Wake.Ask(wish); }
+void ThisProcess::ShowRunning() const { parts->Wake.Ask(Wish::ShowPanel); }
 
 Ticket ThisProcess::WhenAsked(EventLoop& loop, std::function<void(Wish)> grant) {
     // Where it may not be the only one it doesn't take the place of another.

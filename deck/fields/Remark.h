@@ -1,19 +1,16 @@
-// A sentence below the fields that it speaks of, with the triangle before it; without a sentence it isn't there.
+// A notice below the fields that it speaks of; without a sentence it isn't there.
 #pragma once
 
-#include <QLabel>
+#include "adapters/looks/SignLabel.h"
 
 namespace orvelle::deck {
 
-class Remark : public QLabel {
+class Remark : public Notice {
 public:
     explicit Remark(const QString& name);
 
     // "" for none.
     void Show(const QString& sentence);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
 };
 
 }  // namespace orvelle::deck

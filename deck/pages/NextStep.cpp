@@ -4,6 +4,7 @@
 #include <array>
 
 #include "platform/Tessaly.h"
+#include "platform/VoiceEngine.h"
 #include "platform/VoiceRoles.h"
 #include "platform/sides/LinkSide.h"
 #include "platform/sides/NetworkSide.h"
@@ -13,7 +14,6 @@ namespace orvelle::deck {
 
 namespace {
 
-constexpr Long EngineRooms = 3;
 constexpr int MostLines = 2;
 
 constexpr const char* TakeUpLinks = "tick Simulator link and Network link, which the panel waits for.";
@@ -27,12 +27,10 @@ constexpr const char* TuneProgram =
     "tune COM1 under Radios: its Software, then any Server and any Channel, such as voice.example and tower.";
 constexpr const char* MapKey =
     "in the panel's list click Key mappings, below VATSIM, and Set beside FS PTT Key Mapping; click into Keyboard "
-    "here, "
-    "and press F9. From then on F9 held here talks.";
+    "here, and press F9. From then on F9 held here talks.";
 constexpr const char* HoldKey =
     "on the panel's page of that software set both FS Key Mapping and PTT Key Mapping; click into Keyboard here, and "
-    "hold "
-    "the first of the two.";
+    "hold the first of the two.";
 constexpr const char* LetGo = "let go of the key, and the microphone is silent again.";
 
 using Roles = std::array<const char*, 2>;
@@ -63,7 +61,7 @@ bool IsServed(const NetworkSide& network, std::size_t radio) {
 }
 
 bool AnyRoom(const VoiceEngineSide* engine, bool (*test)(const VoiceRoom&)) {
-    for (Long room = 0; engine && room < EngineRooms; ++room)
+    for (Long room = 0; engine && room < Rooms; ++room)
         if (test(engine->Room(room))) return true;
     return false;
 }

@@ -4,6 +4,7 @@
 
 #include <fstream>
 
+#include "adapters/mqtt/OwnSetUp.h"
 #include "tests/avahi/AvahiRig.h"
 #include "tests/shared/OwnFolder.h"
 #include "tests/mqtt/broker/BrokerProcess.h"
@@ -55,6 +56,17 @@ TEST_F(SetUpCommands, JoinShowAndLeave) {
     EXPECT_EQ(Run({"--leave"}), (Answer{0, "This computer has left the set-up 127.0.0.1."}));
     EXPECT_FALSE(std::filesystem::exists(file));
     EXPECT_EQ(Run({"--leave"}), (Answer{0, "This computer is in no set-up."}));
+}
+
+TEST_F(SetUpCommands, WhoLeavesTheSetUpThatThisComputerMadeIsToldThatItIsServedOn) {
+    const mqtt::OwnSetUp own(file.parent_path());
+    ASSERT_EQ(own.MakeFolder(), "");
+    const auto made = own.ReadOrMake("Home", 0);
+    ASSERT_TRUE(made.Setting) << made.Sentence;
+    ASSERT_EQ(own.JoinThisComputer(*made.Setting, "localhost", mqtt::UsualPort), "");
+    EXPECT_EQ(Run({"--leave"}),
+              (Answer{0, "The panel of this computer has left the set-up Home, which orvelle-sim goes on serving."}));
+    EXPECT_FALSE(std::filesystem::exists(file));
 }
 
 TEST_F(SetUpCommands, AMistypedCodeIsToldBeforeAnythingIsTried) {

@@ -71,8 +71,9 @@ TEST_F(SoundPlayerTest, PlaysNoSecondCopyOfASoundThatPlays) {
 }
 
 TEST_F(SoundPlayerTest, IsSilentWithoutAServerAndPlaysWhenOneHasCome) {
+    const std::string address = server->Address();
     server.reset();
-    SoundPlayer player(loop, SOUNDS, "unix:" + (folder / "socket").string());
+    SoundPlayer player(loop, SOUNDS, address);
     player.Play(OnChannel);
     ASSERT_TRUE(UntilSilent(player));
     server.emplace(folder);

@@ -5,9 +5,9 @@
 #include <fstream>
 #include <iterator>
 #include <numbers>
-#include <sstream>
 
 #include "adapters/media/LoadedMediaPlayers.h"
+#include "apps/OwnModules.h"
 #include "tests/endtoend/PanelTest.h"
 #include "tests/endtoend/UsersSoundServer.h"
 #include "tests/endtoend/WebFile.h"
@@ -102,13 +102,19 @@ protected:
         house.Outside.Practice.NetworkLink.SetVoice(0, {VoiceAtis, source, "", "", ""});
     }
 
-    media::LoadedMediaPlayers players{{"/nowhere/module.so", MEDIA_MODULE}};
+    static media::LoadedMediaPlayers::LoadModule From(const std::string& module) {
+        return [module](std::string& why) {
+            return FunctionOf<NewOrvelleMediaPlayerFunction>(module, "NewOrvelleMediaPlayer", why);
+        };
+    }
+
+    media::LoadedMediaPlayers players{From(MEDIA_MODULE)};
     std::vector<std::string> told;
     Use use;
 };
 
 TEST_F(AtisTest, ARecordingIsHeardAndOpenedAgainAtTheFirstPollAfterItsEnd) {
-    ASSERT_TRUE(players.IsThere());
+    ASSERT_TRUE(IsModuleThere(MEDIA_MODULE));
     ASSERT_NO_FATAL_FAILURE(Open());
     ASSERT_NO_FATAL_FAILURE(Connect());
     PutInPlace();
@@ -164,10 +170,10 @@ TEST_F(AtisTest, ASourceThatCanNotBePlayedIsToldOnceAndTriedAgain) {
 }
 
 TEST_F(AtisTest, AModuleThatCanNotBeLoadedIsToldAndEndsNothing) {
-    media::LoadedMediaPlayers damaged({File("words.wav")});
+    media::LoadedMediaPlayers damaged(From(File("words.wav")));
     std::vector<std::string> sentences;
     damaged.Told = [&](const std::string& sentence) { sentences.push_back(sentence); };
-    ASSERT_TRUE(damaged.IsThere());
+    ASSERT_TRUE(IsModuleThere(File("words.wav")));
     const std::unique_ptr<MediaPlayer> player = damaged.New(0);
     player->Volume(-500);
     player->Mute(true);
@@ -179,7 +185,7 @@ TEST_F(AtisTest, AModuleThatCanNotBeLoadedIsToldAndEndsNothing) {
     }
     ASSERT_EQ(sentences.size(), 1U);
     EXPECT_TRUE(sentences.front().starts_with("Recordings can't be played: ")) << sentences.front();
-    EXPECT_FALSE(media::LoadedMediaPlayers({"/nowhere/module.so"}).IsThere());
+    EXPECT_FALSE(IsModuleThere("/nowhere/module.so"));
 }
 
 }  // namespace

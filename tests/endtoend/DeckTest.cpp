@@ -71,13 +71,6 @@ private:
 
 class DeckTest : public PanelTest {
 protected:
-    void Show() {
-        house.Open();
-        ASSERT_TRUE(ComesTrue([this] { return IsSeen(house.Desktop.Window()) && house.Deck && IsSeen(*house.Deck); }));
-    }
-    static bool IsSeen(const QWidget& window) {
-        return window.isVisible() && window.windowHandle() && window.windowHandle()->isExposed();
-    }
     void SeeTwoServers() {
         for (const char* server : {"10.0.0.1", "TOWERPC"}) house.Outside.Practice.SimulatorLink.SeeServer(server);
     }

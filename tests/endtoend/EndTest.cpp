@@ -1,15 +1,12 @@
 // No end of the panel without a word, and none too many: what comes after each of its ends.
-#include <QDir>
 #include <csignal>
 
-#include "adapters/store/SqliteStore.h"
 #include "apps/EndCause.h"
 #include "apps/EndSentences.h"
 #include "platform/RuntimeError.h"
 #include "tests/endtoend/PanelTest.h"
 #include "tests/endtoend/StartedPanel.h"
 #include "tests/linux/XServer.h"
-#include "tests/shared/HandLoop.h"
 
 namespace orvelle {
 
@@ -20,14 +17,6 @@ const std::string Panel = "orvelle-panel";
 
 class EndTest : public StartedPanel {
 protected:
-    void Set(const char* key, Long value) {
-        QDir(folder.path()).mkpath("OrvelleCP");
-        HandLoop loop;
-        store::SqliteStore store(loop, folder.filePath("OrvelleCP/settings.sqlite").toStdString(),
-                                 [](const std::string& sentence) { ADD_FAILURE() << sentence; });
-        store.SaveSettingLong("OrvelleCP", key, value);
-        store.HandlerEnded();
-    }
     // What the one window tells the user; the words behind the program's own.
     std::vector<std::string> Told() {
         EXPECT_TRUE(Shows(Teller));
@@ -65,7 +54,7 @@ TEST_F(EndTest, AKilledPanelIsToldAndStartedAgain) {
 }
 
 TEST_F(EndTest, ASettingThatEndsTheStartIsToldWithThePlaceOfTheSettings) {
-    Set("RWDriven", 7);
+    Settings().SaveSettingLong("OrvelleCP", "RWDriven", 7);
     Start(panel);
     ASSERT_TRUE(IsOver(panel));
     EXPECT_EQ(panel.exitCode(), 70);

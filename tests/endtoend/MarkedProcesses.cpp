@@ -9,7 +9,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
 #include "adapters/linux/ProcessExecutable.h"
 #include "adapters/shared/FileDescriptor.h"

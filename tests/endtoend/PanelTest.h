@@ -22,6 +22,9 @@ protected:
 
     // What the user set up on another day comes before.
     void Open();
+    // The same, but panel and deck stay where they came.
+    void Show();
+    static bool IsSeen(const QWidget& window);
     // Links up, session open, both radios received and COM1 transmitting.
     void Connect();
     void ShowPage(const char* node);

@@ -1,9 +1,7 @@
 // The panel in the desktop's own places: programs that are installed are found, and "Autostart" is an entry there.
 #include <QDir>
 #include <QFile>
-#include <cstdlib>
 
-#include "platform/RegistryPaths.h"
 #include "tests/endtoend/PanelTest.h"
 
 namespace orvelle {

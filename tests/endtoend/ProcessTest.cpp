@@ -1,33 +1,15 @@
 // The panel as a program: how it begins and how it ends.
-#include <gtest/gtest.h>
-
 #include <QDir>
-#include <QProcess>
-#include <QTemporaryDir>
 
-#include "adapters/store/SqliteStore.h"
-#include "tests/endtoend/User.h"
-#include "tests/shared/HandLoop.h"
+#include "tests/endtoend/StartedPanel.h"
 #include "tests/store/LockedStore.h"
 
 namespace orvelle {
 
 namespace {
 
-class ProcessTest : public testing::Test {
+class ProcessTest : public StartedPanel {
 protected:
-    // A panel with settings of this test's own.
-    void Start(QProcess& process, const QString& display = qEnvironmentVariable("DISPLAY"),
-               const QString& program = PANEL_PROGRAM) {
-        environment.insert("XDG_DATA_HOME", folder.path());
-        environment.remove("WAYLAND_DISPLAY");
-        environment.insert("DISPLAY", display);
-        process.setProcessEnvironment(environment);
-        process.start(program, QStringList());
-    }
-    static bool IsOver(const QProcess& process) {
-        return ComesTrue([&] { return process.state() == QProcess::NotRunning; });
-    }
     // The panel's window is on the screen; a message to the user is one more of the same name.
     bool Shows(const QProcess& process, int windows = 1) {
         return ComesTrue([&] {
@@ -38,16 +20,6 @@ protected:
             return search.readAllStandardOutput().count('\n') >= windows;
         });
     }
-    store::SqliteStore Settings() {
-        QDir(folder.path()).mkpath("OrvelleCP");
-        return {loop, folder.filePath("OrvelleCP/settings.sqlite").toStdString(),
-                [](const std::string& sentence) { ADD_FAILURE() << sentence; }};
-    }
-
-    QTemporaryDir folder;
-    HandLoop loop;
-    User user;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
 };
 
 TEST_F(ProcessTest, ASecondInstanceEndsSilently) {
@@ -119,7 +91,7 @@ TEST_F(ProcessTest, WhatAnOrderlyEndCannotWriteIsToldInADialogToo) {
 
 TEST_F(ProcessTest, WithoutADisplayOneSentenceTellsSo) {
     QProcess panel;
-    Start(panel, ":4242");
+    Start(panel, PANEL_PROGRAM, ":4242");
     ASSERT_TRUE(IsOver(panel));
     EXPECT_EQ(panel.exitCode(), 1);
     const QByteArray said = panel.readAllStandardError();
@@ -130,7 +102,7 @@ TEST_F(ProcessTest, WithoutItsKeyGuardBesideItTellsSoAtTheStart) {
     const QString alone = folder.filePath("orvelle-panel");
     ASSERT_TRUE(QFile::copy(PANEL_PROGRAM, alone));
     QProcess panel;
-    Start(panel, qEnvironmentVariable("DISPLAY"), alone);
+    Start(panel, alone);
     EXPECT_TRUE(Shows(panel, 2));
     ASSERT_TRUE(user.Input.SendDoorMessage("OrvelleCP Stub1", 1237, 0, 0));
     EXPECT_TRUE(IsOver(panel));
@@ -139,8 +111,10 @@ TEST_F(ProcessTest, WithoutItsKeyGuardBesideItTellsSoAtTheStart) {
 
 TEST_F(ProcessTest, WithoutALockTellsSoAtTheStart) {
     QProcess panel;
-    environment.insert("XDG_RUNTIME_DIR", "/proc/none");
+    const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
+    qputenv("XDG_RUNTIME_DIR", "/proc/none");
     Start(panel);
+    qputenv("XDG_RUNTIME_DIR", before);
     EXPECT_TRUE(Shows(panel, 2));
     ASSERT_TRUE(user.Input.SendDoorMessage("OrvelleCP Stub1", 1237, 0, 0));
     EXPECT_TRUE(IsOver(panel));

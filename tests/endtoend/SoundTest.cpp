@@ -1,8 +1,6 @@
 // The whole panel with a sound server beside it, with one that comes later and goes again, and without one.
-#include <QLabel>
 #include <QSlider>
 #include <QTabWidget>
-#include <algorithm>
 #include <csignal>
 #include <optional>
 

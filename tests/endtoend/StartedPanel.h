@@ -4,14 +4,16 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <optional>
 
-#include "adapters/linux/ProcessExecutable.h"
+#include "adapters/store/SqliteStore.h"
 #include "adapters/x11/TopLevelWindows.h"
 #include "tests/endtoend/MarkedProcesses.h"
 #include "tests/endtoend/User.h"
+#include "tests/shared/HandLoop.h"
 
 namespace orvelle {
 
@@ -25,6 +27,12 @@ protected:
         environment.insert("DISPLAY", display);
         process.setProcessEnvironment(environment);
         process.start(program, QStringList());
+    }
+    // Those settings, while no panel runs.
+    store::SqliteStore Settings() {
+        QDir(folder.path()).mkpath("OrvelleCP");
+        return {loop, folder.filePath("OrvelleCP/settings.sqlite").toStdString(),
+                [](const std::string& sentence) { ADD_FAILURE() << sentence; }};
     }
     static bool IsOver(const QProcess& process) {
         return ComesTrue([&] { return process.state() == QProcess::NotRunning; });
@@ -46,6 +54,7 @@ protected:
     }
 
     const QTemporaryDir folder;
+    HandLoop loop;
     MarkedProcesses processes;
     TopLevelWindows windows{""};
     User user;

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QTemporaryDir>
-#include <cstdlib>
 
 #include "tests/devices/RecordedSoundServer.h"
 #include "tests/devices/Tone.h"
@@ -12,11 +11,6 @@ namespace orvelle {
 
 class UsersSoundServer {
 protected:
-    UsersSoundServer() { setenv("PULSE_SERVER", server.Address().c_str(), 1); }
-    UsersSoundServer(const UsersSoundServer&) = delete;
-    UsersSoundServer& operator=(const UsersSoundServer&) = delete;
-    ~UsersSoundServer() { unsetenv("PULSE_SERVER"); }
-
     double LoudnessOf(double frequency) const { return orvelle::LoudnessOf(frequency, server.Heard()); }
 
     QTemporaryDir serversFolder;

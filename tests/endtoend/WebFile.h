@@ -5,7 +5,7 @@
 #include <string>
 #include <thread>
 
-#include "adapters/shared/FileDescriptor.h"
+#include "tests/mqtt/broker/LoopbackPorts.h"
 
 namespace orvelle {
 
@@ -23,7 +23,7 @@ private:
     void Serve();
 
     const std::string content;
-    FileDescriptor listening;
+    const mqtt::LoopbackListener listener;
     std::atomic<int> asked = 0;
     std::thread serving;
 };

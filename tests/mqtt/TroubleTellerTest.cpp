@@ -97,6 +97,20 @@ TEST_F(TroubleTellerTest, WhatNobodyWantsIsNotTold) {
     EXPECT_TRUE(told.empty());
 }
 
+TEST_F(TroubleTellerTest, WithoutPatienceATroubleIsToldAtOnceAndItsEndOnceItLasts) {
+    TroubleTeller hasty(loop, 0);
+    hasty.Told = teller.Told;
+    hasty.Over = teller.Over;
+    for (int time = 0; time < 3; ++time) hasty.Fail(Unreachable, place);
+    loop.Run(1);
+    EXPECT_EQ(told, std::vector{Unreachable});
+    hasty.Fail(Refused, place);
+    EXPECT_EQ(told, (std::vector{Unreachable, Refused}));
+    hasty.Reach(place);
+    loop.Run(11000);
+    EXPECT_EQ(over, 1);
+}
+
 TEST(BrokerTroubles, EachHasItsSentence) {
     std::set<std::string> sentences;
     for (const BrokerTrouble trouble : {HostUnknown, Unreachable, NotEncrypted, Refused, WrongProtocol, TakenOver}) {

@@ -14,6 +14,9 @@ namespace {
 
 std::filesystem::path RuntimeFolder() { return std::getenv("XDG_RUNTIME_DIR"); }
 
+// Each sink takes some descriptors, and a user has few by himself.
+std::vector<std::string> WithDescriptors(const char* program) { return {"prlimit", "--nofile=4096:", program}; }
+
 }  // namespace
 
 void SoundServerProcesses::Signal(int signal) {
@@ -49,21 +52,25 @@ void PipeWireServer::Start() {
     setenv("DBUS_SESSION_BUS_ADDRESS", bus.c_str(), 1);
     Run({"dbus-daemon", "--session", "--nofork", "--nosyslog", "--nopidfile", "--address=" + bus});
     EXPECT_TRUE(linux::WaitUntil([] { return std::filesystem::exists(RuntimeFolder() / "bus"); }));
-    Run({"pipewire"});
+    Run(WithDescriptors("pipewire"));
     EXPECT_TRUE(linux::WaitUntil([] { return std::filesystem::exists(RuntimeFolder() / "pipewire-0"); }));
-    Run({"wireplumber"});
-    Run({"pipewire-pulse"});
+    Run(WithDescriptors("wireplumber"));
+    Run(WithDescriptors("pipewire-pulse"));
     Await();
     // It gives a server without sinks one of its own.
     EXPECT_TRUE(linux::WaitUntil([] { return Pactl({"info"}).find("Default Sink: auto_null") != std::string::npos; }));
 }
 
-SoundFolder::SoundFolder() {
-    std::string pattern = std::filesystem::temp_directory_path() / "orvelle-sound-XXXXXX";
-    folder = mkdtemp(pattern.data());
+void NameSoundFolder(const std::filesystem::path& folder) {
     for (const char* const name : {"HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_STATE_HOME"})
         setenv(name, folder.c_str(), 1);
     for (const char* const name : {"PULSE_SERVER", "PULSE_RUNTIME_PATH", "PULSE_STATE_PATH"}) unsetenv(name);
+}
+
+SoundFolder::SoundFolder() {
+    std::string pattern = std::filesystem::temp_directory_path() / "orvelle-sound-XXXXXX";
+    folder = mkdtemp(pattern.data());
+    NameSoundFolder(folder);
 }
 
 SoundFolder::~SoundFolder() { std::filesystem::remove_all(folder); }

@@ -46,7 +46,10 @@ public:
     void Start() override;
 };
 
-// A folder for all that a user's sound server keeps and for the socket; the environment names it while this lives.
+// Names a folder in the environment, for all that a user's sound server keeps and for the socket.
+void NameSoundFolder(const std::filesystem::path& folder);
+
+// Such a folder, which goes with this object.
 class SoundFolder {
 public:
     SoundFolder();

@@ -96,7 +96,6 @@ bool ReachedPanel::OpenDeckPage(const std::string& title) const {
 }
 
 Reached ReachedPanel::InPage(const std::string& role, const std::string& name) const {
-    Reached page = Page();
     ComesTrue([&] { return bool(FindBelow(Page(), role, name)); });
     return FindBelow(Page(), role, name);
 }

@@ -37,7 +37,7 @@ ButtonMirror::ButtonMirror(CommandButton& commandButton, QPushButton& pushButton
 void ButtonMirror::ShowOwn(ControlProperty property) {
     if (property != ControlProperty::Caption) return;
     const QString caption = ToQt(control.Caption);
-    widget.setText(ShownCaption(ToQt(control.Caption), widget));
+    widget.setText(ShownCaption(caption, widget));
     if (purpose.isEmpty()) return;
     const bool isWord = std::any_of(caption.begin(), caption.end(), [](QChar letter) { return letter.isLetter(); });
     widget.setAccessibleName(isWord ? caption + QLatin1String(", ") + purpose : purpose);

@@ -7,7 +7,7 @@
 #include "adapters/looks/Signs.h"
 #include "adapters/looks/Text.h"
 #include "adapters/qt/mirrors/Mnemonic.h"
-#include "adapters/qt/widgets/SignLabel.h"
+#include "adapters/qt/widgets/StatusLine.h"
 
 namespace orvelle::qt {
 

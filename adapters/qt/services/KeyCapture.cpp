@@ -56,8 +56,6 @@ bool KeyCapture::Take(WindowMessage& message, bool remove) {
     return true;
 }
 
-bool KeyCapture::TakesKey(const QKeyEvent& key) const { return mode != Mode::Off && !IsSystemKey(key); }
-
 void KeyCapture::Keep(const QKeyEvent& key) {
     const Long code = CodeOf(key);
     if (mode != Mode::Capturing || code == 0) return;
@@ -76,17 +74,12 @@ bool KeyCapture::eventFilter(QObject* receiver, QEvent* event) {
         static_cast<QInputMethodQueryEvent*>(event)->setValue(Qt::ImEnabled, false);
         return true;
     }
-    // With Alt it is not taken, but must not lead away from what is captured either.
-    if (event->type() == QEvent::ShortcutOverride && IsSystemKey(*static_cast<QKeyEvent*>(event))) {
+    // No key is a shortcut: what is taken comes as a press, and one with Alt must not lead away from what is captured.
+    if (event->type() == QEvent::ShortcutOverride) {
         event->accept();
         return true;
     }
-    if (event->type() == QEvent::ShortcutOverride && TakesKey(*static_cast<QKeyEvent*>(event))) {
-        // Accepted, so that the key is no shortcut and comes as a press.
-        event->accept();
-        return true;
-    }
-    if (event->type() == QEvent::KeyPress && TakesKey(*static_cast<QKeyEvent*>(event))) {
+    if (event->type() == QEvent::KeyPress && !IsSystemKey(*static_cast<QKeyEvent*>(event))) {
         Keep(*static_cast<QKeyEvent*>(event));
         event->accept();
         return true;

@@ -29,7 +29,6 @@ public:
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
-    bool TakesKey(const QKeyEvent& key) const;
     void Keep(const QKeyEvent& key);
     bool MouseIsCaught(QObject* receiver) const;
 

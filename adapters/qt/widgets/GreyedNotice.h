@@ -4,7 +4,7 @@
 
 #include <QHash>
 
-#include "adapters/qt/widgets/SignLabel.h"
+#include "adapters/looks/SignLabel.h"
 
 namespace orvelle::qt {
 

@@ -67,8 +67,8 @@ void Lamp::paintEvent(QPaintEvent*) {
 
 void Lamp::DrawKey(QPainter& painter) const {
     const QColor outline = SignColour(isLit ? sign : Sign::Off, palette());
-    const QColor text =
-        isLit ? Readable(palette().color(QPalette::Base), {outline}, 4.5) : palette().color(QPalette::PlaceholderText);
+    const QColor text = isLit ? Readable(palette().color(QPalette::Base), {outline}, TextContrast)
+                              : palette().color(QPalette::PlaceholderText);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(outline, 1));
     painter.setBrush(isLit ? QBrush(outline) : QBrush(Qt::NoBrush));

@@ -26,6 +26,17 @@ constexpr const char* Captions[Places] = {"FS", "NET", "USER", "RW", "TS", "VOIC
 constexpr const char* Subjects[Places] = {"simulator link", "framework link", "main pilot user",
                                           "RogerWilco",     "TeamSpeak",      "VATSIM voice"};
 
+QColor LampColour(char letter) {
+    switch (letter) {
+        case 'V':
+            return QColor(0x3d, 0xdc, 0x84);
+        case 'R':
+            return QColor(0xff, 0x5a, 0x4f);
+        default:
+            return QColor(0xff, 0xd0, 0x3b);
+    }
+}
+
 // A cross of two strokes, row by row in whole device pixels: lines drawn smoothly blur into a blot at this size.
 void DrawCross(QPainter& painter, const QRectF& box, qreal pixel) {
     const int columns = static_cast<int>(std::round(box.width() / pixel));
@@ -111,17 +122,6 @@ private:
 };
 
 }  // namespace
-
-QColor LampColour(char letter) {
-    switch (letter) {
-        case 'V':
-            return QColor(0x3d, 0xdc, 0x84);
-        case 'R':
-            return QColor(0xff, 0x5a, 0x4f);
-        default:
-            return QColor(0xff, 0xd0, 0x3b);
-    }
-}
 
 void DrawIconFace(QPainter& painter, const QRectF& area, qreal pixel) {
     const qreal size = area.width();

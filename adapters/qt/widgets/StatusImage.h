@@ -16,11 +16,9 @@ class QPainter;
 
 namespace orvelle::qt {
 
-// What all our icons have in common: the dark face, with an edge where there is room for one, and the lamps' colours by
-// their letters.
+// What all our icons have in common: the dark face, with an edge where there is room for one.
 constexpr QColor IconFace{0x1a, 0x21, 0x28};
 void DrawIconFace(QPainter& painter, const QRectF& area, qreal pixel);
-QColor LampColour(char letter);
 
 QIcon StatusIcon(const std::string& key);
 // `size` in device pixels.

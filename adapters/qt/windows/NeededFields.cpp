@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "adapters/looks/SignIcon.h"
+#include "platform/LocalKeyTexts.h"
 #include "platform/controls/Buttons.h"
 #include "platform/controls/TextBox.h"
 
@@ -33,8 +34,7 @@ constexpr std::array Needs{
     Need{"TSPath", "TSEnable", "", "TeamSpeak can't be started, as the path to its program is empty."},
 };
 
-// What a talk key's field shows where there is none; the last one after a capture without a key.
-constexpr std::array<std::string_view, 3> NoKey{"<Not Hotkey>", "<No Hotkey>", "<Press a key on current PC>"};
+constexpr std::array<std::string_view, 3> NoKey{LocalKeyNotSet, LocalKeyCleared, LocalKeyPrompt};
 
 template <typename Kind>
 const Kind* Find(const Form& form, const char* name) {

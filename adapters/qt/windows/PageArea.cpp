@@ -18,15 +18,15 @@ int BarWidth(const QWidget& widget) {
 
 PageArea::PageArea(QWidget* formPage, QWidget* parent)
     : ScrolledArea(formPage, parent), page(*formPage), grid(*formPage) {
+    FollowFont();
     Fit();
 }
 
 QSize PageArea::UsualSize(const QWidget& window) { return PageGrid::UsualSize(window) + QSize(BarWidth(window), 0); }
 
-void PageArea::Fit() {
-    page.setMaximumWidth(PageGrid::MostWidth(page));
-    grid.Fit(width() - BarWidth(*this));
-}
+void PageArea::FollowFont() { page.setMaximumWidth(PageGrid::MostWidth(page)); }
+
+void PageArea::Fit() { grid.Fit(width() - BarWidth(*this)); }
 
 void PageArea::resizeEvent(QResizeEvent* event) {
     Fit();
@@ -37,6 +37,7 @@ void PageArea::changeEvent(QEvent* event) {
     ScrolledArea::changeEvent(event);
     if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
     for (Heading* heading : page.findChildren<Heading*>()) heading->FollowFont();
+    FollowFont();
     Fit();
 }
 

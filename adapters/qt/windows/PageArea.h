@@ -21,6 +21,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void FollowFont();
     void Fit();
 
     QWidget& page;

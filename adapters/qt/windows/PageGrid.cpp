@@ -65,6 +65,8 @@ PageGrid::PageGrid(QWidget& formPage) : page(formPage) {
     }
 }
 
+int PageGrid::Columns::Width() const { return Label + Field + 2 * Button + Gaps + Margins; }
+
 PageGrid::Columns PageGrid::UsualColumns(const QFontMetrics& metrics) {
     return {WidthOf(metrics, WidestLabel) + Unit / 2, WidthOf(metrics, WidestField) + 2 * Unit,
             WidthOf(metrics, WidestButton) + 3 * Unit, Columns::Place::Beside};
@@ -73,7 +75,7 @@ PageGrid::Columns PageGrid::UsualColumns(const QFontMetrics& metrics) {
 PageGrid::Columns PageGrid::ColumnsFor(const QFontMetrics& metrics, int width) {
     Columns columns = UsualColumns(metrics);
     const int leastButton = std::max(LeastButton, WidthOf(metrics, UsualButton) + 3 * Unit);
-    int lack = columns.Label + columns.Field + 2 * columns.Button + Gaps + Margins - width;
+    int lack = columns.Width() - width;
     int buttons = 2 * columns.Button;
     GiveWay(buttons, 2 * leastButton, lack);
     columns.Button = buttons / 2;
@@ -134,15 +136,15 @@ void PageGrid::Wrap(int width) {
 
 QSize PageGrid::UsualSize(const QWidget& window) {
     const QFontMetrics metrics(window.font());
-    const Columns columns = UsualColumns(metrics);
     // The highest page: the volumes, of 12 rows and a title.
     constexpr int Rows = 14;
     const int row = metrics.height() + 2 * Unit;
-    return {columns.Label + columns.Field + 2 * columns.Button + Gaps + Margins, Rows * row + 2 * 2 * Unit};
+    return {UsualColumns(metrics).Width(), Rows * row + 2 * 2 * Unit};
 }
 
 int PageGrid::MostWidth(const QWidget& window) {
-    return UsualSize(window).width() + UsualColumns(QFontMetrics(window.font())).Field;
+    const Columns columns = UsualColumns(QFontMetrics(window.font()));
+    return columns.Width() + columns.Field;
 }
 
 }  // namespace orvelle::qt

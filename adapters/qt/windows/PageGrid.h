@@ -31,6 +31,8 @@ private:
         int Field;
         int Button;
         enum class Place { Beside, Above } Labels;
+
+        int Width() const;  // of the page
     };
     // Where the form put an item.
     struct Cell {

@@ -114,7 +114,7 @@ TEST_F(BrokersTest, NobodyWhoAnnouncesOurNameKeepsUsFromTheHostOfTheFile) {
     const int plainPort = FreePort();
     std::ofstream(folder.Path / "plain") << "listener " << plainPort << " 127.0.0.1\nallow_anonymous true\nuser root\n";
     const linux::ChildProcess plain({"/usr/sbin/mosquitto", "-c", (folder.Path / "plain").string()});
-    const SilentListener silent;
+    const LoopbackListener silent;
     const int refusingPort = FreePort();
     const linux::ChildProcess refusing({"openssl", "s_server", "-quiet", "-nocert", "-psk_identity", "c02", "-psk",
                                         std::string(26, 'a'), "-tls1_2", "-accept",

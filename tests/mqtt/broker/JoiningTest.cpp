@@ -62,7 +62,7 @@ TEST_F(JoiningTest, AnotherKeyAndAnUnknownNumberAreRefused) {
 
 TEST_F(JoiningTest, WhereNobodyListensOrAnswersItEnds) {
     EXPECT_EQ(Try(At(FreePort())), JoinOutcome::Unreachable);
-    const SilentListener silent;
+    const LoopbackListener silent;
     EXPECT_EQ(Try(At(silent.Port())), JoinOutcome::Unreachable);
     EXPECT_EQ(Kept(), std::nullopt);
 }

@@ -44,8 +44,8 @@ bool Listens(int port) {
     return connect(asking.Number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
 }
 
-SilentListener::SilentListener() : socket(BoundSocket()) { EXPECT_EQ(listen(socket.Number(), 8), 0); }
+LoopbackListener::LoopbackListener() : Socket(BoundSocket()) { EXPECT_EQ(listen(Socket.Number(), 8), 0); }
 
-int SilentListener::Port() const { return PortOf(socket); }
+int LoopbackListener::Port() const { return PortOf(Socket); }
 
 }  // namespace orvelle::mqtt

@@ -1,5 +1,5 @@
 // Ports of this computer's own network, as tests need them: one that nobody has, one that somebody has, and one where
-// somebody takes every connection and never says a word.
+// somebody takes every connection, and never says a word unless a test accepts it.
 #pragma once
 
 #include "adapters/shared/FileDescriptor.h"
@@ -10,13 +10,12 @@ namespace orvelle::mqtt {
 int FreePort();
 bool Listens(int port);
 
-class SilentListener {
+class LoopbackListener {
 public:
-    SilentListener();
+    LoopbackListener();
     int Port() const;
 
-private:
-    FileDescriptor socket;
+    const FileDescriptor Socket;
 };
 
 }  // namespace orvelle::mqtt

@@ -6,9 +6,9 @@
 #include <QStyleOptionSlider>
 
 #include "adapters/qt/widgets/Lamp.h"
-#include "adapters/qt/widgets/SignLabel.h"
 #include "adapters/qt/widgets/SliderNumber.h"
 #include "adapters/qt/widgets/StatusFields.h"
+#include "adapters/qt/widgets/StatusLine.h"
 #include "adapters/qt/widgets/StatusPicture.h"
 #include "tests/qt/forms/ShownPanel.h"
 #include "tests/qt/shell/WidgetInput.h"

@@ -1,23 +1,12 @@
 // A capture tells every key by its place, whatever layout the keyboard has.
-#include <gtest/gtest.h>
-
-#include <QLineEdit>
 #include <QProcess>
-#include <QVBoxLayout>
-#include <vector>
 
-#include "adapters/qt/services/QtMessageQueue.h"
-#include "adapters/qt/services/QtWindows.h"
 #include "adapters/shared/ScanCodes.h"
-#include "platform/controls/Form.h"
-#include "platform/controls/TextBox.h"
-#include "tests/qt/shell/RealInput.h"
-#include "tests/qt/shell/Waiting.h"
+#include "tests/qt/shell/CaptureRig.h"
 
 namespace orvelle::qt {
 namespace {
 
-constexpr Long EscCode = 1;
 constexpr int LeftAlt = 56;
 constexpr int RightAlt = 100;
 constexpr int CapsLock = 58;
@@ -31,16 +20,11 @@ void SetLayout(const char* layout) {
     EXPECT_EQ(process.exitCode(), 0);
 }
 
-class CapturedLayouts : public testing::TestWithParam<const char*> {
+class CapturedLayouts : public testing::TestWithParam<const char*>, protected CaptureRig {
 protected:
     CapturedLayouts() {
         SetLayout(GetParam());
-        auto* layout = new QVBoxLayout(&panel);
-        layout->addWidget(&display);
-        display.setReadOnly(true);
-        panel.show();
-        EXPECT_TRUE(WaitForWindowActive(&panel));
-        EXPECT_TRUE(ComesTrue([this] { return input.HasFocus(panel); }));
+        Show();
         windows.SetCapture(box);
     }
     ~CapturedLayouts() override {
@@ -48,33 +32,13 @@ protected:
         SetLayout("us");
     }
 
-    void Stroke(int key) {
-        input.KeyDown(key);
-        input.KeyUp(key);
-    }
     // What the keys that were struck are captured as.
     std::vector<Long> Captured() {
         Stroke(KeyEsc);
-        std::vector<Long> codes;
-        EXPECT_TRUE(ComesTrue([&] {
-            for (WindowMessage message; queue.PeekMessageA(message, RemoveMessage);)
-                codes.push_back(message.LParam >> 16);
-            return !codes.empty() && codes.back() == EscCode;
-        }));
+        std::vector<Long> codes = CodesUpTo(KeyEsc);
         if (!codes.empty()) codes.pop_back();
         return codes;
     }
-
-    static constexpr int KeyEsc = 1;
-    WindowTable table;
-    Form form{"form", ""};
-    TextBox box{form, "RWPTTKeyDisplay", nullptr, TextBox::Kind::Locked};
-    QWidget panel;
-    QLineEdit display;
-    KeyCapture keys;
-    QtWindows windows{table, keys, [this](const Control&) { return &display; }};
-    QtMessageQueue queue{table, keys};
-    RealInput input;
 };
 
 TEST_P(CapturedLayouts, TellEveryKeyByItsPlace) {

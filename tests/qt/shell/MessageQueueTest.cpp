@@ -1,24 +1,13 @@
 // Keys that the user presses while a capture is on become messages, and nothing else.
-#include <gtest/gtest.h>
-
 #include <QAction>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
-#include <vector>
 
-#include "adapters/qt/services/QtMessageQueue.h"
-#include "adapters/qt/services/QtWindows.h"
-#include "platform/controls/Form.h"
-#include "platform/controls/TextBox.h"
-#include "tests/qt/shell/RealInput.h"
-#include "tests/qt/shell/Waiting.h"
+#include "tests/qt/shell/CaptureRig.h"
 #include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle::qt {
 namespace {
 
-constexpr int KeyEsc = 1;
 constexpr int KeyTab = 15;
 constexpr int KeyQ = 16;
 constexpr int KeyLeftCtrl = 29;
@@ -30,55 +19,20 @@ constexpr int KeyRightCtrl = 97;
 constexpr int KeyUp = 103;
 constexpr int KeyLeftWindows = 125;
 
-class MessageQueueTest : public testing::Test {
+class MessageQueueTest : public testing::Test, protected CaptureRig {
 protected:
     MessageQueueTest() {
-        auto* layout = new QVBoxLayout(&panel);
-        layout->addWidget(&edit);
-        layout->addWidget(&display);
         layout->addWidget(&button);
-        display.setReadOnly(true);
+        layout->addWidget(&edit);
         button.setShortcut(QKeySequence("Ctrl+C"));
         QObject::connect(&button, &QPushButton::clicked, [this] { ++clicks; });
-        panel.show();
-        EXPECT_TRUE(WaitForWindowActive(&panel));
-        EXPECT_TRUE(ComesTrue([this] { return input.HasFocus(panel); }));
+        Show();
         edit.setFocus();
     }
 
-    void Stroke(int key) {
-        input.KeyDown(key);
-        input.KeyUp(key);
-    }
-
-    // The codes of all key-downs up to the one of `last`.
-    std::vector<Long> CodesUpTo(Long last) {
-        std::vector<Long> codes;
-        EXPECT_TRUE(ComesTrue([&] {
-            WindowMessage message;
-            while (queue.PeekMessageA(message, RemoveMessage)) {
-                EXPECT_EQ(message.Number, KeyDownMessage);
-                EXPECT_EQ(message.Window, &box);
-                EXPECT_EQ(message.LParam & 0xFFFF, 1);
-                codes.push_back(message.LParam >> 16);
-            }
-            return !codes.empty() && codes.back() == last;
-        }));
-        return codes;
-    }
-
-    WindowTable table;
-    Form form{"form", ""};
-    TextBox box{form, "RWPTTKeyDisplay", nullptr, TextBox::Kind::Locked};
-    QWidget panel;
     QLineEdit edit;
-    QLineEdit display;
     QPushButton button{"Set"};
     int clicks = 0;
-    KeyCapture keys;
-    QtWindows windows{table, keys, [this](const Control& control) { return &control == &box ? &display : nullptr; }};
-    QtMessageQueue queue{table, keys};
-    RealInput input;
 };
 
 TEST_F(MessageQueueTest, CapturedKeysBecomeCodesAndReachNoWidget) {

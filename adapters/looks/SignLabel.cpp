@@ -1,11 +1,11 @@
-#include "adapters/qt/widgets/SignLabel.h"
+#include "adapters/looks/SignLabel.h"
 
 #include <QEvent>
 #include <QPainter>
 
-#include "platform/controls/Label.h"
+#include "adapters/looks/Theme.h"
 
-namespace orvelle::qt {
+namespace orvelle {
 
 SignLabel::SignLabel(QWidget* parent) : QLabel(parent) {
     setWordWrap(true);
@@ -30,32 +30,4 @@ void SignLabel::paintEvent(QPaintEvent* event) {
     DrawSign(painter, QRectF(0, top, side, side), ShownSign(), colour);
 }
 
-void StatusLine::SetForeColor(Long color) {
-    isBad = color != ButtonTextColour;
-    update();
-}
-
-void StatusLine::SetKey(const QString& pictureKey) {
-    key = pictureKey;
-    update();
-}
-
-QSize WarningSign::sizeHint() const {
-    const int side = 3 * fontMetrics().height();
-    return {side, side};
-}
-
-void WarningSign::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    DrawSign(painter, QRectF(rect()), Sign::Waiting, SignColour(Sign::Waiting, palette()));
-}
-
-Sign StatusLine::ShownSign() const {
-    if (text().isEmpty()) return Sign::Off;
-    if (isBad) return Sign::Bad;
-    if (place >= key.size()) return Sign::Off;
-    if (key[place] == QLatin1Char('Y')) return Sign::Waiting;
-    return key[place] == QLatin1Char('V') ? Sign::Good : Sign::Off;
-}
-
-}  // namespace orvelle::qt
+}  // namespace orvelle
