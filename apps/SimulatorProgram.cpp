@@ -88,10 +88,10 @@ std::string SimulatorProgram::ServeOwn() {
 void SimulatorProgram::GoTo(const mqtt::SetUpSetting& setUp) {
     member = setUp;
     troubles.emplace(loop, 0);
-    troubles->Told = [this](mqtt::BrokerTrouble why, const mqtt::HostAndPort& place) {
+    troubles->Told = [this](mqtt::BrokerTrouble why, const HostAndPort& place) {
         Told(mqtt::SentenceOf(why, place, member->Identity, mqtt::KeyFrom::SetUpFile));
     };
-    troubles->Over = [this](const mqtt::HostAndPort& place) { Told(mqtt::SentenceOfReached(place)); };
+    troubles->Over = [this](const HostAndPort& place) { Told(mqtt::SentenceOfReached(place)); };
     AtBroker.Open(setUp);
     SetUpChanged();
 }
