@@ -64,8 +64,9 @@ TEST_F(SetUpCommands, WhoLeavesTheSetUpThatThisComputerMadeIsToldThatItIsNotGone
     const auto made = own.ReadOrMake("Home", 0);
     ASSERT_TRUE(made.Setting) << made.Sentence;
     ASSERT_EQ(own.JoinThisComputer(*made.Setting, "localhost", mqtt::UsualPort), "");
-    EXPECT_EQ(Run({"--leave"}),
-              (Answer{0, "The panel of this computer has left the set-up Home, which orvelle-sim serves whenever it runs."}));
+    EXPECT_EQ(
+        Run({"--leave"}),
+        (Answer{0, "The panel of this computer has left the set-up Home, which orvelle-sim serves whenever it runs."}));
     EXPECT_FALSE(std::filesystem::exists(file));
 }
 
