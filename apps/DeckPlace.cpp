@@ -52,9 +52,11 @@ QRect Before(const QRect& panel, const QRect& room, const DeckSizes& sizes) {
 
 DeckPlace FindDeckPlace(const QRect& panel, const QRect& room, const DeckSizes& sizes) {
     if (const QRect frame = Beside(panel, room, sizes); !frame.isNull()) return {frame, DeckPlace::Layer::Beside};
+    const QRect before = Before(panel, room, sizes);
+    if (before.left() - panel.left() >= sizes.PanelsList) return {before, DeckPlace::Layer::BeforePanel};
     if (const QRect frame = Behind(panel, room, sizes); EdgeOutside(frame, panel) >= FreeEdge)
         return {frame, DeckPlace::Layer::BehindPanel};
-    return {Before(panel, room, sizes), DeckPlace::Layer::BeforePanel};
+    return {before, DeckPlace::Layer::BeforePanel};
 }
 
 DeckPlace FindDeckPlace(const QRect& panel, const QRect& room, const DeckSizes& sizes, const QRect& keptFree) {

@@ -154,9 +154,11 @@ void PanelProgram::ShowDeck() {
 void PanelProgram::OpenDeck() {
     if (!Deck) MakeDeck();
     const qt::MainWindow& panel = Desktop.Window();
-    const DeckPlace place = FindDeckPlace(
-        panel.frameGeometry(), panel.screen()->availableGeometry(),
-        {Deck->UsualSize() + FrameAllowance, Deck->LeastWidth() + FrameAllowance.width()}, Desktop.Tray.StandInPlace());
+    const DeckPlace place =
+        FindDeckPlace(panel.frameGeometry(), panel.screen()->availableGeometry(),
+                      {Deck->UsualSize() + FrameAllowance, Deck->LeastWidth() + FrameAllowance.width(),
+                       panel.ListWidth() + FrameAllowance.width() / 2},
+                      Desktop.Tray.StandInPlace());
     Deck->OpenIn(place.Frame);
     if (place.Where == DeckPlace::Layer::BehindPanel) Desktop.Window().raise();
     if (place.Where == DeckPlace::Layer::BeforePanel) Deck->raise();

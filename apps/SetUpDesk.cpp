@@ -96,7 +96,7 @@ void SetUpDesk::Leave() {
     const std::string left = !found.Setting ? "This computer is in no set-up."
                              : made && own.OfThisComputer(*made)
                                  ? "The panel of this computer has left the set-up " + found.Setting->Name +
-                                       ", which orvelle-sim goes on serving."
+                                       ", which orvelle-sim serves whenever it runs."
                                  : "This computer has left the set-up " + found.Setting->Name + ".";
     const std::string why = mqtt::RemoveSetUpFile(file);
     End(why.empty() ? JoinState::Succeeded : JoinState::Failed, why.empty() ? left : why);

@@ -51,6 +51,11 @@ std::map<int, std::string> Present(const mqtt::SetUpSetting& own) {
     return names;
 }
 
+int Print(const char* text) {
+    std::cout << text;
+    return EXIT_SUCCESS;
+}
+
 void Print(int identity, const std::string* name) {
     std::cout << mqtt::WriteIdentity(identity) << "\t" << (name && !name->empty() ? OneLine(*name) : "-") << "\t"
               << (name ? "there" : "away") << "\n";
@@ -100,6 +105,8 @@ int EndFor(const std::string& sentence) { return sentence.empty() ? EXIT_SUCCESS
 
 int RunErrand(const SimulatorCommand& command) {
     using Task = SimulatorCommand::Task;
+    if (command.What == Task::Help) return Print(SimulatorCommand::Help());
+    if (command.What == Task::Version) return Print("orvelle-sim " ORVELLE_VERSION "\n");
     const mqtt::OwnSetUp setUp(command.Data);
     const bool changes = command.What != Task::List || !command.Name.empty();
     if (const auto joined = setUp.JoinedElsewhere(); joined && changes)

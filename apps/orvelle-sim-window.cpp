@@ -8,6 +8,7 @@
 #include "adapters/looks/Text.h"
 #include "adapters/qt/services/Application.h"
 #include "adapters/qt/services/QtEventLoop.h"
+#include "apps/SimulatorErrands.h"
 #include "apps/SimulatorProgram.h"
 #include "apps/SimulatorWindow.h"
 #include "apps/WindowSystem.h"
@@ -26,6 +27,7 @@ namespace {
 int main(int count, char** words) {
     linux::TerminationSignals endings;
     const auto [command, sentence] = ReadSimulatorCommand(count, words);
+    if (command && !command->Serves()) return RunErrand(*command);
     const WindowSystem windows = FindWindowSystem();
     if (!command || !windows.Missing.empty()) {
         std::cerr << "orvelle-sim: " << (command ? windows.Missing : sentence) << std::endl;

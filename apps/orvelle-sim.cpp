@@ -67,22 +67,7 @@ int main(int count, char** words) {
         Say("Another orvelle-sim serves this set-up already.");
         return EXIT_FAILURE;
     }
-    switch (command->What) {
-        case Task::Help:
-            std::cout << SimulatorCommand::Help();
-            return EXIT_SUCCESS;
-        case Task::Version:
-            std::cout << "orvelle-sim " ORVELLE_VERSION "\n";
-            return EXIT_SUCCESS;
-        case Task::Add:
-        case Task::List:
-        case Task::Remove:
-            return RunErrand(*command);
-        case Task::Serve:
-            BecomeProgramWithWindow(words);
-            [[fallthrough]];
-        case Task::ServeWithoutWindow:
-            return ServeWithoutWindow(endings, *command);
-    }
-    return EXIT_FAILURE;
+    if (!command->Serves()) return RunErrand(*command);
+    if (command->What == Task::Serve) BecomeProgramWithWindow(words);
+    return ServeWithoutWindow(endings, *command);
 }

@@ -12,7 +12,8 @@ namespace {
 // Where the installed programs have their documents.
 QString LinkToReadme() {
     const QString file = QStandardPaths::locate(QStandardPaths::GenericDataLocation, "doc/orvellecp/README.md");
-    return file.isEmpty() ? "README.md" : "<a href=\"" + QUrl::fromLocalFile(file).toString() + "\">README.md</a>";
+    if (file.isEmpty()) return "README.md, which an installation puts into share/doc/orvellecp";
+    return "<a href=\"" + QUrl::fromLocalFile(file).toString() + "\">" + file.toHtmlEscaped() + "</a>";
 }
 
 }  // namespace

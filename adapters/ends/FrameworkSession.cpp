@@ -78,18 +78,18 @@ SessionSetting FrameworkEnd::WithoutRefused(const SessionSetting& said) {
         rest.Callsign = "";
         rest.Voice = {};
         if (std::exchange(refused.Callsign, said.Callsign) != said.Callsign)
-            Refused(
-                "The session's callsign was refused with the voice records of both radios: it is not a plain name.");
+            Refused("The session's callsign was refused with the voice records of both radios: it " + CallsignRule() +
+                    ".");
         return rest;
     }
     for (std::size_t radio = 0; radio < said.Voice.size(); ++radio) {
         const RadioVoiceSetting& record = said.Voice[radio];
-        const std::string part = RefusedPart(record);
-        if (part.empty()) continue;
+        const Refusal refusal = RefusalOf(record);
+        if (refusal.Part.empty()) continue;
         rest.Voice[radio] = {};
         if (std::exchange(refused.Voice[radio], record) != record)
-            Refused("The voice record of COM" + std::to_string(radio + 1) + " was refused: its " + part +
-                    " is not a plain one.");
+            Refused("The voice record of COM" + std::to_string(radio + 1) + " was refused: its " + refusal.Part + " " +
+                    refusal.Rule + ".");
     }
     return rest;
 }

@@ -60,32 +60,52 @@ bool IsUrlPart(std::string_view text, std::string_view signs) {
 // The URL's names may end as arguments as well, once TeamSpeak's library has them.
 bool IsName(std::string_view text, std::string_view signs) { return IsArgument(text) && IsUrlPart(text, signs); }
 
+constexpr const char* ControlRule = "may hold no control character";
+constexpr const char* ArgumentRule =
+    "may neither begin nor end with a blank, nor hold a quotation mark or a word that begins with \"/\" or \"-\"";
+constexpr const char* AddressRule =
+    "has to be an address that begins with \"teamspeak://\", as teamspeak://voice.example does";
+
+std::string UrlRule(std::string_view signs) {
+    std::string rule = "may hold no quotation mark, ";
+    for (const char sign : signs) rule += std::string("\"") + sign + "\", ";
+    return rule + "or \"%\" before two hexadecimal digits";
+}
+
+std::string NameRule(std::string_view signs) {
+    return UrlRule(signs) + ", no word that begins with \"/\" or \"-\", and no blank at either end";
+}
+
 // Server and channel are one argument there, so they could begin an option where they meet.
-std::string RefusedByRogerWilco(const RadioVoiceSetting& record) {
-    if (!IsArgument(record.Server)) return "server";
-    if (!IsArgument(record.Channel)) return "channel";
-    return record.Server.empty() || IsArgument(record.Server + "/" + record.Channel) ? "" : "server";
+Refusal RefusedByRogerWilco(const RadioVoiceSetting& record) {
+    if (!IsArgument(record.Server)) return {"server", ArgumentRule};
+    if (!IsArgument(record.Channel)) return {"channel", ArgumentRule};
+    if (record.Server.empty() || IsArgument(record.Server + "/" + record.Channel)) return {};
+    return {"server", ArgumentRule};
 }
 
-std::string RefusedByTeamSpeak(const RadioVoiceSetting& record) {
-    if (!IsName(record.Server, PartSignsBeforeOthers)) return "server";
-    if (record.Software == TeamSpeakUrl && !record.Server.empty() && !IsTeamSpeakUrl(record.Server)) return "server";
-    if (!IsName(record.Login, PartSignsBeforeOthers)) return "login name";
-    if (!IsUrlPart(record.Password, PartSignsBeforeOthers)) return "password";
-    return IsName(record.Channel, PartSigns) ? "" : "channel";
+Refusal RefusedByTeamSpeak(const RadioVoiceSetting& record) {
+    if (!IsName(record.Server, PartSignsBeforeOthers)) return {"server", NameRule(PartSignsBeforeOthers)};
+    if (record.Software == TeamSpeakUrl && !record.Server.empty() && !IsTeamSpeakUrl(record.Server))
+        return {"server", AddressRule};
+    if (!IsName(record.Login, PartSignsBeforeOthers)) return {"login name", NameRule(PartSignsBeforeOthers)};
+    if (!IsUrlPart(record.Password, PartSignsBeforeOthers)) return {"password", UrlRule(PartSignsBeforeOthers)};
+    if (!IsName(record.Channel, PartSigns)) return {"channel", NameRule(PartSigns)};
+    return {};
 }
 
-std::string RefusedByAll(const RadioVoiceSetting& record) {
-    if (HoldsControl(record.Server)) return "server";
-    if (HoldsControl(record.Channel)) return "channel";
-    if (HoldsControl(record.Login)) return "login name";
-    return HoldsControl(record.Password) ? "password" : "";
+Refusal RefusedByAll(const RadioVoiceSetting& record) {
+    if (HoldsControl(record.Server)) return {"server", ControlRule};
+    if (HoldsControl(record.Channel)) return {"channel", ControlRule};
+    if (HoldsControl(record.Login)) return {"login name", ControlRule};
+    if (HoldsControl(record.Password)) return {"password", ControlRule};
+    return {};
 }
 
 }  // namespace
 
-std::string RefusedPart(const RadioVoiceSetting& record) {
-    if (const std::string part = RefusedByAll(record); !part.empty()) return part;
+Refusal RefusalOf(const RadioVoiceSetting& record) {
+    if (const Refusal refusal = RefusedByAll(record); !refusal.Part.empty()) return refusal;
     switch (record.Software) {
         case RogerWilco:
             return RefusedByRogerWilco(record);
@@ -93,10 +113,12 @@ std::string RefusedPart(const RadioVoiceSetting& record) {
         case TeamSpeakUrl:
             return RefusedByTeamSpeak(record);
         default:
-            return "";
+            return {};
     }
 }
 
 bool IsAllowedCallsign(const std::string& callsign) { return IsName(callsign, PartSignsBeforeOthers); }
+
+std::string CallsignRule() { return NameRule(PartSignsBeforeOthers); }
 
 }  // namespace orvelle::ends

@@ -12,11 +12,18 @@
 
 namespace orvelle::ends {
 
-// The first part of the record for which it is refused, "server" for one, by its name; "" for a record that is let
-// through. What is asked depends on the record's software.
-std::string RefusedPart(const RadioVoiceSetting& record);
+// The first part of a record for which it is refused, "server" for one, and what the user has to know to mend it,
+// behind that name: "may hold no control character". Both are "" for a record that is let through.
+struct Refusal {
+    std::string Part;
+    std::string Rule;
+};
+
+// What is asked depends on the record's software.
+Refusal RefusalOf(const RadioVoiceSetting& record);
 
 // The same rules for all software together: the callsign goes wherever a record goes.
 bool IsAllowedCallsign(const std::string& callsign);
+std::string CallsignRule();
 
 }  // namespace orvelle::ends

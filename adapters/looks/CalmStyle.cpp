@@ -92,8 +92,7 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
             break;
         }
         case PE_Frame:
-        case PE_FrameLineEdit:
-        case PE_PanelLineEdit: {
+        case PE_FrameLineEdit: {
             const auto changed = WithPalette<QStyleOptionFrame>(*option, Outlined(option->palette));
             QProxyStyle::drawPrimitive(element, &changed, painter, widget);
             break;
@@ -127,6 +126,14 @@ void CalmStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
             break;
         case CC_ComboBox:
             draw(WithPalette<QStyleOptionComboBox>(*option, Outlined(option->palette)));
+            // As a line edit's: Fusion's own is lost beside it.
+            if (option->state & State_HasFocus) {
+                QStyleOptionFrame frame;
+                frame.rect = option->rect;
+                frame.state = option->state;
+                frame.palette = option->palette;
+                drawPrimitive(PE_FrameLineEdit, &frame, painter, widget);
+            }
             break;
         default:
             draw(*option);

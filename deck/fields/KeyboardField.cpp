@@ -5,7 +5,9 @@
 #include <QPainter>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <array>
 
+#include "adapters/looks/ElidedLabel.h"
 #include "adapters/looks/Text.h"
 #include "deck/fields/Section.h"
 #include "deck/fields/ToolkitKeys.h"
@@ -17,6 +19,11 @@ namespace {
 
 constexpr double SequenceSize = 1.6;  // times the size of other texts
 constexpr int FocusLine = 2;
+
+constexpr const char* LinkIsDown = "The link is down: keys go nowhere";
+constexpr const char* TakesKeys = "Every key but Tab goes over there";
+constexpr const char* TakesClick = "Click here, then press keys";
+constexpr std::array Hints{LinkIsDown, TakesKeys, TakesClick};
 
 int PlaceOf(const QKeyEvent& event) {
     const auto place = static_cast<int>(event.nativeScanCode());
@@ -32,7 +39,7 @@ bool LeavesField(const QKeyEvent& event) {
 
 KeyboardField::KeyboardField(SimulatorSide& simulatorSide)
     : simulator(simulatorSide),
-      sequence(new QLabel),
+      sequence(new ElidedLabel),
       hint(new QLabel),
       watch(simulatorSide.Observe([this] { ShowState(); })) {
     setObjectName("KeyboardField");
@@ -43,14 +50,16 @@ KeyboardField::KeyboardField(SimulatorSide& simulatorSide)
     setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
 
-    FollowFont();
     sequence->setObjectName("KeysHeld");
     hint->setObjectName("KeyboardHint");
     hint->setForegroundRole(QPalette::PlaceholderText);
     for (QLabel* label : {sequence, hint}) {
         label->setAlignment(Qt::AlignCenter);
         label->setTextFormat(Qt::PlainText);
+        // No text of theirs widens the page.
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     }
+    FollowFont();
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Unit, Unit, Unit, Unit);
     column->setSpacing(0);
@@ -63,6 +72,9 @@ void KeyboardField::FollowFont() {
     QFont large = font();
     large.setPointSizeF(large.pointSizeF() * SequenceSize);
     sequence->setFont(large);
+    int widest = 0;
+    for (const char* text : Hints) widest = std::max(widest, fontMetrics().horizontalAdvance(text));
+    hint->setMinimumWidth(widest);
 }
 
 void KeyboardField::changeEvent(QEvent* event) {
@@ -126,9 +138,7 @@ void KeyboardField::ShowState() {
     const std::string keys = simulator.HeldSequence();
     sequence->setText(!keys.empty() ? ToQt(keys) : up && hasFocus() ? "Listening" : "Keys");
     sequence->setForegroundRole(keys.empty() ? QPalette::PlaceholderText : QPalette::Text);
-    hint->setText(!up          ? "The link is down: keys go nowhere"
-                  : hasFocus() ? "Every key but Tab goes down and up over there"
-                               : "Click here, then press keys");
+    hint->setText(!up ? LinkIsDown : hasFocus() ? TakesKeys : TakesClick);
     update();
 }
 

@@ -1,8 +1,10 @@
 #include "deck/fields/TextField.h"
 
+#include <QAction>
 #include <QKeyEvent>
 #include <utility>
 
+#include "adapters/looks/SignIcon.h"
 #include "adapters/looks/Text.h"
 
 namespace orvelle::deck {
@@ -33,6 +35,14 @@ void TextField::Apply() {
 void TextField::Show(const std::string& text) {
     holding = ToQt(text);
     if (!isModified() && this->text() != holding) ShowHolding();
+}
+
+void TextField::ShowRefusal(const QString& why) {
+    if (mark ? mark->text() == why : why.isEmpty()) return;
+    delete mark;
+    if (why.isEmpty()) return;
+    mark = new QAction(SignIcon(Sign::Waiting), why, this);
+    addAction(mark, TrailingPosition);
 }
 
 void TextField::keyPressEvent(QKeyEvent* event) {

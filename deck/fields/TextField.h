@@ -3,8 +3,11 @@
 #pragma once
 
 #include <QLineEdit>
+#include <QPointer>
 #include <functional>
 #include <string>
+
+class QAction;
 
 namespace orvelle::deck {
 
@@ -15,6 +18,8 @@ public:
 
     // The text that holds now.
     void Show(const std::string& text);
+    // A triangle in the field, whose tool tip says why the user's text was refused; "" takes it away.
+    void ShowRefusal(const QString& why);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -25,6 +30,7 @@ private:
 
     std::function<void(const std::string&)> applyText;
     QString holding;
+    QPointer<QAction> mark;
 };
 
 }  // namespace orvelle::deck

@@ -15,6 +15,7 @@ namespace orvelle::deck {
 namespace {
 
 constexpr MixerLine Lines[] = {MixerLine::Microphone, MixerLine::Master, MixerLine::Wave};
+constexpr int FirstBelowTitle = 1;  // of the grid's parts
 constexpr SoundDirection Sides[] = {SoundDirection::Input, SoundDirection::Output};
 
 QWidget* Beside(QWidget* first, QWidget* second) {
@@ -35,6 +36,7 @@ MixersBox::MixersBox(MixerSide& headset, MixerSide& speakers)
       columns{NewColumn(headset, "Headset"), NewColumn(speakers, "Speakers")} {
     realServe->setObjectName("RealMixersServe");
     realServe->setWordWrap(true);
+    AddWide(realServe);
     AddCaptions({"Microphone and headset", "Speakers"});
     AddRow("Mixer", {columns[0].State, columns[1].State});
     AddRow("Input", {columns[0].Plugged[0], columns[1].Plugged[0]});
@@ -46,7 +48,7 @@ MixersBox::MixersBox(MixerSide& headset, MixerSide& speakers)
         AddRow(label, {Beside(left.IsThere, left.Level), Beside(right.IsThere, right.Level)});
         ++row;
     }
-    AddWide(realServe);
+    KeepRoomOfFields();
     for (Column& column : columns) {
         column.Watch = column.Mixer->Observe([this, &column] { ShowState(column); });
         ShowState(column);
@@ -80,10 +82,19 @@ QCheckBox* MixersBox::NewPlug(MixerSide& mixer, SoundDirection side, const QStri
                     [&mixer, side](bool on) { mixer.SetPlugged(side, on); });
 }
 
+// The page, and with it the window, is as wide with a sound server as without one.
+void MixersBox::KeepRoomOfFields() {
+    for (int place = FirstBelowTitle; place < Grid().count(); ++place) {
+        QWidget* const field = Grid().itemAt(place)->widget();
+        QSizePolicy policy = field->sizePolicy();
+        policy.setRetainSizeWhenHidden(field != realServe);
+        field->setSizePolicy(policy);
+    }
+}
+
 void MixersBox::ShowState(const Column& column) {
     const MixerSide& mixer = *column.Mixer;
-    // Below the title.
-    for (int place = 1; place < Grid().count(); ++place) {
+    for (int place = FirstBelowTitle; place < Grid().count(); ++place) {
         QWidget* const field = Grid().itemAt(place)->widget();
         field->setVisible((field == realServe) != mixer.IsServing());
     }

@@ -36,6 +36,7 @@ private:
     Column NewColumn(MixerSide& mixer, const QString& name);
     Line NewLine(MixerSide& mixer, MixerLine line, const QString& name);
     QCheckBox* NewPlug(MixerSide& mixer, SoundDirection side, const QString& name);
+    void KeepRoomOfFields();
     void ShowState(const Column& column);
 
     QLabel* realServe;

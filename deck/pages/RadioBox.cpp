@@ -114,6 +114,7 @@ void RadioBox::Tune(int radio, const std::string& typed) {
     const std::optional<std::string> frequency = TunedFrequency(typed);
     const std::string held = network.Session().Frequency.at(static_cast<std::size_t>(radio));
     refused = frequency ? QString() : RefusedFrequency(radio, typed, held);
+    refusing = radio;
     radios.at(static_cast<std::size_t>(radio)).Frequency->Show(frequency.value_or(held));
     if (frequency) network.SetFrequency(radio, *frequency);
     ShowRemark();
@@ -155,6 +156,10 @@ void RadioBox::ShowState() {
     ShowRemark();
 }
 
-void RadioBox::ShowRemark() { remark->Show(refused.isEmpty() ? MissingOnRadios(network.Session()) : refused); }
+void RadioBox::ShowRemark() {
+    for (int radio : {0, 1})
+        radios.at(static_cast<std::size_t>(radio)).Frequency->ShowRefusal(radio == refusing ? refused : QString());
+    remark->Show(refused.isEmpty() ? MissingOnRadios(network.Session()) : refused);
+}
 
 }  // namespace orvelle::deck

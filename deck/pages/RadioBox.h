@@ -1,5 +1,6 @@
 // The radio set of the session: both radios with their voice records side by side, and which of them are received and
-// transmitted on. Each change raises its event at the panel; a frequency that is none is refused with a remark.
+// transmitted on. Each change raises its event at the panel; a frequency that is none is refused with a remark
+// and a mark in its field.
 #pragma once
 
 #include <array>
@@ -46,7 +47,8 @@ private:
     QComboBox* receive;
     QComboBox* transmit;
     Remark* remark;
-    QString refused;  // the sentence on a frequency, "" for none
+    QString refused;   // the sentence on a frequency, "" for none
+    int refusing = 0;  // the radio that it is about
     Ticket watch;
 };
 

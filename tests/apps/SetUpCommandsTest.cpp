@@ -58,14 +58,15 @@ TEST_F(SetUpCommands, JoinShowAndLeave) {
     EXPECT_EQ(Run({"--leave"}), (Answer{0, "This computer is in no set-up."}));
 }
 
-TEST_F(SetUpCommands, WhoLeavesTheSetUpThatThisComputerMadeIsToldThatItIsServedOn) {
+TEST_F(SetUpCommands, WhoLeavesTheSetUpThatThisComputerMadeIsToldThatItIsNotGone) {
     const mqtt::OwnSetUp own(file.parent_path());
     ASSERT_EQ(own.MakeFolder(), "");
     const auto made = own.ReadOrMake("Home", 0);
     ASSERT_TRUE(made.Setting) << made.Sentence;
     ASSERT_EQ(own.JoinThisComputer(*made.Setting, "localhost", mqtt::UsualPort), "");
-    EXPECT_EQ(Run({"--leave"}),
-              (Answer{0, "The panel of this computer has left the set-up Home, which orvelle-sim goes on serving."}));
+    EXPECT_EQ(
+        Run({"--leave"}),
+        (Answer{0, "The panel of this computer has left the set-up Home, which orvelle-sim serves whenever it runs."}));
     EXPECT_FALSE(std::filesystem::exists(file));
 }
 

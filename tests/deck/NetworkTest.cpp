@@ -1,4 +1,5 @@
 // The network's side but its records: link, session and radios.
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -103,6 +104,35 @@ TEST_F(DeckNetwork, AFrequencyThatIsNoneIsRefusedWithARemark) {
     Type("FrequencyCOM1", "abc");
     Type("LoginCOM2", "pilot");
     EXPECT_FALSE(At<QLabel>("RadioRemark").isVisible()) << "the user went on to something else";
+}
+
+TEST_F(DeckNetwork, ARefusedFrequencyIsToldHoweverTheFieldWasLeft) {
+    ConnectAll();
+    Type("FrequencyCOM1", "122.8");
+    auto& edit = At<QLineEdit>("FrequencyCOM1");
+    const auto& remark = At<QLabel>("RadioRemark");
+    for (const Qt::Key end : {Qt::Key_Return, Qt::Key_Tab}) {
+        for (const char* text : {"abc", "999.999", "118.0125", "-5", "1e9"}) {
+            ClickMouse(&edit, Qt::LeftButton);
+            edit.selectAll();
+            TypeText(&edit, text);
+            ClickKey(&edit, end);
+            Settle();
+            EXPECT_EQ(edit.hasFocus(), end == Qt::Key_Return);
+            EXPECT_EQ(edit.text(), "122.800") << text;
+            EXPECT_TRUE(remark.isVisible()) << text;
+            ASSERT_EQ(edit.actions().size(), 1) << text;
+            EXPECT_EQ(edit.actions().first()->text(), remark.text());
+            EXPECT_TRUE(At<QLineEdit>("FrequencyCOM2").actions().isEmpty());
+        }
+        // What changes elsewhere takes nothing away.
+        setUp.NetworkLink.SetCallsign(end == Qt::Key_Tab ? "ORV2" : "ORV1");
+        Settle();
+        EXPECT_TRUE(remark.isVisible());
+        Type("FrequencyCOM1", "122.8");
+        EXPECT_FALSE(remark.isVisible());
+        EXPECT_TRUE(edit.actions().isEmpty());
+    }
 }
 
 TEST_F(DeckNetwork, WhatTheFarSideSaysIsShownWhateverItIs) {

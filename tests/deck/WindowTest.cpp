@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
+#include <QScrollBar>
 #include <set>
 
 #include "tests/deck/DeckRig.h"
@@ -179,6 +180,49 @@ TEST_F(DeckWindowTest, ThePageStaysInItsPlaceWhileItsWordsChange) {
     Settle();
     EXPECT_TRUE(TextOf("NextStep").contains("Key mappings"));
     EXPECT_EQ(places(), before);
+}
+
+TEST_F(DeckWindowTest, ASoundServerLeavesItsWidth) {
+    setUp.VolumeControl.StandBack();
+    setUp.VolumeControlHP.StandBack();
+    const DeckWindow withServer(Sides());
+    embedded::SetUp played(loop);
+    const DeckWindow without(played.Sides());
+    EXPECT_EQ(withServer.UsualSize(), without.UsualSize());
+    EXPECT_EQ(withServer.LeastWidth(), without.LeastWidth());
+}
+
+TEST_F(DeckWindowTest, TheKeyboardsWordsMoveNothing) {
+    for (const bool hasServer : {false, true}) {
+        if (hasServer) {
+            setUp.VolumeControl.StandBack();
+            setUp.VolumeControlHP.StandBack();
+        }
+        ConnectAll();
+        window.resize(window.LeastWidth(), 700);
+        At<QWidget>("Callsign").setFocus();
+        Settle();
+        const auto places = [this] {
+            std::vector<QRect> found;
+            for (const QWidget* widget : At<QWidget>("FlightPage").findChildren<QWidget*>())
+                found.push_back({widget->mapTo(&window, QPoint()), widget->size()});
+            for (const QScrollBar* bar : window.findChildren<QScrollBar*>()) found.push_back({0, 0, bar->maximum(), 0});
+            return found;
+        };
+        const std::vector<QRect> before = places();
+        const int least = window.LeastWidth();
+        Click("KeyboardField");
+        EXPECT_EQ(places(), before) << "by the click";
+        for (const char* key : {"Right Ctrl", "Right Shift", "Num Enter", "Page Down"})
+            setUp.SimulatorLink.PressKey(key);
+        Settle();
+        EXPECT_EQ(TextOf("KeysHeld"), "Right Ctrl+Right Shift+Num Enter+Page Down");
+        EXPECT_EQ(places(), before) << "by keys";
+        setUp.SimulatorLink.ReleaseAll();
+        setUp.SimulatorLink.SetLink(LinkState::Down);
+        Settle();
+        EXPECT_EQ(window.LeastWidth(), least);
+    }
 }
 
 }  // namespace

@@ -14,8 +14,9 @@ namespace orvelle {
 namespace {
 
 using ends::IsAllowedCallsign;
-using ends::RefusedPart;
 using Texts = std::vector<std::string>;
+
+std::string RefusedPart(const RadioVoiceSetting& record) { return ends::RefusalOf(record).Part; }
 
 // What would part an argument, be an option, or swallow what follows.
 const Texts NoArguments{"tower /exec /bin/sh",
@@ -160,9 +161,26 @@ TEST_F(RefusedRecords, CountAsNone) {
     EXPECT_EQ(Record(0), "0");
     EXPECT_EQ(Record(1), "3voice.exampletowerme");
     EXPECT_EQ(changed, std::vector<Long>{0});
-    EXPECT_EQ(told, Texts{"The voice record of COM1 was refused: its channel is not a plain one."});
+    EXPECT_EQ(told,
+              Texts{"The voice record of COM1 was refused: its channel may neither begin nor end with a blank, nor "
+                    "hold a quotation mark or a word that begins with \"/\" or \"-\"."});
     Say(good);
     EXPECT_EQ(Record(0), "1srv1ops");
+}
+
+TEST_F(RefusedRecords, TellWhatToType) {
+    Say({TeamSpeakUrl, "voice.example", "tower", "", ""});
+    Say({TeamSpeakHost, "voice.example", "a&b", "", ""});
+    EXPECT_EQ(
+        told,
+        (Texts{
+            "The voice record of COM1 was refused: its server has to be an address that begins with "
+            "\"teamspeak://\", as teamspeak://voice.example does.",
+            "The voice record of COM1 was refused: its channel may hold no quotation mark, \"?\", \"&\", "
+            "or \"%\" before two hexadecimal digits, no word that begins with \"/\" or \"-\", and no blank at either "
+            "end."}));
+    Say({TeamSpeakUrl, "teamspeak://voice.example", "tower", "", ""});
+    EXPECT_EQ(Record(0), "4teamspeak://voice.exampletower");
 }
 
 TEST_F(RefusedRecords, AreToldOnceForEachContent) {

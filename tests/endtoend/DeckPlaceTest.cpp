@@ -8,7 +8,7 @@ namespace {
 
 using Layer = DeckPlace::Layer;
 
-const DeckSizes Sizes{{950, 800}, 780};
+const DeckSizes Sizes{{950, 800}, 780, 190};
 const QRect Wide(0, 0, 1920, 1080);
 
 // By the lesser side of what sticks out.
@@ -39,8 +39,15 @@ TEST(FindDeckPlaceTest, ALowPanelDoesNotPushItOffTheScreen) {
     EXPECT_EQ(FindDeckPlace({0, 600, 940, 480}, Wide, Sizes).Frame.bottom(), 1079);
 }
 
-TEST(FindDeckPlaceTest, WithoutRoomBesideItLiesBehindWithItsEdgeFree) {
-    const QRect panel(0, 0, 1000, 480);
+TEST(FindDeckPlaceTest, WithoutRoomBesideItComesBeforeThePanelsPagesAndLeavesTheList) {
+    const QRect panel(0, 0, 970, 480);
+    const DeckPlace place = FindDeckPlace(panel, {0, 0, 1280, 900}, Sizes);
+    EXPECT_EQ(place.Where, Layer::BeforePanel);
+    EXPECT_GE(place.Frame.left(), 190);
+}
+
+TEST(FindDeckPlaceTest, WhereItWouldHideTheListItLiesBehindWithItsEdgeFree) {
+    const QRect panel(366, 0, 1000, 480);
     const DeckPlace place = FindDeckPlace(panel, {0, 0, 1366, 768}, Sizes);
     EXPECT_EQ(place.Where, Layer::BehindPanel);
     EXPECT_GE(FreeEdge(place.Frame, panel), 48);

@@ -34,7 +34,8 @@ TEST_F(WindowTest, TheCloseBoxHidesAndALeftPressOnTheIconBringsBack) {
     ASSERT_TRUE(ComesTrue([this] { return TrayIcon() != nullptr; }));
     ToFront(house.Desktop.Window());
     user.Do({"key", "alt+F4"});
-    ASSERT_TRUE(ComesTrue([this] { return !house.Desktop.Window().isVisible(); }));
+    ASSERT_TRUE(ComesTrue([this] { return !house.Desktop.Window().isVisible(); }))
+        << "panel active: " << house.Desktop.Window().isActiveWindow() << ", deck open: " << house.Deck->isVisible();
     EXPECT_FALSE(panel.Visible);
     EXPECT_TRUE(panel.IsLoaded());
 

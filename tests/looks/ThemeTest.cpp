@@ -3,9 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <QComboBox>
 #include <QLineEdit>
+#include <QVBoxLayout>
 
 #include "adapters/looks/Contrast.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle {
 namespace {
@@ -41,6 +44,31 @@ TEST_P(ThemeTest, AFieldThatIsEnabledLooksSo) {
     EXPECT_EQ(ground(), palette.color(QPalette::Disabled, QPalette::Base));
     field.setEnabled(true);
     EXPECT_EQ(ground(), palette.color(QPalette::Base));
+    ApplyTheme(Scheme::Light);
+}
+
+TEST_P(ThemeTest, AListBoxWithTheFocusIsOutlinedAsATextFieldIs) {
+    ApplyTheme(GetParam());
+    QWidget window;
+    auto* column = new QVBoxLayout(&window);
+    auto* box = new QComboBox;
+    auto* field = new QLineEdit;
+    box->addItem("COM1");
+    for (QWidget* widget : {static_cast<QWidget*>(box), static_cast<QWidget*>(field)}) column->addWidget(widget);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(WaitForWindowActive(&window));
+    const auto edge = [](QWidget* widget) {
+        const QImage image = widget->grab().toImage();
+        return QColor(image.pixel(0, image.height() / 2));
+    };
+    field->setFocus();
+    const QColor unfocused = edge(box);
+    const QColor focused = edge(field);
+    EXPECT_NE(unfocused, focused);
+    box->setFocus();
+    EXPECT_EQ(edge(box), focused);
+    EXPECT_EQ(edge(field), unfocused);
     ApplyTheme(Scheme::Light);
 }
 

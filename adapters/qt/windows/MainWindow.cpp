@@ -79,7 +79,7 @@ void MainWindow::changeEvent(QEvent* event) {
 void MainWindow::TellSize() {
     auto* overview = dynamic_cast<Frame*>(frames[OverviewPanel]);
     if (overview == nullptr) return;
-    const int left = side->sizeHint().width();
+    const int left = ListWidth();
     const QSize wanted = PageArea::UsualSize(*this) + QSize(left, 0);
     const QSize size = wanted.boundedTo(MostWindowSize(*screen())).expandedTo(LeastSize);
     overview->Left = left * TwipsPerPixel;
@@ -91,6 +91,8 @@ void MainWindow::TellSize() {
 int MainWindow::PanelOf(const Control& frame) const {
     return static_cast<int>(std::find(frames.begin(), frames.end(), &frame) - frames.begin());
 }
+
+int MainWindow::ListWidth() const { return side->sizeHint().width(); }
 
 QWidget& MainWindow::Page(int panel) { return *AreaOf(panel).widget(); }
 

@@ -25,6 +25,8 @@ public:
     QWidget* WidgetOf(const Control& control) override;
     // The page of that panel, 0 to 12, made now if need be.
     QWidget& Page(int panel);
+    // Of the tree at the left.
+    int ListWidth() const;
     const Binder& Bindings() const { return binder; }
 
     void ControlChanged(Control& control, ControlProperty property) override;
