@@ -2,7 +2,7 @@
 // and three of its tag. Nonces are counters of 16 bytes, little-endian, incremented before each packet; each side keeps
 // its own and the other's. Held by a room's connection from the server's first CryptSetup on.
 //
-// Nothing of the state changes for a packet that is refused. More than 223 packets lost in a row, and no more is
+// Nothing of the state changes for a packet that is refused. More than 222 packets lost in a row, and no more is
 // understood until one side has told its nonce anew.
 #pragma once
 
@@ -20,7 +20,7 @@
 namespace orvelle::mumble {
 
 constexpr std::size_t CryptHead = 4;
-constexpr int LateBound = 32;  // packets: how much later than its followers one may come
+constexpr unsigned LateBound = 32;  // packets: how much later than its followers one may come
 
 class PacketCrypt {
 public:
@@ -47,7 +47,7 @@ public:
 private:
     Ocb2 cipher;
     CryptBlock ownNonce;
-    CryptBlock farNonce;               // of the newest packet
+    CryptBlock farNonce;              // of the newest packet
     std::bitset<LateBound + 1> seen;  // of the newest and those before it
     Counts counts;
     std::array<std::uint8_t, CryptHead + VoicePacketBound> encrypted{};

@@ -12,8 +12,8 @@ namespace orvelle::mumble {
 // In the shortest form.
 void AppendVarint(std::vector<std::uint8_t>& packet, std::uint64_t number);
 
-// Takes the number off the packet's beginning; none, and nothing is taken, where the packet ends before it does, or where
-// a negated number is negated. A negative number is read as its two's complement: nobody counts so far.
+// Takes the number off the packet's beginning; none, and nothing is taken, where the packet ends before it does, or
+// where a negated number is negated. A negative number is read as its two's complement: nobody counts so far.
 std::optional<std::uint64_t> TakeVarint(std::span<const std::uint8_t>& packet);
 
 }  // namespace orvelle::mumble

@@ -20,8 +20,8 @@ enum class TalkEnd : std::uint8_t { No, Yes };
 // What we say; `sequence` counts blocks of ten milliseconds. Empty where Opus is too long for a packet.
 std::vector<std::uint8_t> WriteVoice(VoiceTarget target, std::uint64_t sequence, std::span<const std::uint8_t> opus,
                                      TalkEnd end);
-// What the server tells of others: Speaker is a session. Opus lies within `packet`, and is empty in a last one only. None
-// where it is no voice, not Opus or malformed; a position behind the voice means nothing to us.
+// What the server tells of others: Speaker is a session. Opus lies within `packet`, and is empty in a last one only.
+// None where it is no voice, not Opus or malformed; a position behind the voice means nothing to us.
 std::optional<speech::HeardVoice> ReadVoice(std::span<const std::uint8_t> packet);
 
 // The server sends the same packet back.
