@@ -156,11 +156,11 @@ void ReadWay(View way) {
         if (plain) Hold(plain->size() + CryptHead == packet.size(), "a packet has another length");
         if (!plain || !isWhole) return;
         Hold(++taken[number] == 1, "a packet is taken twice");
-        Hold(plain->size() == number % 50 + 1 && (*plain)[0] == static_cast<std::uint8_t>(number),
+        Hold(plain->size() == number % 20 + 1 && (*plain)[0] == static_cast<std::uint8_t>(number),
              "a packet is another");
     };
     for (const std::uint8_t step : way.first(std::min(way.size(), WayBound))) {
-        Bytes plain(sent.size() % 50 + 1);
+        Bytes plain(sent.size() % 20 + 1);
         plain[0] = static_cast<std::uint8_t>(sent.size());
         const View packet = sender.Encrypt(plain);
         sent.emplace_back(packet.begin(), packet.end());
