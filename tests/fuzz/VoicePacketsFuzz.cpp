@@ -160,7 +160,7 @@ void ReadWay(View way) {
              "a packet is another");
     };
     for (const std::uint8_t step : way.first(std::min(way.size(), WayBound))) {
-        Bytes plain(sent.size() % 20 + 1);
+        Bytes plain(sent.size() % 20 + 1, 0x55);
         plain[0] = static_cast<std::uint8_t>(sent.size());
         const View packet = sender.Encrypt(plain);
         sent.emplace_back(packet.begin(), packet.end());
