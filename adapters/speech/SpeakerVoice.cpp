@@ -122,7 +122,7 @@ void SpeakerVoice::Prepare() {
 // as leave what is needed in hand.
 void SpeakerVoice::SkipConcealed(std::int64_t gap) {
     blocksSinceLoss = 0;
-    const std::int64_t toSpare = std::max<std::int64_t>(BlocksInHand() - BlocksNeeded(), 0);
+    const std::int64_t toSpare = std::max<std::int64_t>(BlocksInHand() - BlocksNeeded() - (blocksOfPacket - 1), 0);
     next += std::min({gap, toSpare, std::int64_t{blocksAhead}});
 }
 
