@@ -1,0 +1,49 @@
+#include "adapters/pulse/OutputStream.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace orvelle::pulse {
+
+namespace {
+
+constexpr std::uint32_t BlockBytes = speech::BlockSamples * sizeof(float);
+constexpr auto ServersChoice = static_cast<std::uint32_t>(-1);
+
+}  // namespace
+
+OutputStream::OutputStream(std::string name, std::function<void()> changed, std::function<void(speech::Block&)> wanted)
+    : VoiceStream(std::move(name), std::move(changed)), wanted(std::move(wanted)) {}
+
+int OutputStream::Connect(pa_stream* opened, const char* deviceOrDefault, pa_stream_flags_t flags) {
+    pa_buffer_attr buffer{};
+    buffer.maxlength = buffer.fragsize = ServersChoice;
+    buffer.tlength = 2 * BlockBytes;
+    buffer.minreq = BlockBytes;
+    buffer.prebuf = 0;  // it plays from the beginning, and goes on where nothing was there in time
+    return pa_stream_connect_playback(opened, deviceOrDefault, &buffer, flags, nullptr, nullptr);
+}
+
+// Whoever writes a block may close the stream, or have it opened on another device.
+void OutputStream::Carry(std::size_t bytes) {
+    const std::size_t room = bytes / sizeof(float);
+    const std::size_t fresh = pace.Allow(room, std::chrono::steady_clock::now());
+    const pa_stream* const carried = stream;
+    next.clear();
+    while (next.size() < fresh) {
+        if (used == block.size()) {
+            block = speech::Silence;
+            used = 0;
+            wanted(block);
+            if (stream != carried) return;
+        }
+        const std::size_t count = std::min(fresh - next.size(), block.size() - used);
+        next.insert(next.end(), &block[used], &block[used] + count);
+        used += count;
+    }
+    if (next.empty()) return;
+    const auto over = static_cast<std::int64_t>((room - fresh) * sizeof(float));
+    pa_stream_write(stream, next.data(), next.size() * sizeof(float), nullptr, over, PA_SEEK_RELATIVE);
+}
+
+}  // namespace orvelle::pulse
