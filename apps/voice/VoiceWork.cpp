@@ -8,7 +8,6 @@ namespace orvelle {
 namespace {
 
 // Milliseconds:
-constexpr Long JoinFollows = 20;        // a way out that leads to the next room
 constexpr Long OpeningPatience = 1000;  // that a device has to begin to work
 constexpr Long ClosingPatience = 1000;  // that the devices stay open, as the next room may be on its way
 
@@ -35,26 +34,9 @@ VoiceWork::VoiceWork(EventLoop& eventLoop, const std::filesystem::path& folder)
 
 void VoiceWork::Join(Long room, unsigned long attempt, const std::string& clientName,
                      const mumble::RoomAddress& address) {
-    Place& place = At(room);
-    place.Leaving.End();
-    place.Attempt = attempt;
-    place.Address = address;
+    At(room).Attempt = attempt;
+    At(room).Address = address;
     rooms.Join(room, clientName, address);
-    rooms.Mute(room, place.IsMuted);
-}
-
-void VoiceWork::Leave(Long room) {
-    incoming.Leave(room);
-    rooms.Mute(room, true);
-    At(room).Leaving = loop.After(JoinFollows, [this, room] {
-        rooms.Leave(room);
-        rooms.Mute(room, At(room).IsMuted);
-    });
-}
-
-void VoiceWork::Mute(Long room, bool mute) {
-    At(room).IsMuted = mute;
-    rooms.Mute(room, mute);
 }
 
 void VoiceWork::Tell(Long room, RoomHappening what, const std::string& status) {

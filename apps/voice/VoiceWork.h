@@ -36,10 +36,8 @@ public:
 
     // What is told of the room from now on bears this number.
     void Join(Long room, unsigned long attempt, const std::string& clientName, const mumble::RoomAddress& address);
-    // At once for the user's ears and voice. The panel leaves before each join, so the server is told a moment later,
-    // and a join until then finds the connection.
-    void Leave(Long room);
-    void Mute(Long room, bool mute);
+    void Leave(Long room) { rooms.Leave(room); }
+    void Mute(Long room, bool mute) { rooms.Mute(room, mute); }
     void GivePassword(const std::string& server, const std::optional<std::string>& password) {
         rooms.GivePassword(server, password);
     }
@@ -52,9 +50,7 @@ private:
     struct Place {
         unsigned long Attempt = 0;
         mumble::RoomAddress Address;
-        bool IsMuted = true;  // as the panel wishes
-        bool IsIn = false;    // as the server has it
-        Ticket Leaving;
+        bool IsIn = false;
     };
 
     Place& At(Long room) { return places.at(static_cast<std::size_t>(room)); }
