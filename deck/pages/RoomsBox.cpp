@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGridLayout>
 #include <QPushButton>
 
 #include "deck/fields/Fields.h"
@@ -53,6 +54,7 @@ RoomsBox::RoomsBox(VoiceEngineSide& playedEngine, VoiceEngineView& servingEngine
     addRow("Audio", &Room::Audio);
     addRow("", &Room::CarriesAudio);
     addRow("Status text", &Room::Status);
+    for (const Room& room : rooms) AddRealStatus(room);
     addRow("Joins", &Room::Joins);
     addRow("", &Room::Kick);
     ShowState();
@@ -74,7 +76,18 @@ RoomsBox::Room RoomsBox::NewRoom(int number) {
             NewChoice(name + "Joins", "How joins of this room go", {"Succeed", "Are refused", "Fail"},
                       [this, number](int index) { played.SetJoinOutcome(number, JoinOutcomes[index]); }),
             NewEdit(name + "Status", "The room's status text; Enter applies it",
-                    [this, number](const std::string& text) { played.SetRoomStatus(number, text); })};
+                    [this, number](const std::string& text) { played.SetRoomStatus(number, text); }),
+            new Readout(name + "RealStatus")};
+}
+
+// A sentence that nobody types is read in full.
+void RoomsBox::AddRealStatus(const Room& shown) {
+    int row = 0;
+    int column = 0;
+    int span = 0;
+    Grid().getItemPosition(Grid().indexOf(shown.Status), &row, &column, &span, &span);
+    shown.RealStatus->setAccessibleName(shown.Status->accessibleName());
+    Grid().addWidget(shown.RealStatus, row, column);
 }
 
 // An engine that stands still has nobody in its rooms, and nothing is open there.
@@ -103,9 +116,11 @@ void RoomsBox::ShowState() {
         shown.CarriesAudio->setEnabled(played.IsServing() && room.Presence == RoomPresence::In);
         shown.Joins->setCurrentIndex(static_cast<int>(played.Room(number).Joins));
         shown.Status->Show(room.Status);
-        for (QWidget* field : {static_cast<QWidget*>(shown.Kick), static_cast<QWidget*>(shown.Joins),
-                               static_cast<QWidget*>(shown.Status)})
-            field->setEnabled(played.IsServing());
+        shown.RealStatus->Show(room.Status);
+        shown.Status->setVisible(played.IsServing());
+        shown.RealStatus->setVisible(!played.IsServing());
+        shown.Kick->setEnabled(played.IsServing());
+        shown.Joins->setEnabled(played.IsServing());
     }
 }
 

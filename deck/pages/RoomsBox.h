@@ -40,9 +40,11 @@ private:
         QPushButton* Kick;
         QComboBox* Joins;
         TextField* Status;
+        Readout* RealStatus;  // in its place
     };
 
     Room NewRoom(int number);
+    void AddRealStatus(const Room& shown);
     void ShowPanelsDoing(const Room& shown, const VoiceRoom& room) const;
     void ShowState();
 
