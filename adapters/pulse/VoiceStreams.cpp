@@ -122,8 +122,12 @@ void VoiceStreams::AskForLife() {
         connection->Context(), [](pa_context*, const pa_server_info*, void*) {}, nullptr));
 }
 
+// What was closed is opened again before anything is told, where that can be.
 void VoiceStreams::TellLater() {
-    telling = loop.After(0, [this] { Changed(); });
+    telling = loop.After(0, [this] {
+        OpenWanted();
+        Changed();
+    });
 }
 
 }  // namespace orvelle::pulse

@@ -208,4 +208,9 @@ SoundRecording SoundProbe::Recorded(const std::string& source) {
     return ears.at(source)->Heard;
 }
 
+SoundRecording SoundProbe::Last(const std::string& source, Long milliseconds) {
+    const Locked locked(loop);
+    return ears.at(source)->Heard.Last(SamplesIn(milliseconds));
+}
+
 }  // namespace orvelle::pulse

@@ -41,8 +41,9 @@ public:
     void Record(const std::string& source);
     // What was recorded since Record or the last Take.
     SoundRecording Take(const std::string& source);
-    // The same, which stays.
+    // The same, which stays; and the end of it, for whoever looks again and again.
     SoundRecording Recorded(const std::string& source);
+    SoundRecording Last(const std::string& source, Long milliseconds);
 
 private:
     struct Mouth;

@@ -33,6 +33,17 @@ Moment SoundRecording::At(std::size_t sample) const {
     return piece.Began + LengthOf(sample - piece.First);
 }
 
+SoundRecording SoundRecording::Last(std::size_t count) const {
+    SoundRecording last;
+    if (pieces.empty()) return last;
+    auto piece = std::prev(pieces.end());
+    while (piece != pieces.begin() && samples.size() - piece->First < count) --piece;
+    const std::size_t begin = piece->First;
+    last.samples.assign(samples.begin() + static_cast<std::ptrdiff_t>(begin), samples.end());
+    for (; piece != pieces.end(); ++piece) last.pieces.push_back({piece->First - begin, piece->Began});
+    return last;
+}
+
 std::vector<std::pair<Moment, Moment>> SoundRecording::Sounds(double least, Long quiet) const {
     std::vector<std::pair<Moment, Moment>> sounds;
     Long quietFor = quiet;

@@ -25,6 +25,8 @@ public:
 
     const std::vector<float>& Samples() const { return samples; }
     Moment At(std::size_t sample) const;
+    // The last ones, and some more.
+    SoundRecording Last(std::size_t count) const;
 
     // Each sound's first and last moment, in their order: one begins with the first millisecond whose loudest sample is
     // `least` or more, and ends with the last one before as many milliseconds of quiet, or with the recording.

@@ -65,6 +65,7 @@ protected:
     VoiceRig() {
         server.Start();
         Furnish();
+        Probe();
         streams.SetMicrophone(Microphone);
         for (const Long output : {Headset, Speakers}) streams.SetOutput(output, "ear");
         streams.Changed = [this] { ++changes; };
@@ -84,9 +85,13 @@ protected:
     std::uint32_t AddSink(const std::string& name) {
         return hand->Load("module-null-sink", "rate=48000 sink_name=" + name);
     }
+    // A null sink that nobody plays to is slow to tell its monitor of its silence.
     void Probe() {
         probe.emplace();
-        for (const char* const source : {Microphone, "ear.monitor", "other.monitor"}) probe->Record(source);
+        for (const char* const sink : {Mouth, "ear", "other"}) {
+            probe->Play(sink, {}, Playing::Once);
+            probe->Record(std::string(sink) + ".monitor");
+        }
     }
 
     // Serves the loop until it is so; false where that takes longer than half a minute.
@@ -95,11 +100,24 @@ protected:
         const Moment end = Now() + time;
         ASSERT_TRUE(Until([end] { return Now() >= end; }));
     }
+    // The same for what takes a while to look at: some fifty times a second.
+    bool UntilNoticed(const std::function<bool()>& isSo) {
+        Moment next = Now();
+        return Until([&] {
+            if (Now() < next) return false;
+            next = Now() + std::chrono::milliseconds(20);
+            return isSo();
+        });
+    }
     // How long that took.
     double TimeUntil(const std::function<bool()>& isSo) {
         const Moment begin = Now();
         EXPECT_TRUE(Until(isSo));
         return Milliseconds(Now() - begin);
+    }
+    // Our streams, and nobody else's.
+    static bool HasStreams(const char* kind) {
+        return Pactl({"list", kind}).find("application.name = \"OrvelleCP\"") != std::string::npos;
     }
     bool AllWork() const { return streams.MicrophoneWorks() && OutputsWork(); }
     bool OutputsWork() const { return streams.OutputWorks(Headset) && streams.OutputWorks(Speakers); }
@@ -121,21 +139,21 @@ protected:
     }
     void Speak(bool headset, bool speakers) { speaks = {headset, speakers}; }
 
-    // Whether the tone is heard there, or is not heard any more, in a tenth of a second from now on.
+    // Whether the tone comes to be heard there, or not to be heard any more, for a tenth of a second.
     bool Hears(const std::string& source, double hertz) {
-        return Until([&] { return LevelThere(source, hertz) > LeastHeard; });
+        return UntilNoticed([&] { return LevelThere(source, hertz) > LeastHeard; });
     }
     bool HearsNoMore(const std::string& source, double hertz) {
-        return Until([&] { return LevelThere(source, hertz) < LeastHeard - 10; });
+        return UntilNoticed([&] { return LevelThere(source, hertz) < LeastHeard - 10; });
     }
     // Whether the probe's tone is recorded by the streams.
     bool RecordsWhatIsSpoken() {
         constexpr double Spoken = 1000;
         probe->Play(Mouth, Tone(Spoken, 1000), Playing::AgainAndAgain);
-        const bool isRecorded = Until([&] {
-            return recorded.ToneLevel(Spoken, Now() - std::chrono::milliseconds(150), Now()) > LeastHeard;
+        const bool isRecorded = UntilNoticed([&] {
+            return recorded.Last(speech::SampleRate / 10).ToneLevel(Spoken) > LeastHeard;
         });
-        probe->Stop(Mouth);
+        probe->Play(Mouth, {}, Playing::Once);
         return isRecorded;
     }
 
@@ -144,9 +162,9 @@ protected:
     double RecordingDelay() {
         probe->Take(Microphone);
         recorded = {};
-        probe->Play(Mouth, Burst(1000, 60, 200), Playing::AgainAndAgain);
-        EXPECT_TRUE(Until([this] { return recorded.Sounds().size() > Bursts; }));
-        probe->Stop(Mouth);
+        probe->Play(Mouth, Burst(1000, 60, 150), Playing::AgainAndAgain);
+        EXPECT_TRUE(UntilNoticed([this] { return recorded.Sounds().size() > Bursts; }));
+        probe->Play(Mouth, {}, Playing::Once);
         return MedianDelay(Begins(probe->Recorded(Microphone)), Begins(recorded));
     }
     double PlayingDelay() {
@@ -158,7 +176,7 @@ protected:
             if (output != Headset) return;
             if (left == 0 && Now() >= next) {
                 spoken.push_back(Now());
-                next = Now() + std::chrono::milliseconds(200);
+                next = Now() + std::chrono::milliseconds(150);
                 left = 6;
             }
             if (left == 0) return;
@@ -166,7 +184,7 @@ protected:
             speaks = {true, false};
             Write(output, block);
         };
-        EXPECT_TRUE(Until([&] { return Begins(probe->Recorded("ear.monitor")).size() > Bursts; }));
+        EXPECT_TRUE(UntilNoticed([&] { return Begins(probe->Recorded("ear.monitor")).size() > Bursts; }));
         streams.Wanted = [this](Long output, speech::Block& block) { Write(output, block); };
         speaks = {};
         return MedianDelay(spoken, Begins(probe->Recorded("ear.monitor")));
@@ -189,7 +207,7 @@ protected:
     }
 
     static constexpr double LeastHeard = -30;
-    static constexpr std::size_t Bursts = 6;
+    static constexpr std::size_t Bursts = 5;
 
     SoundFolder folder;
     Server server;
@@ -208,8 +226,7 @@ protected:
 
 private:
     double LevelThere(const std::string& source, double hertz) {
-        const SoundRecording heard = probe->Recorded(source);
-        return heard.ToneLevel(hertz, Now() - std::chrono::milliseconds(150), Now());
+        return probe->Last(source, 100).ToneLevel(hertz);
     }
 };
 
