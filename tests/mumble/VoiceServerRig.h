@@ -53,8 +53,7 @@ public:
 
     // All that it wrote, over its restarts.
     std::string Log();
-    // Waits until the log has the text so often; false where that takes very long.
-    bool HasLogged(const std::string& text, int times = 1);
+    int TimesLogged(const std::string& text);
 
 private:
     void MakeDatabase();
