@@ -132,4 +132,8 @@ int VoiceServerRig::TimesLogged(const std::string& text) {
     return times;
 }
 
+bool VoiceServerRig::HasLogged(const std::string& text, int times) {
+    return linux::WaitUntil([&] { return TimesLogged(text) >= times; });
+}
+
 }  // namespace orvelle::mumble

@@ -54,6 +54,8 @@ public:
     // All that it wrote, over its restarts.
     std::string Log();
     int TimesLogged(const std::string& text);
+    // Waits until the log has it so often; false where that takes very long.
+    bool HasLogged(const std::string& text, int times = 1);
 
 private:
     void MakeDatabase();
