@@ -15,6 +15,8 @@ constexpr Long LeftAfter = 2000;
 constexpr Long ParksAfter = 200;  // a leave that a join follows stays where it is
 constexpr Long ClosesAfter = 10000;
 
+constexpr std::uint32_t DeniedWithoutCertificate = 7;  // a DenialType that only a server's own setting brings about
+
 RoomTrouble TroubleOf(ConnectionEnd why) {
     switch (why) {
         case ConnectionEnd::NoSuchHost:
@@ -54,6 +56,7 @@ RoomTrouble TroubleOfRefusal(std::uint32_t type) {
 }
 
 RoomTrouble TroubleOfDenial(std::uint32_t type, std::uint32_t permission) {
+    if (type == DeniedWithoutCertificate) return RoomTrouble::CertificateMissing;
     switch (static_cast<DenialType>(type)) {
         case DenialType::ChannelName:
             return RoomTrouble::ChannelNameRefused;

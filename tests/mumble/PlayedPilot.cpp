@@ -70,9 +70,7 @@ void PlayedPilot::Say(const std::string& text, VoiceRooms::Squelched squelched) 
 
 bool PlayedPilot::Until(const std::function<bool()>& isSo) const { return linux::ServeUntil(loop, isSo); }
 
-bool PlayedPilot::HasTold(const std::string& what, int times) const {
-    return std::ranges::count(Told, what) >= times;
-}
+bool PlayedPilot::HasTold(const std::string& what, int times) const { return std::ranges::count(Told, what) >= times; }
 
 bool PlayedPilot::WaitFor(const std::string& what, int times) const {
     return Until([&] { return HasTold(what, times); });

@@ -125,13 +125,15 @@ void VoiceServerRig::Thaw() { process->Kill(SIGCONT); }
 
 std::string VoiceServerRig::Log() { return earlierLog + process->Errors(); }
 
+int VoiceServerRig::TimesLogged(const std::string& text) {
+    const std::string log = Log();
+    int times = 0;
+    for (std::size_t at = log.find(text); at != log.npos; at = log.find(text, at + 1)) ++times;
+    return times;
+}
+
 bool VoiceServerRig::HasLogged(const std::string& text, int times) {
-    return linux::WaitUntil([&] {
-        const std::string log = Log();
-        int found = 0;
-        for (std::size_t at = log.find(text); at != std::string::npos; at = log.find(text, at + 1)) ++found;
-        return found >= times;
-    });
+    return linux::WaitUntil([&] { return TimesLogged(text) >= times; });
 }
 
 }  // namespace orvelle::mumble

@@ -53,7 +53,8 @@ public:
 
     // All that it wrote, over its restarts.
     std::string Log();
-    // Waits until the log has the text so often; false where that takes very long.
+    int TimesLogged(const std::string& text);
+    // Waits until the log has it so often; false where that takes very long.
     bool HasLogged(const std::string& text, int times = 1);
 
 private:
