@@ -9,8 +9,6 @@ namespace {
 
 constexpr std::uint32_t BlockBytes = speech::BlockSamples * sizeof(float);
 constexpr auto ServersChoice = static_cast<std::uint32_t>(-1);
-// Of what is over. After more of it a new stream is better than so much silence.
-constexpr std::size_t MostSilentSamples = speech::SampleRate;
 
 }  // namespace
 
@@ -32,7 +30,6 @@ void OutputStream::Carry(std::size_t bytes) {
     const std::size_t room = bytes / sizeof(float);
     const std::size_t fresh = pace.Allow(room, std::chrono::steady_clock::now());
     if (fresh == 0) return;
-    if (room - fresh > MostSilentSamples) return Close();
     const pa_stream* const carried = stream;
     next.assign(room - fresh, 0);
     while (next.size() < room) {
