@@ -1,7 +1,5 @@
 #include "adapters/mumble/Messages.h"
 
-#include <google/protobuf/message_lite.h>
-
 #include <algorithm>
 
 namespace orvelle::mumble {

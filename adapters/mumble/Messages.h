@@ -2,16 +2,14 @@
 // VoiceServer.proto tells, or a voice packet as it is. Used by a session; nothing here waits or throws.
 #pragma once
 
+#include <google/protobuf/message_lite.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
 #include <vector>
-
-namespace google::protobuf {
-class MessageLite;
-}
 
 namespace orvelle::mumble {
 

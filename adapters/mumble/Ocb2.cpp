@@ -3,6 +3,7 @@
 #include <openssl/evp.h>
 
 #include <algorithm>
+#include <bit>
 #include <new>
 
 namespace orvelle::mumble {
@@ -12,9 +13,10 @@ namespace {
 constexpr std::size_t ShamBytes = CryptBlockSize - 1;  // of a block, that a forger must know to be zero
 
 CryptBlock Xor(const CryptBlock& one, const CryptBlock& other) {
-    CryptBlock both;
-    for (std::size_t index = 0; index < CryptBlockSize; ++index) both[index] = one[index] ^ other[index];
-    return both;
+    using Halves = std::array<std::uint64_t, 2>;
+    const auto [first, second] = std::bit_cast<Halves>(one);
+    const auto [otherFirst, otherSecond] = std::bit_cast<Halves>(other);
+    return std::bit_cast<CryptBlock>(Halves{first ^ otherFirst, second ^ otherSecond});
 }
 
 // In the field of 2 to the power of 128 elements, big-endian.
