@@ -133,7 +133,6 @@ VoiceTestDialog::VoiceTestDialog(VoiceTrial& voiceTrial, const Squelch& now, QWi
     }
     ShowStep();
     auto* clock = new QTimer(this);
-    clock->setTimerType(Qt::PreciseTimer);
     connect(clock, &QTimer::timeout, this, [this] { Take(); });
     clock->start(SquelchMeasurement::Interval);
 }
@@ -178,6 +177,12 @@ void VoiceTestDialog::Arrange() {
     column->addWidget(buttons);
     column->addStrut(LineLength * fontMetrics().averageCharWidth());
     column->setSizeConstraint(QLayout::SetFixedSize);
+    QWidget* before = hear;
+    for (QWidget* button : {static_cast<QWidget*>(again), static_cast<QWidget*>(buttons->button(QDialogButtonBox::Ok)),
+                            static_cast<QWidget*>(buttons->button(QDialogButtonBox::Cancel))}) {
+        setTabOrder(before, button);
+        before = button;
+    }
     again->setFocus();
 }
 
