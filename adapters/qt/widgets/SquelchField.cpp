@@ -1,10 +1,8 @@
 #include "adapters/qt/widgets/SquelchField.h"
 
 #include <QDoubleSpinBox>
-#include <QHBoxLayout>
 #include <QSlider>
 
-#include "adapters/looks/Theme.h"
 #include "adapters/qt/services/SquelchMeasurement.h"
 
 namespace orvelle::qt {
@@ -29,12 +27,6 @@ SquelchField::SquelchField(const QString& name, const QString& title, const QStr
         part->setAccessibleName(title);
         part->setToolTip(tip);
     }
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Unit);
-    row->addWidget(slider, 1);
-    row->addWidget(number);
-    setFocusProxy(slider);
     connect(slider, &QSlider::valueChanged, number, [this](int value) { number->setValue(value); });
     connect(number, &QDoubleSpinBox::valueChanged, this, [this](double value) {
         const QSignalBlocker quiet(slider);
@@ -42,6 +34,10 @@ SquelchField::SquelchField(const QString& name, const QString& title, const QStr
         changed();
     });
 }
+
+QWidget* SquelchField::Slider() const { return slider; }
+
+QWidget* SquelchField::Number() const { return number; }
 
 double SquelchField::Value() const { return number->value(); }
 

@@ -16,7 +16,7 @@ namespace orvelle::qt {
 
 namespace {
 
-constexpr int LineLength = 56;  // characters
+constexpr int LineLength = 66;  // characters
 constexpr int MostCharacters = 1000;
 
 }  // namespace
@@ -47,6 +47,8 @@ PasswordDialog::PasswordDialog(const std::string& server)
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
+    auto* kept = new QLabel("It is kept on this computer, in a file that only you may read.");
+    kept->setWordWrap(true);
     auto* row = new QHBoxLayout;
     row->setSpacing(2 * Unit);
     row->addWidget(caption);
@@ -57,7 +59,7 @@ PasswordDialog::PasswordDialog(const std::string& server)
     column->addWidget(new QLabel("This voice server asks for a password:"));
     column->addWidget(name);
     column->addLayout(row);
-    column->addWidget(new QLabel("It is kept on this computer, in a file that only you may read."));
+    column->addWidget(kept);
     column->addSpacing(Unit);
     column->addWidget(buttons);
     setFixedWidth(LineLength * fontMetrics().averageCharWidth() + 4 * Unit);

@@ -81,20 +81,26 @@ LevelMeter* NewMeter(const QString& name, const QString& title, const QString& t
     return meter;
 }
 
-void AddRow(QGridLayout& grid, const QString& label, QWidget* field) {
-    auto* caption = new QLabel(label);
-    if (field->focusProxy() != nullptr) caption->setBuddy(field->focusProxy());
-    const int row = grid.rowCount();
-    grid.addWidget(caption, row, 0);
-    grid.addWidget(field, row, 1);
-}
-
-void AddWide(QGridLayout& grid, QWidget* widget) { grid.addWidget(widget, grid.rowCount(), 0, 1, 2); }
+void AddWide(QGridLayout& grid, QWidget* widget) { grid.addWidget(widget, grid.rowCount(), 0, 1, 3); }
 
 void AddHeading(QGridLayout& grid, const QString& text) {
     auto* heading = new Heading;
     heading->setText(text);
     AddWide(grid, heading);
+}
+
+// The meter stands above the slider, so that mark and handle are one.
+void AddDevice(QGridLayout& grid, const QString& device, LevelMeter* meter, const QString& squelch,
+               const SquelchField& field) {
+    AddHeading(grid, device);
+    const int row = grid.rowCount();
+    grid.addWidget(new QLabel("Level"), row, 0);
+    grid.addWidget(meter, row, 1);
+    auto* caption = new QLabel(squelch);
+    caption->setBuddy(field.Slider());
+    grid.addWidget(caption, row + 1, 0);
+    grid.addWidget(field.Slider(), row + 1, 1);
+    grid.addWidget(field.Number(), row + 1, 2);
 }
 
 }  // namespace
@@ -117,6 +123,12 @@ VoiceTestDialog::VoiceTestDialog(VoiceTrial& voiceTrial, const Squelch& now, QWi
       hear(new QCheckBox("&Hear myself")) {
     setObjectName("VoiceTestDialog");
     setWindowTitle("Voice Test and Calibration");
+    input->setParent(this);
+    output->setParent(this);
+    // Its place stays, so that nothing jumps.
+    QSizePolicy policy = headset->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    headset->setSizePolicy(policy);
     progress->setObjectName("MeasurementProgress");
     progress->setAccessibleName("Measurement");
     progress->setRange(0, ProgressSteps);
@@ -131,6 +143,7 @@ VoiceTestDialog::VoiceTestDialog(VoiceTrial& voiceTrial, const Squelch& now, QWi
         input->SetValue(now.Input);
         output->SetValue(now.Output);
     }
+    Say(*headset, NoHeadset);
     ShowStep();
     auto* clock = new QTimer(this);
     connect(clock, &QTimer::timeout, this, [this] { Take(); });
@@ -160,12 +173,8 @@ void VoiceTestDialog::Arrange() {
     grid->setHorizontalSpacing(2 * Unit);
     grid->setVerticalSpacing(Unit);
     grid->setColumnStretch(1, 1);
-    AddHeading(*grid, "Microphone");
-    AddRow(*grid, "Level", inputLevel);
-    AddRow(*grid, "&Input squelch", input);
-    AddHeading(*grid, "Headset");
-    AddRow(*grid, "Level", outputLevel);
-    AddRow(*grid, "O&utput squelch", output);
+    AddDevice(*grid, "Microphone", inputLevel, "&Input squelch", *input);
+    AddDevice(*grid, "Headset", outputLevel, "O&utput squelch", *output);
     AddWide(*grid, hear);
     AddWide(*grid, headset);
     auto* column = new QVBoxLayout(this);
@@ -218,10 +227,7 @@ void VoiceTestDialog::InputChanged() {
 void VoiceTestDialog::ShowStep() {
     Say(*sentence, microphoneAway.IsLong() ? NoMicrophone : SayingOf(measurement.Now()));
     progress->setValue(qRound(measurement.Share() * ProgressSteps));
-    if (headsetAway.IsLong())
-        Say(*headset, NoHeadset);
-    else
-        headset->Say(Sign::Off, {});
+    headset->setVisible(headsetAway.IsLong());
 }
 
 void VoiceTestDialog::HearAsWished() {
