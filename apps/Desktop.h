@@ -9,6 +9,7 @@
 #include "adapters/qt/services/QtMessageQueue.h"
 #include "adapters/qt/services/QtTimers.h"
 #include "adapters/qt/services/QtTray.h"
+#include "adapters/qt/services/QtVoiceDialogs.h"
 #include "adapters/qt/services/QtWindows.h"
 #include "adapters/qt/windows/MainWindow.h"
 #include "adapters/qt/windows/PopupMenus.h"
@@ -33,6 +34,7 @@ public:
     SystemClock Clock;
     qt::QtFileDialog Dialog{[this] { return MainWindowOrNone(); }};
     qt::QtMessageBox Messages{[this] { return MainWindowOrNone(); }};
+    qt::QtVoiceDialogs Voice{[this] { return MainWindowOrNone(); }};
     qt::KeyCapture Keys;
     qt::QtMessageQueue Queue{Table, Keys};
     qt::QtTray Tray;

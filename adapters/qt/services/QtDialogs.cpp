@@ -15,12 +15,6 @@ namespace {
 constexpr Long FileMustExist = 4096;
 constexpr Long Endless = -1;
 
-// A dialog over a hidden window would be hidden with it.
-QWidget* Shown(const DialogParent& parentOf) {
-    QWidget* parent = parentOf();
-    return parent != nullptr && parent->isVisible() ? parent : nullptr;
-}
-
 // The file that a text names: a path, or the quoted one of a command line.
 QFileInfo FileOf(const std::string& name) {
     const QString text = ToQt(name).trimmed();
@@ -29,8 +23,13 @@ QFileInfo FileOf(const std::string& name) {
 
 }  // namespace
 
+QWidget* ShownParent(const DialogParent& parentOf) {
+    QWidget* parent = parentOf();
+    return parent != nullptr && parent->isVisible() ? parent : nullptr;
+}
+
 void QtFileDialog::ShowOpen() {
-    QFileDialog dialog(Shown(parentOf), ToQt(title));
+    QFileDialog dialog(ShownParent(parentOf), ToQt(title));
     dialog.setFileMode((flags & FileMustExist) != 0 ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     const QFileInfo present = FileOf(fileName);
     if (present.isAbsolute() && present.absoluteDir().exists()) {
@@ -44,7 +43,7 @@ void QtFileDialog::ShowOpen() {
 void QtMessageBox::MsgBox(const std::string& text) { MsgBox(text, Endless); }
 
 void QtMessageBox::MsgBox(const std::string& text, Long milliseconds) {
-    QMessageBox box(QMessageBox::NoIcon, "Orvelle Control Panel", ToQt(text), QMessageBox::Ok, Shown(parentOf));
+    QMessageBox box(QMessageBox::NoIcon, "Orvelle Control Panel", ToQt(text), QMessageBox::Ok, ShownParent(parentOf));
     box.setTextFormat(Qt::PlainText);
     if (milliseconds != Endless) QTimer::singleShot(milliseconds, &box, [&box] { box.done(QMessageBox::Ok); });
     box.exec();

@@ -12,6 +12,8 @@ namespace orvelle::qt {
 
 // The window that a dialog belongs to; null for none.
 using DialogParent = std::function<QWidget*()>;
+// That one while it shows: a dialog over a hidden window would be hidden with it.
+QWidget* ShownParent(const DialogParent& parentOf);
 
 class QtFileDialog : public FileDialog {
 public:

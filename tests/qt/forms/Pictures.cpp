@@ -1,6 +1,6 @@
-// Takes pictures of every page, the warning and the icons, in one palette at the scale that Qt is told to have
-// (QT_SCALE_FACTOR), in the window's own size or in one that is named (logical pixels), with the font's own size or one
-// that is named. For looking at: orvelle-pictures FOLDER light|dark [WIDTHxHEIGHT [POINTS]]
+// Takes pictures of every page, the warning, the voice test and the icons, in one palette at the scale that Qt is told
+// to have (QT_SCALE_FACTOR), in the window's own size or in one that is named (logical pixels), with the font's own size
+// or one that is named. For looking at: orvelle-pictures FOLDER light|dark [WIDTHxHEIGHT [POINTS]]
 #include <QApplication>
 #include <QDir>
 #include <QPainter>
@@ -11,10 +11,14 @@
 #include "adapters/looks/Theme.h"
 #include "adapters/qt/widgets/StatusImage.h"
 #include "adapters/qt/windows/MainWindow.h"
+#include "adapters/qt/windows/PasswordDialog.h"
+#include "adapters/qt/windows/VoiceTestDialog.h"
 #include "adapters/qt/windows/WarningDialog.h"
 #include "panel/Controls.h"
 #include "panel/MultiFSWarningDlg.h"
 #include "tests/qt/forms/PlausiblePanel.h"
+#include "tests/qt/shell/ScriptedTrial.h"
+#include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle::qt {
 
@@ -89,6 +93,45 @@ QPixmap IconSheet(const PanelControls& panel) {
     return sheet;
 }
 
+// The voice test in each of its states, and the question for a password.
+void TakeVoiceDialogs(const Folder& folder) {
+    struct State {
+        const char* Name;
+        bool Works;
+        double Room, Voice;
+        const char* Beginning;  // of the sentence
+    };
+    static constexpr State States[] = {{"quiet", true, 8, 8, "Please be quiet"},
+                                       {"speaking", true, 22, 66, "Now speak"},
+                                       {"measured", true, 22, 66, "Measured: "},
+                                       {"too-loud", true, 22, 100, "Measured, but"},
+                                       {"too-soft", true, 40, 42, "Your voice"},
+                                       {"silent", true, 0, 0, "Nothing comes"},
+                                       {"no-devices", false, 0, 0, "The microphone does not"}};
+    for (const State& state : States) {
+        ScriptedTrial trial;
+        trial.Microphone = trial.Headset = state.Works;
+        VoiceTestDialog dialog(trial, {50, 50}, nullptr);
+        const auto* sentence = dialog.findChild<QLabel*>("Measurement");
+        trial.Input = [&] { return sentence->text().startsWith("Now speak") ? state.Voice : state.Room; };
+        trial.Output = state.Works ? 70 : 0;
+        MakeQuick(dialog);
+        dialog.show();
+        WaitFor([&] { return sentence->text().startsWith(state.Beginning); });
+        if (state.Works) trial.Input = [&] { return state.Voice; };
+        for (int level = 0; level < 30; ++level) {
+            QMetaObject::invokeMethod(dialog.findChild<QTimer*>(), "timeout", Qt::DirectConnection);
+            if (!sentence->text().startsWith(state.Beginning)) break;
+        }
+        Settle();
+        folder.Keep(dialog.grab(), QStringLiteral("21-voice-test-") + state.Name);
+    }
+    PasswordDialog question("voice.example:64738");
+    question.show();
+    Settle();
+    folder.Keep(question.grab(), QStringLiteral("22-password"));
+}
+
 // An empty size is the window's own.
 int TakePictures(const Folder& folder, QSize size) {
     PanelControls panel;
@@ -120,6 +163,7 @@ int TakePictures(const Folder& folder, QSize size) {
     warning.Show();
     Settle();
     folder.Keep(dialog.grab(), QStringLiteral("20-warning"));
+    TakeVoiceDialogs(folder);
     folder.Keep(IconSheet(panel), QStringLiteral("30-icons"));
     return 0;
 }

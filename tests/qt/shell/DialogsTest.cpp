@@ -1,41 +1,21 @@
 // The real dialogs, answered as the user answers them.
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
 #include <QTemporaryDir>
-#include <QTimer>
-#include <functional>
 
 #include "adapters/qt/services/QtDialogs.h"
 #include "adapters/x11/Display.h"
+#include "tests/qt/shell/Answerer.h"
 #include "tests/qt/shell/Waiting.h"
 #include "tests/qt/shell/WidgetInput.h"
 
 namespace orvelle::qt {
 namespace {
-
-// Runs `answer` on the modal dialog as soon as one is open.
-template <typename Dialog>
-class Answerer {
-public:
-    explicit Answerer(std::function<void(Dialog&)> answer) {
-        timer.callOnTimeout([this, answer = std::move(answer)] {
-            auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-            if (dialog == nullptr) return;
-            timer.stop();
-            answer(*dialog);
-        });
-        timer.start(1);
-    }
-
-private:
-    QTimer timer;
-};
 
 class FileDialogTest : public testing::Test {
 protected:
