@@ -13,7 +13,7 @@ constexpr const char* LocalDomain = ".local";  // of what the network's own name
 }  // namespace
 
 Outside::Outside(EventLoop& eventLoop, ControlValues& controlValues, const ComputerNames& thisComputer,
-                 TeamSpeakRemote* realTeamSpeak)
+                 TeamSpeakRemote* realTeamSpeak, VoiceDialogs& voiceDialogs, const std::filesystem::path& voiceFolder)
     : Practice(eventLoop),
       loop(eventLoop),
       names(thisComputer),
@@ -21,15 +21,21 @@ Outside::Outside(EventLoop& eventLoop, ControlValues& controlValues, const Compu
           return FunctionOf<NewOrvelleMediaPlayerFunction>(media::ModuleName, "NewOrvelleMediaPlayer", why);
       }),
       sound(eventLoop),
+      engines(eventLoop, sound, Practice, voiceDialogs, voiceFolder,
+              [](std::string& why) {
+                  return FunctionOf<NewOrvelleVoiceEngineFunction>(VoiceModuleName, "NewOrvelleVoiceEngine", why);
+              }),
       Velmarc(eventLoop, controlValues, simulatorLines, {thisComputer.Name, thisComputer.Name + LocalDomain}),
       Tessaly(eventLoop, controlValues, frameworkLines),
-      VVL(Practice.VVL, Velmarc),
+      Engine(eventLoop, ends::ServingEngine::Of(Practice.VVL), [this] { return ChooseEngine(); }),
+      VVL(Engine, Velmarc),
       VolumeControl(Practice.VolumeControl),
       VolumeControlHP(Practice.VolumeControlHP),
       TSRemote(realTeamSpeak ? *realTeamSpeak : Practice.TSRemote),
       MediaPlayers(IsModuleThere(media::ModuleName) ? static_cast<MediaPlayerFactory&>(loadedPlayers)
                                                     : Practice.MediaPlayers) {
     loadedPlayers.Told = [this](const std::string& sentence) { Told(sentence); };
+    engines.Told = [this](const std::string& sentence) { Told(sentence); };
     sound.Came = [this] { ChooseMixers(); };
 }
 
@@ -71,6 +77,18 @@ void Outside::ChooseMixers() {
     VolumeControlHP.Serve(sound.Speakers);
     Practice.VolumeControl.StandBack();
     Practice.VolumeControlHP.StandBack();
+}
+
+// Who practises alone talks to nobody anyway.
+ends::ServingEngine Outside::ChooseEngine() {
+    if (!sound.Devices.AreKnown() && hasJoined && !std::exchange(isSilenceTold, true))
+        Told("The voice engine only practises, and nobody hears you by it: this computer has no sound server.");
+    return engines.Choose();
+}
+
+void Outside::EndVoice() {
+    VVL.CloseAll();
+    VVL.Stop();
 }
 
 void Outside::ChooseLines() {

@@ -4,6 +4,7 @@
 // the network.
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
@@ -13,19 +14,22 @@
 #include "adapters/ends/MicrophoneGuard.h"
 #include "adapters/ends/MixerEnd.h"
 #include "adapters/ends/SimulatorEnd.h"
+#include "adapters/ends/VoiceEngineEnd.h"
 #include "adapters/media/LoadedMediaPlayers.h"
 #include "apps/AskedSounds.h"
 #include "apps/SetUpModule.h"
 #include "apps/SoundServer.h"
+#include "apps/VoiceEngines.h"
 
 namespace orvelle {
 
 class Outside {
 public:
     // `controlValues` keeps the links' own values. `realTeamSpeak` is TeamSpeak's own remote control, null where this
-    // computer has none. Both outlive this object.
+    // computer has none. `voiceFolder` is for what the voice engine that is heard keeps, and its dialogues are the
+    // desktop's. All outlive this object.
     Outside(EventLoop& loop, ControlValues& controlValues, const ComputerNames& thisComputer,
-            TeamSpeakRemote* realTeamSpeak);
+            TeamSpeakRemote* realTeamSpeak, VoiceDialogs& voiceDialogs, const std::filesystem::path& voiceFolder);
 
     // From now on the links lead to that set-up's broker, or to the embedded set-up. Where what a set-up needs can't be
     // loaded, which is told, the panel goes on practising.
@@ -38,6 +42,8 @@ public:
     void SayGoodbye() {
         if (setUpLinks) setUpLinks->SayGoodbye();
     }
+    // No microphone is open and no thread of the voice engine runs any more. To be called at the program's end.
+    void EndVoice();
 
     // A sentence for the user about what the links can't have for now; it needs no answer.
     Event<const std::string&> Told;
@@ -47,6 +53,7 @@ public:
 private:
     void ChooseLines();
     void ChooseMixers();
+    ends::ServingEngine ChooseEngine();
 
     EventLoop& loop;
     const ComputerNames names;
@@ -59,11 +66,15 @@ private:
     AskedSounds sounds{loop, Practice.SimulatorLink, OwnSounds()};
     media::LoadedMediaPlayers loadedPlayers;
     SoundServer sound;
+    VoiceEngines engines;
+    bool isSilenceTold = false;
 
 public:
     ends::SimulatorEnd Velmarc;
     ends::FrameworkEnd Tessaly;
-    ends::MicrophoneGuard VVL;
+    // The heard engine from a start on at which there is a sound server; else the embedded one.
+    ends::VoiceEngineEnd Engine;
+    ends::MicrophoneGuard VVL;  // before the engine
     // The sound server's from when there is one; without it the embedded ones. One that is lost is awaited.
     ends::MixerEnd VolumeControl;
     ends::MixerEnd VolumeControlHP;

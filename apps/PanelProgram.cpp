@@ -28,7 +28,8 @@ PanelProgram::PanelProgram(ThisProcess& thisProcess, const std::string& settings
     : process(thisProcess),
       Settings(process, loop, settingsFile),
       Computer(process, loop, Settings.Store),
-      Outside(loop, Settings.Store, {Computer.Name(), ThisComputer::DesktopName}, Computer.TeamSpeak()),
+      Outside(loop, Settings.Store, {Computer.Name(), ThisComputer::DesktopName}, Computer.TeamSpeak(), voiceDialogs,
+              std::filesystem::path(settingsFile).parent_path() / "voice"),
       Panel(Platform{
           .Velmarc = Outside.Velmarc,
           .Settings = Settings.Store,
@@ -69,7 +70,7 @@ PanelProgram::PanelProgram(ThisProcess& thisProcess, const std::string& settings
         if (!cause.empty()) sentences = cause;
     });
     goodbyeAtEnd = process.AtEnd([this] { Outside.SayGoodbye(); });
-    microphonesCloseAtEnd = process.AtEnd([this] { Outside.VVL.CloseAll(); });
+    voiceEndsAtEnd = process.AtEnd([this] { Outside.EndVoice(); });
     TakeUpSetUp();
     Computer.FileChanged = [this] {
         TakeUpSetUp();
@@ -164,6 +165,7 @@ void PanelProgram::OpenDeck() {
 
 void PanelProgram::MakeDeck() {
     FarSides sides = Outside.Practice.Sides();
+    sides.ServingEngine = &Outside.Engine;
     sides.Notices = &Settings.Notices;
     sides.Join = Joining();
     sides.HeldKeys = &Computer.HeldKeys();

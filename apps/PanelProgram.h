@@ -12,6 +12,7 @@
 #include "adapters/urls/StandardUrlFunctions.h"
 #include "apps/Desktop.h"
 #include "apps/FirstSight.h"
+#include "apps/NoVoiceDialogs.h"
 #include "apps/Outside.h"
 #include "apps/OwnStrokes.h"
 #include "apps/ThisComputer.h"
@@ -27,14 +28,15 @@ class PanelProgram {
     ThisProcess& process;
     qt::QtEventLoop loop;
     urls::StandardUrlFunctions urlFunctions;
+    NoVoiceDialogs voiceDialogs;
 
 public:
     PanelProgram(ThisProcess& process, const std::string& settingsFile);
 
     UserSettings Settings;
     ThisComputer Computer;
-    orvelle::Outside Outside;
     orvelle::Desktop Desktop;
+    orvelle::Outside Outside;
     FrmOrvelle Panel;
     std::unique_ptr<DeckWindow> Deck;  // once it was open; none in a set-up
 
@@ -66,7 +68,7 @@ private:
     std::unique_ptr<FirstSight> panelSeen;
     Ticket errorsExplained;
     Ticket goodbyeAtEnd;
-    Ticket microphonesCloseAtEnd;
+    Ticket voiceEndsAtEnd;
     Ticket endAsked;
     Ticket wishesAsked;
 };

@@ -17,6 +17,7 @@ FarSides SetUp::Sides() {
             .Network = &NetworkLink,
             .NetworkLink = &NetworkLink,
             .VoiceEngine = &VVL,
+            .ServingEngine = &VVL,
             .HeadsetMixer = &VolumeControl,
             .SpeakersMixer = &VolumeControlHP,
             .TeamSpeak = &TSRemote,

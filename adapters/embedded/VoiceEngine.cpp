@@ -123,6 +123,11 @@ bool VoiceEngine::Calibrate(Long microphone, Long headset, float& inputSquelch, 
     return true;
 }
 
+void VoiceEngine::SetServing(bool serves) {
+    serving = serves;
+    changes.Mark();
+}
+
 void VoiceEngine::SetStartOutcome(StartOutcome outcome) {
     startOutcome = outcome;
     changes.Mark();

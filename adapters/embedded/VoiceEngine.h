@@ -45,7 +45,12 @@ public:
     std::string RoomStatus(Long room) override;
     bool Calibrate(Long inputDevice, Long outputDevice, float& inputSquelch, float& outputSquelch) override;
 
+    // Another engine serves in its place, or this one again.
+    void StandBack() { SetServing(false); }
+    void StepForward() { SetServing(true); }
+
     // The engine from its far side.
+    bool IsServing() const override { return serving; }
     bool IsRunning() const override { return running; }
     bool IsStarting() const override { return starting; }
     bool AudioRuns() const override { return audioRuns; }
@@ -74,6 +79,7 @@ public:
 private:
     static constexpr double FirstSquelch = 50;
 
+    void SetServing(bool serves);
     template <typename Value>
     void SetOutput(Long output, Value VoiceOutput::*member, Value value);
     void StartDone();
@@ -87,6 +93,7 @@ private:
     Changes changes;
     Delivery delivery;
     const AudioDevices& devices;
+    bool serving = true;
     bool starting = false;
     bool running = false;
     bool audioRuns = false;

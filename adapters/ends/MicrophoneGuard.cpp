@@ -2,48 +2,20 @@
 
 #include <algorithm>
 
+#include "adapters/ends/EngineEvents.h"
 #include "adapters/ends/SimulatorEnd.h"
 
 namespace orvelle::ends {
 
-namespace {
-
-template <typename... Arguments>
-void Pass(Event<Arguments...>& from, Event<Arguments...>& to) {
-    from = [&to](Arguments... arguments) { to(arguments...); };
-}
-
-}  // namespace
-
 MicrophoneGuard::MicrophoneGuard(VoiceEngineControl& guardedEngine, SimulatorEnd& simulatorEnd)
     : engine(guardedEngine), simulator(simulatorEnd) {
-    PassEventsThrough();
+    PassEvents(engine, *this);
     simulator.InputHandled = [this] { CloseWhatIsNotHeld(); };
 }
 
 MicrophoneGuard::~MicrophoneGuard() {
     simulator.InputHandled = nullptr;
-    for (Event<>* event :
-         {&engine.VVL_Started, &engine.VVL_Stopped, &engine.VVL_AudioStarted, &engine.VVL_AudioStopped})
-        *event = nullptr;
-    for (Event<Long>* event :
-         {&engine.VVL_RoomJoinSucceed, &engine.VVL_RoomJoinFailed, &engine.VVL_RoomKicked, &engine.VVL_RoomLeft,
-          &engine.VVL_RoomAudioStarted, &engine.VVL_RoomAudioStopped, &engine.VVL_RoomStatusChanged})
-        *event = nullptr;
-}
-
-void MicrophoneGuard::PassEventsThrough() {
-    Pass(engine.VVL_Started, VVL_Started);
-    Pass(engine.VVL_Stopped, VVL_Stopped);
-    Pass(engine.VVL_AudioStarted, VVL_AudioStarted);
-    Pass(engine.VVL_AudioStopped, VVL_AudioStopped);
-    Pass(engine.VVL_RoomJoinSucceed, VVL_RoomJoinSucceed);
-    Pass(engine.VVL_RoomJoinFailed, VVL_RoomJoinFailed);
-    Pass(engine.VVL_RoomKicked, VVL_RoomKicked);
-    Pass(engine.VVL_RoomLeft, VVL_RoomLeft);
-    Pass(engine.VVL_RoomAudioStarted, VVL_RoomAudioStarted);
-    Pass(engine.VVL_RoomAudioStopped, VVL_RoomAudioStopped);
-    Pass(engine.VVL_RoomStatusChanged, VVL_RoomStatusChanged);
+    EndEvents(engine);
 }
 
 // The panel mutes or opens a talk's rooms at three moments: at the press that starts it, also where the radio isn't

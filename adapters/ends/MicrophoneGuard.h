@@ -60,7 +60,6 @@ private:
         std::optional<std::vector<HeldInput>> StartedBy;
     };
 
-    void PassEventsThrough();
     bool IsHeld(const Talk& talk) const;
     std::vector<HeldInput> MadeOf(const InputChange& press) const;
     void Close(Long room);

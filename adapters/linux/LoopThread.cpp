@@ -1,5 +1,7 @@
 #include "adapters/linux/LoopThread.h"
 
+#include <cerrno>
+#include <system_error>
 #include <utility>
 
 #include "adapters/shared/SignalsHeldBack.h"
@@ -7,6 +9,7 @@
 namespace orvelle::linux {
 
 LoopThread::LoopThread(std::function<std::shared_ptr<void>(EventLoop& loop)> begin) {
+    if (inbox->Descriptor() < 0) throw std::system_error(errno, std::generic_category(), "eventfd");
     const SignalsHeldBack heldBack;
     thread = std::thread([this, work = std::move(begin)] { Serve(work); });
 }

@@ -24,6 +24,8 @@ namespace orvelle::mumble {
 
 enum class VoiceRoad { Best, TunnelOnly };  // Best: encrypted UDP, the TLS tunnel where that does not pass
 
+class RoomConnection;
+
 class VoiceRooms {
 public:
     // `folder` keeps, mode 0600, this user's certificates, the servers' at first sight and their passwords.
@@ -59,6 +61,17 @@ public:
     Event<Long, std::uint32_t> SpeakerGone;
     // The server asks for a password that it did not have from us; asked once for each server and attempt.
     Event<const std::string&> PasswordWanted;
+
+private:
+    struct Kept;
+    using Room = std::unique_ptr<RoomConnection>;
+
+    void Wire(Long number);
+    RoomConnection* At(Long room) const;
+    bool IsOurs(const RoomConnection& heardIn, std::uint32_t speaker) const;
+
+    std::unique_ptr<Kept> kept;
+    std::array<Room, Rooms> rooms;
 };
 
 }  // namespace orvelle::mumble

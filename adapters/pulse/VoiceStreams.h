@@ -4,10 +4,14 @@
 // come from the loop.
 #pragma once
 
+#include <pulse/subscribe.h>
+
 #include <array>
-#include <memory>
+#include <optional>
 #include <string>
 
+#include "adapters/pulse/MicrophoneStream.h"
+#include "adapters/pulse/OutputStream.h"
 #include "adapters/pulse/PulseConnection.h"
 #include "adapters/speech/Block.h"
 #include "platform/Event.h"
@@ -35,7 +39,7 @@ public:
     void CloseOutputs();
 
     // Whether it is wanted and runs.
-    bool MicrophoneWorks() const;
+    bool MicrophoneWorks() const { return microphone.Works(); }
     bool OutputWorks(Long output) const;
 
     // Ten milliseconds came from the microphone.
@@ -44,6 +48,29 @@ public:
     Event<Long, speech::Block&> Wanted;
     // Something works now that did not, or does not any more.
     Event<> Changed;
+
+private:
+    static bool IsOutput(Long output) { return output == Headset || output == Speakers; }
+    std::array<VoiceStream*, 3> All();
+    void SetDevice(VoiceStream& stream, const std::string& device);
+    void Want(VoiceStream& stream);
+    void Leave(VoiceStream& stream);
+    void Begin();
+    void EndIfUnwanted();
+    void TakeServer();
+    void TakeChange(pa_subscription_event_type_t event);
+    void OpenWanted();
+    void Look();
+    void AskForLife();
+    void TellLater();
+
+    EventLoop& loop;
+    const std::string server;
+    std::optional<PulseConnection> connection;  // while anything is wanted
+    MicrophoneStream microphone;
+    std::array<OutputStream, 2> outputs;
+    Long looks = 0;
+    Ticket looking, opening, telling, ending;
 };
 
 }  // namespace orvelle::pulse

@@ -8,6 +8,8 @@
 #include "adapters/speech/HeardVoice.h"
 #include "platform/Event.h"
 #include "platform/EventLoop.h"
+#include "platform/Ticket.h"
+#include "platform/Types.h"
 
 namespace orvelle::speech {
 
@@ -18,17 +20,28 @@ public:
     explicit RoomActivity(EventLoop& loop);
 
     void Hear(const HeardVoice& packet);
+    // Both raise Stopped inside the call where only those who are forgotten talked.
     void Forget(std::uint32_t speaker);
-    // Nobody is in the room any more; raises Stopped inside the call where somebody talked.
-    void Forget();
-    bool IsActive() const { return !talking.empty(); }
+    void Forget();  // nobody is in the room any more
+    bool IsActive() const { return talking > 0; }
 
     Event<> Started;
     Event<> Stopped;
 
 private:
+    struct Talk {
+        bool HasEnded = false;   // kept for a while, as packets that came out of order begin no new talk
+        std::uint64_t Last = 0;  // the number that ended it
+        Ticket Patience;
+    };
+
+    void End(Talk& talk);
+    void TellOfChange();
+
     EventLoop& loop;
-    std::map<std::uint32_t, Ticket> talking;  // by speaker, each with the end of patience
+    std::map<std::uint32_t, Talk> talks;  // by speaker
+    std::size_t talking = 0;
+    bool told = false;
 };
 
 }  // namespace orvelle::speech

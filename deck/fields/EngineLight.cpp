@@ -1,10 +1,10 @@
 #include "deck/fields/EngineLight.h"
 
-#include "platform/sides/VoiceEngineSide.h"
+#include "platform/sides/VoiceEngineView.h"
 
 namespace orvelle::deck {
 
-EngineLight::EngineLight(const QString& name, VoiceEngineSide& voiceEngine)
+EngineLight::EngineLight(const QString& name, VoiceEngineView& voiceEngine)
     : SignalLight(name), engine(voiceEngine), watch(engine.Observe([this] { ShowState(); })) {
     ShowState();
 }

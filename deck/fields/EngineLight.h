@@ -5,19 +5,19 @@
 #include "platform/Ticket.h"
 
 namespace orvelle {
-class VoiceEngineSide;
+class VoiceEngineView;
 }  // namespace orvelle
 
 namespace orvelle::deck {
 
 class EngineLight : public SignalLight {
 public:
-    EngineLight(const QString& name, VoiceEngineSide& voiceEngine);
+    EngineLight(const QString& name, VoiceEngineView& voiceEngine);
 
 private:
     void ShowState();
 
-    VoiceEngineSide& engine;
+    VoiceEngineView& engine;
     Ticket watch;
 };
 

@@ -20,17 +20,18 @@ QCheckBox* NewFailure(const QString& name, std::function<void(bool)> apply) {
 
 }  // namespace
 
-DevicesBox::DevicesBox(VoiceEngineSide& voiceEngine, const AudioDevices& audioDevices)
+DevicesBox::DevicesBox(VoiceEngineSide& playedEngine, VoiceEngineView& servingEngine, const AudioDevices& audioDevices)
     : Section("Devices", "Devices", 4),
-      engine(voiceEngine),
+      played(playedEngine),
+      engine(servingEngine),
       devices(audioDevices),
-      microphoneFails(NewFailure("Microphone", [this](bool failed) { engine.FailInput(failed); })),
+      microphoneFails(NewFailure("Microphone", [this](bool failed) { played.FailInput(failed); })),
       microphone(new Readout("MicrophoneDevice")),
-      outputFails{NewFailure("Headset", [this](bool failed) { engine.FailOutput(0, failed); }),
-                  NewFailure("Speakers", [this](bool failed) { engine.FailOutput(1, failed); })},
+      outputFails{NewFailure("Headset", [this](bool failed) { played.FailOutput(0, failed); }),
+                  NewFailure("Speakers", [this](bool failed) { played.FailOutput(1, failed); })},
       outputs{new Readout("HeadsetDevice"), new Readout("SpeakersDevice")},
       levels{new Readout("HeadsetLevels"), new Readout("SpeakersLevels")},
-      watch(engine.Observe([this] { ShowState(); })) {
+      watch(servingEngine.Observe([this] { ShowState(); })) {
     levels[0]->setAccessibleName("Headset levels");
     levels[1]->setAccessibleName("Speakers levels");
     AddRow("Microphone", {microphoneFails, microphone});
@@ -43,6 +44,7 @@ DevicesBox::DevicesBox(VoiceEngineSide& voiceEngine, const AudioDevices& audioDe
 
 void DevicesBox::ShowState() {
     microphoneFails->setChecked(engine.InputFailed());
+    for (QCheckBox* fails : {microphoneFails, outputFails[0], outputFails[1]}) fails->setEnabled(played.IsServing());
     microphone->Show(DeviceName(devices.InputNames(), engine.Microphone()));
     for (std::size_t index = 0; index < outputs.size(); ++index) {
         const VoiceOutput& output = engine.Output(static_cast<Long>(index));

@@ -1,4 +1,4 @@
-// The audio devices of the voice engine: what the panel set on each, and whether it fails.
+// The audio devices of the voice engine that serves: what the panel set on each, and whether it fails.
 #pragma once
 
 #include <array>
@@ -11,6 +11,7 @@ class QCheckBox;
 namespace orvelle {
 class AudioDevices;
 class VoiceEngineSide;
+class VoiceEngineView;
 }  // namespace orvelle
 
 namespace orvelle::deck {
@@ -19,12 +20,14 @@ class Readout;
 
 class DevicesBox : public Section {
 public:
-    DevicesBox(VoiceEngineSide& voiceEngine, const AudioDevices& audioDevices);
+    // A device can be made to fail where the engine is played.
+    DevicesBox(VoiceEngineSide& playedEngine, VoiceEngineView& servingEngine, const AudioDevices& audioDevices);
 
 private:
     void ShowState();
 
-    VoiceEngineSide& engine;
+    VoiceEngineSide& played;
+    const VoiceEngineView& engine;
     const AudioDevices& devices;
     QCheckBox* microphoneFails;
     Readout* microphone;

@@ -18,32 +18,35 @@ constexpr StartOutcome StartOutcomes[] = {StartOutcome::Starts, StartOutcome::Re
 
 }  // namespace
 
-EngineBox::EngineBox(VoiceEngineSide& voiceEngine)
+EngineBox::EngineBox(VoiceEngineSide& playedEngine, VoiceEngineView& servingEngine)
     : Section("Engine", "Voice engine", 3),
-      engine(voiceEngine),
+      played(playedEngine),
+      engine(servingEngine),
       audio(new SignalLight("EngineAudio")),
       squelch(new Readout("EngineSquelch")),
       starts(NewChoice("EngineStart", "How starts of the engine go", {"Succeed", "Are refused", "Stop at once"},
-                       [this](int index) { engine.SetStartOutcome(StartOutcomes[index]); })),
-      watch(engine.Observe([this] { ShowState(); })) {
-    AddRow("State", {new EngineLight("EngineState", engine), audio, squelch});
+                       [this](int index) { played.SetStartOutcome(StartOutcomes[index]); })),
+      watch(servingEngine.Observe([this] { ShowState(); })) {
+    AddRow("State", {new EngineLight("EngineState", servingEngine), audio, squelch});
     // A button that its own click disabled would hand the focus on to whatever comes next.
     auto* fail =
-        NewButton("EngineFail", "Stop by itself", "The engine, if it runs, stops by itself", [this] { engine.Fail(); });
+        NewButton("EngineFail", "Stop by itself", "The engine, if it runs, stops by itself", [this] { played.Fail(); });
+    auto* startDelay = NewDelay("StartDelay", "From the engine's start to its event", played.StartDelay(),
+                                [this](int milliseconds) { played.SetStartDelay(milliseconds); });
+    auto* joinDelay = NewDelay("JoinDelay", "From a room's join to its outcome", played.JoinDelay(),
+                               [this](int milliseconds) { played.SetJoinDelay(milliseconds); });
     AddRow("Starts", {starts, fail, new QWidget});
-    AddRow("Start takes", {NewDelay("StartDelay", "From the engine's start to its event", engine.StartDelay(),
-                                    [this](int milliseconds) { engine.SetStartDelay(milliseconds); }),
-                           new QWidget});
-    AddRow("Join takes", {NewDelay("JoinDelay", "From a room's join to its outcome", engine.JoinDelay(),
-                                   [this](int milliseconds) { engine.SetJoinDelay(milliseconds); }),
-                          new QWidget});
+    AddRow("Start takes", {startDelay, new QWidget});
+    AddRow("Join takes", {joinDelay, new QWidget});
+    playing = {starts, fail, startDelay, joinDelay};
     ShowState();
 }
 
 void EngineBox::ShowState() {
     audio->Show(engine.AudioRuns() ? Sign::Good : Sign::Off, engine.AudioRuns() ? "Audio runs" : "No audio");
     squelch->Show(QString("Squelch %1 / %2").arg(engine.InputSquelchValue()).arg(engine.OutputSquelchValue()));
-    starts->setCurrentIndex(static_cast<int>(engine.Starts()));
+    starts->setCurrentIndex(static_cast<int>(played.Starts()));
+    for (QWidget* field : playing) field->setEnabled(played.IsServing());
 }
 
 }  // namespace orvelle::deck

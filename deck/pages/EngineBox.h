@@ -1,6 +1,8 @@
 // The voice engine as a whole: whether it runs, what it was told, and how its starts go.
 #pragma once
 
+#include <vector>
+
 #include "deck/fields/Section.h"
 #include "platform/Ticket.h"
 
@@ -8,6 +10,7 @@ class QComboBox;
 
 namespace orvelle {
 class VoiceEngineSide;
+class VoiceEngineView;
 }  // namespace orvelle
 
 namespace orvelle::deck {
@@ -17,15 +20,18 @@ class SignalLight;
 
 class EngineBox : public Section {
 public:
-    explicit EngineBox(VoiceEngineSide& voiceEngine);
+    // How starts go is for the engine that is played, the rest is of the one that serves.
+    EngineBox(VoiceEngineSide& playedEngine, VoiceEngineView& servingEngine);
 
 private:
     void ShowState();
 
-    VoiceEngineSide& engine;
+    VoiceEngineSide& played;
+    const VoiceEngineView& engine;
     SignalLight* audio;
     Readout* squelch;
     QComboBox* starts;
+    std::vector<QWidget*> playing;  // what plays
     Ticket watch;
 };
 

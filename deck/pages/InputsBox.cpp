@@ -5,7 +5,7 @@
 #include "deck/fields/JoystickRow.h"
 #include "deck/fields/KeyboardField.h"
 #include "platform/sides/HeldKeysSide.h"
-#include "platform/sides/VoiceEngineSide.h"
+#include "platform/sides/VoiceEngineView.h"
 
 namespace orvelle::deck {
 
@@ -15,7 +15,7 @@ constexpr const char* RoomNames[] = {"COM1", "COM2", "Private"};
 
 }  // namespace
 
-InputsBox::InputsBox(SimulatorSide& simulator, VoiceEngineSide* voiceEngine, HeldKeysSide* heldKeys)
+InputsBox::InputsBox(SimulatorSide& simulator, VoiceEngineView* voiceEngine, HeldKeysSide* heldKeys)
     : Section("Inputs", "Keyboard and joysticks", 3), engine(voiceEngine), keys(heldKeys) {
     AddRow("&Keyboard", {new KeyboardField(simulator)});
     AddRow("Stick", {new JoystickRow(simulator, "Stick")});

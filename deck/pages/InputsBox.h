@@ -11,7 +11,7 @@
 namespace orvelle {
 class HeldKeysSide;
 class SimulatorSide;
-class VoiceEngineSide;
+class VoiceEngineView;
 }  // namespace orvelle
 
 namespace orvelle::deck {
@@ -21,7 +21,7 @@ class SignalLight;
 class InputsBox : public Section {
 public:
     // Without a voice engine (null) it has no lights, without held keys (null) none for them.
-    InputsBox(SimulatorSide& simulator, VoiceEngineSide* voiceEngine, HeldKeysSide* heldKeys);
+    InputsBox(SimulatorSide& simulator, VoiceEngineView* voiceEngine, HeldKeysSide* heldKeys);
 
 private:
     void AddEngine();
@@ -29,7 +29,7 @@ private:
     void ShowRooms();
     void ShowHeldKeys();
 
-    VoiceEngineSide* engine;
+    VoiceEngineView* engine;
     HeldKeysSide* keys;
     std::array<SignalLight*, 3> talks{};  // by room
     SignalLight* holds = nullptr;

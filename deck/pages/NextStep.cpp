@@ -8,7 +8,7 @@
 #include "platform/VoiceRoles.h"
 #include "platform/sides/LinkSide.h"
 #include "platform/sides/NetworkSide.h"
-#include "platform/sides/VoiceEngineSide.h"
+#include "platform/sides/VoiceEngineView.h"
 
 namespace orvelle::deck {
 
@@ -60,7 +60,7 @@ bool IsServed(const NetworkSide& network, std::size_t radio) {
     }
 }
 
-bool AnyRoom(const VoiceEngineSide* engine, bool (*test)(const VoiceRoom&)) {
+bool AnyRoom(const VoiceEngineView* engine, bool (*test)(const VoiceRoom&)) {
     for (Long room = 0; engine && room < Rooms; ++room)
         if (test(engine->Room(room))) return true;
     return false;
@@ -70,10 +70,10 @@ const char* StepFor(const FarSides& sides) {
     const NetworkSide& network = *sides.Network;
     if (IsDown(sides.SimulatorLink) || IsDown(sides.NetworkLink)) return TakeUpLinks;
     if (network.Session().Handle == 0 || network.Session().Status != ConnectedToMultiplayer) return OpenSession;
-    if (AnyRoom(sides.VoiceEngine,
+    if (AnyRoom(sides.ServingEngine,
                 [](const VoiceRoom& room) { return room.Presence == RoomPresence::In && !room.Muted; }))
         return LetGo;
-    if (AnyRoom(sides.VoiceEngine, [](const VoiceRoom& room) { return room.Presence == RoomPresence::In; }))
+    if (AnyRoom(sides.ServingEngine, [](const VoiceRoom& room) { return room.Presence == RoomPresence::In; }))
         return MapKey;
     if (IsServed(network, 0) || IsServed(network, 1)) return HoldKey;
     if (Holds(network, EngineRole)) return TuneEngine;
@@ -95,7 +95,7 @@ NextStep::NextStep(const FarSides& farSides) : sides(farSides) {
     watches.push_back(sides.Network->Observe(show));
     for (LinkSide* link : {sides.SimulatorLink, sides.NetworkLink})
         if (link) watches.push_back(link->Observe(show));
-    if (sides.VoiceEngine) watches.push_back(sides.VoiceEngine->Observe(show));
+    if (sides.ServingEngine) watches.push_back(sides.ServingEngine->Observe(show));
     ShowState();
 }
 

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGridLayout>
 #include <QPushButton>
 
 #include "deck/fields/Fields.h"
@@ -34,11 +35,12 @@ void ShowSwitch(SignalLight& light, bool on, const QString& whenOn, const QStrin
 
 }  // namespace
 
-RoomsBox::RoomsBox(VoiceEngineSide& voiceEngine)
+RoomsBox::RoomsBox(VoiceEngineSide& playedEngine, VoiceEngineView& servingEngine)
     : Section("Rooms", "Rooms", 3),
-      engine(voiceEngine),
+      played(playedEngine),
+      engine(servingEngine),
       rooms{NewRoom(0), NewRoom(1), NewRoom(2)},
-      watch(engine.Observe([this] { ShowState(); })) {
+      watch(servingEngine.Observe([this] { ShowState(); })) {
     const auto addRow = [this](const QString& label, const auto field) {
         AddRow(label, {rooms[0].*field, rooms[1].*field, rooms[2].*field});
     };
@@ -52,6 +54,7 @@ RoomsBox::RoomsBox(VoiceEngineSide& voiceEngine)
     addRow("Audio", &Room::Audio);
     addRow("", &Room::CarriesAudio);
     addRow("Status text", &Room::Status);
+    for (const Room& room : rooms) AddRealStatus(room);
     addRow("Joins", &Room::Joins);
     addRow("", &Room::Kick);
     ShowState();
@@ -67,13 +70,24 @@ RoomsBox::Room RoomsBox::NewRoom(int number) {
             new SignalLight(name + "Speakers"),
             new SignalLight(name + "Audio"),
             NewCheck(name + "CarriesAudio", "Carries audio", "The room carries audio",
-                     [this, number](bool on) { engine.SetRoomAudio(number, on); }),
+                     [this, number](bool on) { played.SetRoomAudio(number, on); }),
             NewButton(name + "Kick", "Kick", "The voice server throws the panel out of the room, if it is in there",
-                      [this, number] { engine.Kick(number); }),
+                      [this, number] { played.Kick(number); }),
             NewChoice(name + "Joins", "How joins of this room go", {"Succeed", "Are refused", "Fail"},
-                      [this, number](int index) { engine.SetJoinOutcome(number, JoinOutcomes[index]); }),
+                      [this, number](int index) { played.SetJoinOutcome(number, JoinOutcomes[index]); }),
             NewEdit(name + "Status", "The room's status text; Enter applies it",
-                    [this, number](const std::string& text) { engine.SetRoomStatus(number, text); })};
+                    [this, number](const std::string& text) { played.SetRoomStatus(number, text); }),
+            new Readout(name + "RealStatus")};
+}
+
+// A sentence that nobody types is read in full.
+void RoomsBox::AddRealStatus(const Room& shown) {
+    int row = 0;
+    int column = 0;
+    int span = 0;
+    Grid().getItemPosition(Grid().indexOf(shown.Status), &row, &column, &span, &span);
+    shown.RealStatus->setAccessibleName(shown.Status->accessibleName());
+    Grid().addWidget(shown.RealStatus, row, column);
 }
 
 // An engine that stands still has nobody in its rooms, and nothing is open there.
@@ -99,9 +113,14 @@ void RoomsBox::ShowState() {
         const VoiceRoom& room = engine.Room(number);
         ShowPanelsDoing(shown, room);
         shown.CarriesAudio->setChecked(room.Audio);
-        shown.CarriesAudio->setEnabled(room.Presence == RoomPresence::In);
-        shown.Joins->setCurrentIndex(static_cast<int>(room.Joins));
+        shown.CarriesAudio->setEnabled(played.IsServing() && room.Presence == RoomPresence::In);
+        shown.Joins->setCurrentIndex(static_cast<int>(played.Room(number).Joins));
         shown.Status->Show(room.Status);
+        shown.RealStatus->Show(room.Status);
+        shown.Status->setVisible(played.IsServing());
+        shown.RealStatus->setVisible(!played.IsServing());
+        shown.Kick->setEnabled(played.IsServing());
+        shown.Joins->setEnabled(played.IsServing());
     }
 }
 

@@ -1,4 +1,4 @@
-// The three rooms of the voice engine side by side: what the panel made of each, and what happens in it.
+// The three rooms of the voice engine that serves side by side: what the panel made of each, and what happens in it.
 #pragma once
 
 #include <array>
@@ -12,6 +12,7 @@ class QPushButton;
 
 namespace orvelle {
 class VoiceEngineSide;
+class VoiceEngineView;
 struct VoiceRoom;
 }  // namespace orvelle
 
@@ -23,7 +24,8 @@ class TextField;
 
 class RoomsBox : public Section {
 public:
-    explicit RoomsBox(VoiceEngineSide& voiceEngine);
+    // What can be made to happen does in the engine that is played.
+    RoomsBox(VoiceEngineSide& playedEngine, VoiceEngineView& servingEngine);
 
 private:
     struct Room {
@@ -38,13 +40,16 @@ private:
         QPushButton* Kick;
         QComboBox* Joins;
         TextField* Status;
+        Readout* RealStatus;  // in its place
     };
 
     Room NewRoom(int number);
+    void AddRealStatus(const Room& shown);
     void ShowPanelsDoing(const Room& shown, const VoiceRoom& room) const;
     void ShowState();
 
-    VoiceEngineSide& engine;
+    VoiceEngineSide& played;
+    const VoiceEngineView& engine;
     std::array<Room, 3> rooms;
     Ticket watch;
 };

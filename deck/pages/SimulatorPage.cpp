@@ -38,7 +38,7 @@ SimulatorPage::SimulatorPage(const FarSides& sides)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(SectionGap);
     column->addWidget(link);
-    column->addWidget(new InputsBox(simulator, sides.VoiceEngine, sides.HeldKeys));
+    column->addWidget(new InputsBox(simulator, sides.ServingEngine, sides.HeldKeys));
     column->addWidget(soundSection, 1);
     column->addWidget(programSection, 1);
     ShowState();

@@ -1,5 +1,6 @@
-// The voice engine's page: the engine, its three rooms and its devices beside the parameters in which the panel and
-// other parties meet. It is also where the engine's calibration dialogue is shown.
+// The voice engine's page: the engine that serves, its three rooms and its devices beside the parameters in which the
+// panel and other parties meet. What can happen in it can be done to the engine that is played alone; while a real one
+// serves a line says so. It is also where the played engine's calibration dialogue is shown.
 #pragma once
 
 #include <QWidget>
@@ -18,7 +19,7 @@ public:
     explicit VoicePage(const FarSides& sides);
 
 private:
-    Ticket calibration;
+    Ticket calibration, watch;
 };
 
 }  // namespace orvelle::deck

@@ -14,6 +14,7 @@ class Notices;
 class SimulatorSide;
 class TeamSpeakSide;
 class VoiceEngineSide;
+class VoiceEngineView;
 
 struct FarSides {
     SimulatorSide* Simulator = nullptr;
@@ -21,6 +22,7 @@ struct FarSides {
     NetworkSide* Network = nullptr;
     LinkSide* NetworkLink = nullptr;
     VoiceEngineSide* VoiceEngine = nullptr;
+    VoiceEngineView* ServingEngine = nullptr;  // there whenever the engine is: what it, or the real one, does
     MixerSide* HeadsetMixer = nullptr;
     MixerSide* SpeakersMixer = nullptr;
     TeamSpeakSide* TeamSpeak = nullptr;

@@ -18,6 +18,9 @@ public:
     // The calibration dialogue with the two devices by number, -1 the default one; none is a cancel.
     using CalibrationDialogue = std::function<std::optional<Squelch>(Long inputDevice, Long outputDevice)>;
 
+    // False while a real engine serves in its place: what is done here then goes nowhere.
+    virtual bool IsServing() const = 0;
+
     // How starts and joins go, and how long they take in milliseconds.
     virtual void SetStartOutcome(StartOutcome outcome) = 0;
     virtual StartOutcome Starts() const = 0;

@@ -40,7 +40,7 @@ protected:
     std::optional<mqtt::SetUpSetting> Kept() const { return mqtt::ReadSetUpFile(file).Setting; }
 
     mqtt::BrokerProcess broker;
-    mqtt::OwnFolder folder;
+    OwnFolder folder;
     const std::filesystem::path file = folder.Path / "data" / "setup.json";
 };
 

@@ -3,13 +3,16 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTabWidget>
 #include <algorithm>
 #include <optional>
 
+#include "adapters/ends/VoiceEngineEnd.h"
 #include "deck/fields/SignalLight.h"
 #include "tests/deck/DeckRig.h"
 #include "tests/qt/shell/WidgetInput.h"
@@ -268,6 +271,89 @@ TEST_F(DeckVoice, ACalibrationWithTheDeckMinimisedIsAskedToo) {
     float output = 0;
     AnswerCalibration(QDialogButtonBox::Ok, 1, 2);
     EXPECT_TRUE(setUp.VVL.Calibrate(-1, -1, input, output));
+}
+
+// The deck where an engine that is heard may serve, in whose place another one stands here: what it does is shown, what
+// only the played one can be made to do is greyed.
+class DeckHeardVoice : public DeckVoice {
+protected:
+    DeckHeardVoice() {
+        heardDeck.resize(heardDeck.UsualSize());
+        heardDeck.show();
+        TurnToVoice(heardDeck);
+    }
+    FarSides HeardSides() {
+        FarSides sides = Sides();
+        sides.ServingEngine = &engine;
+        return sides;
+    }
+    static void TurnToVoice(const DeckWindow& deck) { deck.findChild<QTabWidget*>("DeckPages")->setCurrentIndex(1); }
+    QString Text(const char* name) { return heardDeck.findChild<QLabel*>(name)->text(); }
+    bool IsEnabled(const char* name) { return heardDeck.findChild<QWidget*>(name)->isEnabled(); }
+    bool AreAll(bool enabled) {
+        for (const char* name : {"EngineStart", "EngineFail", "StartDelay", "JoinDelay", "Room0Kick", "Room1Joins",
+                                 "MicrophoneFails", "HeadsetFails", "SpeakersFails"})
+            if (IsEnabled(name) != enabled) return false;
+        return true;
+    }
+
+    void Start() {
+        engine.Start(EngineMode);
+        Settle();
+    }
+
+    embedded::VoiceEngine heard{loop, setUp.Devices};
+    bool isSoundThere = true;
+    ends::VoiceEngineEnd engine{loop, ends::ServingEngine::Of(setUp.VVL), [this] {
+                                    isSoundThere ? setUp.VVL.StandBack() : setUp.VVL.StepForward();
+                                    return ends::ServingEngine::Of(isSoundThere ? heard : setUp.VVL);
+                                }};
+    DeckWindow heardDeck{HeardSides()};
+};
+
+TEST_F(DeckHeardVoice, IsShownAndNotPlayed) {
+    setUp.VVL.SetStartOutcome(StartOutcome::Dies);
+    setUp.VVL.SetJoinOutcome(1, JoinOutcome::Fails);
+    Start();
+    heard.RoomJoin(1, "ORV123 (pilot)", "voice.example.net/tower");
+    heard.RoomMute(1, false);
+    heard.InputSquelch(37.5);
+    heard.FailOutput(Speakers, true);
+    Settle();
+    heard.SetRoomAudio(1, true);
+    Settle();
+    EXPECT_EQ(Text("EngineStateText"), "Running");
+    EXPECT_EQ(Text("EngineAudioText"), "Audio runs");
+    EXPECT_EQ(Text("EngineSquelch"), "Squelch 37.5 / 50");
+    EXPECT_EQ(Text("Room1StateText"), "In");
+    EXPECT_EQ(Text("Room1MicrophoneText"), "Open");
+    EXPECT_EQ(Text("Room1AudioText"), "On the air");
+    EXPECT_EQ(Text("FlightEngineText"), "Running");
+    EXPECT_EQ(Text("TalksCOM2Text"), "COM2 talks");
+    EXPECT_TRUE(heardDeck.findChild<QCheckBox*>("SpeakersFails")->isChecked());
+    EXPECT_EQ(Text("Room1RealStatus"), "In voice.example.net/tower");
+    EXPECT_FALSE(heardDeck.findChild<QWidget*>("Room1Status")->isVisible());
+    EXPECT_EQ(heardDeck.findChild<QComboBox*>("EngineStart")->currentIndex(), 2);
+    EXPECT_EQ(heardDeck.findChild<QComboBox*>("Room1Joins")->currentIndex(), 2);
+    EXPECT_TRUE(AreAll(false));
+    EXPECT_FALSE(IsEnabled("Room1CarriesAudio"));
+    EXPECT_EQ(Text("RealEngineServes"),
+              "The voice engine that is heard serves: what happens in it is real, and can't be played here.");
+    EXPECT_TRUE(heardDeck.findChild<QLabel*>("RealEngineServes")->isVisible());
+    QDir().mkpath(PICTURES);
+    EXPECT_TRUE(heardDeck.grab().save(PICTURES "/deck-heard-engine.png"));
+}
+
+TEST_F(DeckHeardVoice, BeginsAndEndsWithTheChoice) {
+    EXPECT_TRUE(AreAll(true));
+    Start();
+    EXPECT_TRUE(AreAll(false));
+    EXPECT_TRUE(heardDeck.findChild<QLabel*>("RealEngineServes")->isVisible());
+    engine.Stop();
+    isSoundThere = false;
+    Start();
+    EXPECT_TRUE(AreAll(true));
+    EXPECT_FALSE(heardDeck.findChild<QLabel*>("RealEngineServes")->isVisible());
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
 #include "tests/pulse/SoundServers.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include <array>
 #include <csignal>
 #include <cstdlib>
 #include <fstream>
@@ -79,8 +81,10 @@ std::string Pactl(std::vector<std::string> words) {
     words.insert(words.begin(), {"env", "LC_ALL=C", "pactl"});
     linux::ChildProcess pactl(words);
     std::string printed;
-    for (std::string line = pactl.ReadLine(); !line.empty(); line = pactl.ReadLine())
-        printed += (printed.empty() ? "" : "\n") + line;
+    std::array<char, 4096> piece;
+    for (ssize_t got = 0; (got = read(pactl.Output(), piece.data(), piece.size())) > 0;)
+        printed.append(piece.data(), static_cast<std::size_t>(got));
+    if (printed.ends_with('\n')) printed.pop_back();
     return pactl.Wait() == 0 ? printed : "";
 }
 

@@ -1,0 +1,31 @@
+// An output of the voice: asks for its next ten milliseconds whenever the server has room for them. What the server
+// wants for moments that are over, as either side stood still, is left empty.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "adapters/pulse/VoiceStream.h"
+#include "adapters/speech/Block.h"
+
+namespace orvelle::pulse {
+
+class OutputStream : public VoiceStream {
+public:
+    OutputStream(std::string name, std::function<void()> changed, std::function<void(speech::Block&)> wanted);
+
+protected:
+    int Connect(pa_stream* opened, const char* deviceOrDefault, pa_stream_flags_t flags) override;
+    std::size_t BytesAtOnce(const pa_buffer_attr& buffer) const override { return buffer.tlength; }
+    void Carry(std::size_t bytes) override;
+    void Forget() override { used = block.size(); }
+
+private:
+    const std::function<void(speech::Block&)> wanted;
+    std::vector<float> next;
+    speech::Block block{};
+    std::size_t used = block.size();
+};
+
+}  // namespace orvelle::pulse

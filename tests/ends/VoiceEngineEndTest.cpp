@@ -1,0 +1,171 @@
+#include "adapters/ends/VoiceEngineEnd.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+#include <vector>
+
+#include "adapters/embedded/SoundDevices.h"
+#include "adapters/embedded/VoiceEngine.h"
+#include "tests/shared/HandLoop.h"
+
+namespace orvelle::ends {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class VoiceEngineEndTest : public testing::Test {
+protected:
+    VoiceEngineEndTest() {
+        end.VVL_Started = [this] { events.push_back("Started"); };
+        end.VVL_Stopped = [this] { events.push_back("Stopped"); };
+        end.VVL_AudioStarted = [this] { events.push_back("AudioStarted"); };
+        end.VVL_AudioStopped = [this] { events.push_back("AudioStopped"); };
+        end.VVL_RoomJoinSucceed = [this](Long room) { Note("JoinSucceed", room); };
+        end.VVL_RoomJoinFailed = [this](Long room) { Note("JoinFailed", room); };
+        end.VVL_RoomKicked = [this](Long room) { Note("Kicked", room); };
+        end.VVL_RoomLeft = [this](Long room) { Note("Left", room); };
+        end.VVL_RoomAudioStarted = [this](Long room) { Note("RoomAudioStarted", room); };
+        end.VVL_RoomAudioStopped = [this](Long room) { Note("RoomAudioStopped", room); };
+        end.VVL_RoomStatusChanged = [this](Long room) { Note(end.RoomStatus(room), room); };
+    }
+
+    void Note(const std::string& name, Long room) { events.push_back(name + " " + std::to_string(room)); }
+    Texts Run() {
+        loop.Run();
+        return std::exchange(events, {});
+    }
+
+    HandLoop loop;
+    embedded::SoundDevices devices;
+    embedded::VoiceEngine first{loop, devices};
+    embedded::VoiceEngine second{loop, devices};
+    embedded::VoiceEngine* chosen = &first;
+    int asked = 0;
+    VoiceEngineEnd end{loop, ServingEngine::Of(first), [this] {
+                           ++asked;
+                           return ServingEngine::Of(*chosen);
+                       }};
+    Texts events;
+};
+
+TEST_F(VoiceEngineEndTest, EveryCallAndEventPasses) {
+    ASSERT_TRUE(end.Start(EngineMode));
+    EXPECT_TRUE(end.IsStarting());
+    EXPECT_EQ(Run(), Texts{"Started"});
+    EXPECT_TRUE(end.Running() && end.IsRunning());
+    ASSERT_TRUE(end.RoomJoin(1, "ABC123", "srv/ops"));
+    EXPECT_EQ(Run(), (Texts{"Joining srv/ops 1", "JoinSucceed 1", "In srv/ops 1", "AudioStarted"}));
+    EXPECT_TRUE(end.AudioRuns());
+    EXPECT_EQ(end.Room(1).ClientName, "ABC123");
+    first.SetRoomAudio(1, true);
+    first.Kick(1);
+    EXPECT_EQ(Run(), (Texts{"RoomAudioStarted 1", "RoomAudioStopped 1", " 1", "AudioStopped", "Kicked 1"}));
+    first.SetJoinOutcome(0, JoinOutcome::Fails);
+    ASSERT_TRUE(end.RoomJoin(0, "ABC123", "srv/ops"));
+    EXPECT_EQ(Run(), (Texts{"Joining srv/ops 0", "JoinFailed 0", "Not joined 0"}));
+    ASSERT_TRUE(end.RoomJoin(2, "ABC123", "srv/ops"));
+    Run();
+    end.RoomLeave(2);
+    EXPECT_EQ(Run(), (Texts{" 2", "AudioStopped", "Left 2"}));
+    EXPECT_EQ(end.InputDevices(), first.InputDevices());
+    EXPECT_EQ(end.OutputDevices(), first.OutputDevices());
+    first.FailInput(true);
+    first.FailOutput(1, true);
+    EXPECT_FALSE(end.InputStatus());
+    EXPECT_TRUE(end.InputFailed());
+    EXPECT_TRUE(end.OutputStatus(0));
+    EXPECT_FALSE(end.OutputStatus(1));
+    first.Fail();
+    EXPECT_EQ(Run(), Texts{"Stopped"});
+}
+
+TEST_F(VoiceEngineEndTest, AChoiceIsAskedForBeforeAStartAloneAndHoldsWhileTheEngineRuns) {
+    end.RoomMute(0, true);
+    EXPECT_EQ(asked, 0);
+    chosen = &second;
+    second.SetStartDelay(10);
+    ASSERT_TRUE(end.Start(EngineMode));
+    chosen = &first;
+    EXPECT_TRUE(end.Start(EngineMode)) << "it is starting";
+    loop.Run(10);
+    EXPECT_FALSE(end.Start(EngineMode)) << "it runs";
+    EXPECT_EQ(asked, 1);
+    EXPECT_TRUE(second.IsRunning());
+    EXPECT_FALSE(first.IsRunning());
+    EXPECT_EQ(std::exchange(events, {}), Texts{"Started"});
+    first.Start(EngineMode);
+    EXPECT_TRUE(Run().empty()) << "what does not serve is not heard of";
+    end.Stop();
+    first.Stop();
+    ASSERT_TRUE(end.Start(EngineMode));
+    EXPECT_EQ(asked, 2);
+    EXPECT_EQ(Run(), Texts{"Started"});
+    EXPECT_TRUE(first.IsRunning());
+}
+
+TEST_F(VoiceEngineEndTest, WhatWasSetCountsForWhoeverServes) {
+    end.InputSquelch(30);
+    end.InputSquelch(12.5);
+    end.OutputSquelch(7);
+    end.InputDevice(1);
+    end.OutputDevice(Headset, 2);
+    end.OutputDevice(Speakers, 0);
+    end.OutputVolume(Headset, 300);
+    end.SignalVolume(Speakers, 40);
+    end.OutputFilter(Headset, true);
+    end.ChannelOutput(2, Speakers, true);
+    end.RoomMute(1, false);
+    end.RoomMute(7, false);
+    EXPECT_EQ(first.InputSquelchValue(), 12.5);
+    chosen = &second;
+    end.Start(EngineMode);
+    EXPECT_EQ(second.InputSquelchValue(), 12.5);
+    EXPECT_EQ(second.OutputSquelchValue(), 7);
+    EXPECT_EQ(second.Microphone(), 1);
+    EXPECT_EQ(second.Output(Headset).Device, 2);
+    EXPECT_EQ(second.Output(Speakers).Device, 0);
+    EXPECT_EQ(second.Output(Headset).Volume, 300);
+    EXPECT_EQ(second.Output(Speakers).Volume, 100);
+    EXPECT_EQ(second.Output(Speakers).SignalVolume, 40);
+    EXPECT_TRUE(second.Output(Headset).Filter);
+    EXPECT_TRUE(second.Room(2).Output[1]);
+    EXPECT_FALSE(second.Room(2).Output[0]);
+    EXPECT_FALSE(second.Room(1).Muted);
+    EXPECT_TRUE(second.Room(0).Muted);
+}
+
+TEST_F(VoiceEngineEndTest, ACalibrationIsThatOfWhoeverServesThenAndStays) {
+    chosen = &second;
+    const Ticket answer =
+        second.AnswerCalibration([](Long, Long) { return std::optional<Squelch>(Squelch{11, 22}); });
+    float input = 0;
+    float output = 0;
+    ASSERT_TRUE(end.Calibrate(-1, -1, input, output));
+    EXPECT_EQ(input, 11);
+    EXPECT_EQ(output, 22);
+    EXPECT_EQ(end.InputSquelchValue(), 11);
+    chosen = &first;
+    end.Start(EngineMode);
+    EXPECT_EQ(first.InputSquelchValue(), 11);
+    EXPECT_EQ(first.OutputSquelchValue(), 22);
+}
+
+TEST_F(VoiceEngineEndTest, WhoWatchesSeesTheOneThatServes) {
+    int seen = 0;
+    const Ticket watch = end.Observe([&] { ++seen; });
+    chosen = &second;
+    end.Start(EngineMode);
+    Run();
+    EXPECT_GT(std::exchange(seen, 0), 0);
+    first.FailInput(true);
+    Run();
+    EXPECT_EQ(seen, 0);
+    second.FailInput(true);
+    Run();
+    EXPECT_EQ(seen, 1);
+    EXPECT_TRUE(end.InputFailed());
+}
+
+}  // namespace
+}  // namespace orvelle::ends
