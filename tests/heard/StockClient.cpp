@@ -80,7 +80,9 @@ StockClient::StockClient(const StockUser& user) {
     Accept(home, user);
     const std::string own = home.string();
     process = std::make_unique<linux::ChildProcess>(std::vector<std::string>{
-        "env", "HOME=" + own, "XDG_CONFIG_HOME=" + own + "/.config", "XDG_DATA_HOME=" + own + "/.local/share", "mumble",
+        "env", "HOME=" + own, "XDG_CONFIG_HOME=" + own + "/.config", "XDG_DATA_HOME=" + own + "/.local/share",
+        "XDG_RUNTIME_DIR=" + own, "PULSE_SERVER=unix:" + std::string(std::getenv("XDG_RUNTIME_DIR")) + "/pulse/native",
+        "mumble",
         "-m",
         "mumble://" + user.Name + "@" + user.Host + ":" + std::to_string(user.Port) + "/" + InUrl(user.Channel) +
             "?version=1.2.0"});
