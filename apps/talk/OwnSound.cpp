@@ -23,6 +23,7 @@ void Listening::Begin(const QString& source, const QString& socket) {
 }
 
 const std::vector<short>& Listening::Samples() {
+    if (!recorder.isOpen()) return samples;
     const QByteArray came = recorder.read(recorder.bytesAvailable() / 2 * 2);
     const std::size_t before = samples.size();
     samples.resize(before + static_cast<std::size_t>(came.size()) / sizeof(short));
@@ -59,7 +60,7 @@ void OwnSound::Start() {
 
 bool OwnSound::Serves() {
     if (asking.state() != QProcess::NotRunning) return false;
-    if (asking.exitStatus() == QProcess::NormalExit && asking.exitCode() == 0 &&
+    if (asking.isOpen() && asking.exitStatus() == QProcess::NormalExit && asking.exitCode() == 0 &&
         asking.readAll().contains(Headset(folders.size() - 1).toUtf8()))
         return true;
     asking.setProcessChannelMode(QProcess::MergedChannels);

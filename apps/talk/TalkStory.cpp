@@ -95,7 +95,7 @@ bool TalkStory::Tune() {
     for (const auto& each : pilots) each->Tune(server.Address(), Channel);
     return telling.Comes("Both are in the channel, says the voice server.", [this] {
         return std::ranges::all_of(pilots,
-                                   [this](const auto& each) { return server.HasInChannel(each->Callsign() + ".1"); });
+                                   [this](const auto& each) { return server.HasInChannel(each->Callsign()); });
     });
 }
 
@@ -121,7 +121,7 @@ bool TalkStory::Talk() {
         !telling.Comes("The sentence is spoken.", [this] { return !sound->Speaks(); }))
         return false;
     const QString screens = results.filePath("panels.png");
-    SideBySide({{"Pilot 1", "talks", pilots[0]->Screen()}, {"Pilot 2", "listens", pilots[1]->Screen()}}).save(screens);
+    SideBySide({{"One", "has talked, with F8 still down", pilots[0]->Screen()}, {"Two", "has listened", pilots[1]->Screen()}}).save(screens);
     telling.Happens("F8 comes up.");
     pilots.front()->ReleaseTalkKey();
     return telling.Comes("Silence in the headset for a fifth of a second.",

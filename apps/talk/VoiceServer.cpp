@@ -90,12 +90,17 @@ bool VoiceServer::BelongToItsUser() const {
 
 bool VoiceServer::Serves() { return Says("Server listening on"); }
 
-bool VoiceServer::HasInChannel(const std::string& user) {
-    return Says(":" + user + "(-1)> Moved to") || Says(":" + user + "(-1)> Added channel");
+// Who makes a channel is in it.
+bool VoiceServer::HasInChannel(const std::string& callsign) {
+    Says("");
+    for (const QByteArray& line : said.split('\n'))
+        if (line.contains((":" + callsign).c_str()) && (line.contains("> Moved ") || line.contains("> Added channel ")))
+            return true;
+    return false;
 }
 
 bool VoiceServer::Says(const std::string& words) {
-    said += program.readAll();
+    if (program.isOpen()) said += program.readAll();
     return said.contains(words.c_str());
 }
 

@@ -20,8 +20,8 @@ public:
     std::string Start();
     bool Serves();
     std::string Address() const { return "127.0.0.1:" + std::to_string(port); }
-    // Whether that user has gone into a channel.
-    bool HasInChannel(const std::string& user);
+    // Whether the pilot of that callsign has gone into a channel.
+    bool HasInChannel(const std::string& callsign);
 
 private:
     std::string MakeDatabase();
