@@ -15,28 +15,34 @@ namespace {
 
 constexpr int Rate = 48000;
 constexpr std::size_t StepSamples = Rate / 1000 * LevelMilliseconds;
-constexpr int MostStepsLater = 50;
+constexpr std::size_t MostStepsLater = 50;
+constexpr std::size_t PieceSteps = 1000 / LevelMilliseconds;
 
-double CorrelationAt(const std::vector<double>& spoken, const std::vector<double>& heard, std::size_t later) {
-    if (heard.size() <= later) return 0;
-    const std::size_t count = std::min(spoken.size(), heard.size() - later);
-    double sumSpoken = 0;
-    double sumHeard = 0;
-    for (std::size_t step = 0; step < count; ++step) {
-        sumSpoken += spoken[step];
-        sumHeard += heard[step + later];
+// Of a piece of what was spoken with what was heard that much later.
+struct Piece {
+    double Correlation = 0;
+    double Weight = 0;  // how much there is to be heard in it
+};
+
+Piece CorrelationAt(std::span<const double> spoken, std::span<const double> heard) {
+    double meanSpoken = 0;
+    double meanHeard = 0;
+    const auto count = static_cast<double>(spoken.size());
+    for (std::size_t step = 0; step < spoken.size(); ++step) {
+        meanSpoken += spoken[step] / count;
+        meanHeard += heard[step] / count;
     }
     double both = 0;
     double ofSpoken = 0;
     double ofHeard = 0;
-    for (std::size_t step = 0; step < count; ++step) {
-        const double one = spoken[step] - sumSpoken / static_cast<double>(count);
-        const double other = heard[step + later] - sumHeard / static_cast<double>(count);
+    for (std::size_t step = 0; step < spoken.size(); ++step) {
+        const double one = spoken[step] - meanSpoken;
+        const double other = heard[step] - meanHeard;
         both += one * other;
         ofSpoken += one * one;
         ofHeard += other * other;
     }
-    return ofSpoken > 0 && ofHeard > 0 ? both / std::sqrt(ofSpoken * ofHeard) : 0;
+    return {ofSpoken > 0 && ofHeard > 0 ? both / std::sqrt(ofSpoken * ofHeard) : 0, ofSpoken};
 }
 
 constexpr int PictureWidth = 1200;
@@ -69,13 +75,27 @@ std::vector<double> LevelsOf(std::span<const short> samples) {
     return levels;
 }
 
-Likeness Compare(const std::vector<double>& spoken, const std::vector<double>& heard) {
-    Likeness best;
-    for (int later = 0; later <= MostStepsLater; ++later) {
-        const double correlation = CorrelationAt(spoken, heard, static_cast<std::size_t>(later));
-        if (correlation > best.Correlation) best = {correlation, later * LevelMilliseconds};
+Likeness Compare(const std::vector<double>& spoken, std::vector<double> heard) {
+    heard.resize(std::max(heard.size(), spoken.size()) + MostStepsLater);
+    double likeness = 0;
+    double later = 0;
+    double weights = 0;
+    for (std::size_t first = 0; first < spoken.size(); first += PieceSteps) {
+        const auto piece = std::span(spoken).subspan(first, std::min(PieceSteps, spoken.size() - first));
+        Piece best;
+        std::size_t bestSteps = 0;
+        for (std::size_t steps = 0; steps <= MostStepsLater; ++steps) {
+            const Piece now = CorrelationAt(piece, std::span(heard).subspan(first + steps, piece.size()));
+            if (now.Correlation <= best.Correlation && best.Weight > 0) continue;
+            best = now;
+            bestSteps = steps;
+        }
+        likeness += best.Correlation * best.Weight;
+        later += static_cast<double>(bestSteps) * best.Weight;
+        weights += best.Weight;
     }
-    return best;
+    if (weights == 0) return {};
+    return {likeness / weights, static_cast<Long>(std::lround(later / weights * LevelMilliseconds))};
 }
 
 bool WriteWaveFile(const QString& name, std::span<const short> samples) {
