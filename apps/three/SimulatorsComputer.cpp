@@ -1,12 +1,9 @@
 #include "apps/three/SimulatorsComputer.h"
 
-#include <netinet/in.h>
-#include <sys/socket.h>
-
 #include "adapters/linux/OwnFile.h"
 #include "adapters/looks/Text.h"
 #include "adapters/mqtt/OwnSetUp.h"
-#include "adapters/shared/FileDescriptor.h"
+#include "apps/FreePort.h"
 #include "apps/three/ChildPrograms.h"
 #include "platform/RadioSelection.h"
 #include "platform/SessionSetting.h"
@@ -16,24 +13,12 @@ namespace orvelle {
 
 namespace {
 
-// A port that nobody listens on now, so that another set-up on this machine is left alone.
-int FreePort() {
-    const FileDescriptor socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    socklen_t size = sizeof address;
-    if (bind(socket.Number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
-        getsockname(socket.Number(), reinterpret_cast<sockaddr*>(&address), &size) != 0)
-        return mqtt::UsualPort;
-    return ntohs(address.sin_port);
-}
-
 QString Program() { return ToQt(linux::BesideOwnFile("orvelle-sim")); }
 
 }  // namespace
 
 SimulatorsComputer::SimulatorsComputer(EventLoop& eventLoop, const QDir& ownFolder)
-    : loop(eventLoop), folder(ownFolder.path()), port(FreePort()) {
+    : loop(eventLoop), folder(ownFolder.path()), port(FreePort(mqtt::UsualPort)) {
     ownFolder.mkpath(".");
 }
 

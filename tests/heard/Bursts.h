@@ -1,0 +1,32 @@
+// Bursts of a tone that are spoken into one computer's microphone and heard, or not, in another one's ear: how much later
+// each of them began there. Both are recorded by one probe, so that one clock tells both moments.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/Types.h"
+#include "tests/pulse/SoundRecording.h"
+
+namespace orvelle::heard {
+
+constexpr Long BurstMilliseconds = 120;
+constexpr Long BurstPeriod = 400;
+constexpr double BurstHertz = 1000;
+
+struct HeardBursts {
+    std::vector<double> Delays;  // in milliseconds, of those that were heard; in their order
+    int Spoken = 0;
+    int Lost = 0;
+
+    double Median() const { return Part(0.5); }
+    // The delay that this part of them does not exceed.
+    double Part(double part) const;
+    std::string Text() const;  // one line for people
+};
+
+// A burst counts as heard where a sound began in the ear within a period after it began in the mouth; the last one of
+// the mouth only if the ear was recorded for long enough.
+HeardBursts Compare(const pulse::SoundRecording& mouth, const pulse::SoundRecording& ear);
+
+}  // namespace orvelle::heard
