@@ -86,7 +86,7 @@ protected:
     std::uint32_t AddMicrophone() {
         const bool isSink = std::string(Server::Microphone) == "module-null-sink";
         return isSink ? hand->AddSource(Server::Microphone, "microphone", "Microphone")
-                      : hand->Load(Server::Microphone, "source_name=microphone latency_time=10");
+                      : hand->Load(Server::Microphone, "source_name=microphone max_latency_msec=10");
     }
     // Whoever is recorded begins before whoever plays there: one of the servers is slow the other way around.
     void Probe() {
