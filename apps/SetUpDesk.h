@@ -10,9 +10,9 @@
 
 #include "adapters/avahi/ServiceBrowser.h"
 #include "adapters/linux/FileWatch.h"
-#include "adapters/shared/HostAndPort.h"
 #include "adapters/mqtt/Joining.h"
 #include "adapters/shared/Changes.h"
+#include "adapters/shared/HostAndPort.h"
 #include "platform/sides/JoinSide.h"
 
 namespace orvelle {

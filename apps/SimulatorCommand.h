@@ -13,11 +13,11 @@ struct SimulatorCommand {
     enum class Task { Serve, ServeWithoutWindow, Add, List, Remove, Help, Version };
 
     Task What = Task::Serve;
-    std::filesystem::path Data;                 // where all is kept
-    int Identity = 0;                           // that is removed
-    std::string Name;                           // of the set-up from now on, "" for the kept or the usual one
-    int Port = 0;                               // of the broker, 0 for the kept or the usual one
-    bool Own = false;                           // leaves the set-up of another computer that was joined
+    std::filesystem::path Data;           // where all is kept
+    int Identity = 0;                     // that is removed
+    std::string Name;                     // of the set-up from now on, "" for the kept or the usual one
+    int Port = 0;                         // of the broker, 0 for the kept or the usual one
+    bool Own = false;                     // leaves the set-up of another computer that was joined
     std::optional<HostAndPort> Broker{};  // an existing one in place of one of our own
 
     bool Serves() const { return What == Task::Serve || What == Task::ServeWithoutWindow; }

@@ -4,8 +4,8 @@
 
 #include <cstddef>
 
-#include "adapters/shared/PrivateFile.h"
 #include "adapters/mqtt/Topics.h"
+#include "adapters/shared/PrivateFile.h"
 
 namespace orvelle::mqtt {
 

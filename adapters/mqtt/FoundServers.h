@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "adapters/shared/HostAndPort.h"
 #include "adapters/shared/Changes.h"
+#include "adapters/shared/HostAndPort.h"
 
 namespace orvelle::mqtt {
 

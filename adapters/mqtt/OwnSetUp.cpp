@@ -13,9 +13,9 @@
 #include "adapters/mqtt/BrokerFiles.h"
 #include "adapters/mqtt/JsonReading.h"
 #include "adapters/mqtt/JsonWriting.h"
-#include "adapters/shared/PrivateFile.h"
 #include "adapters/mqtt/Topics.h"
 #include "adapters/shared/FileDescriptor.h"
+#include "adapters/shared/PrivateFile.h"
 #include "adapters/shared/Utf8.h"
 #include "adapters/shared/WholeFile.h"
 

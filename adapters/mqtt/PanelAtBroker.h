@@ -9,10 +9,10 @@
 #include <set>
 #include <string>
 
-#include "adapters/mqtt/SetUpFile.h"
-#include "adapters/shared/HostAndPort.h"
 #include "adapters/mqtt/Member.h"
 #include "adapters/mqtt/RetainedMessages.h"
+#include "adapters/mqtt/SetUpFile.h"
+#include "adapters/shared/HostAndPort.h"
 #include "platform/FrameworkLine.h"
 #include "platform/Observers.h"
 

@@ -1,6 +1,6 @@
-// Makes packets of the microphone's blocks: Opus, some 28 kbit/s at a variable rate, each packet also holding the one before
-// roughly, so that a listener who misses one restores it. A block is encoded once for all rooms. Called by the voice
-// thread for each block while somebody talks.
+// Makes packets of the microphone's blocks: Opus, some 28 kbit/s at a variable rate, each packet also holding the one
+// before roughly, so that a listener who misses one restores it. A block is encoded once for all rooms. Called by the
+// voice thread for each block while somebody talks.
 #pragma once
 
 #include <array>

@@ -6,9 +6,9 @@
 
 #include "adapters/mqtt/OwnSetUp.h"
 #include "tests/avahi/AvahiRig.h"
-#include "tests/shared/OwnFolder.h"
 #include "tests/mqtt/broker/BrokerProcess.h"
 #include "tests/mqtt/broker/LoopbackPorts.h"
+#include "tests/shared/OwnFolder.h"
 
 namespace orvelle {
 namespace {

@@ -89,7 +89,8 @@ TEST_F(EngineTest, PressIsHeardAndReleaseIsSilence) {
         speaker.Say("mute 0 1");
         ASSERT_TRUE(WaitUntil([&] {
             const auto recorded = probe.Recorded(Ear(1));
-            return recorded.Sounds().back().second < recorded.At(recorded.Samples().size() - 1) - std::chrono::milliseconds(200);
+            return recorded.Sounds().back().second <
+                   recorded.At(recorded.Samples().size() - 1) - std::chrono::milliseconds(200);
         }));
         ASSERT_TRUE(listener.Await("quiet 0"));
         const Moment silent = probe.Take(Ear(1)).Sounds().back().second;

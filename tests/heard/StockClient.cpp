@@ -82,8 +82,7 @@ StockClient::StockClient(const StockUser& user) {
     process = std::make_unique<linux::ChildProcess>(std::vector<std::string>{
         "env", "HOME=" + own, "XDG_CONFIG_HOME=" + own + "/.config", "XDG_DATA_HOME=" + own + "/.local/share",
         "XDG_RUNTIME_DIR=" + own, "PULSE_SERVER=unix:" + std::string(std::getenv("XDG_RUNTIME_DIR")) + "/pulse/native",
-        "mumble",
-        "-m",
+        "mumble", "-m",
         "mumble://" + user.Name + "@" + user.Host + ":" + std::to_string(user.Port) + "/" + InUrl(user.Channel) +
             "?version=1.2.0"});
 }

@@ -4,8 +4,8 @@
 
 #include <fstream>
 
-#include "tests/shared/OwnFolder.h"
 #include "tests/mqtt/Refusals.h"
+#include "tests/shared/OwnFolder.h"
 
 namespace orvelle::mqtt {
 namespace {

@@ -4,9 +4,9 @@
 #include <csignal>
 #include <fstream>
 
-#include "tests/shared/OwnFolder.h"
 #include "tests/mqtt/broker/LoopbackPorts.h"
 #include "tests/mqtt/broker/SetUpRig.h"
+#include "tests/shared/OwnFolder.h"
 
 namespace orvelle::mqtt {
 namespace {

@@ -11,10 +11,10 @@
 #include "adapters/mqtt/OwnSetUp.h"
 #include "adapters/shared/WholeFile.h"
 #include "tests/linux/WaitUntil.h"
-#include "tests/shared/OwnFolder.h"
 #include "tests/mqtt/broker/BrokerProcess.h"
 #include "tests/mqtt/broker/LoopbackPorts.h"
 #include "tests/mqtt/broker/SetUpRig.h"
+#include "tests/shared/OwnFolder.h"
 
 namespace orvelle::mqtt {
 namespace {
