@@ -23,7 +23,7 @@ private:
     void Read();
 
     std::filesystem::path file;
-    bool isWritten = false;                    // what is known, at least once
+    bool isInFile = false;                     // what is known
     std::map<std::string, std::string> known;  // fingerprints by server
 };
 

@@ -30,7 +30,7 @@ class RoomConnection;
 class VoiceRooms {
 public:
     // `folder` keeps, mode 0600, this user's certificates, the servers' at first sight and their passwords.
-    VoiceRooms(EventLoop& loop, std::filesystem::path folder, VoiceRoad road = VoiceRoad::Best);
+    VoiceRooms(EventLoop& loop, const std::filesystem::path& folder, VoiceRoad road = VoiceRoad::Best);
     VoiceRooms(const VoiceRooms&) = delete;
     VoiceRooms& operator=(const VoiceRooms&) = delete;
     ~VoiceRooms();
