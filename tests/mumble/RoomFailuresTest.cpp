@@ -239,8 +239,17 @@ TEST_F(RoomFailuresTest, AnotherCertificateOfTheServer) {
               server.Address() + " is not the server that it was. If its operator says that its certificate is new, " +
                   "remove its line from " + file.string() + ".");
     EXPECT_EQ(ReadPrivateFile(file, 1000).Text, kept);
+    // The user removes the line, or the file.
     std::ofstream(file, std::ios::trunc) << "";
     EXPECT_EQ(one.JoinAndWait(0, server.Room("122.8")), "joined");
+    one.Leave(0);
+    server.Kill();
+    server.TakeAnotherCertificate();
+    server.Start();
+    ASSERT_TRUE(remove(file));
+    EXPECT_EQ(two.JoinAndWait(0, server.Room("122.8")), "joined");
+    one.Join(0, server.Room("121.5"));
+    EXPECT_TRUE(one.WaitFor("joined 0", 2)) << one.Status(0);
 }
 
 }  // namespace orvelle::mumble
