@@ -20,7 +20,7 @@ int OutputStream::Connect(pa_stream* opened, const char* deviceOrDefault, pa_str
     buffer.maxlength = buffer.fragsize = ServersChoice;
     buffer.tlength = 2 * BlockBytes;
     buffer.minreq = BlockBytes / 2;  // whole blocks at a time are heard ten milliseconds later
-    buffer.prebuf = 0;  // it plays from the beginning, and goes on where nothing was there in time
+    buffer.prebuf = 0;               // it plays from the beginning, and goes on where nothing was there in time
     return pa_stream_connect_playback(opened, deviceOrDefault, &buffer, flags, nullptr, nullptr);
 }
 

@@ -44,7 +44,8 @@ void Leave(pa_stream* stream) {
     pa_stream_set_read_callback(stream, nullptr, nullptr);
     pa_stream_set_write_callback(stream, nullptr, nullptr);
     if (pa_stream_get_state(stream) == PA_STREAM_CREATING)
-        return pa_stream_set_state_callback(stream, [](pa_stream* made, void*) { Leave(made); }, nullptr);
+        return pa_stream_set_state_callback(
+            stream, [](pa_stream* made, void*) { Leave(made); }, nullptr);
     pa_stream_set_state_callback(stream, nullptr, nullptr);
     pa_stream_disconnect(stream);
     pa_stream_unref(stream);

@@ -1,7 +1,7 @@
 // One of the voice's streams at the sound server: the microphone's or an output's. Open from Open until Close, or until
-// its device or the server goes, or it stood still for long; VoiceStreams, which holds it, opens it again. A stream of a
-// named device never moves to another one. `changed` is called when it begins to work, does not any more, or should be
-// opened again at once, inside the call that finds it out.
+// its device or the server goes, or it stood still for long; VoiceStreams, which holds it, opens it again. A stream of
+// a named device never moves to another one. `changed` is called when it begins to work, does not any more, or should
+// be opened again at once, inside the call that finds it out.
 #pragma once
 
 #include <pulse/context.h>

@@ -12,9 +12,10 @@ VoiceStreams::VoiceStreams(EventLoop& eventLoop, std::string server)
     : loop(eventLoop),
       server(std::move(server)),
       microphone([this] { TellLater(); }, [this](const speech::Block& block) { Recorded(block); }),
-      outputs{OutputStream("Headset", [this] { TellLater(); }, [this](speech::Block& block) { Wanted(Headset, block); }),
-              OutputStream("Speakers", [this] { TellLater(); },
-                           [this](speech::Block& block) { Wanted(Speakers, block); })} {}
+      outputs{OutputStream(
+                  "Headset", [this] { TellLater(); }, [this](speech::Block& block) { Wanted(Headset, block); }),
+              OutputStream(
+                  "Speakers", [this] { TellLater(); }, [this](speech::Block& block) { Wanted(Speakers, block); })} {}
 
 // What the streams and the connection still say is nobody's any more.
 VoiceStreams::~VoiceStreams() {

@@ -141,7 +141,8 @@ SoundProbe::~SoundProbe() {
 pa_stream* SoundProbe::NewStream() {
     pa_stream* const stream = pa_stream_new(context, "sound probe", &Form, nullptr);
     if (!stream) throw std::runtime_error("the sound server is gone");
-    pa_stream_set_state_callback(stream, [](pa_stream*, void* user) { WakeUp(user); }, loop);
+    pa_stream_set_state_callback(
+        stream, [](pa_stream*, void* user) { WakeUp(user); }, loop);
     return stream;
 }
 

@@ -33,7 +33,8 @@ public:
     ~SoundProbe();
 
     // From now on, in place of what is played there; an empty one is silence. Returns when the sink takes sound; the
-    // stream stays open until Stop, so that what follows begins at once. std::runtime_error where there is no such sink.
+    // stream stays open until Stop, so that what follows begins at once. std::runtime_error where there is no such
+    // sink.
     void Play(const std::string& sink, std::vector<float> samples, Playing playing);
     void Stop(const std::string& sink);
 

@@ -1,6 +1,6 @@
-// What a source delivered, in mono at 48 kHz, with the moment of each sample by the monotonic clock: where a sound began
-// and ended, and which tones it held. Moments are those at which the samples came; pieces of five milliseconds make
-// them true to about as much.
+// What a source delivered, in mono at 48 kHz, with the moment of each sample by the monotonic clock: where a sound
+// began and ended, and which tones it held. Moments are those at which the samples came; pieces of five milliseconds
+// make them true to about as much.
 #pragma once
 
 #include <chrono>
@@ -15,7 +15,7 @@ namespace orvelle::pulse {
 
 using Moment = std::chrono::steady_clock::time_point;
 
-constexpr double LeastSound = 0.02;    // the loudness of what counts as a sound
+constexpr double LeastSound = 0.02;      // the loudness of what counts as a sound
 constexpr Long QuietBetweenSounds = 40;  // milliseconds
 
 class SoundRecording {

@@ -159,9 +159,8 @@ protected:
     bool RecordsWhatIsSpoken() {
         constexpr double Spoken = 1000;
         probe->Play(Mouth, Tone(Spoken, 1000), Playing::AgainAndAgain);
-        const bool isRecorded = UntilNoticed([&] {
-            return recorded.Last(speech::SampleRate / 10).ToneLevel(Spoken) > LeastHeard;
-        });
+        const bool isRecorded =
+            UntilNoticed([&] { return recorded.Last(speech::SampleRate / 10).ToneLevel(Spoken) > LeastHeard; });
         probe->Play(Mouth, {}, Playing::Once);
         return isRecorded;
     }
@@ -234,9 +233,7 @@ protected:
     VoiceStreams streams{loop};
 
 private:
-    double LevelThere(const std::string& source, double hertz) {
-        return probe->Last(source, 100).ToneLevel(hertz);
-    }
+    double LevelThere(const std::string& source, double hertz) { return probe->Last(source, 100).ToneLevel(hertz); }
 };
 
 }  // namespace orvelle::pulse

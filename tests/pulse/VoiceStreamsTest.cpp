@@ -185,9 +185,9 @@ TYPED_TEST(VoiceStreamsTest, AShortHangOfEitherSideLeavesNothingOldBehind) {
 }
 
 TYPED_TEST(VoiceStreamsTest, NamesThatNoDeviceHasDoNotWork) {
-    for (const std::string& name : {std::string("nothing"), std::string("a b/\"'\\;=\n\x01\xff"), std::string(10000, 'x'),
-                                   std::string("@NONE@"), std::string("ear.monitor"),
-                                   std::string("Kopfhörer 🎧")}) {
+    for (const std::string& name :
+         {std::string("nothing"), std::string("a b/\"'\\;=\n\x01\xff"), std::string(10000, 'x'), std::string("@NONE@"),
+          std::string("ear.monitor"), std::string("Kopfhörer 🎧")}) {
         this->streams.SetMicrophone(name);
         this->streams.SetOutput(Headset, name);
         this->streams.OpenMicrophone();
@@ -228,7 +228,8 @@ TYPED_TEST(VoiceStreamsTest, WhatIsClosedIsGoneAndCostsNothing) {
 
 TYPED_TEST(VoiceStreamsTest, TwentyTimesOpenedAndClosedLeavesNothing) {
     const auto descriptors = [] {
-        return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), std::filesystem::directory_iterator());
+        return std::distance(std::filesystem::directory_iterator("/proc/self/fd"),
+                             std::filesystem::directory_iterator());
     };
     const auto before = descriptors();
     for (int time = 0; time < 20; ++time) {
@@ -243,8 +244,8 @@ TYPED_TEST(VoiceStreamsTest, TwentyTimesOpenedAndClosedLeavesNothing) {
         this->streams.CloseOutputs();
         if (time % 2 == 0) this->Serve(std::chrono::milliseconds(1));
     }
-    EXPECT_TRUE(this->Until(
-        [this] { return !this->HasStreams("sink-inputs") && !this->HasStreams("source-outputs"); }));
+    EXPECT_TRUE(
+        this->Until([this] { return !this->HasStreams("sink-inputs") && !this->HasStreams("source-outputs"); }));
     EXPECT_EQ(descriptors(), before);
 }
 
