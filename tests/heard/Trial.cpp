@@ -3,6 +3,7 @@
 #include <poll.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdlib>
 
 #include "tests/heard/SoundOfComputers.h"
