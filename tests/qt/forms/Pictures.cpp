@@ -1,6 +1,6 @@
 // Takes pictures of every page, the warning, the voice test and the icons, in one palette at the scale that Qt is told
-// to have (QT_SCALE_FACTOR), in the window's own size or in one that is named (logical pixels), with the font's own size
-// or one that is named. For looking at: orvelle-pictures FOLDER light|dark [WIDTHxHEIGHT [POINTS]]
+// to have (QT_SCALE_FACTOR), in the window's own size or in one that is named (logical pixels), with the font's own
+// size or one that is named. For looking at: orvelle-pictures FOLDER light|dark [WIDTHxHEIGHT [POINTS]]
 #include <QApplication>
 #include <QDir>
 #include <QPainter>
