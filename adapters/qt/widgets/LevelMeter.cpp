@@ -11,16 +11,14 @@ namespace orvelle::qt {
 
 namespace {
 
-constexpr double Fall = 4;    // at most, from level to level
+constexpr double Fall = 4;     // at most, from level to level
 constexpr int MarkHeight = 6;  // of the triangle under the bar, logical pixels
 constexpr int LeastCharacters = 16;
 constexpr int WantedCharacters = 44;
 
 }  // namespace
 
-LevelMeter::LevelMeter(QWidget* parent) : QWidget(parent) {
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-}
+LevelMeter::LevelMeter(QWidget* parent) : QWidget(parent) { setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed); }
 
 void LevelMeter::SetLevel(double value) {
     const double shown = std::max(AsLevel(value), level - Fall);
@@ -34,9 +32,7 @@ void LevelMeter::SetMark(double value) {
     update();
 }
 
-QString LevelMeter::Words() const {
-    return tr(Passes() ? "%1, passes" : "%1, is cut off").arg(qRound(level));
-}
+QString LevelMeter::Words() const { return tr(Passes() ? "%1, passes" : "%1, is cut off").arg(qRound(level)); }
 
 int LevelMeter::BarHeight() const { return fontMetrics().height(); }
 

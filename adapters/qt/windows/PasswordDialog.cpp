@@ -43,7 +43,8 @@ PasswordDialog::PasswordDialog(const std::string& server)
     for (QAbstractButton* button : buttons->buttons()) button->setIcon({});
     QPushButton* accept = buttons->button(QDialogButtonBox::Ok);
     accept->setEnabled(false);
-    connect(field, &QLineEdit::textChanged, accept, [accept](const QString& text) { accept->setEnabled(!text.isEmpty()); });
+    connect(field, &QLineEdit::textChanged, accept,
+            [accept](const QString& text) { accept->setEnabled(!text.isEmpty()); });
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 

@@ -45,13 +45,15 @@ Saying SayingOf(Step step) {
                     "Measured, but your voice is so loud that it is distorted. Turn the microphone down in the "
                     "desktop's sound settings, and try again."};
         case Step::TooSoft:
-            return {Sign::Bad,
-                    "Your voice was hardly louder than what was heard before. Be quiet at first, then speak up, or turn "
-                    "the microphone up in the desktop's sound settings, and try again."};
+            return {
+                Sign::Bad,
+                "Your voice was hardly louder than what was heard before. Be quiet at first, then speak up, or turn "
+                "the microphone up in the desktop's sound settings, and try again."};
         case Step::Silent:
-            return {Sign::Bad,
-                    "Nothing comes from the microphone, not even the noise of a room. It may be muted by its own switch "
-                    "or in the desktop's sound settings."};
+            return {
+                Sign::Bad,
+                "Nothing comes from the microphone, not even the noise of a room. It may be muted by its own switch "
+                "or in the desktop's sound settings."};
         case Step::Stopped:
             break;
     }
@@ -59,8 +61,7 @@ Saying SayingOf(Step step) {
 }
 
 constexpr Saying NoMicrophone{
-    Sign::Bad,
-    "The microphone does not work. See that it is plugged in, or choose another one on the page VATSIM."};
+    Sign::Bad, "The microphone does not work. See that it is plugged in, or choose another one on the page VATSIM."};
 constexpr Saying NoHeadset{
     Sign::Bad, "The headset does not work. See that it is plugged in, or choose another one on the page VATSIM."};
 
@@ -112,7 +113,8 @@ VoiceTestDialog::VoiceTestDialog(VoiceTrial& voiceTrial, const Squelch& now, QWi
       trial(voiceTrial),
       sentence(NewSentence("Measurement", SentenceLines)),
       progress(new QProgressBar),
-      inputLevel(NewMeter("InputLevel", "Microphone level", "How loud the microphone is, and where its squelch stands")),
+      inputLevel(
+          NewMeter("InputLevel", "Microphone level", "How loud the microphone is, and where its squelch stands")),
       outputLevel(NewMeter("OutputLevel", "Headset level", "How loud the headset is, and where its squelch stands")),
       input(new SquelchField("InputSquelch", "Input squelch",
                              "Sounds of the microphone that are weaker than this are not sent",

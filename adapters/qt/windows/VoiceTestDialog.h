@@ -1,5 +1,5 @@
-// "Voice Test and Calibration": the levels of microphone and headset, each with its squelch, which the user sets by hand
-// or has measured. It begins to measure when it is made, and says plainly which device does not work. Run by
+// "Voice Test and Calibration": the levels of microphone and headset, each with its squelch, which the user sets by
+// hand or has measured. It begins to measure when it is made, and says plainly which device does not work. Run by
 // QtVoiceDialogs; accepted, it has the two values.
 #pragma once
 

@@ -116,8 +116,7 @@ TEST_F(VoiceTestDialogTest, TheKeyboardAloneDoesAll) {
         for (int step = 0; step < 8; ++step) {
             ClickKey(shown.focusWidget(), Qt::Key_Tab);
             QString name = shown.focusWidget()->objectName();
-            if (auto* button = qobject_cast<QPushButton*>(shown.focusWidget()))
-                name = button->text().remove('&');
+            if (auto* button = qobject_cast<QPushButton*>(shown.focusWidget())) name = button->text().remove('&');
             reached.append(name);
         }
         for (const char* name : {"InputSquelchSlider", "InputSquelch", "OutputSquelchSlider", "OutputSquelch",
@@ -255,7 +254,8 @@ TEST_F(VoiceTestDialogTest, AssistiveProgramsFindEverythingByNameAndRole) {
         EXPECT_EQ(nameOf("HearMyself"), "Hear myself");
         EXPECT_EQ(nameOf("TryAgain"), "Try again");
         EXPECT_EQ(nameOf("MeasurementProgress"), "Measurement");
-        for (const char* name : {"InputLevel", "OutputLevel", "InputSquelch", "OutputSquelch", "HearMyself", "TryAgain"})
+        for (const char* name :
+             {"InputLevel", "OutputLevel", "InputSquelch", "OutputSquelch", "HearMyself", "TryAgain"})
             EXPECT_NE(shown.findChild<QWidget*>(name)->toolTip(), "") << name;
         ClickKey(&shown, Qt::Key_Escape);
     });
