@@ -25,6 +25,8 @@ set(CPACK_DEBIAN_PACKAGE_SECTION net)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # The broker is asked for on the simulator's computer alone, and the daemon where set-ups are to find each other.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "avahi-daemon, gstreamer1.0-plugins-base, gstreamer1.0-plugins-good, mosquitto, qt6-wayland")
+# A voice server is asked for on one computer of a whole community.
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "mumble-server, sqlite3")
 
 configure_file(debian/changelog ${CMAKE_CURRENT_BINARY_DIR}/debian/changelog @ONLY)
 configure_file(debian/copyright ${CMAKE_CURRENT_BINARY_DIR}/debian/copyright COPYONLY)
