@@ -42,6 +42,7 @@ void TextField::ShowRefusal(const QString& why) {
     delete mark;
     if (why.isEmpty()) return;
     mark = new QAction(SignIcon(Sign::Waiting), why, this);
+    mark->setToolTip(PlainTip(why));
     addAction(mark, TrailingPosition);
 }
 

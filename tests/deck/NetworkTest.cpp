@@ -98,6 +98,7 @@ TEST_F(DeckNetwork, AFrequencyThatIsNoneIsRefusedWithARemark) {
     EXPECT_EQ(TextOf("RadioRemark"),
               "COM2 stays on 121.500: \"<b>tower</b> of Innsbruc…\" is none of its frequencies, 118.000 to 136.990 in "
               "steps of 25 or 8.33 kHz.");
+    EXPECT_FALSE(At<QLineEdit>("FrequencyCOM2").actions().first()->toolTip().contains("<b>"));
     EXPECT_EQ(TakeEvents(), Events({}));
     Type("FrequencyCOM1", "122.8");
     EXPECT_FALSE(At<QLabel>("RadioRemark").isVisible());
