@@ -86,10 +86,11 @@ int main(int count, char** words) {
     if (!speaker.Join(0, server.Room("122.8")) || !listener.Join(0, server.Room("122.8")))
         FailBy("our engines did not join: " + speaker.Told() + listener.Told());
     speaker.Say("mute 0 0");
+    // One after the other: of two that start at once, one may open no output.
     heard::StockClient stockSpeaker(StockUserOf(2, server));
+    if (!server.HasLogged(":stock2(-1)> Authenticated")) FailBy("a stock client did not come: " + stockSpeaker.Said());
     heard::StockClient stockListener(StockUserOf(3, server));
-    if (!server.HasLogged(":stock2(-1)> Authenticated") || !server.HasLogged(":stock3(-1)> Authenticated"))
-        FailBy("the stock clients did not come: " + stockSpeaker.Said() + stockListener.Said());
+    if (!server.HasLogged(":stock3(-1)> Authenticated")) FailBy("a stock client did not come: " + stockListener.Said());
 
     std::vector<Way> ways{{"our engine", 0, 1}, {"stock client, lowest settings", 2, 3}, {"loopback, 20 ms", 4, 5}};
     // The first round is of the ways' own beginnings.

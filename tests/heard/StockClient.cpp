@@ -42,9 +42,9 @@ std::string OwnCertificate(const std::filesystem::path& folder) {
 void Configure(const std::filesystem::path& home, const StockUser& user) {
     std::filesystem::create_directories(home / ".config/Mumble");
     std::ofstream(home / ".config/Mumble/Mumble.conf")
-        << "[General]\nlastupdate=2\n[audio]\ninput=PulseAudio\noutput=PulseAudio\ntransmit=0\nframesperpacket=1\n"
-           "outputdelay=1\njitterbuffer=1\n[pulseaudio]\ninput="
-        << user.Microphone << "\noutput=" << user.Output << "\n[net]\ncertificate=" << OwnCertificate(home) << '\n';
+        << "[General]\nlastupdate=2\n[audio]\ninput=PulseAudio\noutput=PulseAudio\ntransmit=0\noutputdelay=1\n"
+           "[pulseaudio]\ninput="
+        << user.Microphone << "\noutput=" << user.Output << "\n[net]\nframesperpacket=1\njitterbuffer=1\ncertificate=" << OwnCertificate(home) << '\n';
 }
 
 // The server's certificate counts as one that the user has accepted; else the client asks.
