@@ -28,7 +28,7 @@ PanelProgram::PanelProgram(ThisProcess& thisProcess, const std::string& settings
     : process(thisProcess),
       Settings(process, loop, settingsFile),
       Computer(process, loop, Settings.Store),
-      Outside(loop, Settings.Store, {Computer.Name(), ThisComputer::DesktopName}, Computer.TeamSpeak(), voiceDialogs,
+      Outside(loop, Settings.Store, {Computer.Name(), ThisComputer::DesktopName}, Computer.TeamSpeak(), Desktop.Voice,
               std::filesystem::path(settingsFile).parent_path() / "voice"),
       Panel(Platform{
           .Velmarc = Outside.Velmarc,

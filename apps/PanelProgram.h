@@ -12,7 +12,6 @@
 #include "adapters/urls/StandardUrlFunctions.h"
 #include "apps/Desktop.h"
 #include "apps/FirstSight.h"
-#include "apps/NoVoiceDialogs.h"
 #include "apps/Outside.h"
 #include "apps/OwnStrokes.h"
 #include "apps/ThisComputer.h"
@@ -28,7 +27,6 @@ class PanelProgram {
     ThisProcess& process;
     qt::QtEventLoop loop;
     urls::StandardUrlFunctions urlFunctions;
-    NoVoiceDialogs voiceDialogs;
 
 public:
     PanelProgram(ThisProcess& process, const std::string& settingsFile);

@@ -18,7 +18,7 @@ public:
 
     virtual bool MicrophoneWorks() const = 0;
     virtual bool HeadsetWorks() const = 0;
-    // The loudest ten milliseconds since the last call, 0 to 100, in the unit of the squelch.
+    // The loudest ten milliseconds since the last call, 0 to 100, each in the unit of its squelch.
     virtual double TakeInputLevel() = 0;
     virtual double TakeOutputLevel() = 0;
     // Whether the user hears the microphone in the headset, as others would hear it.

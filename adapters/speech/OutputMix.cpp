@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "adapters/speech/Squelch.h"
+
 namespace orvelle::speech {
 
 namespace {
@@ -32,7 +34,7 @@ void OutputMix::SetSignalVolume(Long percent) {
 
 void OutputMix::SetFilter(bool on) { radio.Switch(on); }
 
-void OutputMix::SetSquelch(double value) { quietest = value > 0 ? -90 + std::min(value, 100.0) * 0.6 : EveryVoice; }
+void OutputMix::SetSquelch(double value) { quietest = value > 0 ? HeardDecibels(value) : EveryVoice; }
 
 void OutputMix::Put(Long room, const HeardVoice& packet) {
     if (IsRoom(room)) rooms[room].Put(packet);

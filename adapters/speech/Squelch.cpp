@@ -8,6 +8,8 @@ namespace orvelle::speech {
 namespace {
 
 constexpr double Quietest = -60;  // decibels, level 0
+constexpr double QuietestHeard = -90;
+constexpr double LoudestSquelched = -30;
 constexpr double Silent = -200;
 constexpr Long BlocksHeld = SquelchHold / BlockMilliseconds;
 
@@ -20,6 +22,14 @@ double DecibelsOf(const Block& block) {
 }
 
 double LevelOf(const Block& block) { return std::clamp((DecibelsOf(block) - Quietest) / -Quietest * 100, 0.0, 100.0); }
+
+double HeardLevelOf(const Block& block) {
+    return std::clamp((DecibelsOf(block) - QuietestHeard) / (LoudestSquelched - QuietestHeard) * 100, 0.0, 100.0);
+}
+
+double HeardDecibels(double level) {
+    return QuietestHeard + std::min(level, 100.0) / 100 * (LoudestSquelched - QuietestHeard);
+}
 
 bool SquelchHolding::Passes(bool loudEnough) {
     if (loudEnough) {

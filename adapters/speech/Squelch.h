@@ -15,6 +15,11 @@ double DecibelsOf(const Block& block);
 // Of a block, by its power: 0 (-60 dB of full scale and less) to 100 (full scale).
 double LevelOf(const Block& block);
 
+// The same for what is heard, in the unit of an output's squelch: 0 (-90 dB and less) to 100 (-30 dB and more).
+double HeardLevelOf(const Block& block);
+// A value of that squelch in decibels.
+double HeardDecibels(double level);
+
 // What both gates have: what was loud enough once passes for as long as it holds. Asked once for each block.
 class SquelchHolding {
 public:

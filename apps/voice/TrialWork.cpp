@@ -42,7 +42,7 @@ void TrialWork::Record(const speech::Block& block) {
 void TrialWork::Play(Long output, speech::Block& block) {
     if (output != Headset) return;
     mix.Take(block);
-    readings->Output.Add(speech::LevelOf(block));
+    readings->Output.Add(speech::HeardLevelOf(block));
 }
 
 void TrialWork::FollowDevices() {

@@ -8,7 +8,7 @@
 #include "platform/VoiceRoles.h"
 #include "platform/sides/LinkSide.h"
 #include "platform/sides/NetworkSide.h"
-#include "platform/sides/VoiceEngineView.h"
+#include "platform/sides/VoiceEngineSide.h"
 
 namespace orvelle::deck {
 
@@ -23,6 +23,9 @@ constexpr const char* EnableSoftware =
     "in the panel's list on the left click VATSIM, and tick \"Enable VATSIM Voice on this computer\".";
 constexpr const char* TuneEngine =
     "tune COM1 under Radios: as Software VATSIM, then any Server and any Channel, such as voice.example and tower.";
+constexpr const char* TuneHeardEngine =
+    "tune COM1 under Radios: as Software VATSIM, as Server a voice server, localhost where one runs here, and any "
+    "Channel, such as tower.";
 constexpr const char* TuneProgram =
     "tune COM1 under Radios: its Software, then any Server and any Channel, such as voice.example and tower.";
 constexpr const char* MapKey =
@@ -66,6 +69,9 @@ bool AnyRoom(const VoiceEngineView* engine, bool (*test)(const VoiceRoom&)) {
     return false;
 }
 
+// Any server will do then.
+bool IsPlayed(const VoiceEngineSide* engine) { return engine && engine->IsServing(); }
+
 const char* StepFor(const FarSides& sides) {
     const NetworkSide& network = *sides.Network;
     if (IsDown(sides.SimulatorLink) || IsDown(sides.NetworkLink)) return TakeUpLinks;
@@ -76,7 +82,7 @@ const char* StepFor(const FarSides& sides) {
     if (AnyRoom(sides.ServingEngine, [](const VoiceRoom& room) { return room.Presence == RoomPresence::In; }))
         return MapKey;
     if (IsServed(network, 0) || IsServed(network, 1)) return HoldKey;
-    if (Holds(network, EngineRole)) return TuneEngine;
+    if (Holds(network, EngineRole)) return IsPlayed(sides.VoiceEngine) ? TuneEngine : TuneHeardEngine;
     const bool holdsAny =
         std::ranges::any_of(AllVoiceRoles, [&network](const char* role) { return Holds(network, role); });
     return holdsAny ? TuneProgram : EnableSoftware;

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "apps/NoVoiceDialogs.h"
+#include "tests/apps/voice/NoVoiceDialogs.h"
 #include "tests/linux/ServeUntil.h"
 #include "tests/pulse/ServerHand.h"
 #include "tests/pulse/SoundServers.h"
