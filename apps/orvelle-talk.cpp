@@ -17,7 +17,8 @@ namespace {
 
 constexpr const char* Introduction =
     "Two pilots on one frequency. All of it runs on this machine: a voice server, a sound server without the\n"
-    "computer's devices, and for each pilot a virtual display with orvelle-sim and a panel. Times count from the start;\n"
+    "computer's devices, and for each pilot a virtual display with orvelle-sim and a panel. Times count from the "
+    "start;\n"
     "what comes of a thing is told with how much later it came.\n";
 
 [[noreturn]] void FailBy(const std::string& reason) {

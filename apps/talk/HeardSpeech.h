@@ -19,8 +19,8 @@ struct Likeness {
     double Correlation = 0;  // -1 to 1
     Long Later = 0;          // milliseconds, at which they are most alike
 };
-// `heard` may come later than `spoken` by half a second, and on a busy machine not by the same throughout: each second is
-// compared by itself, and counts by how much was said in it.
+// `heard` may come later than `spoken` by half a second, and on a busy machine not by the same throughout: each second
+// is compared by itself, and counts by how much was said in it.
 Likeness Compare(const std::vector<double>& spoken, std::vector<double> heard);
 
 // False where it can't be written.

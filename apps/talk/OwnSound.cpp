@@ -17,9 +17,9 @@ QString Headset(std::size_t pilot) { return "headset" + QString::number(pilot + 
 Listening::~Listening() { EndChild(recorder); }
 
 void Listening::Begin(const QString& source, const QString& socket) {
-    StartChild(recorder, "parec",
-               {"--server", socket, "--device", source, "--format=s16ne", "--rate=48000", "--channels=1",
-                "--latency-msec=5"});
+    StartChild(
+        recorder, "parec",
+        {"--server", socket, "--device", source, "--format=s16ne", "--rate=48000", "--channels=1", "--latency-msec=5"});
 }
 
 const std::vector<short>& Listening::Samples() {
@@ -47,8 +47,13 @@ void OwnSound::Start() {
     environment.insert("HOME", folders.front());
     server.setProcessEnvironment(environment);
     server.setProcessChannelMode(QProcess::MergedChannels);
-    QStringList words{"-n",        "--daemonize=no",     "--exit-idle-time=-1", "--use-pid-file=no", "--disable-shm=yes",
-                      "--realtime=no", "--high-priority=no"};
+    QStringList words{"-n",
+                      "--daemonize=no",
+                      "--exit-idle-time=-1",
+                      "--use-pid-file=no",
+                      "--disable-shm=yes",
+                      "--realtime=no",
+                      "--high-priority=no"};
     for (std::size_t pilot = 0; pilot < folders.size(); ++pilot) {
         QDir(folders[pilot]).mkpath("pulse");
         for (const QString& sink : {Microphone(pilot), Headset(pilot)})
@@ -83,8 +88,7 @@ void OwnSound::ListenToHeadset(Listening& listening, std::size_t pilot) const {
 }
 
 void OwnSound::Speak(const QString& file, std::size_t pilot) {
-    StartChild(player, "paplay",
-               {"--server", Socket(pilot), "--device", Microphone(pilot), "--latency-msec=20", file});
+    StartChild(player, "paplay", {"--server", Socket(pilot), "--device", Microphone(pilot), "--latency-msec=20", file});
 }
 
 }  // namespace orvelle

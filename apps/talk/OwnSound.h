@@ -1,6 +1,6 @@
-// A sound server for the story of two pilots, without any of the computer's devices: a microphone and a headset for each
-// pilot. A pilot's programs find it where a user's own sound server is, and their devices by the environment. Needs the
-// package pulseaudio. Ends with the object.
+// A sound server for the story of two pilots, without any of the computer's devices: a microphone and a headset for
+// each pilot. A pilot's programs find it where a user's own sound server is, and their devices by the environment.
+// Needs the package pulseaudio. Ends with the object.
 #pragma once
 
 #include <QProcess>

@@ -63,9 +63,8 @@ bool TalkStory::SwitchOn() {
     for (const auto& each : pilots) each->SwitchOn();
     return telling.Comes("The voice server serves at " + server.Address() + ".", [this] { return server.Serves(); }) &&
            telling.Comes("The sound server serves.", [this] { return sound->Serves(); }) &&
-           telling.Comes("Both pilots' displays are there.", [this] {
-               return std::ranges::all_of(pilots, [](const auto& each) { return each->IsOn(); });
-           });
+           telling.Comes("Both pilots' displays are there.",
+                         [this] { return std::ranges::all_of(pilots, [](const auto& each) { return each->IsOn(); }); });
 }
 
 bool TalkStory::Join() {
@@ -94,8 +93,7 @@ bool TalkStory::Tune() {
     telling.Happens("COM1 of both is tuned to " + Channel + ", VATSIM voice at " + server.Address() + ".");
     for (const auto& each : pilots) each->Tune(server.Address(), Channel);
     return telling.Comes("Both are in the channel, says the voice server.", [this] {
-        return std::ranges::all_of(pilots,
-                                   [this](const auto& each) { return server.HasInChannel(each->Callsign()); });
+        return std::ranges::all_of(pilots, [this](const auto& each) { return server.HasInChannel(each->Callsign()); });
     });
 }
 
@@ -121,7 +119,9 @@ bool TalkStory::Talk() {
         !telling.Comes("The sentence is spoken.", [this] { return !sound->Speaks(); }))
         return false;
     const QString screens = results.filePath("panels.png");
-    SideBySide({{"One", "has talked, with F8 still down", pilots[0]->Screen()}, {"Two", "has listened", pilots[1]->Screen()}}).save(screens);
+    SideBySide(
+        {{"One", "has talked, with F8 still down", pilots[0]->Screen()}, {"Two", "has listened", pilots[1]->Screen()}})
+        .save(screens);
     telling.Happens("F8 comes up.");
     pilots.front()->ReleaseTalkKey();
     return telling.Comes("Silence in the headset for a fifth of a second.",

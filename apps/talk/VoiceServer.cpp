@@ -76,7 +76,7 @@ std::string VoiceServer::MakeDatabase() {
     if (!making.waitForFinished(MakingMilliseconds) || making.exitCode() != 0)
         return "the voice server made no database: " + making.readAll().toStdString();
     return IsChanged(database, EverybodyMakesChannels) && BelongToItsUser() ? ""
-                                                                             : "the voice server's rights can't be set";
+                                                                            : "the voice server's rights can't be set";
 }
 
 bool VoiceServer::BelongToItsUser() const {

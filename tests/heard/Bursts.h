@@ -1,5 +1,5 @@
-// Bursts of a tone that are spoken into one computer's microphone and heard, or not, in another one's ear: how much later
-// each of them began there. Both are recorded by one probe, so that one clock tells both moments.
+// Bursts of a tone that are spoken into one computer's microphone and heard, or not, in another one's ear: how much
+// later each of them began there. Both are recorded by one probe, so that one clock tells both moments.
 #pragma once
 
 #include <string>

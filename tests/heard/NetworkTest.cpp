@@ -1,4 +1,5 @@
-// Our engine over networks as they are: nothing goes out while no key is down; losses, jitter and a UDP that is blocked.
+// Our engine over networks as they are: nothing goes out while no key is down; losses, jitter and a UDP that is
+// blocked.
 #include <iostream>
 
 #include "tests/heard/EngineRig.h"
@@ -95,8 +96,8 @@ TEST_F(NetworkTest, BlockedUdpIsGoneAroundAndComeBackTo) {
     const pulse::Moment opened = std::chrono::steady_clock::now();
     const unsigned long passed = Passed();
     ASSERT_TRUE(WaitUntil([&] { return Passed() > passed + 300; }));
-    std::cout << "UDP opened: used again after "
-              << MillisecondsBetween(opened, std::chrono::steady_clock::now()) - 1500 << " ms\n";
+    std::cout << "UDP opened: used again after " << MillisecondsBetween(opened, std::chrono::steady_clock::now()) - 1500
+              << " ms\n";
 }
 
 }  // namespace orvelle::heard

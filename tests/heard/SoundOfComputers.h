@@ -1,6 +1,6 @@
-// The sound of several computers on one sound server of the test's own: a microphone and an ear for each, which are null
-// sinks at the rate of the voice, so that nothing is resampled. What is spoken into a microphone is played into its
-// sink; what is heard is recorded from the monitor of the ear. Computers count from 0.
+// The sound of several computers on one sound server of the test's own: a microphone and an ear for each, which are
+// null sinks at the rate of the voice, so that nothing is resampled. What is spoken into a microphone is played into
+// its sink; what is heard is recorded from the monitor of the ear. Computers count from 0.
 #pragma once
 
 #include <string>
@@ -16,7 +16,8 @@ public:
     // The sink into which a mouth speaks, and the source that a program records.
     static std::string Mouth(int computer) { return "microphone" + std::to_string(computer); }
     static std::string Microphone(int computer) { return Mouth(computer) + ".monitor"; }
-    // The sinks into which a program plays, and the sources where that is heard. Output 0 is the headset, 1 the speakers.
+    // The sinks into which a program plays, and the sources where that is heard. Output 0 is the headset, 1 the
+    // speakers.
     static std::string Output(int computer, int output = 0) {
         return (output == 0 ? "headset" : "speakers") + std::to_string(computer);
     }

@@ -44,7 +44,8 @@ void Configure(const std::filesystem::path& home, const StockUser& user) {
     std::ofstream(home / ".config/Mumble/Mumble.conf")
         << "[General]\nlastupdate=2\n[audio]\ninput=PulseAudio\noutput=PulseAudio\ntransmit=0\noutputdelay=1\n"
            "[pulseaudio]\ninput="
-        << user.Microphone << "\noutput=" << user.Output << "\n[net]\nframesperpacket=1\njitterbuffer=1\ncertificate=" << OwnCertificate(home) << '\n';
+        << user.Microphone << "\noutput=" << user.Output
+        << "\n[net]\nframesperpacket=1\njitterbuffer=1\ncertificate=" << OwnCertificate(home) << '\n';
 }
 
 // The server's certificate counts as one that the user has accepted; else the client asks.
@@ -82,8 +83,7 @@ StockClient::StockClient(const StockUser& user) {
     process = std::make_unique<linux::ChildProcess>(std::vector<std::string>{
         "env", "HOME=" + own, "XDG_CONFIG_HOME=" + own + "/.config", "XDG_DATA_HOME=" + own + "/.local/share",
         "XDG_RUNTIME_DIR=" + own, "PULSE_SERVER=unix:" + std::string(std::getenv("XDG_RUNTIME_DIR")) + "/pulse/native",
-        "mumble",
-        "-m",
+        "mumble", "-m",
         "mumble://" + user.Name + "@" + user.Host + ":" + std::to_string(user.Port) + "/" + InUrl(user.Channel) +
             "?version=1.2.0"});
 }
