@@ -26,8 +26,7 @@ std::string PanelVoiceDevices::Output(Long device) const {
 std::string PanelVoiceDevices::NameOf(pulse::DeviceKind kind, const std::vector<std::string>& titles,
                                       Long device) const {
     if (device < 0 || static_cast<std::size_t>(device) >= titles.size()) return "";
-    const pulse::PulseDevice* const found = server.Find(kind, titles.at(static_cast<std::size_t>(device)));
-    return found ? found->Name : "";
+    return server.NameOf(kind, titles.at(static_cast<std::size_t>(device)));
 }
 
 }  // namespace orvelle

@@ -4,10 +4,10 @@ namespace orvelle::ends {
 
 namespace {
 
-constexpr Event<> VoiceEngineControl::* OfEngine[] = {
-    &VoiceEngineControl::VVL_Started, &VoiceEngineControl::VVL_Stopped, &VoiceEngineControl::VVL_AudioStarted,
-    &VoiceEngineControl::VVL_AudioStopped};
-constexpr Event<Long> VoiceEngineControl::* OfRooms[] = {
+constexpr Event<> VoiceEngineControl::*OfEngine[] = {&VoiceEngineControl::VVL_Started, &VoiceEngineControl::VVL_Stopped,
+                                                     &VoiceEngineControl::VVL_AudioStarted,
+                                                     &VoiceEngineControl::VVL_AudioStopped};
+constexpr Event<Long> VoiceEngineControl::*OfRooms[] = {
     &VoiceEngineControl::VVL_RoomJoinSucceed,  &VoiceEngineControl::VVL_RoomJoinFailed,
     &VoiceEngineControl::VVL_RoomKicked,       &VoiceEngineControl::VVL_RoomLeft,
     &VoiceEngineControl::VVL_RoomAudioStarted, &VoiceEngineControl::VVL_RoomAudioStopped,

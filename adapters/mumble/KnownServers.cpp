@@ -26,15 +26,18 @@ void KnownServers::Remember(const std::string& server, const std::string& finger
     if (Meet(server, fingerprint) == Meeting::Same) return;
     known[server] = fingerprint;
     std::string text;
-    for (const auto& [name, seen] : known) text += name + " " + seen + "\n";
-    WritePrivateFile(file, text);
+    for (const auto& [name, seen] : known) text.append(name).append(" ").append(seen).append("\n");
+    isInFile = WritePrivateFile(file, text).empty();
 }
 
 // What could not be written is known for as long as the program runs.
 void KnownServers::Read() {
     const PrivateText kept = ReadPrivateFile(file, LongestFile);
-    if (!kept.Text) return;
+    const bool isRemoved = !kept.Text && kept.Reason.empty() && isInFile;
+    if (!kept.Text && !isRemoved) return;
     known.clear();
+    if (isRemoved) return;
+    isInFile = true;
     std::istringstream lines(*kept.Text);
     std::string server;
     std::string fingerprint;

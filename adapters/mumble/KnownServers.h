@@ -14,7 +14,7 @@ public:
     explicit KnownServers(std::filesystem::path file);
 
     enum class Meeting { First, Same, Other };
-    // Looks at the file anew, since the user may have removed a line.
+    // Looks at the file anew, since the user may have removed a line, or all.
     Meeting Meet(const std::string& server, const std::string& fingerprint);
     void Remember(const std::string& server, const std::string& fingerprint);
     const std::filesystem::path& File() const { return file; }
@@ -23,6 +23,7 @@ private:
     void Read();
 
     std::filesystem::path file;
+    bool isInFile = false;                     // what is known
     std::map<std::string, std::string> known;  // fingerprints by server
 };
 

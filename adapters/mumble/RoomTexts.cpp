@@ -60,7 +60,7 @@ std::string TroubleText(RoomTrouble trouble, const RoomAddress& address) {
         case RoomTrouble::NoVoiceServer:
             return "What answers at " + server + " is no voice server.";
         case RoomTrouble::Closed:
-            return server + " closed the connection.";
+            return server + " closed the connection; it may be full, or we came too often.";
         case RoomTrouble::AnotherCertificate:
             return server + " is not the server that it was.";
         case RoomTrouble::OldVersion:

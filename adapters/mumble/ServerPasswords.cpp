@@ -52,7 +52,7 @@ void ServerPasswords::Forget(const std::string& server, const std::string& passw
 
 void ServerPasswords::Write() const {
     std::string text;
-    for (const auto& [server, password] : kept) text += server + " " + password + "\n";
+    for (const auto& [server, password] : kept) text.append(server).append(" ").append(password).append("\n");
     if (text.empty())
         RemovePrivateFile(file);
     else

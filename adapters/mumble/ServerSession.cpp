@@ -87,6 +87,7 @@ void ServerSession::Read(std::span<const std::uint8_t> bytes) {
 void ServerSession::Take(const Message& message) {
     switch (message.Type) {
         case MessageType::UdpTunnel:
+            if (datagrams && datagrams->Passes()) AskForDatagrams();
             return TakeVoice(message.Payload);
         case MessageType::ServerSync:
             return TakeSync(message);
@@ -161,7 +162,7 @@ void ServerSession::TakeCrypt(const Message& message) {
         if (!datagrams) {
             datagrams = std::make_unique<VoiceDatagrams>(loop, connection.Socket());
             datagrams->Received = [this](std::span<const std::uint8_t> packet) { TakeVoice(packet); };
-            datagrams->Blocked = [this] { PingByTunnel(); };
+            datagrams->Blocked = [this] { AskForTunnel(); };
             datagrams->Misunderstood = [this] { connection.Send(Frame(MessageType::CryptSetup, wire::CryptSetup())); };
         }
         datagrams->SetKeys(*key, *ownNonce, *farNonce);
@@ -195,13 +196,17 @@ void ServerSession::Ping() {
         ping.set_lost(counts.Lost);
     }
     connection.Send(Frame(MessageType::Ping, ping));
-    if (!datagrams) return;
-    datagrams->Ping();
-    if (!datagrams->Passes()) PingByTunnel();
+    if (datagrams) datagrams->Ping();
 }
 
-// The server sends by the road on which it heard of us last; this also counts for one who only listens.
-void ServerSession::PingByTunnel() { connection.Send(FrameVoice(WritePing(0))); }
+// The server sends voice by the road on which it last had a packet of voice, or a tunnelled ping, from us. This counts
+// also for one who only listens.
+void ServerSession::AskForTunnel() { connection.Send(FrameVoice(WritePing(0))); }
+
+// The end of a talk that nobody hears: it comes back to us alone, and is left out as our own.
+void ServerSession::AskForDatagrams() {
+    datagrams->Send(WriteVoice(VoiceTarget::Loopback, sequence++, {}, TalkEnd::Yes));
+}
 
 void ServerSession::End(ConnectionEnd why) {
     Close();

@@ -60,7 +60,8 @@ private:
     void TakeCrypt(const Message& message);
     void TakeVoice(std::span<const std::uint8_t> packet);
     void Ping();
-    void PingByTunnel();
+    void AskForTunnel();
+    void AskForDatagrams();
     void End(ConnectionEnd why);
 
     EventLoop& loop;

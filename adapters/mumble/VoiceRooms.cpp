@@ -17,7 +17,7 @@ struct VoiceRooms::Kept {
     std::set<std::string> Asked;  // servers whose password the user is asked for
 };
 
-VoiceRooms::VoiceRooms(EventLoop& loop, std::filesystem::path folder, VoiceRoad road)
+VoiceRooms::VoiceRooms(EventLoop& loop, const std::filesystem::path& folder, VoiceRoad road)
     : kept(std::make_unique<Kept>(folder)) {
     for (Long number = 0; number < Rooms; ++number) {
         const std::string certificate = "room-" + std::to_string(number + 1) + ".pem";

@@ -1,9 +1,10 @@
 // The three voice rooms at their servers, a connection each: joined, left, kept, and joined again when the server comes
-// back. Lives on the voice thread; everything it does waits in its loop. What a room's user should know is its status, a
-// sentence. Every attempt has one outcome, Joined or Failed, unless the room is left before.
+// back. Lives on the voice thread; everything it does waits in its loop. What a room's user should know is its status,
+// a sentence. Every attempt has one outcome, Joined or Failed, unless the room is left before.
 //
 // A room that is lost says "Reconnecting" and has Left after two seconds; when it is there again it has Joined, without
-// being asked. A kick, a refusal and a denial are final. A change of channel on the same server keeps the connection.
+// being asked; one that is back sooner has neither. A kick, a refusal and a denial are final. A change of channel on
+// the same server keeps the connection.
 #pragma once
 
 #include <array>
@@ -29,7 +30,7 @@ class RoomConnection;
 class VoiceRooms {
 public:
     // `folder` keeps, mode 0600, this user's certificates, the servers' at first sight and their passwords.
-    VoiceRooms(EventLoop& loop, std::filesystem::path folder, VoiceRoad road = VoiceRoad::Best);
+    VoiceRooms(EventLoop& loop, const std::filesystem::path& folder, VoiceRoad road = VoiceRoad::Best);
     VoiceRooms(const VoiceRooms&) = delete;
     VoiceRooms& operator=(const VoiceRooms&) = delete;
     ~VoiceRooms();

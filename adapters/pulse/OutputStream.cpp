@@ -9,8 +9,6 @@ namespace {
 
 constexpr std::uint32_t BlockBytes = speech::BlockSamples * sizeof(float);
 constexpr auto ServersChoice = static_cast<std::uint32_t>(-1);
-// Of what is over. After more of it a new stream is better than so much silence.
-constexpr std::size_t MostSilentSamples = speech::SampleRate;
 
 }  // namespace
 
@@ -21,7 +19,7 @@ int OutputStream::Connect(pa_stream* opened, const char* deviceOrDefault, pa_str
     pa_buffer_attr buffer{};
     buffer.maxlength = buffer.fragsize = ServersChoice;
     buffer.tlength = 2 * BlockBytes;
-    buffer.minreq = BlockBytes;
+    buffer.minreq = BlockBytes / 2;  // whole blocks at a time are heard ten milliseconds later
     buffer.prebuf = 0;  // it plays from the beginning, and goes on where nothing was there in time
     return pa_stream_connect_playback(opened, deviceOrDefault, &buffer, flags, nullptr, nullptr);
 }
@@ -32,7 +30,6 @@ void OutputStream::Carry(std::size_t bytes) {
     const std::size_t room = bytes / sizeof(float);
     const std::size_t fresh = pace.Allow(room, std::chrono::steady_clock::now());
     if (fresh == 0) return;
-    if (room - fresh > MostSilentSamples) return Close();
     const pa_stream* const carried = stream;
     next.assign(room - fresh, 0);
     while (next.size() < room) {

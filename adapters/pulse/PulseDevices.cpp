@@ -50,6 +50,12 @@ std::vector<std::string> PulseDevices::TitlesOf(DeviceKind kind) const {
     return names;
 }
 
+std::string PulseDevices::NameOf(DeviceKind kind, const std::string& title) const {
+    const auto& known = names[static_cast<std::size_t>(kind)];
+    const auto found = known.find(title);
+    return found != known.end() ? found->second : "";
+}
+
 // What changes meanwhile is told as well, and asked behind the lists.
 void PulseDevices::AskAll() {
     pa_context* const context = connection.Context();
@@ -131,6 +137,7 @@ void PulseDevices::Take(DeviceKind kind, std::uint32_t index, const char* name, 
                         const pa_cvolume& volume) {
     std::unique_ptr<PulseDevice>& device = Of(kind)[index];
     const std::string& title = titles.For(Text(name), Text(description));
+    names[static_cast<std::size_t>(kind)][title] = Text(name);
     if (!device || device->Name != Text(name)) {
         const auto send = [this, kind, &device](const pa_cvolume& wanted) { Send(kind, *device, wanted); };
         device = std::make_unique<PulseDevice>(index, Text(name), title, loop, send, [this] { changes.Mark(); });

@@ -61,6 +61,10 @@ public:
     // turn.
     PulseDevice* Find(DeviceKind kind, const std::string& name) const;
 
+    // The server's own name of the device with this title, also of one that is away for now; "" for
+    // DefaultMixerDevice and where no device had the title.
+    std::string NameOf(DeviceKind kind, const std::string& title) const;
+
     [[nodiscard]] Ticket Observe(std::function<void()> observer) { return changes.Observe(std::move(observer)); }
 
 private:
@@ -88,6 +92,7 @@ private:
     PulseConnection& connection;
     Changes changes;
     DeviceTitles titles;
+    std::array<std::map<std::string, std::string>, 2> names;  // the server's own, by title; of all that ever were there
     std::array<ByIndex, 2> devices;
     std::array<std::string, 2> defaults;  // by the server's own names
     int listsAwaited = 0;

@@ -12,9 +12,13 @@ namespace {
 
 constexpr pa_sample_spec Form{PA_SAMPLE_FLOAT32NE, static_cast<std::uint32_t>(speech::SampleRate), 1};
 
-// A stream that was still after this many looks does not work; after more of them it is opened anew.
+// A stream that was still for this many looks does not work; after more of them it is opened anew, one that the server
+// did not even make after as many.
 constexpr Long LooksOfPatience = LooksASecond;
 constexpr Long LooksUntilAnew = 4 * LooksASecond;
+// One that goes on after so long is opened anew as well: what it holds is old, and one of the servers may keep it
+// silent from then on.
+constexpr std::chrono::seconds LongestPause{1};
 
 constexpr const char* DesktopName = "net.orvelle.orvellecp";
 
@@ -63,6 +67,7 @@ void VoiceStream::Open(pa_context* context) {
     stream = NewStream(context, name);
     if (!stream) return;
     stillFor = 0;
+    movedAt.reset();
     Forget();
     pace.Restart();
     const auto carry = [](pa_stream*, std::size_t bytes, void* user) { static_cast<VoiceStream*>(user)->Move(bytes); };
@@ -89,6 +94,11 @@ void VoiceStream::TakeState() {
 }
 
 void VoiceStream::Move(std::size_t bytes) {
+    const SoundPace::Moment now = std::chrono::steady_clock::now();
+    if (now - std::exchange(movedAt, now).value_or(now) > LongestPause) {
+        Close();
+        return changed();
+    }
     stillFor = 0;
     if (!std::exchange(isMoving, true)) changed();
     Carry(bytes);
@@ -98,7 +108,8 @@ void VoiceStream::Look() {
     if (!stream) return;
     ++stillFor;
     if (stillFor > LooksOfPatience) Stand();
-    if (stillFor > LooksUntilAnew) Close();
+    const bool isMade = pa_stream_get_state(stream) == PA_STREAM_READY;
+    if (stillFor > (isMade ? LooksUntilAnew : LooksOfPatience)) Close();
 }
 
 void VoiceStream::Stand() {

@@ -1,13 +1,14 @@
 // One of the voice's streams at the sound server: the microphone's or an output's. Open from Open until Close, or until
-// its device or the server goes, or until it stood still for some seconds; VoiceStreams, which holds it, opens it again.
-// A stream of a named device never moves to another one. Tells when it begins to work or does not any more, inside the
-// call that finds it out.
+// its device or the server goes, or it stood still for long; VoiceStreams, which holds it, opens it again. A stream of a
+// named device never moves to another one. `changed` is called when it begins to work, does not any more, or should be
+// opened again at once, inside the call that finds it out.
 #pragma once
 
 #include <pulse/context.h>
 #include <pulse/stream.h>
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "adapters/pulse/SoundPace.h"
@@ -60,6 +61,7 @@ private:
     std::string device;
     bool isMoving = false;
     Long stillFor = 0;  // looks
+    std::optional<SoundPace::Moment> movedAt;
 };
 
 }  // namespace orvelle::pulse

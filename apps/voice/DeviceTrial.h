@@ -1,6 +1,6 @@
-// Microphone and headset at work without any room, for as long as the user tries them: their levels, and one's own voice
-// in the headset as others would hear it, through the codec and the mixing, but by no server. Made by the engine while
-// its dialogue is open; the devices are open on a thread of their own.
+// Microphone and headset at work without any room, for as long as the user tries them: their levels, and one's own
+// voice in the headset as others would hear it, through the codec and the mixing, but by no server. Made by the engine
+// while its dialogue is open; the devices are open on a thread of their own.
 #pragma once
 
 #include <atomic>

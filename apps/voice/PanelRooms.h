@@ -1,6 +1,6 @@
 // The three rooms as the panel knows them, on its thread: what it set, what came of it, and the events of that. Each
-// join has a number, so that what is told of one that was given up is dropped. Every event is raised later, in order, by
-// what the owner hands over. Held by the voice engine.
+// join has a number, so that what is told of one that was given up is dropped. Every event is raised later, in order,
+// by what the owner hands over. Held by the voice engine.
 #pragma once
 
 #include <array>

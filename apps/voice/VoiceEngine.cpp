@@ -167,8 +167,8 @@ bool VoiceEngine::Calibrate(Long inputDevice, Long outputDevice, float& inputSqu
     std::optional<Squelch> found;
     try {
         DeviceTrial trial(devices.Microphone(inputDevice), devices.Output(outputDevice));
-        found = dialogs.Calibrate(
-            trial, {static_cast<float>(inputSquelchValue), static_cast<float>(outputSquelchValue)});
+        found =
+            dialogs.Calibrate(trial, {static_cast<float>(inputSquelchValue), static_cast<float>(outputSquelchValue)});
     } catch (const std::exception& error) {
         Told("The devices could not be tried: " + std::string(error.what()) + ".");
     }

@@ -137,8 +137,7 @@ TEST_F(VoiceEngineEndTest, WhatWasSetCountsForWhoeverServes) {
 
 TEST_F(VoiceEngineEndTest, ACalibrationIsThatOfWhoeverServesThenAndStays) {
     chosen = &second;
-    const Ticket answer =
-        second.AnswerCalibration([](Long, Long) { return std::optional<Squelch>(Squelch{11, 22}); });
+    const Ticket answer = second.AnswerCalibration([](Long, Long) { return std::optional<Squelch>(Squelch{11, 22}); });
     float input = 0;
     float output = 0;
     ASSERT_TRUE(end.Calibrate(-1, -1, input, output));

@@ -122,6 +122,23 @@ TEST_F(VoiceRoomsTest, ComeBackAtOnceAfterALeaveThatMovedThemToTheRoot) {
     EXPECT_EQ(server.TimesLogged("Authenticated"), 1);
 }
 
+// A server drops wishes that come too fast, and says nothing.
+TEST_F(VoiceRoomsTest, EndInTheLastChannelThatWasWished) {
+    VoiceServerRig strict({.ChangesAtOnce = 5});
+    ASSERT_EQ(one.JoinAndWait(0, strict.Room("first")), "joined");
+    for (int number = 0; number < 12; ++number) {
+        const std::string channel = number % 2 == 0 ? "even" : "odd";
+        one.Join(0, strict.Room(channel));
+        ASSERT_TRUE(one.Until([&] { return one.Status(0) == "In " + channel || number % 3 == 0; }));
+    }
+    EXPECT_EQ(one.JoinAndWait(0, strict.Room("last")), "joined");
+    EXPECT_FALSE(one.HasTold("failed 0"));
+    ASSERT_EQ(two.JoinAndWait(0, strict.Room("last")), "joined");
+    one.Rooms->Mute(0, false);
+    one.Say("here");
+    EXPECT_TRUE(two.WaitToHear("0 here"));
+}
+
 TEST_F(VoiceRoomsTest, EndInOneChannelWhereTwoMakeIt) {
     for (int round = 0; round < 5; ++round) {
         const std::string room = server.Room("new" + std::to_string(round));

@@ -17,12 +17,12 @@ namespace orvelle::mumble {
 struct VoiceServerSetting {
     enum class Rights { EverybodyMakesChannels, AsDelivered };
 
-    std::string Password;  // "" for none
+    std::string Password{};  // "" for none
     Rights Of = Rights::EverybodyMakesChannels;
     int Users = 100;         // connections at the most
     int BansAfter = 0;       // connections within two minutes; 0: never
     int ChangesAtOnce = 40;  // of channels and the like; 5 as delivered
-    std::string More;        // lines of the server's configuration, each ended by a line feed
+    std::string More{};      // lines of the server's configuration, each ended by a line feed
 };
 
 class VoiceServerRig {

@@ -261,6 +261,25 @@ TYPED_TEST(PulseMixerTest, TheSecondOfOneDescriptionIsToldApart) {
     EXPECT_TRUE(this->UntilHears("Master 6"));
 }
 
+TYPED_TEST(PulseMixerTest, ATitleLeadsToTheServersNameAlsoWhileTheDeviceIsAway) {
+    const PulseDevices& devices = this->sound->Devices;
+    this->hand->AddSink("second", "Headset");
+    ASSERT_TRUE(this->Until([&] { return devices.Find(this->Sink, "second") != nullptr; }));
+    EXPECT_EQ(devices.NameOf(this->Sink, "Headset"), "headset");
+    EXPECT_EQ(devices.NameOf(this->Sink, "Headset (2)"), "second");
+    EXPECT_EQ(devices.NameOf(this->Source, "Microphone"), "microphone");
+    for (const char* const none : {"Microphone", "", "<DEFAULT>", "Nothing"})
+        EXPECT_EQ(devices.NameOf(this->Sink, none), "") << none;
+    EXPECT_EQ(devices.NameOf(this->Source, "Headset"), "");
+    this->hand->Unload(this->sinkModule);
+    ASSERT_TRUE(this->Until([&] { return devices.Find(this->Sink, "headset") == nullptr; }));
+    EXPECT_EQ(devices.NameOf(this->Sink, "Headset"), "headset");
+    this->hand.reset();
+    this->server.Kill();
+    ASSERT_TRUE(this->Until([&] { return devices.InputNames().empty(); }));
+    EXPECT_EQ(devices.NameOf(this->Source, "Microphone"), "microphone");
+}
+
 // Five seconds of a hand that moves twenty times a second, against a program that sets other levels at the same pace,
 // each between two moves. What the handler reads is what the panel's slider shows.
 TYPED_TEST(PulseMixerTest, ADraggedSliderNeverJumpsBackFromTheHand) {

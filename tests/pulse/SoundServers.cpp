@@ -1,6 +1,8 @@
 #include "tests/pulse/SoundServers.h"
 
 #include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 #include <array>
@@ -8,11 +10,20 @@
 #include <cstdlib>
 #include <fstream>
 
+#include "adapters/shared/FileDescriptor.h"
 #include "tests/linux/WaitUntil.h"
 
 namespace orvelle::pulse {
 
 namespace {
+
+// Whether a server listens there; the file may be there before it does, and stay when it is gone.
+bool Listens(const std::filesystem::path& file) {
+    const FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    sockaddr_un address{AF_UNIX, {}};
+    file.string().copy(std::data(address.sun_path), sizeof(address.sun_path) - 1);
+    return connect(socket.Number(), reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0;
+}
 
 std::filesystem::path RuntimeFolder() { return std::getenv("XDG_RUNTIME_DIR"); }
 
@@ -53,9 +64,9 @@ void PipeWireServer::Start() {
     const std::string bus = "unix:path=" + (RuntimeFolder() / "bus").string();
     setenv("DBUS_SESSION_BUS_ADDRESS", bus.c_str(), 1);
     Run({"dbus-daemon", "--session", "--nofork", "--nosyslog", "--nopidfile", "--address=" + bus});
-    EXPECT_TRUE(linux::WaitUntil([] { return std::filesystem::exists(RuntimeFolder() / "bus"); }));
+    EXPECT_TRUE(linux::WaitUntil([] { return Listens(RuntimeFolder() / "bus"); }));
     Run(WithDescriptors("pipewire"));
-    EXPECT_TRUE(linux::WaitUntil([] { return std::filesystem::exists(RuntimeFolder() / "pipewire-0"); }));
+    EXPECT_TRUE(linux::WaitUntil([] { return Listens(RuntimeFolder() / "pipewire-0"); }));
     Run(WithDescriptors("wireplumber"));
     Run(WithDescriptors("pipewire-pulse"));
     Await();

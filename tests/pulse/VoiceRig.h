@@ -1,6 +1,6 @@
-// A sound server with a null sink "mouth", whose monitor is the microphone, and two, "ear" and "other", that are
-// listened to; the voice's streams on a loop that the test serves; and a probe that speaks and listens. What came and
-// what was asked for is kept with its moments.
+// A sound server with a source "microphone", which is silent, and three null sinks: "mouth", whose monitor is the
+// microphone of tests that speak, "ear" and "other", that are listened to; the voice's streams on a loop that the test
+// serves; and a probe that speaks and listens. What came is kept with its moments.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -59,14 +59,13 @@ template <typename Server>
 class VoiceRig : public testing::Test {
 protected:
     static constexpr const char* Mouth = "mouth";
-    static constexpr const char* Microphone = "mouth.monitor";
+    static constexpr const char* MouthsMonitor = "mouth.monitor";
     static constexpr std::array<double, 2> Tones{800, 1300};  // of the headset and the speakers
 
     VoiceRig() {
         server.Start();
         Furnish();
-        Probe();
-        streams.SetMicrophone(Microphone);
+        streams.SetMicrophone("microphone");
         for (const Long output : {Headset, Speakers}) streams.SetOutput(output, "ear");
         streams.Changed = [this] { ++changes; };
         streams.Recorded = [this](const speech::Block& block) {
@@ -78,20 +77,30 @@ protected:
 
     void Furnish() {
         hand.emplace();
-        mouthModule = AddSink(Mouth);
+        microphoneModule = AddMicrophone();
         earModule = AddSink("ear");
-        AddSink("other");
     }
     std::uint32_t AddSink(const std::string& name) {
         return hand->Load("module-null-sink", "rate=48000 sink_name=" + name);
     }
-    // A null sink that nobody plays to is slow to tell its monitor of its silence.
+    std::uint32_t AddMicrophone() {
+        const bool isSink = std::string(Server::Microphone) == "module-null-sink";
+        return isSink ? hand->AddSource(Server::Microphone, "microphone", "Microphone")
+                      : hand->Load(Server::Microphone, "source_name=microphone max_latency_msec=10");
+    }
+    // Whoever is recorded begins before whoever plays there: one of the servers is slow the other way around.
     void Probe() {
         probe.emplace();
-        for (const char* const sink : {Mouth, "ear", "other"}) {
-            probe->Play(sink, {}, Playing::Once);
-            probe->Record(std::string(sink) + ".monitor");
-        }
+        probe->Record("ear.monitor");
+    }
+    void ProbeOther() {
+        AddSink("other");
+        probe->Record("other.monitor");
+    }
+    void ProbeMouth() {
+        AddSink(Mouth);
+        probe->Record(MouthsMonitor);
+        streams.SetMicrophone(MouthsMonitor);
     }
 
     // Serves the loop until it is so; false where that takes longer than half a minute.
@@ -160,12 +169,12 @@ protected:
     // What each carries: from the microphone's monitor to Recorded, and from Wanted to the ear's monitor, in
     // milliseconds, the median of some bursts.
     double RecordingDelay() {
-        probe->Take(Microphone);
+        probe->Take(MouthsMonitor);
         recorded = {};
         probe->Play(Mouth, Burst(1000, 60, 150), Playing::AgainAndAgain);
         EXPECT_TRUE(UntilNoticed([this] { return recorded.Sounds().size() > Bursts; }));
         probe->Play(Mouth, {}, Playing::Once);
-        return MedianDelay(Begins(probe->Recorded(Microphone)), Begins(recorded));
+        return MedianDelay(Begins(probe->Recorded(MouthsMonitor)), Begins(recorded));
     }
     double PlayingDelay() {
         probe->Take("ear.monitor");
@@ -215,7 +224,7 @@ protected:
     CountingLoop loop{poll};
     std::optional<ServerHand> hand;
     std::optional<SoundProbe> probe;
-    std::uint32_t mouthModule = 0;
+    std::uint32_t microphoneModule = 0;
     std::uint32_t earModule = 0;
     int changes = 0;
     SoundRecording recorded;

@@ -24,6 +24,8 @@ struct VoiceServerNames {
 TYPED_TEST_SUITE(VoiceStreamsTest, Servers, VoiceServerNames);
 
 TYPED_TEST(VoiceStreamsTest, WhatIsSpokenIsRecordedAndWhatIsWrittenIsHeard) {
+    this->Probe();
+    this->ProbeMouth();
     EXPECT_TRUE(this->NothingWorks());
     ASSERT_TRUE(this->OpenAll());
     EXPECT_FALSE(this->streams.OutputWorks(2));
@@ -43,6 +45,8 @@ TYPED_TEST(VoiceStreamsTest, WhatIsSpokenIsRecordedAndWhatIsWrittenIsHeard) {
 }
 
 TYPED_TEST(VoiceStreamsTest, BothOutputsOfOneDeviceAreHeard) {
+    this->Probe();
+    this->ProbeOther();
     ASSERT_TRUE(this->OpenAll());
     this->Speak(true, true);
     EXPECT_TRUE(this->Hears("ear.monitor", this->Tones[0]));
@@ -70,24 +74,28 @@ TYPED_TEST(VoiceStreamsTest, ANamedDeviceThatIsPulledFailsUntilItIsBack) {
         return !this->streams.OutputWorks(Headset) && !this->streams.OutputWorks(Speakers);
     }) << " ms\n";
     EXPECT_TRUE(this->streams.MicrophoneWorks());
-    this->hand->Unload(this->mouthModule);
+    this->hand->Unload(this->microphoneModule);
     std::cout << "source gone: told after " << this->TimeUntil([this] { return this->NothingWorks(); }) << " ms\n";
+    // Nothing flickers while they are sought.
+    this->Serve(std::chrono::milliseconds(100));
     const int before = this->changes;
     this->Serve(std::chrono::milliseconds(1500));
     EXPECT_EQ(this->changes, before);
 
     this->AddSink("ear");
     std::cout << "sink back: works after " << this->TimeUntil([this] { return this->OutputsWork(); }) << " ms\n";
-    this->AddSink("mouth");
-    this->Probe();
+    this->AddMicrophone();
     std::cout << "source back: works after " << this->TimeUntil([this] { return this->AllWork(); }) << " ms\n";
+    this->Probe();
     this->Speak(true, true);
     EXPECT_TRUE(this->Hears("ear.monitor", this->Tones[0]));
     EXPECT_TRUE(this->Hears("ear.monitor", this->Tones[1]));
-    EXPECT_TRUE(this->RecordsWhatIsSpoken());
 }
 
 TYPED_TEST(VoiceStreamsTest, TheDefaultDevicesAreFollowed) {
+    this->Probe();
+    this->ProbeOther();
+    this->ProbeMouth();
     this->hand->SetDefault(DeviceKind::Sink, "other");
     this->hand->SetDefault(DeviceKind::Source, "other.monitor");
     this->streams.SetOutput(Headset, "");
@@ -98,7 +106,7 @@ TYPED_TEST(VoiceStreamsTest, TheDefaultDevicesAreFollowed) {
     this->hand->SetDefault(DeviceKind::Sink, "ear");
     EXPECT_TRUE(this->Hears("ear.monitor", this->Tones[0]));
     EXPECT_TRUE(this->HearsNoMore("other.monitor", this->Tones[0]));
-    this->hand->SetDefault(DeviceKind::Source, this->Microphone);
+    this->hand->SetDefault(DeviceKind::Source, this->MouthsMonitor);
     EXPECT_TRUE(this->RecordsWhatIsSpoken());
     // One that is gone gives way to another one.
     this->hand->Unload(this->earModule);
@@ -108,23 +116,20 @@ TYPED_TEST(VoiceStreamsTest, TheDefaultDevicesAreFollowed) {
 TYPED_TEST(VoiceStreamsTest, AServerThatIsKilledIsSoughtUntilOneIsBack) {
     ASSERT_TRUE(this->OpenAll());
     this->hand.reset();
-    this->probe.reset();
     this->server.Kill();
     std::cout << "server gone: told after " << this->TimeUntil([this] { return this->NothingWorks(); }) << " ms\n";
     this->Serve(std::chrono::milliseconds(1200));
     this->server.Start();
     this->Furnish();
-    this->Probe();
     std::cout << "server back: all works " << this->TimeUntil([this] { return this->AllWork(); }) << " ms later\n";
+    this->Probe();
     this->Speak(true, false);
     EXPECT_TRUE(this->Hears("ear.monitor", this->Tones[0]));
-    EXPECT_TRUE(this->RecordsWhatIsSpoken());
 }
 
 TYPED_TEST(VoiceStreamsTest, AServerThatHangsForTenSecondsLeavesNothingOldBehind) {
     ASSERT_TRUE(this->OpenAll());
     this->hand.reset();
-    this->probe.reset();
     this->server.Signal(SIGSTOP);
     const Moment stopped = Now();
     const double told = this->TimeUntil([this] { return this->NothingWorks(); });
@@ -142,13 +147,18 @@ TYPED_TEST(VoiceStreamsTest, AServerThatHangsForTenSecondsLeavesNothingOldBehind
     const double blocks = Milliseconds(Now() - begin) / speech::BlockMilliseconds;
     EXPECT_LT(this->blocksRecorded - recordedBefore, blocks * 9 / 8 + 7);
     EXPECT_LT(this->blocksWanted - wantedBefore, 2 * (blocks * 9 / 8 + 7));
+    this->hand.emplace();
     this->Probe();
+    this->ProbeMouth();
     EXPECT_LT(this->RecordingDelay(), 200);
     EXPECT_LT(this->PlayingDelay(), 200);
 }
 
-// A hang that is over before the server counts as lost; our own; and that of both, as a computer's that is suspended.
+// A hang that is over before the server counts as lost; our own, short enough for the streams to go on; and that of
+// both, as a computer's that is suspended.
 TYPED_TEST(VoiceStreamsTest, AShortHangOfEitherSideLeavesNothingOldBehind) {
+    this->Probe();
+    this->ProbeMouth();
     ASSERT_TRUE(this->OpenAll());
     enum class Who { Server, We, Both };
     for (const Who who : {Who::Server, Who::We, Who::Both}) {
@@ -156,7 +166,7 @@ TYPED_TEST(VoiceStreamsTest, AShortHangOfEitherSideLeavesNothingOldBehind) {
         if (who == Who::Server)
             this->Serve(std::chrono::milliseconds(1500));
         else
-            std::this_thread::sleep_for(std::chrono::milliseconds(1500));
+            std::this_thread::sleep_for(std::chrono::milliseconds(who == Who::We ? 700 : 1500));
         const long recordedBefore = this->blocksRecorded;
         const long wantedBefore = this->blocksWanted;
         if (who != Who::We) this->server.Signal(SIGCONT);
@@ -195,7 +205,7 @@ TYPED_TEST(VoiceStreamsTest, NamesThatNoDeviceHasDoNotWork) {
     }
     this->streams.SetOutput(-1, "ear");
     this->streams.SetOutput(2, "ear");
-    this->streams.SetMicrophone(this->Microphone);
+    this->streams.SetMicrophone("microphone");
     this->streams.SetOutput(Headset, "ear");
     EXPECT_TRUE(this->OpenAll());
 }
@@ -263,14 +273,12 @@ TEST_F(SuspendedDeviceTest, ADeviceThatStandsStillDoesNotWork) {
     std::cout << "sink suspended: told after " << told << " ms\n";
     EXPECT_LT(told, 4000);
     EXPECT_TRUE(streams.MicrophoneWorks());
-    Pactl({"suspend-source", Microphone, "1"});
-    Pactl({"suspend-sink", "mouth", "1"});
+    Pactl({"suspend-source", "microphone", "1"});
     told = TimeUntil([this] { return !streams.MicrophoneWorks(); });
     std::cout << "source suspended: told after " << told << " ms\n";
     EXPECT_LT(told, 4000);
     Pactl({"suspend-sink", "ear", "0"});
-    Pactl({"suspend-sink", "mouth", "0"});
-    Pactl({"suspend-source", Microphone, "0"});
+    Pactl({"suspend-source", "microphone", "0"});
     std::cout << "both back: work after " << TimeUntil([this] { return AllWork(); }) << " ms\n";
 }
 

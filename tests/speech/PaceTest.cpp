@@ -136,6 +136,29 @@ TEST(PaceTest, WhatAStallHeldBackIsHeardAndTheDelayShrinksAgain) {
     EXPECT_LT(delays.back(), 21);
 }
 
+TEST(PaceTest, AnOutputThatTakesSomeBlocksAtOnceHearsThemAll) {
+    const std::vector<SentPacket> packets = Encode(Vowels(10000));
+    SpeakerVoice voice;
+    for (std::size_t packet = 0; packet < packets.size(); ++packet) {
+        voice.Put(AsHeard(packets[packet]));
+        Block block;
+        for (int taken = 0; packet % 4 == 3 && taken < 4; ++taken) EXPECT_TRUE(voice.Take(block));
+    }
+    EXPECT_EQ(voice.Counted().Concealed, 0);
+    EXPECT_EQ(voice.Counted().Late + voice.Counted().LeftOut, 0);
+    EXPECT_TRUE(voice.HasEnded());
+
+    // Its phase is the worst: it takes all four when the first of the next four has come.
+    SpeakerVoice early;
+    for (std::size_t packet = 0; packet < packets.size(); ++packet) {
+        early.Put(AsHeard(packets[packet]));
+        Block block;
+        for (int taken = 0; packet % 4 == 0 && taken < 4; ++taken) EXPECT_TRUE(early.Take(block));
+    }
+    EXPECT_LE(early.Counted().Concealed, 3);
+    EXPECT_EQ(early.Counted().Late + early.Counted().LeftOut, 0);
+}
+
 class ClockTest : public testing::TestWithParam<double> {};
 
 TEST_P(ClockTest, DelayStaysForTwentyMinutes) {

@@ -59,8 +59,8 @@ TEST_F(PanelRoomsTest, NothingOfAJoinThatWasGivenUpIsHeardOfAnyMore) {
     const unsigned long first = Join(0);
     const unsigned long second = Join(0);
     EXPECT_NE(first, second);
-    for (const What late : {What::StatusChanged, What::Joined, What::AudioStarted, What::Left, What::Failed,
-                            What::Kicked})
+    for (const What late :
+         {What::StatusChanged, What::Joined, What::AudioStarted, What::Left, What::Failed, What::Kicked})
         Take(0, first, late, "late");
     EXPECT_TRUE(Run().empty());
     EXPECT_EQ(rooms.At(0).Presence, RoomPresence::Joining);

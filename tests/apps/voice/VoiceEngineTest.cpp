@@ -13,6 +13,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr double Spoken = 1000;  // hertz
 constexpr double Heard = -35;    // decibels, of a tone that was spoken at -12
+constexpr double LessThanTwice = 4;
 
 class VoiceEngineTest : public VoiceEngineRig {
 protected:
@@ -196,12 +197,12 @@ TEST_F(VoiceAtServerTest, TwoRoomsInOneChannelAreHeardOnceAtAllTheirOutputs) {
     second.Engine.ChannelOutput(1, Headset, true);
     second.Engine.ChannelOutput(1, Speakers, true);
     ASSERT_TRUE(HasRaised(second, "RoomAudioStarted 1"));
-    EXPECT_NEAR(SteadyLevelAt("ear2"), once, 1);
-    EXPECT_NEAR(SteadyLevelAt("speakers2"), once, 1);
+    EXPECT_NEAR(SteadyLevelAt("ear2"), once, LessThanTwice);
+    EXPECT_NEAR(SteadyLevelAt("speakers2"), once, LessThanTwice);
     second.Engine.RoomLeave(0);
     ASSERT_TRUE(HasRaised(second, "Left 0"));
     EXPECT_TRUE(IsHeardAt("ear2"));
-    EXPECT_NEAR(SteadyLevelAt("ear2"), once, 1);
+    EXPECT_NEAR(SteadyLevelAt("ear2"), once, LessThanTwice);
 }
 
 TEST_F(VoiceAtServerTest, AServerThatDiesAndComesBackIsJoinedAgainByItself) {
@@ -224,9 +225,10 @@ TEST_F(VoiceAtServerTest, ADeviceThatIsPulledIsToldAndWorksAgainWhenItIsBack) {
     int changes = 0;
     const Ticket watch = first.Engine.Observe([&] { ++changes; });
     hand->Unload(modules["ear1"]);
-    ASSERT_TRUE(Until([&] { return !first.Engine.OutputStatus(Headset); }));
-    EXPECT_TRUE(first.Engine.Output(Headset).Failed);
-    EXPECT_TRUE(first.Engine.InputStatus() && first.Engine.OutputStatus(Speakers));
+    ASSERT_TRUE(Until([&] {
+        return first.Engine.Output(Headset).Failed && first.Engine.InputStatus() && first.Engine.OutputStatus(Speakers);
+    }));
+    EXPECT_FALSE(first.Engine.OutputStatus(Headset));
     EXPECT_TRUE(Until([&] { return changes > 0; }));
     hand->Load("module-null-sink", "rate=48000 sink_name=ear1");
     ASSERT_TRUE(Until([&] { return first.Engine.OutputStatus(Headset); }));
