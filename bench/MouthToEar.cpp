@@ -1,6 +1,6 @@
 // How much later a voice is heard than it was spoken: by our engine, by the stock client at its lowest settings, and by
-// the sound server's own loopback, in turn at one voice server and one sound server, for bench/mouth-to-ear. Bursts of a
-// tone go into a microphone and are found in the other computer's headset.
+// the sound server's own loopback, in turn at one voice server and one sound server, for bench/mouth-to-ear. Bursts of
+// a tone go into a microphone and are found in the other computer's headset.
 //
 //   orvelle-mouth-to-ear [BURSTS]     of each; 100 without
 #include <algorithm>
@@ -99,7 +99,8 @@ int main(int count, char** words) {
     while (ways.front().Heard.Spoken < bursts)
         for (Way& way : ways) Hear(probe, way);
 
-    std::printf("%-30s %7s %5s %7s %7s %7s %7s ms\n", "mouth to ear", "bursts", "lost", "least", "median", "p99", "most");
+    std::printf("%-30s %7s %5s %7s %7s %7s %7s ms\n", "mouth to ear", "bursts", "lost", "least", "median", "p99",
+                "most");
     for (const Way& way : ways)
         std::printf("%-30s %7d %5d %7.1f %7.1f %7.1f %7.1f\n", way.Name.c_str(), way.Heard.Spoken, way.Heard.Lost,
                     way.Heard.Part(0), way.Heard.Median(), way.Heard.Part(0.99), way.Heard.Part(1));

@@ -25,7 +25,10 @@ std::string HeardBursts::Text() const {
     char text[200];
     std::snprintf(text, sizeof text, "%d bursts, %d lost, least %.1f, median %.1f, p99 %.1f, greatest %.1f ms", Spoken,
                   Lost, Part(0), Median(), Part(0.99), Part(1));
-    return text;
+    std::string all = text;
+    if (Lost > 0 || Part(1) > 2 * Median())
+        for (const double each : Delays) all += ' ' + std::to_string(static_cast<int>(each));
+    return all;
 }
 
 HeardBursts Compare(const pulse::SoundRecording& mouth, const pulse::SoundRecording& ear) {

@@ -19,10 +19,12 @@ struct HeardBursts {
     int Spoken = 0;
     int Lost = 0;
 
+    // A machine that is very busy misses some at the sound server itself.
+    bool MostWereHeard() const { return Lost * 4 < Spoken; }
     double Median() const { return Part(0.5); }
     // The delay that this part of them does not exceed.
     double Part(double part) const;
-    std::string Text() const;  // one line for people
+    std::string Text() const;  // one line for people; with each delay where one was lost or late
 };
 
 // A burst counts as heard where a sound began in the ear within a period after it began in the mouth; the last one of

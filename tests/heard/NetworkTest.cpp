@@ -1,4 +1,5 @@
-// Our engine over networks as they are: nothing goes out while no key is down; losses, jitter and a UDP that is blocked.
+// Our engine over networks as they are: nothing goes out while no key is down; losses, jitter and a UDP that is
+// blocked.
 #include <iostream>
 
 #include "tests/heard/EngineRig.h"
@@ -61,9 +62,9 @@ TEST_F(NetworkTest, LossesAreMended) {
     speaker.Say("mute 0 0");
     ASSERT_TRUE(WaitUntil([this] { return Passed() > 20; }));
     relay.Ask<void>([](VoiceRelay& at) { at.LossPercent = 5; });
-    const HeardBursts heard = Hear(0, 1, 25);
+    const HeardBursts heard = Hear(0, 1, 12);
     std::cout << "5 % loss each way: " << heard.Text() << '\n';
-    EXPECT_LE(heard.Lost, 2);
+    EXPECT_TRUE(heard.MostWereHeard());
     EXPECT_LT(heard.Median(), BurstPeriod);
 }
 
@@ -71,9 +72,9 @@ TEST_F(NetworkTest, JitterLosesNothing) {
     ASSERT_NO_FATAL_FAILURE(Join());
     speaker.Say("mute 0 0");
     relay.Ask<void>([](VoiceRelay& at) { at.MostDelay = 60; });
-    const HeardBursts heard = Hear(0, 1, 25);
+    const HeardBursts heard = Hear(0, 1, 12);
     std::cout << "60 ms of jitter each way: " << heard.Text() << '\n';
-    EXPECT_LE(heard.Lost, 2);
+    EXPECT_TRUE(heard.MostWereHeard());
     EXPECT_LT(heard.Median(), BurstPeriod);
 }
 
@@ -95,8 +96,8 @@ TEST_F(NetworkTest, BlockedUdpIsGoneAroundAndComeBackTo) {
     const pulse::Moment opened = std::chrono::steady_clock::now();
     const unsigned long passed = Passed();
     ASSERT_TRUE(WaitUntil([&] { return Passed() > passed + 300; }));
-    std::cout << "UDP opened: used again after "
-              << MillisecondsBetween(opened, std::chrono::steady_clock::now()) - 1500 << " ms\n";
+    std::cout << "UDP opened: used again after " << MillisecondsBetween(opened, std::chrono::steady_clock::now()) - 1500
+              << " ms\n";
 }
 
 }  // namespace orvelle::heard

@@ -44,7 +44,8 @@ void Configure(const std::filesystem::path& home, const StockUser& user) {
     std::ofstream(home / ".config/Mumble/Mumble.conf")
         << "[General]\nlastupdate=2\n[audio]\ninput=PulseAudio\noutput=PulseAudio\ntransmit=0\noutputdelay=1\n"
            "[pulseaudio]\ninput="
-        << user.Microphone << "\noutput=" << user.Output << "\n[net]\nframesperpacket=1\njitterbuffer=1\ncertificate=" << OwnCertificate(home) << '\n';
+        << user.Microphone << "\noutput=" << user.Output
+        << "\n[net]\nframesperpacket=1\njitterbuffer=1\ncertificate=" << OwnCertificate(home) << '\n';
 }
 
 // The server's certificate counts as one that the user has accepted; else the client asks.
