@@ -11,12 +11,15 @@
 namespace orvelle::mumble {
 
 constexpr std::uint16_t DefaultPort = 64738;
+constexpr const char* EchoChannel = "echo";
 
 struct RoomAddress {
     std::string Host;  // a name or an address
     std::uint16_t Port = DefaultPort;
     std::string Channel;  // as the server's channel is named, other characters written as #2E
 
+    // Whoever talks there is heard by himself alone: the server sends his voice back.
+    bool IsEcho() const { return Channel == EchoChannel; }
     bool operator==(const RoomAddress&) const = default;
 };
 

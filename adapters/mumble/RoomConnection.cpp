@@ -125,7 +125,8 @@ void RoomConnection::Send(std::span<const std::uint8_t> opus, VoiceRooms::Squelc
     if (state != State::In) return;
     const bool talks = !isMuted && squelched == VoiceRooms::Squelched::No;
     const bool talked = std::exchange(isTalking, talks);
-    if (talks || talked) session->SendVoice(opus, talks ? TalkEnd::No : TalkEnd::Yes);
+    const VoiceTarget target = wish.IsEcho() ? VoiceTarget::Loopback : VoiceTarget::Channel;
+    if (talks || talked) session->SendVoice(target, opus, talks ? TalkEnd::No : TalkEnd::Yes);
 }
 
 void RoomConnection::TakeAnswer(PasswordAnswer answer) {

@@ -50,6 +50,7 @@ public:
     enum class PasswordAnswer { None, Given };
     void TakeAnswer(PasswordAnswer answer);
 
+    bool IsEcho() const { return wish.IsEcho(); }
     // Once the server told us.
     std::optional<Identity> Own() const;
     Identity OfSpeaker(std::uint32_t session) const { return {fingerprint, wish.Port, session}; }

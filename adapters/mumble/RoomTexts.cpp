@@ -35,7 +35,9 @@ std::string JoiningText(const RoomAddress& address) {
     return "Joining " + ShownChannel(address) + " at " + ShownServer(address);
 }
 
-std::string InText(const RoomAddress& address) { return "In " + ShownChannel(address); }
+std::string InText(const RoomAddress& address) {
+    return "In " + ShownChannel(address) + (address.IsEcho() ? ", where you hear yourself" : "");
+}
 
 std::string ListeningText(const RoomAddress& address) {
     return "In " + ShownChannel(address) + ", but the server only lets us listen";

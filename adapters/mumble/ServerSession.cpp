@@ -55,8 +55,8 @@ void ServerSession::MakeChannel(const std::string& name) {
     connection.Send(Frame(MessageType::ChannelState, wish));
 }
 
-void ServerSession::SendVoice(std::span<const std::uint8_t> opus, TalkEnd end) {
-    const std::vector<std::uint8_t> packet = WriteVoice(VoiceTarget::Channel, sequence++, opus, end);
+void ServerSession::SendVoice(VoiceTarget target, std::span<const std::uint8_t> opus, TalkEnd end) {
+    const std::vector<std::uint8_t> packet = WriteVoice(target, sequence++, opus, end);
     if (!own || packet.empty()) return;
     if (datagrams && datagrams->Passes())
         datagrams->Send(packet);
@@ -179,7 +179,7 @@ void ServerSession::TakeCrypt(const Message& message) {
 // Who is in another channel whispers, which no radio does.
 void ServerSession::TakeVoice(std::span<const std::uint8_t> packet) {
     const std::optional<speech::HeardVoice> heard = ReadVoice(packet);
-    if (!heard || !own || heard->Speaker == *own) return;
+    if (!heard || !own) return;
     const std::optional<std::uint32_t> where = tree.ChannelOf(heard->Speaker);
     if (!where || where == OwnChannel()) Heard(*heard);
 }
@@ -203,7 +203,7 @@ void ServerSession::Ping() {
 // also for one who only listens.
 void ServerSession::AskForTunnel() { connection.Send(FrameVoice(WritePing(0))); }
 
-// The end of a talk that nobody hears: it comes back to us alone, and is left out as our own.
+// The end of a talk that nobody hears: it comes back to us alone.
 void ServerSession::AskForDatagrams() {
     datagrams->Send(WriteVoice(VoiceTarget::Loopback, sequence++, {}, TalkEnd::Yes));
 }

@@ -37,7 +37,7 @@ public:
     void MoveTo(std::uint32_t channel);
     void MakeChannel(const std::string& name);
     // One block; the last one of a talk says so.
-    void SendVoice(std::span<const std::uint8_t> opus, TalkEnd end);
+    void SendVoice(VoiceTarget target, std::span<const std::uint8_t> opus, TalkEnd end);
     // Nothing is raised any more.
     void Close();
 
@@ -48,7 +48,7 @@ public:
     Event<std::uint32_t, std::uint32_t> Denied;                       // DenialType, permission
     Event<std::optional<std::uint32_t>, const std::string&> Removed;  // we: by whom, and the reason
     Event<ConnectionEnd> Ended;
-    Event<const speech::HeardVoice&> Heard;
+    Event<const speech::HeardVoice&> Heard;  // our own as well, sent back by the server
     Event<std::uint32_t> SpeakerGone;  // of those that were in our channel
 
 private:

@@ -38,7 +38,7 @@ void VoiceRooms::Wire(Long number) {
     room.StatusChanged = [this, number](const std::string& text) { StatusChanged(number, text); };
     room.SpeakerGone = [this, number](std::uint32_t speaker) { SpeakerGone(number, speaker); };
     room.Heard = [this, number, &room](const speech::HeardVoice& voice) {
-        if (!IsOurs(room, voice.Speaker)) Heard(number, voice);
+        if (room.IsEcho() || !IsOurs(room, voice.Speaker)) Heard(number, voice);
     };
     room.PasswordWanted = [this, &room] {
         const std::string server = room.AskedServer();

@@ -57,7 +57,7 @@ public:
     Event<Long> Kicked;
     Event<Long> Left;
     Event<Long, const std::string&> StatusChanged;
-    // Of others; never of this user's own connections.
+    // Of others; of this user's own connections in the echo alone.
     Event<Long, const speech::HeardVoice&> Heard;
     Event<Long, std::uint32_t> SpeakerGone;
     // The server asks for a password that it did not have from us; asked once for each server and attempt.

@@ -123,6 +123,7 @@ TEST_F(DeckWindowTest, WhatIsNotPlayedHereHasNoPart) {
     const DeckWindow whole(setUp.Sides());
     FarSides fewer = setUp.Sides();
     fewer.VoiceEngine = nullptr;
+    fewer.ServingEngine = nullptr;
     fewer.HeadsetMixer = nullptr;
     fewer.TeamSpeak = nullptr;
     const DeckWindow withoutSound(fewer);

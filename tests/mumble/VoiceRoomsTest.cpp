@@ -87,6 +87,26 @@ TEST_F(VoiceRoomsTest, OfOnePilotAreApartAndOwnVoicesIgnored) {
     EXPECT_EQ(one.Heard.size(), 2U);
 }
 
+TEST_F(VoiceRoomsTest, SendOneBackToHimselfInTheEcho) {
+    ASSERT_EQ(one.JoinAndWait(0, server.Room("echo")), "joined");
+    ASSERT_EQ(two.JoinAndWait(0, server.Room("echo")), "joined");
+    EXPECT_EQ(one.Status(0), "In echo, where you hear yourself");
+    one.Rooms->Mute(0, false);
+    two.Rooms->Mute(0, false);
+    one.Say("one");
+    EXPECT_TRUE(one.WaitToHear("0 one"));
+    two.Say("two");
+    EXPECT_TRUE(two.WaitToHear("0 two"));
+    EXPECT_EQ(one.Heard, Told{"0 one"});
+    EXPECT_EQ(two.Heard, Told{"0 two"});
+    // In another channel it is others who hear him, as ever.
+    ASSERT_EQ(one.JoinAndWait(0, server.Room("122.8")), "joined");
+    ASSERT_EQ(two.JoinAndWait(0, server.Room("122.8")), "joined");
+    one.Say("all");
+    EXPECT_TRUE(two.WaitToHear("0 all"));
+    EXPECT_FALSE(one.HasHeard("0 all"));
+}
+
 TEST_F(VoiceRoomsTest, SayNothingThatTheSquelchHoldsBack) {
     ASSERT_EQ(one.JoinAndWait(0, server.Room("122.8")), "joined");
     ASSERT_EQ(two.JoinAndWait(0, server.Room("122.8")), "joined");
