@@ -11,7 +11,7 @@
 namespace orvelle::heard {
 
 constexpr Long BurstMilliseconds = 120;
-constexpr Long BurstPeriod = 400;
+constexpr Long BurstPeriod = 500;
 constexpr double BurstHertz = 1000;
 
 struct HeardBursts {
@@ -27,8 +27,8 @@ struct HeardBursts {
     std::string Text() const;  // one line for people; with each delay where one was lost or late
 };
 
-// A burst counts as heard where a sound began in the ear within a period after it began in the mouth; the last one of
-// the mouth only if the ear was recorded for long enough.
+// A burst counts as heard where a sound began in the ear within a period after it began in the mouth: the period is the
+// bound of every delay here. The last one of the mouth counts only if the ear was recorded for long enough.
 HeardBursts Compare(const pulse::SoundRecording& mouth, const pulse::SoundRecording& ear);
 
 }  // namespace orvelle::heard

@@ -30,7 +30,6 @@ TEST_F(EngineTest, EveryBurstIsHeard) {
     const HeardBursts heard = Hear(0, 1, 12);
     std::cout << "ours to ours: " << heard.Text() << '\n';
     EXPECT_TRUE(heard.MostWereHeard());
-    EXPECT_LT(heard.Median(), BurstPeriod);
 }
 
 TEST_F(EngineTest, PressIsHeardAndReleaseIsSilence) {
