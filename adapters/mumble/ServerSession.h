@@ -49,7 +49,7 @@ public:
     Event<std::optional<std::uint32_t>, const std::string&> Removed;  // we: by whom, and the reason
     Event<ConnectionEnd> Ended;
     Event<const speech::HeardVoice&> Heard;  // our own as well, sent back by the server
-    Event<std::uint32_t> SpeakerGone;  // of those that were in our channel
+    Event<std::uint32_t> SpeakerGone;        // of those that were in our channel
 
 private:
     void Read(std::span<const std::uint8_t> bytes);

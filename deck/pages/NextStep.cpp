@@ -24,7 +24,8 @@ constexpr const char* EnableSoftware =
 constexpr const char* TuneEngine =
     "tune COM1 under Radios: as Software VATSIM, then any Server and any Channel, such as voice.example and tower.";
 constexpr const char* TuneHeardEngine =
-    "tune COM1 under Radios: Software VATSIM, as Server a voice server, localhost where one runs here, and Channel echo "
+    "tune COM1 under Radios: Software VATSIM, as Server a voice server, localhost where one runs here, and Channel "
+    "echo "
     "to hear yourself.";
 constexpr const char* TuneProgram =
     "tune COM1 under Radios: its Software, then any Server and any Channel, such as voice.example and tower.";
