@@ -5,6 +5,7 @@
 
 #include <vector>
 
+#include "tests/shared/EngineEvents.h"
 #include "tests/shared/HandLoop.h"
 
 namespace orvelle::embedded {
@@ -15,20 +16,9 @@ using Texts = std::vector<std::string>;
 class VoiceEngineTest : public testing::Test {
 protected:
     VoiceEngineTest() {
-        engine.VVL_Started = [this] { events.push_back("Started"); };
-        engine.VVL_Stopped = [this] { events.push_back("Stopped"); };
-        engine.VVL_AudioStarted = [this] { events.push_back("AudioStarted"); };
-        engine.VVL_AudioStopped = [this] { events.push_back("AudioStopped"); };
-        engine.VVL_RoomJoinSucceed = [this](Long room) { Note("JoinSucceed", room); };
-        engine.VVL_RoomJoinFailed = [this](Long room) { Note("JoinFailed", room); };
-        engine.VVL_RoomKicked = [this](Long room) { Note("Kicked", room); };
-        engine.VVL_RoomLeft = [this](Long room) { Note("Left", room); };
-        engine.VVL_RoomAudioStarted = [this](Long room) { Note("RoomAudioStarted", room); };
-        engine.VVL_RoomAudioStopped = [this](Long room) { Note("RoomAudioStopped", room); };
         engine.VVL_RoomStatusChanged = [this](Long room) { statuses.push_back(engine.RoomStatus(room)); };
     }
 
-    void Note(const std::string& name, Long room) { events.push_back(name + " " + std::to_string(room)); }
     void StartEngine() {
         ASSERT_TRUE(engine.Start(3));
         Run();
@@ -39,13 +29,13 @@ protected:
     }
     Texts Run(Long milliseconds = 0) {
         loop.Run(milliseconds);
-        return std::exchange(events, {});
+        return events.Take();
     }
 
     HandLoop loop;
     SoundDevices devices;
     VoiceEngine engine{loop, devices};
-    Texts events;
+    EngineEvents events{engine};
     Texts statuses;
 };
 
@@ -110,7 +100,7 @@ TEST_F(VoiceEngineTest, LeavingTellsOnlyWhoWasIn) {
     EXPECT_TRUE(Run().empty());
     Enter(0);
     engine.RoomLeave(0);
-    EXPECT_TRUE(events.empty());
+    EXPECT_TRUE(events.Seen().empty());
     EXPECT_EQ(Run(), (Texts{"AudioStopped", "Left 0"}));
     EXPECT_EQ(engine.RoomStatus(0), "");
 }

@@ -2,11 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <utility>
 #include <vector>
 
 #include "adapters/embedded/SoundDevices.h"
 #include "adapters/embedded/VoiceEngine.h"
+#include "tests/shared/EngineEvents.h"
 #include "tests/shared/HandLoop.h"
 
 namespace orvelle::ends {
@@ -17,23 +17,12 @@ using Texts = std::vector<std::string>;
 class VoiceEngineEndTest : public testing::Test {
 protected:
     VoiceEngineEndTest() {
-        end.VVL_Started = [this] { events.push_back("Started"); };
-        end.VVL_Stopped = [this] { events.push_back("Stopped"); };
-        end.VVL_AudioStarted = [this] { events.push_back("AudioStarted"); };
-        end.VVL_AudioStopped = [this] { events.push_back("AudioStopped"); };
-        end.VVL_RoomJoinSucceed = [this](Long room) { Note("JoinSucceed", room); };
-        end.VVL_RoomJoinFailed = [this](Long room) { Note("JoinFailed", room); };
-        end.VVL_RoomKicked = [this](Long room) { Note("Kicked", room); };
-        end.VVL_RoomLeft = [this](Long room) { Note("Left", room); };
-        end.VVL_RoomAudioStarted = [this](Long room) { Note("RoomAudioStarted", room); };
-        end.VVL_RoomAudioStopped = [this](Long room) { Note("RoomAudioStopped", room); };
-        end.VVL_RoomStatusChanged = [this](Long room) { Note(end.RoomStatus(room), room); };
+        end.VVL_RoomStatusChanged = [this](Long room) { events.Note(end.RoomStatus(room), room); };
     }
 
-    void Note(const std::string& name, Long room) { events.push_back(name + " " + std::to_string(room)); }
     Texts Run() {
         loop.Run();
-        return std::exchange(events, {});
+        return events.Take();
     }
 
     HandLoop loop;
@@ -46,7 +35,7 @@ protected:
                            ++asked;
                            return ServingEngine::Of(*chosen);
                        }};
-    Texts events;
+    EngineEvents events{end};
 };
 
 TEST_F(VoiceEngineEndTest, EveryCallAndEventPasses) {
@@ -93,7 +82,7 @@ TEST_F(VoiceEngineEndTest, AChoiceIsAskedForBeforeAStartAloneAndHoldsWhileTheEng
     EXPECT_EQ(asked, 1);
     EXPECT_TRUE(second.IsRunning());
     EXPECT_FALSE(first.IsRunning());
-    EXPECT_EQ(std::exchange(events, {}), Texts{"Started"});
+    EXPECT_EQ(events.Take(), Texts{"Started"});
     first.Start(EngineMode);
     EXPECT_TRUE(Run().empty()) << "what does not serve is not heard of";
     end.Stop();

@@ -6,7 +6,7 @@
 
 #include "adapters/embedded/SoundDevices.h"
 #include "adapters/embedded/VoiceEngine.h"
-#include "tests/apps/voice/EngineEvents.h"
+#include "tests/shared/EngineEvents.h"
 #include "tests/shared/HandLoop.h"
 
 namespace orvelle {

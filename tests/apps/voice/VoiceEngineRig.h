@@ -13,11 +13,11 @@
 
 #include "adapters/linux/PollEventLoop.h"
 #include "apps/voice/VoiceEngine.h"
-#include "tests/apps/voice/EngineEvents.h"
 #include "tests/linux/ServeUntil.h"
 #include "tests/pulse/ServerHand.h"
 #include "tests/pulse/SoundProbe.h"
 #include "tests/pulse/SoundServers.h"
+#include "tests/shared/EngineEvents.h"
 #include "tests/shared/OwnFolder.h"
 
 namespace orvelle {

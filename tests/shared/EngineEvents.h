@@ -29,10 +29,9 @@ public:
 
     std::vector<std::string> Take() { return std::exchange(list, {}); }
     const std::vector<std::string>& Seen() const { return list; }
-
-private:
     void Note(const std::string& name, Long room) { list.push_back(name + " " + std::to_string(room)); }
 
+private:
     std::vector<std::string> list;
 };
 
