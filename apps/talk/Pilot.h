@@ -4,13 +4,13 @@
 #pragma once
 
 #include <QDir>
-#include <QImage>
 #include <QProcess>
 #include <memory>
 #include <string>
 
 #include "apps/UserStrokes.h"
 #include "apps/three/SetUpWatch.h"
+#include "apps/three/VirtualComputer.h"
 #include "platform/EventLoop.h"
 
 namespace orvelle {
@@ -25,9 +25,9 @@ public:
     ~Pilot();
 
     std::string Callsign() const;
-    QString RunFolder() const { return home.filePath("run"); }
+    QString RunFolder() const { return computer.RunFolder(); }
 
-    void SwitchOn();  // the display
+    void SwitchOn() { computer.SwitchOn(); }  // the display
     bool IsOn();
     void StartSimulator();
     bool SimulatorServes();
@@ -41,28 +41,23 @@ public:
     void PressTalkKey() { keyboard->Press(F8); }
     void ReleaseTalkKey() { keyboard->Release(F8); }
 
-    QImage Screen() const;
+    QImage Screen() const { return computer.Screen(); }
 
 private:
     static constexpr int F8 = 66 + 8;  // of linux/input-event-codes.h, as X servers count
 
     void SetUpPanel();
-    void Run(QProcess& program, const char* file, const QStringList& words);
+    QString SetUpFolder() const { return computer.Home.filePath("c01"); }
 
     EventLoop& loop;
     const std::size_t number;
-    const QDir home;
-    const QString script;
+    VirtualComputer computer;
     const int port;
-    QString display;
-    QString sessionBus;
     std::unique_ptr<UserStrokes> keyboard;
     std::unique_ptr<SetUpWatch> watch;
-    QProcess desktop;
     QProcess simulator;
     QProcess adding;
-    QProcess joining;
-    QString code;
+    bool isJoining = false;
     QProcess panel;
 };
 

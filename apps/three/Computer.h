@@ -1,12 +1,10 @@
-// A computer of the story with a panel: a virtual display with window manager, tray and session bus, and a home that
-// stays when it is switched off. RogerWilco is ticked for COM1 there, with F8 of the simulator's computer as
-// push-to-talk and a stand-in in the place of the voice program. All ends with the object.
+// A computer of the story with a panel, which can be stopped and broken in one instant. RogerWilco is ticked for COM1
+// there, with F8 of the simulator's computer as push-to-talk and a stand-in in the place of the voice program. All ends
+// with the object.
 #pragma once
 
 #include <QDir>
-#include <QImage>
 #include <QProcess>
-#include <QString>
 #include <memory>
 #include <string>
 #include <vector>
@@ -14,6 +12,7 @@
 #include "adapters/x11/TopLevelWindows.h"
 #include "apps/KeyWatch.h"
 #include "apps/VoiceStandIn.h"
+#include "apps/three/VirtualComputer.h"
 #include "platform/EventLoop.h"
 
 namespace orvelle {
@@ -29,13 +28,9 @@ public:
     const int Identity;
     std::string Name() const;  // "c02"
 
-    void SwitchOn();  // its display
-    bool IsOn();      // from when that is there
-    // By the code that was made for it: orvelle-setup. The broker may take it only a moment after it was made, so it is
-    // typed again until it is taken.
-    void Join(const std::string& code, int brokerPort);
-    bool HasJoined();
-    const std::string& SaidOfJoining() const { return saidOfJoining; }
+    VirtualComputer Desktop;
+
+    bool IsOn();  // from when its display is there
     void StartPanel();
     bool ShowsPanel();  // its window is on the display
 
@@ -44,27 +39,17 @@ public:
     // After that, for good: its panel is killed where it stands.
     void BreakDown();
 
-    QImage Screen() const;  // none while it is off
     std::vector<int> KeysDown() const;
     std::string VoiceCalls() const { return voiceProgram.Calls(); }
 
 private:
     void SetUpPanel(EventLoop& loop);
-    void Run(QProcess& program, const QString& file, const QStringList& words);
     void SwitchOff();
 
-    const QDir home;
-    const QString script;
     VoiceStandIn voiceProgram;
-    QString display;  // "" while it is off
-    QString sessionBus;
     std::unique_ptr<KeyWatch> keys;
     std::unique_ptr<TopLevelWindows> windows;
-    QProcess desktop;
     bool standsStill = false;
-    QProcess joining;
-    QStringList joiningWords;
-    std::string saidOfJoining;
     QProcess panel;
 };
 

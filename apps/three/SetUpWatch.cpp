@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "adapters/mqtt/OwnSetUp.h"
 #include "adapters/mqtt/Payloads.h"
 #include "adapters/mqtt/Topics.h"
 #include "platform/VoiceRoles.h"
@@ -11,6 +12,13 @@
 namespace orvelle {
 
 using mqtt::Program;
+
+std::unique_ptr<SetUpWatch> SetUpWatch::OfMade(EventLoop& loop, const std::filesystem::path& folder) {
+    const mqtt::OwnSetUp made(folder);
+    const auto setting = made.Read().Setting;
+    const auto own = setting ? made.OfThisComputer(*setting) : std::nullopt;
+    return own ? std::make_unique<SetUpWatch>(loop, *own) : nullptr;
+}
 
 SetUpWatch::SetUpWatch(EventLoop& loop, const mqtt::SetUpSetting& setUp)
     : simulator(setUp.Identity), connection(loop), presences(loop) {

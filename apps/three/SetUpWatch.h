@@ -3,7 +3,9 @@
 // computer, and can so set the session for its program by hand.
 #pragma once
 
+#include <filesystem>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -17,6 +19,9 @@ class SetUpWatch {
 public:
     // As the simulator's computer knows its set-up. Tried until the broker can be had.
     SetUpWatch(EventLoop& loop, const mqtt::SetUpSetting& setUp);
+
+    // The one that orvelle-sim keeps in that folder; none until it has made it.
+    static std::unique_ptr<SetUpWatch> OfMade(EventLoop& loop, const std::filesystem::path& folder);
 
     // The program of the simulator's computer is there and offers both links.
     bool SimulatorServes() const;

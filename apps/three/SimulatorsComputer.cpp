@@ -37,12 +37,7 @@ void SimulatorsComputer::Start() {
 }
 
 bool SimulatorsComputer::Serves() {
-    if (!watch) {
-        const mqtt::OwnSetUp made(folder.toStdString());
-        const auto setting = made.Read().Setting;
-        if (const auto own = setting ? made.OfThisComputer(*setting) : std::nullopt)
-            watch = std::make_unique<SetUpWatch>(loop, *own);
-    }
+    if (!watch) watch = SetUpWatch::OfMade(loop, folder.toStdString());
     return watch && watch->SimulatorServes();
 }
 

@@ -47,7 +47,7 @@ bool Story::Play() {
 bool Story::MakeSetUp() {
     telling.Happens("orvelle-sim is started on c01, the simulator's computer; the other computers are switched on.");
     simulator.Start();
-    for (const auto& each : computers) each->SwitchOn();
+    for (const auto& each : computers) each->Desktop.SwitchOn();
     return telling.Comes("The set-up is made. Its broker serves, encrypted, at port " +
                              std::to_string(simulator.Port()) + ", and c01 offers keys, session and radios.",
                          [this] { return simulator.Serves(); }) &&
@@ -64,9 +64,9 @@ bool Story::JoinAll() {
         const auto isMade = [&] { return !(code = simulator.Code()).empty(); };
         if (!telling.Comes([&] { return "The code for it is " + code; }, isMade)) return false;
         telling.Happens("On " + each->Name() + " it is typed: orvelle-setup --join " + code);
-        each->Join(code, simulator.Port());
-        if (!telling.Comes([&] { return "orvelle-setup says: " + each->SaidOfJoining(); },
-                           [&] { return each->HasJoined(); }))
+        each->Desktop.Join(code, simulator.Port());
+        if (!telling.Comes([&] { return "orvelle-setup says: " + each->Desktop.SaidOfJoining(); },
+                           [&] { return each->Desktop.HasJoined(); }))
             return false;
     }
     return true;
@@ -136,7 +136,7 @@ bool Story::LoseHolder() {
 bool Story::ComeBack() {
     Computer& back = *computers.front();
     telling.Happens(back.Name() + ", whose programs were killed meanwhile, is switched on again.");
-    back.SwitchOn();
+    back.Desktop.SwitchOn();
     if (!telling.Comes("Its display is there.", [&] { return back.IsOn(); })) return false;
     telling.Happens("Its panel is started.");
     back.StartPanel();
@@ -171,7 +171,8 @@ bool Story::LetsGoOfRole(Computer& computer) {
 
 bool Story::TakePicture(const std::string& name) {
     std::vector<CaptionedScreen> screens;
-    for (const auto& each : computers) screens.push_back({ToQt(each->Name()), ToQt(StateOf(*each)), each->Screen()});
+    for (const auto& each : computers)
+        screens.push_back({ToQt(each->Name()), ToQt(StateOf(*each)), each->Desktop.Screen()});
     const QString file = pictures.filePath(ToQt(name));
     const bool isKept = SideBySide(screens).save(file);
     telling.Happens((isKept ? "Picture: " : "This picture can't be written: ") + FromQt(file));
