@@ -1,0 +1,41 @@
+// Directories fetched by HTTPS from the addresses that the user has entered (directory-addresses.json in the data
+// folder): at the start, every 15 minutes, and when asked. What was fetched is kept with its ETag in the folder
+// directory-copies, and counts while its address can't be had; a trouble is told once, until it is over. The fetching
+// is curl's, as a child: HTTPS alone, at most 5 redirects, a minute and LongestDirectory bytes, certificates checked.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/EventLoop.h"
+#include "simulators/directory/Directories.h"
+
+namespace orvelle::directory {
+
+class DirectoryAddresses : public DirectorySource {
+public:
+    static constexpr Long PeriodMilliseconds = 15 * 60 * 1000;
+
+    // `data` is the data folder.
+    DirectoryAddresses(EventLoop& eventLoop, std::filesystem::path data);
+    ~DirectoryAddresses() override;
+
+    const std::vector<Found>& Directories() const override;
+    std::vector<std::string> Addresses() const;
+    // Keeps them in this order, and fetches new ones at once. "" for success, else one sentence: an address that is
+    // none
+    // ("https://" is put before a bare one, "http://" is refused), or a file that can't be written.
+    std::string Enter(const std::vector<std::string>& addresses);
+    void FetchNow();
+
+    Event<const std::string&> Told;  // a sentence for the user, once for each trouble
+
+private:
+    struct Parts;
+
+    const std::unique_ptr<Parts> parts;
+};
+
+}  // namespace orvelle::directory

@@ -1,0 +1,29 @@
+// Directories that computers of the set-up hold as retained messages of the broker, each the file as it is, at
+// orvelle/1/<identity>/directory/<NAME>; an empty one takes it away. So a club's own tool can write one, and a bridge
+// of the broker can bring a club's. Whoever hears the broker hands on what it heard.
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "simulators/directory/Directories.h"
+
+namespace orvelle::directory {
+
+class DirectoryTopics : public DirectorySource {
+public:
+    // `holder` "c03"; an empty text takes it away.
+    void Hear(const std::string& holder, const std::string& name, const std::string& text);
+    // The broker is another one, or has nothing any more.
+    void Forget();
+
+    const std::vector<Found>& Directories() const override { return found; }
+
+private:
+    void Gather();
+
+    std::map<std::pair<std::string, std::string>, Found> heard;  // by name, then holder
+    std::vector<Found> found;
+};
+
+}  // namespace orvelle::directory

@@ -1,0 +1,55 @@
+// FlightGear, read by the lines that its generic output sends to a UDP socket of this computer's loopback, 20 a second,
+// each the whole state. The protocol file orvelle.xml tells it what to put into a line; FlightGear opens no port for
+// it. The socket takes what comes over loopback alone.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "adapters/shared/FileDescriptor.h"
+#include "simulators/SimulatorLife.h"
+#include "simulators/SimulatorSource.h"
+#include "simulators/flightgear/AircraftOverrides.h"
+
+namespace orvelle::simulators {
+
+class FlightGearLine : public SimulatorSource {
+public:
+    static constexpr std::uint16_t UsualPort = 5601;
+
+    // `port` 0 takes any free one, for tests. A port that can't be had is told by Problem, and tried again.
+    FlightGearLine(EventLoop& eventLoop, ProcessQuestions questions, AircraftOverrides aircraft,
+                   std::uint16_t port = UsualPort);
+
+    std::string Name() const override { return "FlightGear"; }
+    Presence Stands() const override { return life.Stands(); }
+    int Run() const override { return life.Run(); }
+    const std::optional<SimulatorState>& State() const override { return state; }
+    bool IsProgram(const std::string& executable) const override { return executable == "fgfs"; }
+    std::string Problem() const override;
+
+    std::uint16_t Port() const { return port; }
+    // Lines so far, and those among them that were none and were left out.
+    unsigned long Lines() const { return lines; }
+    unsigned long Refused() const { return refused; }
+
+private:
+    void Listen();
+    void Serve();
+    void Follow();
+
+    EventLoop& loop;
+    const ProcessQuestions questions;
+    const AircraftOverrides overrides;
+    std::uint16_t port;
+    FileDescriptor socket;
+    SimulatorLife life;
+    std::optional<SimulatorState> state;
+    unsigned long lines = 0;
+    unsigned long refused = 0;
+    std::string problem;
+    Ticket readable, again;
+};
+
+}  // namespace orvelle::simulators

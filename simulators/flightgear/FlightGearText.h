@@ -1,0 +1,31 @@
+// One line of FlightGear's generic output as orvelle.xml shapes it: members NAME=VALUE parted by commas, the callsign
+// last, since it may hold a comma itself:
+//
+//   COM1=118.305,COM2=121.500,OP1=1,OP2=1,VOL1=0.700,VOL2=0.700,TX=1,PTT=0,ONLINE=1,PAUSED=0,LAT=63.98500,LON=-22.60560,
+//   ALT=171.0,AIRCRAFT=c172p,CS=D-EABC
+//
+// Members may be missing but for one frequency, and their order is free but for the last; unknown ones are those that
+// overrides of aircraft ask for. Frequencies are numbers, with a point or a comma-free decimal alone.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "simulators/SimulatorState.h"
+
+namespace orvelle::simulators {
+
+struct FlightGearWords {
+    SimulatorState State;
+    std::map<std::string, std::string> Others;  // members that are not ours, by their names
+};
+
+constexpr std::size_t LongestFlightGearLine = 1024;  // bytes
+
+// Nothing for a text that is no such line: a number that is none, or that can't be, no frequency at all. A line that
+// was cut loses its last member.
+std::optional<FlightGearWords> ReadFlightGearLine(std::string_view line);
+
+}  // namespace orvelle::simulators
