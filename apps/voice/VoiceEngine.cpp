@@ -19,7 +19,9 @@ VoiceEngine::VoiceEngine(EventLoop& eventLoop, VoiceDevices& voiceDevices, Voice
       rooms(*this, [this](std::function<void()> event) {
           changes.Mark();
           if (inbox) inbox->Post(std::move(event));
-      }) {}
+      }) {
+    rooms.Told = [this](const std::string& sentence) { Told(sentence); };
+}
 
 VoiceEngine::~VoiceEngine() { Stop(); }
 
@@ -142,7 +144,7 @@ bool VoiceEngine::RoomJoin(Long room, const std::string& clientName, const std::
     std::string why;
     const std::optional<mumble::RoomAddress> address = mumble::ReadRoomAddress(roomAddress, why);
     if (!address) {
-        rooms.Refuse(room, why);
+        rooms.Refuse(room, clientName, roomAddress, why);
         return false;
     }
     Do([room, clientName, address = *address, attempt = rooms.Join(room, clientName, roomAddress)](VoiceWork& voice) {
