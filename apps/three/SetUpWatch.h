@@ -1,6 +1,6 @@
 // Looks on at a set-up from its broker: which programs are there, which panel holds a role, as every member of the
-// set-up counts it, and what is held on the simulator's computer. It is no member itself and ends no other connection, but comes with the key of the simulator's
-// computer, and can so set the session for its program by hand.
+// set-up counts it, and what is held on the simulator's computer. It is no member itself and ends no other connection,
+// but comes with the key of the simulator's computer, and can so set the session for its program by hand.
 #pragma once
 
 #include <filesystem>
