@@ -26,7 +26,7 @@ PressListener::PressListener(pulse::SoundProbe& soundProbe, std::string source)
     probe.Record(ear);
 }
 
-void PressListener::Hear(PressWay& way) {
+bool PressListener::Hear(PressWay& way) {
     Pause(milliseconds(300), milliseconds(700));
     probe.Take(ear);
     const pulse::Moment pressed = way.Press();
@@ -37,12 +37,13 @@ void PressListener::Hear(PressWay& way) {
     const auto sounds = probe.Take(ear).Sounds();
     if (!isHeard || !isSilent) {
         ++way.Lost;
-        return;
+        return false;
     }
     way.ToSound.push_back(MillisecondsBetween(pressed, sounds.front().first));
     const double toSilence = MillisecondsBetween(released, sounds.back().second);
     if (sounds.size() > 1 || toSilence < 0) ++way.Broken;
     if (toSilence >= 0) way.ToSilence.push_back(toSilence);
+    return true;
 }
 
 // The loop is served in steps, the end of the pause is not one of them.

@@ -29,8 +29,8 @@ public:
     // The probe outlives this object. `source` as it records.
     PressListener(pulse::SoundProbe& probe, std::string source);
 
-    // One press and its release.
-    void Hear(PressWay& way);
+    // One press and its release; false where it is lost.
+    bool Hear(PressWay& way);
 
 private:
     void Pause(std::chrono::microseconds least, std::chrono::microseconds most);

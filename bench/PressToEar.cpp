@@ -50,7 +50,7 @@ public:
     bool Print() const;
 
 private:
-    void Hear();
+    bool Hear();
     Moment Say(const char* command);
     void TakeInput(const SimulatorInput& input);
 
@@ -85,19 +85,22 @@ void PressToEar::Begin() {
 
 // Of the first ones the ways' own beginnings are a part.
 void PressToEar::Measure(int presses) {
-    Hear();
+    if (!Hear()) throw std::runtime_error("a first press is not heard, or not followed by silence");
     for (PressWay* const each : {&button, &alone}) *each = {each->Press, each->Release};
     toBroker.clear();
     for (int press = 0; press < presses; ++press) Hear();
 }
 
-void PressToEar::Hear() {
-    listener.Hear(button);
-    listener.Hear(alone);
-    // What the engines tell is read as it comes, so that neither waits for that.
-    listening.Await("quiet 0");
-    listening.Await("quiet 0");
-    compared.Await("quiet 0");
+// Of each way once; false where one is lost. What the engines tell is read as it comes, so that neither waits for that.
+bool PressToEar::Hear() {
+    const bool isButtonHeard = listener.Hear(button);
+    if (isButtonHeard) {
+        listening.Await("quiet 0");
+        compared.Await("quiet 0");
+    }
+    const bool isAloneHeard = listener.Hear(alone);
+    if (isAloneHeard) listening.Await("quiet 0");
+    return isButtonHeard && isAloneHeard;
 }
 
 Moment PressToEar::Say(const char* command) {
