@@ -29,7 +29,7 @@ SimulatorsComputer::~SimulatorsComputer() {
 }
 
 void SimulatorsComputer::Start() {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    QProcessEnvironment environment = Environment;
     // Its keys are those of its display.
     environment.insert("XDG_SESSION_TYPE", "x11");
     program.setProcessEnvironment(environment);

@@ -14,11 +14,10 @@ constexpr Long QuietBetween = pulse::QuietBetweenSounds;
 
 }  // namespace
 
-double HeardBursts::Part(double part) const {
-    if (Delays.empty()) return 0;
-    std::vector<double> sorted = Delays;
-    std::ranges::sort(sorted);
-    return sorted[std::min(sorted.size() - 1, static_cast<std::size_t>(part * static_cast<double>(sorted.size())))];
+double PartOf(std::vector<double> delays, double part) {
+    if (delays.empty()) return 0;
+    std::ranges::sort(delays);
+    return delays[std::min(delays.size() - 1, static_cast<std::size_t>(part * static_cast<double>(delays.size())))];
 }
 
 std::string HeardBursts::Text() const {

@@ -14,6 +14,9 @@ constexpr Long BurstMilliseconds = 120;
 constexpr Long BurstPeriod = 500;
 constexpr double BurstHertz = 1000;
 
+// The delay that this part of them does not exceed; 0 of none.
+double PartOf(std::vector<double> delays, double part);
+
 struct HeardBursts {
     std::vector<double> Delays;  // in milliseconds, of those that were heard; in their order
     int Spoken = 0;
@@ -22,8 +25,7 @@ struct HeardBursts {
     // A machine that is very busy misses some at the sound server itself.
     bool MostWereHeard() const { return Lost * 4 < Spoken; }
     double Median() const { return Part(0.5); }
-    // The delay that this part of them does not exceed.
-    double Part(double part) const;
+    double Part(double part) const { return PartOf(Delays, part); }
     std::string Text() const;  // one line for people; with each delay where one was lost or late
 };
 
