@@ -1,0 +1,26 @@
+// What the machine itself takes and loses: the sound server's own loopback, with a buffer like our outputs', from a
+// microphone into an ear of its own, while our engine carries the same sound. What did not come through here in time
+// tells nothing of our engine. Ends with the object; std::runtime_error where it can't be had.
+#pragma once
+
+#include <string>
+
+#include "tests/heard/SoundOfComputers.h"
+
+namespace orvelle::heard {
+
+class Reference {
+public:
+    Reference(SoundOfComputers& sounds, const std::string& microphone);
+    Reference(const Reference&) = delete;
+    Reference& operator=(const Reference&) = delete;
+    ~Reference();
+
+    static constexpr const char* Ear = "reference.monitor";
+
+private:
+    SoundOfComputers& sounds;
+    std::string module;
+};
+
+}  // namespace orvelle::heard
