@@ -6,6 +6,8 @@
 #include <optional>
 #include <utility>
 
+#include "tests/heard/Median.h"
+
 namespace orvelle::heard {
 
 namespace {
@@ -15,17 +17,10 @@ using Milliseconds = std::chrono::duration<double, std::milli>;
 using Sounds = std::vector<std::pair<pulse::Moment, pulse::Moment>>;
 
 constexpr Long QuietBetween = pulse::QuietBetweenSounds;
-// What the reference may take where the sound server and the probe were served in time, and the silence and the length
-// by which a burst with a hole is known.
+// What the reference may take where the sound server and the probe were served in time, and the length of a
+// burst without a hole.
 constexpr double MostOfReference = 60;
-constexpr Long Hole = 5;
 constexpr double LeastOfBurst = BurstMilliseconds - 10;
-
-double PartOf(std::vector<double> delays, double part) {
-    if (delays.empty()) return 0;
-    std::ranges::sort(delays);
-    return delays[std::min(delays.size() - 1, static_cast<std::size_t>(part * static_cast<double>(delays.size())))];
-}
 
 // The first sound that began then or within a period; null where there is none.
 const Sounds::value_type* BeganAfter(const Sounds& sounds, pulse::Moment moment) {
@@ -77,7 +72,7 @@ HeardBursts CompareAll(const pulse::SoundRecording& mouth, const pulse::SoundRec
 }  // namespace
 
 double HeardBursts::Part(double part) const { return PartOf(Delays, part); }
-double HeardBursts::OursInTheMedian() const { return PartOf(Ours, 0.5); }
+double HeardBursts::OursInTheMedian() const { return MedianOf(Ours); }
 
 std::string HeardBursts::Text() const {
     char text[300];

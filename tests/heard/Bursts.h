@@ -13,6 +13,7 @@ namespace orvelle::heard {
 constexpr Long BurstMilliseconds = 120;
 constexpr Long BurstPeriod = 500;
 constexpr double BurstHertz = 1000;
+constexpr Long Hole = 5;  // milliseconds of silence
 
 struct HeardBursts {
     std::vector<double> Delays;  // in milliseconds, of those that were heard; in their order

@@ -10,17 +10,28 @@ const std::string Sink = "reference";
 
 }  // namespace
 
-// The server lets a loopback's delay grow wherever it was late, unless it may not.
-Reference::Reference(SoundOfComputers& ofComputers, const std::string& microphone) : sounds(ofComputers) {
+Reference::Reference(SoundOfComputers& ofComputers, const std::string& microphone)
+    : sounds(ofComputers), source(microphone) {
     sounds.Add(Sink);
-    module = pulse::Pactl({"load-module", "module-loopback", "source=" + microphone, "sink=" + Sink,
-                           "latency_msec=20", "max_latency_msec=30", "source_dont_move=true", "sink_dont_move=true"});
-    if (module.empty()) throw std::runtime_error("the sound server has no loopback");
+    Load();
 }
 
 Reference::~Reference() {
-    pulse::Pactl({"unload-module", module});
+    Unload();
     sounds.Pull(Sink);
 }
+
+void Reference::Renew() {
+    Unload();
+    Load();
+}
+
+void Reference::Load() {
+    module = pulse::Pactl({"load-module", "module-loopback", "source=" + source, "sink=" + Sink, "latency_msec=20",
+                           "max_latency_msec=30", "source_dont_move=true", "sink_dont_move=true"});
+    if (module.empty()) throw std::runtime_error("the sound server has no loopback");
+}
+
+void Reference::Unload() { pulse::Pactl({"unload-module", module}); }
 
 }  // namespace orvelle::heard

@@ -16,10 +16,17 @@ public:
     Reference& operator=(const Reference&) = delete;
     ~Reference();
 
+    // As a server that was late once may keep it late for ever.
+    void Renew();
+
     static constexpr const char* Ear = "reference.monitor";
 
 private:
+    void Load();
+    void Unload();
+
     SoundOfComputers& sounds;
+    const std::string source;
     std::string module;
 };
 
