@@ -43,6 +43,7 @@ std::optional<double> TakenBy(const Sounds& reference, pulse::Moment began) {
 HeardBursts CompareAll(const pulse::SoundRecording& mouth, const pulse::SoundRecording& ear,
                        const pulse::SoundRecording* reference) {
     HeardBursts heard;
+    int excused = 0;
     if (ear.Samples().empty() || (reference && reference->Samples().empty())) return heard;
     pulse::Moment end = ear.At(ear.Samples().size() - 1);
     if (reference) end = std::min(end, reference->At(reference->Samples().size() - 1));
@@ -54,7 +55,7 @@ HeardBursts CompareAll(const pulse::SoundRecording& mouth, const pulse::SoundRec
         if (began <= mouth.At(0) + std::chrono::milliseconds(QuietBetween)) continue;
         const std::optional<double> taken = reference ? TakenBy(referenceSounds, began) : 0;
         if (!taken) {
-            ++heard.Excused;
+            ++excused;
             continue;
         }
         ++heard.Spoken;
@@ -66,6 +67,8 @@ HeardBursts CompareAll(const pulse::SoundRecording& mouth, const pulse::SoundRec
         heard.Delays.push_back(Between(began, came->first));
         if (reference) heard.Ours.push_back(heard.Delays.back() - *taken);
     }
+    // What was late beside one of them, or has grown by that, is excused as well.
+    if (excused > 0) return {.Excused = heard.Spoken + excused};
     return heard;
 }
 

@@ -16,8 +16,8 @@ constexpr double BurstHertz = 1000;
 constexpr Long Hole = 5;  // milliseconds of silence
 
 struct HeardBursts {
-    std::vector<double> Delays;  // in milliseconds, of those that were heard; in their order
-    std::vector<double> Ours;    // likewise what of each is more than the reference had, where there was one
+    std::vector<double> Delays{};  // in milliseconds, of those that were heard; in their order
+    std::vector<double> Ours{};    // likewise what of each is more than the reference had, where there was one
     int Spoken = 0;
     int Lost = 0;
     int Excused = 0;  // which the machine had no time for, as the reference tells; counted nowhere else
@@ -33,7 +33,7 @@ struct HeardBursts {
 // A burst counts as heard where a sound began in the ear within a period after it began in the mouth: the period is the
 // bound of every delay here. The last one of the mouth counts only if the ear was recorded for long enough.
 HeardBursts Compare(const pulse::SoundRecording& mouth, const pulse::SoundRecording& ear);
-// The same, but only those count that came through the reference in time and without a hole.
+// The same, but they count only where all came through the reference in time and without a hole.
 HeardBursts Compare(const pulse::SoundRecording& mouth, const pulse::SoundRecording& ear,
                     const pulse::SoundRecording& reference);
 
