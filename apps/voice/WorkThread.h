@@ -1,5 +1,5 @@
-// Work with sound, which lives on an urgent thread of its own, and its asker's way to it: tasks run there, in order, on the work itself.
-// Where the work could not be made they do nothing.
+// Work with sound, which lives on an urgent thread of its own, and its asker's way to it: tasks run there, in order, on
+// the work itself. Where the work could not be made they do nothing.
 #pragma once
 
 #include <functional>

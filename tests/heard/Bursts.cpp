@@ -24,8 +24,7 @@ constexpr double LeastOfBurst = BurstMilliseconds - 10;
 
 // The first sound that began then or within a period; null where there is none.
 const Sounds::value_type* BeganAfter(const Sounds& sounds, pulse::Moment moment) {
-    const auto next =
-        std::ranges::lower_bound(sounds, moment, {}, [](const auto& sound) { return sound.first; });
+    const auto next = std::ranges::lower_bound(sounds, moment, {}, [](const auto& sound) { return sound.first; });
     return next != sounds.end() && next->first < moment + std::chrono::milliseconds(BurstPeriod) ? &*next : nullptr;
 }
 

@@ -1,5 +1,6 @@
-// A panel whose thread is stuck for a second, as in a dialog or a driver that waits, talks and listens on: a steady tone
-// has no hole and no click. A machine without time tears holes of its own, but not each time; a stuck thread would.
+// A panel whose thread is stuck for a second, as in a dialog or a driver that waits, talks and listens on: a steady
+// tone has no hole and no click. A machine without time tears holes of its own, but not each time; a stuck thread
+// would.
 #include <iostream>
 
 #include "tests/heard/Clicks.h"

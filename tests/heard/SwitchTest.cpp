@@ -64,8 +64,7 @@ protected:
 
 TEST_F(SwitchTest, IsHeardSoonAndDoesNotClick) {
     std::size_t tries = 0;
-    for (; clicks.size() < Switches && tries < MostSwitches && !HasFailure(); ++tries)
-        SwitchTo(tries % 2 == 0 ? 1 : 0);
+    for (; clicks.size() < Switches && tries < MostSwitches && !HasFailure(); ++tries) SwitchTo(tries % 2 == 0 ? 1 : 0);
     std::cout << clicks.size() << " of " << tries << " switches: in the median " << MedianOf(toSounds)
               << " ms to sound, " << MedianOf(toSilences) << " ms to silence, click " << MedianOf(clicks) << " dB\n";
     ASSERT_EQ(clicks.size(), Switches) << "the machine had no time for more";
