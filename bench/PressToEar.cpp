@@ -22,6 +22,7 @@
 #include "bench/PressListener.h"
 #include "bench/TalkSetUp.h"
 #include "tests/heard/Bursts.h"
+#include "tests/heard/Median.h"
 #include "tests/heard/SoundOfComputers.h"
 #include "tests/heard/Trial.h"
 #include "tests/mumble/VoiceServerRig.h"

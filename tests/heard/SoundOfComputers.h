@@ -3,6 +3,7 @@
 // its sink; what is heard is recorded from the monitor of the ear. Computers count from 0.
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 #include "tests/pulse/SoundServers.h"
@@ -32,6 +33,9 @@ public:
     // One device goes, and comes back.
     void Pull(const std::string& sink);
     void Add(const std::string& sink);
+
+    // Which goes with this object.
+    const std::filesystem::path& Folder() const { return folder.Path(); }
 
 private:
     const int count;
