@@ -146,7 +146,10 @@ protected:
         const std::vector<float> tone = Tone(Tones[static_cast<std::size_t>(output)], speech::BlockMilliseconds);
         std::copy(tone.begin(), tone.end(), block.begin());
     }
-    void Speak(bool headset, bool speakers) { speaks = {headset, speakers}; }
+    void Speak(bool headset, bool speakers) {
+        speaks = {headset, speakers};
+        streams.RouseOutputs();
+    }
 
     // Whether the tone comes to be heard there, or not to be heard any more, for a tenth of a second.
     bool Hears(const std::string& source, double hertz) {
@@ -176,6 +179,7 @@ protected:
         return MedianDelay(Begins(probe->Recorded(MouthsMonitor)), Begins(recorded));
     }
     double PlayingDelay() {
+        streams.RouseOutputs();
         probe->Take("ear.monitor");
         std::vector<Moment> spoken;
         Moment next = Now();
