@@ -1,8 +1,9 @@
-// What the heard voice engine costs in three rooms, for bench/voice-cost: in silence, while it talks in all of them, and
-// while it hears somebody talk in all of them. With another build's folder the two builds take turns at one voice server
-// and one sound server, so that the computer's other load is shared by both.
+// What the heard voice engine costs in three rooms, for bench/voice-cost: in silence, while it talks in all of them,
+// and while it hears somebody talk in all of them. With another build's folder the two builds take turns at one voice
+// server and one sound server, so that the computer's other load is shared by both.
 //
-//   orvelle-voice-cost [SECONDS] [ROUNDS] [OTHER-BUILD]     SECONDS (5) a measurement, ROUNDS (3), whose medians are told
+//   orvelle-voice-cost [SECONDS] [ROUNDS] [OTHER-BUILD]     SECONDS (5) a measurement, ROUNDS (3), whose medians are
+//   told
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -28,7 +29,7 @@ using heard::SoundOfComputers;
 namespace {
 
 constexpr int Computers = 2;
-constexpr std::chrono::milliseconds Settling{500};
+constexpr std::chrono::milliseconds Settling{2500};  // until outputs of which nothing is heard rest
 
 struct Figures {
     std::vector<double> Percent;  // of a core

@@ -87,8 +87,7 @@ void OutputStream::WriteSilence(std::size_t mostSamples) {
     const std::size_t room = pa_stream_writable_size(stream);
     if (room == static_cast<std::size_t>(-1)) return;
     next.assign(std::min(room / sizeof(float), mostSamples), 0);
-    if (!next.empty())
-        pa_stream_write(stream, next.data(), next.size() * sizeof(float), nullptr, 0, PA_SEEK_RELATIVE);
+    if (!next.empty()) pa_stream_write(stream, next.data(), next.size() * sizeof(float), nullptr, 0, PA_SEEK_RELATIVE);
 }
 
 }  // namespace orvelle::pulse

@@ -75,8 +75,8 @@ void Enable(pa_io_event* event, pa_io_event_flags_t flags) {
     if (((before ^ flags) & PA_IO_EVENT_OUTPUT) == 0) return;
     event->Writable.End();
     if (flags & PA_IO_EVENT_OUTPUT)
-        event->Writable = event->Loop.WhenWritable(event->Descriptor,
-                                                   [event] { RunDescriptor(event, PA_IO_EVENT_OUTPUT); });
+        event->Writable =
+            event->Loop.WhenWritable(event->Descriptor, [event] { RunDescriptor(event, PA_IO_EVENT_OUTPUT); });
 }
 
 pa_io_event* NewDescriptor(pa_mainloop_api* api, int descriptor, pa_io_event_flags_t flags, pa_io_event_cb_t call,

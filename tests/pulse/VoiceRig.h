@@ -151,6 +151,15 @@ protected:
         streams.RouseOutputs();
     }
 
+    // Whether the outputs are asked for nothing any more; tells by a third of a second in which they weren't.
+    bool OutputsRest() {
+        long before = blocksWanted;
+        Moment since = Now();
+        return Until([&] {
+            if (std::exchange(before, blocksWanted) != blocksWanted) since = Now();
+            return Now() - since > std::chrono::milliseconds(330);
+        });
+    }
     // Whether the tone comes to be heard there, or not to be heard any more, for a tenth of a second.
     bool Hears(const std::string& source, double hertz) {
         return UntilNoticed([&] { return LevelThere(source, hertz) > LeastHeard; });
