@@ -110,7 +110,8 @@ void VoiceStream::Look() {
     ++stillFor;
     if (stillFor > LooksOfPatience) Stand();
     const bool isMade = pa_stream_get_state(stream) == PA_STREAM_READY;
-    if (stillFor > (isMade ? LooksUntilAnew : LooksOfPatience)) Close();
+    if (stillFor > (isMade ? LooksUntilAnew : LooksOfPatience)) return Close();
+    if (isMade) ShowLife();
 }
 
 void VoiceStream::Stand() {

@@ -47,6 +47,7 @@ protected:
     // The server has so many bytes, or room for them.
     virtual void Carry(std::size_t bytes) = 0;
     virtual void Forget() = 0;  // what is left of the stream before
+    virtual void ShowLife() {}  // at each look, where the server would not be heard of otherwise
 
     pa_stream* stream = nullptr;
     SoundPace pace;
