@@ -144,6 +144,7 @@ void SpeakerVoice::PrepareFirst() {
     if (packet.Opus.Blocks > 0) {
         blocksOfPacket = packet.Opus.Blocks;
         prepared = decoder.Decode(packet.Data);
+        counts.Played += prepared.size() / BlockSamples;
     }
     if (prepared.empty()) Conceal();
     next += packet.Opus.Blocks;

@@ -10,6 +10,7 @@
 #include <span>
 
 #include "adapters/speech/Block.h"
+#include "adapters/speech/BlockCounts.h"
 #include "adapters/speech/HeardVoice.h"
 #include "adapters/speech/PacketQueue.h"
 #include "adapters/speech/VoiceDecoder.h"
@@ -18,13 +19,6 @@ namespace orvelle::speech {
 
 class SpeakerVoice {
 public:
-    struct Counts {
-        unsigned long Restored = 0;   // blocks, from the packet that followed them
-        unsigned long Concealed = 0;  // blocks that were made up
-        unsigned long Late = 0;       // packets that came after their moment, or twice
-        unsigned long LeftOut = 0;    // blocks, so that the delay shrinks
-    };
-
     SpeakerVoice() = default;  // std::bad_alloc where the library has no memory
     SpeakerVoice(const SpeakerVoice&) = delete;
     SpeakerVoice& operator=(const SpeakerVoice&) = delete;
@@ -35,7 +29,7 @@ public:
     bool Take(Block& block);
     // The talk is over and was heard to its end: its last packet came, or none for 120 ms. So before the first one.
     bool HasEnded() const { return !playing && packets.IsEmpty(); }
-    const Counts& Counted() const { return counts; }
+    const BlockCounts& Counted() const { return counts; }
 
 private:
     enum class Arrival { InTime, Late, Anew };
@@ -54,7 +48,7 @@ private:
 
     PacketQueue packets;
     VoiceDecoder decoder;
-    Counts counts;
+    BlockCounts counts;
 
     bool playing = false;
     bool isLast = false;              // what is prepared ends the talk
