@@ -5,6 +5,7 @@
 
 #include <chrono>
 #include <string>
+#include <utility>
 
 #include "tests/heard/Bursts.h"
 #include "tests/heard/SoundOfComputers.h"
@@ -21,7 +22,8 @@ inline double MillisecondsBetween(pulse::Moment from, pulse::Moment to) {
 
 class EngineRig : public testing::Test {
 protected:
-    explicit EngineRig(int computers = 2) : sounds(computers) {}
+    explicit EngineRig(int computers = 2, mumble::VoiceServerSetting setting = {})
+        : sounds(computers), server(std::move(setting)) {}
 
     static std::string Mouth(int computer) { return SoundOfComputers::Mouth(computer); }
     static std::string Microphone(int computer) { return SoundOfComputers::Microphone(computer); }
