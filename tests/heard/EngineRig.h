@@ -24,6 +24,7 @@ class EngineRig : public testing::Test {
 protected:
     explicit EngineRig(int computers = 2, mumble::VoiceServerSetting setting = {})
         : sounds(computers), server(std::move(setting)) {}
+    explicit EngineRig(SoundOfComputers::Server kind) : sounds(2, kind) {}
 
     static std::string Mouth(int computer) { return SoundOfComputers::Mouth(computer); }
     static std::string Microphone(int computer) { return SoundOfComputers::Microphone(computer); }

@@ -3,6 +3,7 @@
 // its sink; what is heard is recorded from the monitor of the ear. Computers count from 0.
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "tests/pulse/SoundServers.h"
@@ -11,7 +12,8 @@ namespace orvelle::heard {
 
 class SoundOfComputers {
 public:
-    explicit SoundOfComputers(int computers = 2);
+    enum class Server { PulseAudio, PipeWire };
+    explicit SoundOfComputers(int computers = 2, Server kind = Server::PulseAudio);
 
     // The sink into which a mouth speaks, and the source that a program records.
     static std::string Mouth(int computer) { return "microphone" + std::to_string(computer); }
@@ -24,7 +26,7 @@ public:
     static std::string Ear(int computer, int output = 0) { return Output(computer, output) + ".monitor"; }
 
     // The whole server is killed, and is there again with all its devices.
-    void Kill() { server.Kill(); }
+    void Kill() { server->Kill(); }
     void Start();
     // One device goes, and comes back.
     void Pull(const std::string& sink);
@@ -33,7 +35,7 @@ public:
 private:
     const int count;
     pulse::SoundFolder folder;
-    pulse::PulseAudioServer server;
+    const std::unique_ptr<pulse::SoundServerProcesses> server;
 };
 
 }  // namespace orvelle::heard

@@ -36,17 +36,23 @@ protected:
     unsigned long Tunnelled() {
         return relay.Ask<unsigned long>([](VoiceRelay& at) { return at.Tunnelled; });
     }
-    // Bursts of the seconds that follow a moment: how much later they are heard, the last of them at least.
-    HeardBursts HeardSince(Moment woken, std::chrono::seconds after) {
+    // The bursts from two seconds after a moment on: how much later they are heard.
+    HeardBursts HeardSoonAfter(Moment woken) {
         HeardBursts heard;
-        EXPECT_TRUE(WaitUntil([&] { return std::chrono::steady_clock::now() > woken + after; }));
+        EXPECT_TRUE(WaitUntil([&] { return std::chrono::steady_clock::now() > woken + WantedWithin; }));
         probe.Take(Microphone(0));
         probe.Take(Ear(1));
         EXPECT_TRUE(WaitUntil([&] {
             heard = Compare(probe.Recorded(Microphone(0)), probe.Recorded(Ear(1)));
-            return heard.Spoken >= 4;
+            return heard.Spoken >= 5;
         }));
         return heard;
+    }
+    static int TimesTold(const Trial& trial, const std::string& line) {
+        const std::string told = "\n" + trial.Told();
+        int times = 0;
+        for (std::size_t at = told.find("\n" + line); at != told.npos; at = told.find("\n" + line, at + 1)) ++times;
+        return times;
     }
     void Sleep(Trial& trial) {
         trial.Kill(SIGSTOP);
@@ -66,15 +72,17 @@ TEST_F(SuspensionTest, AShortSleepIsSoonForgotten) {
     for (Trial* const who : {&listener, &speaker}) {
         Sleep(*who);
         const Moment woken = std::chrono::steady_clock::now();
-        const HeardBursts heard = HeardSince(woken, WantedWithin);
+        ASSERT_TRUE(WaitUntil([&] { return std::chrono::steady_clock::now() > woken + WantedWithin; }));
         const unsigned long before = Tunnelled();
-        const HeardBursts later = HeardSince(woken, WantedWithin);
+        const HeardBursts heard = HeardSoonAfter(woken);
         std::cout << (who == &listener ? "listener" : "speaker") << " slept three seconds: " << heard.Text() << '\n';
-        EXPECT_LT(heard.Part(0.25), DelayWanted);
         EXPECT_TRUE(heard.MostWereHeard());
+        EXPECT_LT(heard.Part(0.25), DelayWanted);
         EXPECT_LT(Tunnelled() - before, FewBytes) << "UDP is not used any more";
+        who->Say("works");
+        ASSERT_TRUE(who->Await("works 1 1 1")) << who->Told();
+        EXPECT_EQ(TimesTold(*who, "left"), 0) << who->Told();
     }
-    for (const Trial* const who : {&listener, &speaker}) EXPECT_EQ(who->Told().find("left"), std::string::npos);
 }
 
 TEST_F(SuspensionTest, ALongSleepThrowsNobodyOutForGood) {
@@ -83,11 +91,22 @@ TEST_F(SuspensionTest, ALongSleepThrowsNobodyOutForGood) {
     ASSERT_TRUE(server.HasLogged("Timeout", 3));
     listener.Kill(SIGCONT);
     const Moment woken = std::chrono::steady_clock::now();
-    for (int room = 0; room < 3; ++room)
-        ASSERT_TRUE(listener.Await("status")) << listener.Told();
-    const HeardBursts heard = HeardSince(woken, WantedWithin);
-    std::cout << "listener slept until the server had given it up: " << heard.Text() << '\n' << listener.Told();
+    ASSERT_TRUE(listener.Await("audio 0")) << listener.Told();
+    std::cout << "heard again after " << MillisecondsBetween(woken, std::chrono::steady_clock::now()) << " ms\n";
+    const HeardBursts heard = HeardSoonAfter(woken);
+    std::cout << "listener slept until the server had given it up: " << heard.Text() << '\n';
+    EXPECT_TRUE(heard.MostWereHeard());
     EXPECT_LT(heard.Part(0.25), DelayWanted);
+    listener.Say("works");
+    ASSERT_TRUE(listener.Await("works 1 1 1")) << listener.Told();
+    for (int room = 0; room < 3; ++room) {
+        const std::string number = std::to_string(room);
+        EXPECT_EQ(TimesTold(listener, "status " + number + " Reconnecting"), 1) << listener.Told();
+        EXPECT_EQ(TimesTold(listener, "status " + number + " In "), 2) << listener.Told();
+        // Where that took long it was left and joined, else neither.
+        EXPECT_EQ(TimesTold(listener, "joined " + number), TimesTold(listener, "left " + number) + 1);
+        EXPECT_LE(TimesTold(listener, "left " + number), 1);
+    }
 }
 
 }  // namespace orvelle::heard
