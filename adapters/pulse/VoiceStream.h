@@ -62,6 +62,7 @@ private:
     bool isMoving = false;
     Long stillFor = 0;  // looks
     std::optional<SoundPace::Moment> movedAt;
+    SoundPace::Moment evenSince{};  // it has moved without a pause
 };
 
 }  // namespace orvelle::pulse

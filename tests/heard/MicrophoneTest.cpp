@@ -2,7 +2,6 @@
 // gives nothing at all. What else the engine does goes on.
 #include <cmath>
 #include <iostream>
-#include <optional>
 
 #include "tests/heard/EngineRig.h"
 #include "tests/shared/OwnFolder.h"
@@ -29,54 +28,50 @@ protected:
         probe.Record(Ear(1));
     }
     void Join() {
-        ASSERT_TRUE(speaker->Join(0, server.Room("mouth"))) << speaker->Told();
-        ASSERT_TRUE(listener->Join(0, server.Room("mouth"))) << listener->Told();
-        speaker->Say("mute 0 0");
+        ASSERT_TRUE(speaker.Join(0, server.Room("mouth"))) << speaker.Told();
+        ASSERT_TRUE(listener.Join(0, server.Room("mouth"))) << listener.Told();
+        speaker.Say("mute 0 0");
+    }
+    pulse::SoundRecording HeardOfASecond() {
+        probe.Take(Ear(1));
+        EXPECT_TRUE(WaitUntil([this] { return probe.Recorded(Ear(1)).Samples().size() > Second; }));
+        return probe.Recorded(Ear(1));
     }
     // The other way, and the rooms.
     void OthersGoOn() {
         const HeardBursts heard = Hear(1, 0, 3);
         std::cout << "the other way: " << heard.Text() << '\n';
         EXPECT_TRUE(heard.MostWereHeard());
-        ASSERT_TRUE(speaker->Join(1, server.Room("other"))) << speaker->Told();
-        EXPECT_EQ(speaker->Told().find("left"), std::string::npos);
+        ASSERT_TRUE(speaker.Join(1, server.Room("other"))) << speaker.Told();
+        EXPECT_EQ(speaker.Told().find("left"), std::string::npos);
     }
 
-    std::optional<Trial> speaker{0};
-    std::optional<Trial> listener{1};
+    Trial speaker{0};
+    Trial listener{1};
 };
 
 }  // namespace
 
-TEST_F(MicrophoneTest, SilenceIsSilence) {
+TEST_F(MicrophoneTest, SilenceIsSilentAndFullScaleNoLouderThanThat) {
     ASSERT_NO_FATAL_FAILURE(Join());
     probe.Play(Mouth(0), std::vector<float>(Second), pulse::Playing::AgainAndAgain);
-    // With every sound let through somebody talks, of whom nothing is heard.
-    ASSERT_TRUE(listener->Await("audio 0"));
-    probe.Take(Ear(1));
-    ASSERT_TRUE(WaitUntil([this] { return probe.Recorded(Ear(1)).Samples().size() > Second; }));
-    EXPECT_LT(probe.Recorded(Ear(1)).Level(), -60);
-    // A squelch that lets anything be a sound takes it for none.
-    speaker->Say("squelch 1 0");
-    ASSERT_TRUE(listener->Await("quiet 0"));
-    listener->Say("mute 0 0");
-    OthersGoOn();
-}
+    // With every sound let through somebody talks, of whom nothing is heard; else nobody does.
+    ASSERT_TRUE(listener.Await("audio 0"));
+    EXPECT_LT(HeardOfASecond().Level(), -60);
+    speaker.Say("squelch 1 0");
+    ASSERT_TRUE(listener.Await("quiet 0"));
 
-TEST_F(MicrophoneTest, FullScaleIsHeardAsLoudAndNoLouder) {
-    ASSERT_NO_FATAL_FAILURE(Join());
     probe.Play(Mouth(0), SquareWave(), pulse::Playing::AgainAndAgain);
+    ASSERT_TRUE(listener.Await("audio 0"));
     ASSERT_TRUE(WaitUntil([this] { return IsHeardNow(Ear(1), 1000); }));
-    probe.Take(Ear(1));
-    ASSERT_TRUE(WaitUntil([this] { return probe.Recorded(Ear(1)).Samples().size() > Second; }));
-    const pulse::SoundRecording heard = probe.Recorded(Ear(1));
+    const pulse::SoundRecording heard = HeardOfASecond();
     std::cout << "square wave: " << heard.Level() << " dB, its tone " << heard.ToneLevel(1000) << " dB, of another one "
               << heard.ToneLevel(1400) << " dB\n";
     for (const float sample : heard.Samples()) ASSERT_LE(std::abs(sample), 1.0F);
     EXPECT_GT(heard.ToneLevel(1000), -12);
     EXPECT_GT(heard.ToneLevel(1000), heard.ToneLevel(1400) + 20);
     probe.Stop(Mouth(0));
-    listener->Say("mute 0 0");
+    listener.Say("mute 0 0");
     OthersGoOn();
 }
 
@@ -88,16 +83,16 @@ TEST_F(MicrophoneTest, OneThatGivesNothingDoesNotWork) {
                             "file=" + (folder.Path / "pipe").string(), "format=float32le", "rate=48000", "channels=1"}),
               "");
     ASSERT_NO_FATAL_FAILURE(Join());
-    listener->Say("mute 0 0");
+    listener.Say("mute 0 0");
     ASSERT_TRUE(WaitUntil([this] {
-        speaker->Say("works");
-        return speaker->Line("works") == "works 0 1 1";
-    })) << speaker->Told();
-    EXPECT_EQ(listener->Told().find("audio"), std::string::npos) << listener->Told();
-    EXPECT_EQ(speaker->Told().find("told"), std::string::npos) << speaker->Told();
+        speaker.Say("works");
+        return speaker.Line("works") == "works 0 1 1";
+    })) << speaker.Told();
+    EXPECT_EQ(listener.Told().find("audio"), std::string::npos) << listener.Told();
+    EXPECT_EQ(speaker.Told().find("told"), std::string::npos) << speaker.Told();
     OthersGoOn();
-    speaker->Say("works");
-    EXPECT_TRUE(speaker->Await("works 0 1 1")) << "and it still does not work";
+    speaker.Say("works");
+    EXPECT_TRUE(speaker.Await("works 0 1 1")) << "and it still does not work";
 }
 
 }  // namespace orvelle::heard

@@ -29,7 +29,7 @@ TEST_F(PipeWireTest, BurstsAreHeardAndPressAndReleaseToo) {
     ASSERT_TRUE(speaker.Join(0, server.Room("wire"))) << speaker.Told();
     ASSERT_TRUE(listener.Join(0, server.Room("wire"))) << listener.Told();
     speaker.Say("mute 0 0");
-    const HeardBursts heard = Hear(0, 1, 12);
+    const HeardBursts heard = Hear(0, 1, 8);
     std::cout << "ours to ours with PipeWire: " << heard.Text() << '\n';
     EXPECT_TRUE(heard.MostWereHeard());
     speaker.Say("mute 0 1");
