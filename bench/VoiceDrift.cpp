@@ -27,7 +27,7 @@ namespace {
 
 constexpr int Speaker = 0;
 constexpr int Listener = 1;
-constexpr int Loopback = 2;  // whose ear the sound server's loopback plays into
+constexpr int Loopback = 2;         // whose ear the sound server's loopback plays into
 constexpr double WantedDrift = 10;  // milliseconds, at the most
 
 void Print(const char* name, const HeardBursts& heard) {

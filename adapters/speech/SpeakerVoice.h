@@ -1,8 +1,9 @@
 // The voice of one speaker, from the packets as they come to the blocks as they are heard: in order, at an even pace
 // and as soon as it can be. It begins with ten milliseconds in hand. A packet that is missing is restored from the one
 // that follows it, else made up from what was heard; where nothing is in hand the delay grows, and where more than
-// needed was in hand for a second, half of that is left out; where this computer stood still, all of it. While packets get lost, one more is needed in hand, as the
-// next one restores it. Held for each speaker by each output, as outputs have clocks of their own.
+// needed was in hand for a second, half of that is left out; where this computer stood still, all of it. While packets
+// get lost, one more is needed in hand, as the next one restores it. Held for each speaker by each output, as outputs
+// have clocks of their own.
 #pragma once
 
 #include <cstdint>
@@ -62,7 +63,7 @@ private:
     Long blocksSilent = 0;            // taken since the talk's end
     Long blocksLate = 0;              // that came late since one was in time
     Long blocksSinceLoss = std::numeric_limits<Long>::max();
-    Long leastInHand = 0;   // before any block of the second that runs
+    Long leastInHand = 0;     // before any block of the second that runs
     Long blocksToSettle = 0;  // until what is in hand after a flood is known
     Long blocksOfSecond = 0;
 };

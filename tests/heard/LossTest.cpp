@@ -14,7 +14,7 @@ using mumble::VoiceRelay;
 
 namespace {
 
-constexpr int LossPercent = 5;  // each way
+constexpr int LossPercent = 5;             // each way
 constexpr unsigned long EnoughLost = 100;  // about a tenth of the frames, as both halves lose
 constexpr unsigned long ManyLost = 400;
 constexpr double WantedShare = 0.6;

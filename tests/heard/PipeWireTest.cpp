@@ -1,5 +1,5 @@
-// The voice from microphone to ear where the sound server is PipeWire, which serves PulseAudio's clients by a program of
-// its own.
+// The voice from microphone to ear where the sound server is PipeWire, which serves PulseAudio's clients by a program
+// of its own.
 #include <iostream>
 
 #include "tests/heard/EngineRig.h"

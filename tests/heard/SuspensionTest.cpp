@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::chrono::seconds ShortSleep{3};
 constexpr std::chrono::seconds WantedWithin{2};
-constexpr double DelayWanted = 150;  // milliseconds, which a busy machine keeps and a backlog does not
+constexpr double DelayWanted = 150;       // milliseconds, which a busy machine keeps and a backlog does not
 constexpr unsigned long FewBytes = 8000;  // of the tunnel in two seconds; voice would be twice as many
 
 class SuspensionTest : public EngineRig {
