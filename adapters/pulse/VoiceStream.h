@@ -63,6 +63,8 @@ private:
     bool isMoving = false;
     Long stillFor = 0;  // looks
     std::optional<SoundPace::Moment> movedAt;
+    SoundPace::Moment evenSince{};  // it has moved without a pause
+    bool isAnew = false;            // opened for a pause, and not even yet
 };
 
 }  // namespace orvelle::pulse

@@ -77,6 +77,13 @@ void VoiceEngine::Do(std::function<void(VoiceWork& work)> task) {
     if (work) work->Do(std::move(task));
 }
 
+void VoiceEngine::Count(Long output, std::function<void(const speech::BlockCounts&)> answer) {
+    if (!Find(output)) return;
+    Do([output, toPanel = inbox, answer = std::move(answer)](VoiceWork& voice) {
+        toPanel->Post([counted = voice.Incoming().Mix(output).Counted(), answer] { answer(counted); });
+    });
+}
+
 void VoiceEngine::HandOver() {
     InputSquelch(inputSquelchValue);
     OutputSquelch(outputSquelchValue);

@@ -58,6 +58,7 @@ public:
     bool InputFailed() const override { return failed.InputFailed; }
     double InputSquelchValue() const override { return inputSquelchValue; }
     double OutputSquelchValue() const override { return outputSquelchValue; }
+    void Count(Long output, std::function<void(const speech::BlockCounts&)> answer) override;
     Ticket Observe(std::function<void()> observer) override { return changes.Observe(std::move(observer)); }
 
 private:

@@ -30,7 +30,9 @@ inline double MillisecondsBetween(pulse::Moment from, pulse::Moment to) {
 
 class EngineRig : public testing::Test {
 protected:
-    explicit EngineRig(int computers = 2) : sounds(computers) {}
+    explicit EngineRig(int computers = 2, mumble::VoiceServerSetting setting = {})
+        : sounds(computers), server(std::move(setting)) {}
+    explicit EngineRig(SoundOfComputers::Server kind) : sounds(2, kind) {}
 
     static std::string Mouth(int computer) { return SoundOfComputers::Mouth(computer); }
     static std::string Microphone(int computer) { return SoundOfComputers::Microphone(computer); }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <string>
 
 #include "tests/pulse/SoundServers.h"
@@ -12,7 +13,8 @@ namespace orvelle::heard {
 
 class SoundOfComputers {
 public:
-    explicit SoundOfComputers(int computers = 2);
+    enum class Server { PulseAudio, PipeWire };
+    explicit SoundOfComputers(int computers = 2, Server kind = Server::PulseAudio);
 
     // The sink into which a mouth speaks, and the source that a program records.
     static std::string Mouth(int computer) { return "microphone" + std::to_string(computer); }
@@ -28,7 +30,7 @@ public:
     std::string Server() const { return "unix:" + (folder.Path() / "pulse" / "native").string(); }
 
     // The whole server is killed, and is there again with all its devices.
-    void Kill() { server.Kill(); }
+    void Kill() { server->Kill(); }
     void Start();
     // One device goes, and comes back.
     void Pull(const std::string& sink);
@@ -40,7 +42,7 @@ public:
 private:
     const int count;
     pulse::SoundFolder folder;
-    pulse::PulseAudioServer server;
+    const std::unique_ptr<pulse::SoundServerProcesses> server;
 };
 
 }  // namespace orvelle::heard

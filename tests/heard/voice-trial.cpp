@@ -5,6 +5,7 @@
 //
 //   start | stop | quit | join ROOM NAME ADDRESS | leave ROOM | mute ROOM 0|1 | route ROOM OUTPUT 0|1
 //   volume OUTPUT PERCENT | signal OUTPUT PERCENT | filter OUTPUT 0|1 | squelch INPUT OUTPUT | works
+//   count OUTPUT           answers: counted PLAYED RESTORED CONCEALED LATE LEFT-OUT
 //   sleep MILLISECONDS     of the panel's thread alone
 #include <unistd.h>
 
@@ -130,6 +131,13 @@ std::map<std::string, Command> CommandsFor(HeardVoiceEngine& engine, linux::Poll
          [&](std::istream&) {
              Tell("works " + std::to_string(engine.InputStatus()) + " " + std::to_string(engine.OutputStatus(Headset)) +
                   " " + std::to_string(engine.OutputStatus(Speakers)));
+         }},
+        {"count",
+         [&](std::istream& words) {
+             engine.Count(Next<Long>(words), [](const speech::BlockCounts& counts) {
+                 std::cout << "counted " << counts.Played << ' ' << counts.Restored << ' ' << counts.Concealed << ' '
+                           << counts.Late << ' ' << counts.LeftOut << std::endl;
+             });
          }},
         {"sleep",
          [&](std::istream& words) {
