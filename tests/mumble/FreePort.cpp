@@ -17,6 +17,7 @@ namespace {
 
 constexpr std::uint16_t First = 20000;
 constexpr std::uint16_t Last = 32000;
+constexpr const char* Listening = "0A";  // a connection's state, as the system writes it
 
 bool CanBind(int kind, std::uint16_t port) {
     const FileDescriptor opened(socket(AF_INET, kind | SOCK_CLOEXEC, 0));
@@ -40,12 +41,19 @@ std::uint16_t FreePort() {
 
 // As the system tells it: to connect would be noticed.
 bool IsListenedTo(std::uint16_t port) {
-    std::ostringstream local;
-    local << "0100007F:" << std::hex << std::uppercase << std::setw(4) << std::setfill('0') << port
-          << " 00000000:0000 0A";
-    std::ifstream connections("/proc/net/tcp");
-    for (std::string line; std::getline(connections, line);)
-        if (line.find(local.str()) != line.npos) return true;
+    std::ostringstream ending;
+    ending << ':' << std::hex << std::uppercase << std::setw(4) << std::setfill('0') << port;
+    for (const char* const file : {"/proc/net/tcp", "/proc/net/tcp6"}) {
+        std::ifstream connections(file);
+        std::string number;
+        std::string local;
+        std::string remote;
+        std::string state;
+        for (std::string line; std::getline(connections, line);)
+            if (std::istringstream(line) >> number >> local >> remote >> state && local.ends_with(ending.str()) &&
+                state == Listening)
+                return true;
+    }
     return false;
 }
 

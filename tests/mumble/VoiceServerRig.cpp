@@ -55,7 +55,8 @@ constexpr const char* EverybodyMakesChannels = "insert into acl values (1, 0, 1,
 
 }  // namespace
 
-VoiceServerRig::VoiceServerRig(VoiceServerSetting wished) : setting(std::move(wished)), port(FreePort()) {
+VoiceServerRig::VoiceServerRig(VoiceServerSetting wished)
+    : setting(std::move(wished)), port(setting.Port != 0 ? setting.Port : FreePort()) {
     std::string pattern = FoldersPattern();
     folder = mkdtemp(pattern.data());
     TakeAnotherCertificate();
@@ -80,8 +81,8 @@ void VoiceServerRig::MakeDatabase() {
 
 void VoiceServerRig::WriteConfiguration() {
     std::ofstream(folder / "configuration")
-        << "database=" << (folder / "database").string() << "\nlogfile=\npidfile=\nhost=127.0.0.1\nport=" << port
-        << "\nserverpassword=" << setting.Password << "\nusers=" << setting.Users
+        << "database=" << (folder / "database").string() << "\nlogfile=\npidfile=\nhost=" << setting.Host
+        << "\nport=" << port << "\nserverpassword=" << setting.Password << "\nusers=" << setting.Users
         << "\nautobanAttempts=" << setting.BansAfter << "\nmessageburst=" << setting.ChangesAtOnce
         << "\nmessagelimit=1\nbonjour=false\nsslCert=" << (folder / "certificate").string()
         << "\nsslKey=" << (folder / "key").string() << '\n'

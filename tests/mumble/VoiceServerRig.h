@@ -10,6 +10,7 @@
 #include <memory>
 #include <string>
 
+#include "adapters/shared/HostAndPort.h"
 #include "tests/linux/ChildProcess.h"
 
 namespace orvelle::mumble {
@@ -17,7 +18,9 @@ namespace orvelle::mumble {
 struct VoiceServerSetting {
     enum class Rights { EverybodyMakesChannels, AsDelivered };
 
-    std::string Password{};  // "" for none
+    std::string Host = "127.0.0.1";  // where it listens
+    std::uint16_t Port = 0;          // 0: one that is free
+    std::string Password{};          // "" for none
     Rights Of = Rights::EverybodyMakesChannels;
     int Users = 100;         // connections at the most
     int BansAfter = 0;       // connections within two minutes; 0: never
@@ -34,9 +37,9 @@ public:
     ~VoiceServerRig();
 
     // What a record says of it.
-    std::string Host() const { return "127.0.0.1"; }
+    std::string Host() const { return setting.Host; }
     std::uint16_t Port() const { return port; }
-    std::string Address() const { return Host() + ":" + std::to_string(port); }
+    std::string Address() const { return WriteHostAndPort({Host(), port}, 0); }
     std::string Room(const std::string& channel) const { return Address() + "/" + channel; }
 
     pid_t Id() const { return process->Id(); }
