@@ -229,7 +229,8 @@ void RoomConnection::OnRefused(std::uint32_t type) {
     if (passwords.Of(server) != usedPassword && state != State::Out)
         return Connect(state == State::Joining ? JoinPatience : RejoinPatience);
     passwords.Forget(server, usedPassword);
-    if (!usedPassword.empty() || state != State::Joining) return GiveUp(TroubleText(RoomTrouble::PasswordWrong, wish));
+    if (!usedPassword.empty()) return GiveUp(TroubleText(RoomTrouble::PasswordWrong, wish));
+    if (state != State::Joining) return GiveUp(TroubleText(RoomTrouble::PasswordMissing, wish));
     Drop();
     Rest();
     state = State::Asking;
@@ -348,7 +349,7 @@ void RoomConnection::EndTalks() {
 }
 
 std::string RoomConnection::PresenceText() const {
-    return session->IsSuppressed() ? ListeningText(wish) : InText(wish);
+    return session->IsSilenced() ? ListeningText(wish) : InText(wish);
 }
 
 void RoomConnection::SetStatus(const std::string& text) {

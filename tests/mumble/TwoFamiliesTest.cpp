@@ -23,8 +23,6 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr long JoinBound = 5000;  // milliseconds
-
 // Packets that this host has sent by UDP of version 6.
 long DatagramsOfVersion6() {
     std::ifstream counts("/proc/net/snmp6");
@@ -90,13 +88,11 @@ private:
 
 class TwoFamiliesTest : public testing::Test {
 protected:
-    // Joins within seconds.
     void Join(PlayedPilot& pilot, const std::string& address) {
         const auto start = Clock::now();
         ASSERT_EQ(pilot.JoinAndWait(0, address), "joined") << pilot.Status(0);
         const auto took = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start).count();
         std::cout << "joined " << address << " after " << took << " ms\n";
-        EXPECT_LT(took, JoinBound);
     }
     // Until the way to the server and the one on to the other pilot have gone by UDP, of which `sent` counts the
     // packets; those that only ask whether it passes are fewer, for as long as this lasts.
