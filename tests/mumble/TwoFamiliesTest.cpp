@@ -12,8 +12,8 @@
 
 #include "adapters/mumble/RoomAddress.h"
 #include "adapters/shared/FileDescriptor.h"
+#include "apps/FreePort.h"
 #include "tests/linux/WaitUntil.h"
-#include "tests/mumble/FreePort.h"
 #include "tests/mumble/PlayedPilot.h"
 #include "tests/mumble/VoiceServerRig.h"
 

@@ -11,12 +11,13 @@
 #include <string>
 
 #include "adapters/shared/HostAndPort.h"
+#include "apps/talk/VoiceServerFiles.h"
 #include "tests/linux/ChildProcess.h"
 
 namespace orvelle::mumble {
 
 struct VoiceServerSetting {
-    enum class Rights { EverybodyMakesChannels, AsDelivered };
+    using Rights = VoiceServerFiles::Rights;
 
     std::string Host = "127.0.0.1";  // where it listens
     std::uint16_t Port = 0;          // 0: one that is free
@@ -61,12 +62,11 @@ public:
     bool HasLogged(const std::string& text, int times = 1);
 
 private:
-    void MakeDatabase();
     void WriteConfiguration();
-    void OwnFiles() const;
 
     VoiceServerSetting setting;
     std::filesystem::path folder;
+    VoiceServerFiles files;
     std::uint16_t port = 0;
     std::string earlierLog;
     std::unique_ptr<linux::ChildProcess> process;
