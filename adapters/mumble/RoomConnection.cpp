@@ -348,9 +348,7 @@ void RoomConnection::EndTalks() {
     for (const std::uint32_t speaker : std::exchange(speakers, {})) SpeakerGone(speaker);
 }
 
-std::string RoomConnection::PresenceText() const {
-    return session->IsSilenced() ? ListeningText(wish) : InText(wish);
-}
+std::string RoomConnection::PresenceText() const { return session->IsSilenced() ? ListeningText(wish) : InText(wish); }
 
 void RoomConnection::SetStatus(const std::string& text) {
     if (std::exchange(status, text) != text) StatusChanged(text);
