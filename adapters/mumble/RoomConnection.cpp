@@ -229,7 +229,8 @@ void RoomConnection::OnRefused(std::uint32_t type) {
     if (passwords.Of(server) != usedPassword && state != State::Out)
         return Connect(state == State::Joining ? JoinPatience : RejoinPatience);
     passwords.Forget(server, usedPassword);
-    if (!usedPassword.empty() || state != State::Joining) return GiveUp(TroubleText(RoomTrouble::PasswordWrong, wish));
+    if (!usedPassword.empty()) return GiveUp(TroubleText(RoomTrouble::PasswordWrong, wish));
+    if (state != State::Joining) return GiveUp(TroubleText(RoomTrouble::PasswordMissing, wish));
     Drop();
     Rest();
     state = State::Asking;
@@ -347,9 +348,7 @@ void RoomConnection::EndTalks() {
     for (const std::uint32_t speaker : std::exchange(speakers, {})) SpeakerGone(speaker);
 }
 
-std::string RoomConnection::PresenceText() const {
-    return session->IsSuppressed() ? ListeningText(wish) : InText(wish);
-}
+std::string RoomConnection::PresenceText() const { return session->IsSilenced() ? ListeningText(wish) : InText(wish); }
 
 void RoomConnection::SetStatus(const std::string& text) {
     if (std::exchange(status, text) != text) StatusChanged(text);

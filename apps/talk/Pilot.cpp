@@ -25,7 +25,7 @@ bool HasEndedWell(const QProcess& program) {
 }  // namespace
 
 Pilot::Pilot(EventLoop& eventLoop, std::size_t ownNumber, const QDir& folder, const QString& displayScript)
-    : loop(eventLoop), number(ownNumber), computer(folder, displayScript), port(FreePort(mqtt::UsualPort)) {
+    : loop(eventLoop), number(ownNumber), computer(folder, displayScript), port(FreePort()) {
     OwnSound::Name(computer.Environment, number);
     SetUpPanel();
 }

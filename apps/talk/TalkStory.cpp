@@ -16,7 +16,6 @@ namespace {
 
 const std::string Sentence = "Tower, this is Alpha Bravo Charlie one two three, ready for departure.";
 const std::string Channel = "122.8";
-constexpr int UsualVoicePort = 64738;
 constexpr short LeastSound = 300;  // of 32768
 constexpr std::size_t QuietSamples = 48000 / 5;
 constexpr double LeastCorrelation = 0.8;
@@ -32,7 +31,7 @@ bool IsQuietAtLast(const std::vector<short>& samples) {
 }  // namespace
 
 TalkStory::TalkStory(EventLoop& loop, const QDir& workFolder, const QDir& resultFolder, const QString& displayScript)
-    : work(workFolder), results(resultFolder), server(FreePort(UsualVoicePort)) {
+    : work(workFolder), results(resultFolder), server(FreePort()) {
     results.mkpath(".");
     std::vector<QString> runFolders;
     for (std::size_t number = 0; number < 2; ++number) {

@@ -18,7 +18,7 @@ QString Program() { return ToQt(linux::BesideOwnFile("orvelle-sim")); }
 }  // namespace
 
 SimulatorsComputer::SimulatorsComputer(EventLoop& eventLoop, const QDir& ownFolder)
-    : loop(eventLoop), folder(ownFolder.path()), port(FreePort(mqtt::UsualPort)) {
+    : loop(eventLoop), folder(ownFolder.path()), port(FreePort()) {
     ownFolder.mkpath(".");
 }
 
