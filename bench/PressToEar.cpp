@@ -43,7 +43,7 @@ class PressToEar {
 public:
     PressToEar(EventLoop& loop, const QDir& work, const QString& displayScript)
         : pilot(loop, work, displayScript,
-                {sounds.Server(), SoundOfComputers::Microphone(Panels), SoundOfComputers::Output(Panels)}) {}
+                {sounds.Address(), SoundOfComputers::Microphone(Panels), SoundOfComputers::Output(Panels)}) {}
 
     void Begin();
     void Measure(int presses);

@@ -27,7 +27,7 @@ public:
     static std::string Ear(int computer, int output = 0) { return Output(computer, output) + ".monitor"; }
 
     // Where the server is, for programs of another environment.
-    std::string Server() const { return "unix:" + (folder.Path() / "pulse" / "native").string(); }
+    std::string Address() const { return "unix:" + (folder.Path() / "pulse" / "native").string(); }
 
     // The whole server is killed, and is there again with all its devices.
     void Kill() { server->Kill(); }
