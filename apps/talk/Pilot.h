@@ -47,6 +47,7 @@ private:
     static constexpr int F8 = 66 + 8;  // of linux/input-event-codes.h, as X servers count
 
     void SetUpPanel();
+    void PassOnWhatItSays();
     QString SetUpFolder() const { return computer.Home.filePath("c01"); }
 
     EventLoop& loop;

@@ -18,7 +18,8 @@ namespace orvelle {
 class VirtualComputer {
 public:
     // `displayScript` is tests/with-display. Nobody else writes to `folder`, which is made.
-    VirtualComputer(const QDir& folder, const QString& displayScript);
+    // The screen's width is in pixels; as usual it holds the panel's window.
+    VirtualComputer(const QDir& folder, const QString& displayScript, int screenWidth = UsualScreenWidth);
     VirtualComputer(const VirtualComputer&) = delete;
     VirtualComputer& operator=(const VirtualComputer&) = delete;
     ~VirtualComputer();
@@ -46,7 +47,10 @@ public:
     const std::string& SaidOfJoining() const { return saidOfJoining; }
 
 private:
+    static constexpr int UsualScreenWidth = 984;
+
     const QString script;
+    const int width;
     std::string display;
     QString sessionBus;
     QProcess desktop;

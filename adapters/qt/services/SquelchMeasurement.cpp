@@ -28,7 +28,10 @@ double Quantile(std::vector<double> levels, double share) {
 
 double AsLevel(double value) { return std::isnan(value) ? 0 : std::clamp(value, 0.0, 100.0); }
 
-void SquelchMeasurement::Restart() { *this = SquelchMeasurement(); }
+void SquelchMeasurement::Begin() {
+    *this = SquelchMeasurement();
+    step = Step::Waiting;
+}
 
 void SquelchMeasurement::Stop() { step = Step::Stopped; }
 
@@ -44,12 +47,13 @@ double SquelchMeasurement::Share() const {
 
 bool SquelchMeasurement::Take(bool works, double level) {
     const Step before = step;
+    level = AsLevel(level);
+    if (step == Step::Silent && works && level >= Nothing) Begin();
     if (!IsUnderWay()) return false;
     if (!works) {
-        Restart();
+        Begin();
         return step != before;
     }
-    level = AsLevel(level);
     loudest = std::max(loudest, level);
     if (step == Step::Speaking) {
         TakeVoice(level);
