@@ -345,7 +345,10 @@ TEST_F(DeckHeardVoice, ALongStatusHasTheWidthOfItsBoxAndIsSelectedByTheMouse) {
     EXPECT_GT(status->width(), heardDeck.findChild<QWidget*>("Rooms")->width() / 2);
     EXPECT_GE(status->height(), status->document()->size().height()) << "its last line is cut off";
     EXPECT_LT(status->height(), 6 * status->fontMetrics().lineSpacing());
-    EXPECT_TRUE(status->textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
+    PressMouse(status->viewport(), Qt::LeftButton, {}, {1, 5});
+    MoveMouse(status->viewport(), {150, 5});
+    ReleaseMouse(status->viewport(), Qt::LeftButton, {}, {150, 5});
+    EXPECT_TRUE(status->textCursor().selectedText().startsWith("voice.ex"));
     status->selectAll();
     status->copy();
     EXPECT_EQ(QApplication::clipboard()->text().toStdString(), sentence);

@@ -3,12 +3,14 @@
 
 #include <QAccessible>
 #include <QCheckBox>
+#include <QDir>
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QSlider>
 #include <cmath>
 
+#include "adapters/looks/Theme.h"
 #include "adapters/looks/reach/Reach.h"
 #include "adapters/qt/services/QtVoiceDialogs.h"
 #include "adapters/qt/widgets/LevelMeter.h"
@@ -42,6 +44,16 @@ protected:
     // A room of level 10 and a voice of 70, as soon as it is asked for.
     void SpeakWhenAsked(const VoiceTestDialog& shown) {
         trial.Input = [sentence = SentenceOf(shown)] { return sentence->text().startsWith("Now speak") ? 70 : 10; };
+    }
+
+    // What its user sees in this step, in both palettes.
+    static void Picture(VoiceTestDialog& shown, const QString& step) {
+        QDir().mkpath(PICTURES);
+        for (const Scheme scheme : {Scheme::Dark, Scheme::Light}) {
+            shown.setPalette(CalmPalette(scheme));
+            const QString file = QString(PICTURES "/voice-test-%1-%2.png").arg(step, scheme == Scheme::Dark ? "dark" : "light");
+            EXPECT_TRUE(shown.grab().save(file));
+        }
     }
 
     static SignedSentence* SentenceOf(const VoiceTestDialog& shown) {
@@ -83,14 +95,18 @@ TEST_F(VoiceTestDialogTest, NothingIsMeasuredUntilItsUserBegins) {
             trial.Input = [] { return 30; };
             EXPECT_TRUE(ComesTrue([&] { return shown.findChild<LevelMeter*>("InputLevel")->Level() == 30; }));
             EXPECT_TRUE(SentenceOf(shown)->text().startsWith("Press"));
+            Picture(shown, "ready");
             SpeakWhenAsked(shown);
             ClickKey(begin, Qt::Key_Return);
             EXPECT_TRUE(ComesToSay(shown, "Please be quiet"));
             EXPECT_EQ(SentenceOf(shown)->ShownSign(), Sign::Off);
             EXPECT_EQ(begin->text(), "&Try again");
+            Picture(shown, "quiet");
             EXPECT_TRUE(ComesToSay(shown, "Now speak"));
             EXPECT_EQ(SentenceOf(shown)->ShownSign(), Sign::Off);
+            Picture(shown, "speaking");
             EXPECT_TRUE(ComesToSay(shown, "Measured: "));
+            Picture(shown, "measured");
             ClickKey(begin, Qt::Key_Return);
             EXPECT_FALSE(shown.isVisible());
         },
@@ -102,6 +118,7 @@ TEST_F(VoiceTestDialogTest, AMicrophoneThatWasMutedIsMeasuredOnceItGivesSomethin
         trial.Input = [] { return 0; };
         EXPECT_TRUE(ComesToSay(shown, "Nothing comes from the microphone"));
         EXPECT_EQ(SentenceOf(shown)->ShownSign(), Sign::Bad);
+        Picture(shown, "silent");
         SpeakWhenAsked(shown);
         EXPECT_TRUE(ComesToSay(shown, "Measured: "));
         ClickKey(shown.focusWidget(), Qt::Key_Return);
