@@ -325,7 +325,7 @@ TEST_F(DeckHeardVoice, DevicesThatFailAreNoAudioThatRuns) {
     for (const Long output : {Headset, Speakers}) heard.FailOutput(output, true);
     Settle();
     EXPECT_EQ(Text("EngineAudioText"), "All devices fail");
-    EXPECT_EQ(heardDeck.findChild<SignalLight*>("EngineAudio")->Shown(), Sign::Bad);
+    EXPECT_EQ(heardDeck.findChild<deck::SignalLight*>("EngineAudio")->Shown(), Sign::Bad);
     heard.RoomLeave(0);
     Settle();
     EXPECT_EQ(Text("EngineAudioText"), "No audio");
@@ -340,7 +340,7 @@ TEST_F(DeckHeardVoice, ALongStatusHasTheWidthOfItsBoxAndIsSelectedByTheMouse) {
         "line from /home/pilot/.local/share/OrvelleCP/voice/known-servers.";
     heard.SetRoomStatus(0, sentence);
     Settle();
-    auto* status = heardDeck.findChild<SelectableText*>("Room0RealStatus");
+    auto* status = heardDeck.findChild<deck::SelectableText*>("Room0RealStatus");
     EXPECT_EQ(status->toPlainText().toStdString(), sentence);
     EXPECT_GT(status->width(), heardDeck.findChild<QWidget*>("Rooms")->width() / 2);
     EXPECT_GE(status->height(), status->document()->size().height()) << "its last line is cut off";
@@ -376,7 +376,7 @@ TEST_F(DeckHeardVoice, IsShownAndNotPlayed) {
     EXPECT_EQ(Text("FlightEngineText"), "Running");
     EXPECT_EQ(Text("TalksCOM2Text"), "COM2 talks");
     EXPECT_TRUE(heardDeck.findChild<QCheckBox*>("SpeakersFails")->isChecked());
-    EXPECT_EQ(heardDeck.findChild<SelectableText*>("Room1RealStatus")->toPlainText(), "In voice.example.net/tower");
+    EXPECT_EQ(heardDeck.findChild<deck::SelectableText*>("Room1RealStatus")->toPlainText(), "In voice.example.net/tower");
     EXPECT_FALSE(heardDeck.findChild<QWidget*>("Room1Status")->isVisible());
     EXPECT_EQ(heardDeck.findChild<QComboBox*>("EngineStart")->currentIndex(), 2);
     EXPECT_EQ(heardDeck.findChild<QComboBox*>("Room1Joins")->currentIndex(), 2);
