@@ -39,7 +39,7 @@ Pilot::~Pilot() {
     watch.reset();
     keyboard.reset();
     for (QProcess* const each : {&adding, &panel, &simulator}) EndChild(*each);
-    std::cerr << simulator.readAll().toStdString();
+    if (simulator.isOpen()) std::cerr << simulator.readAll().toStdString();
 }
 
 std::string Pilot::Callsign() const { return number == 0 ? "ABC123" : "DEF456"; }

@@ -42,7 +42,7 @@ bool SquelchMeasurement::IsUnderWay() const {
 double SquelchMeasurement::Share() const {
     if (step == Step::Quiet) return static_cast<double>(room.size()) / RoomLevels;
     if (step == Step::Speaking) return static_cast<double>(voice.size()) / VoiceLevels;
-    return IsUnderWay() ? 0 : 1;
+    return IsUnderWay() || step == Step::Ready || step == Step::Silent ? 0 : 1;
 }
 
 bool SquelchMeasurement::Take(bool works, double level) {

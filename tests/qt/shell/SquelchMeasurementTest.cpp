@@ -95,6 +95,7 @@ TEST_F(SquelchMeasurementTest, ItWaitsForItsUser) {
     SquelchMeasurement unbegun;
     for (int given = 0; given < 20 * Seconds; ++given) EXPECT_FALSE(unbegun.Take(true, 50));
     EXPECT_EQ(unbegun.Now(), Step::Ready);
+    EXPECT_EQ(unbegun.Share(), 0);
     EXPECT_FALSE(unbegun.IsUnderWay());
     unbegun.Begin();
     EXPECT_EQ(unbegun.Now(), Step::Waiting);
