@@ -4,6 +4,7 @@
 
 #include "adapters/avahi/ServiceBrowser.h"
 #include "adapters/looks/Text.h"
+#include "adapters/looks/Theme.h"
 #include "adapters/mqtt/SetUpFile.h"
 #include "adapters/store/SqliteStore.h"
 #include "apps/FreePort.h"
@@ -19,8 +20,8 @@ namespace orvelle {
 namespace {
 
 constexpr int PanelIdentity = 2;  // orvelle-sim is c01
-// What the icon tells stands beside the panel, not before it.
-constexpr int ScreenWidth = 1344;
+// What the icon tells takes a third of a screen. It stands beside the panel, and the picture is of that alone.
+constexpr int ScreenWidth = 3 * VirtualComputer::UsualScreenWidth / 2 + Unit;
 
 bool HasEndedWell(const QProcess& program) {
     return program.state() == QProcess::NotRunning && program.exitStatus() == QProcess::NormalExit &&
@@ -91,6 +92,11 @@ bool Pilot::HasJoined() {
 void Pilot::StartPanel() { computer.Run(panel, "orvelle-panel", {}); }
 
 bool Pilot::HasEngine() { return watch->Holders(EngineRole) == std::vector{PanelIdentity}; }
+
+QImage Pilot::Screen() const {
+    const QImage whole = computer.Screen();
+    return whole.copy(0, 0, VirtualComputer::UsualScreenWidth, whole.height());
+}
 
 void Pilot::Tune(const std::string& server, const std::string& channel) {
     watch->SetSession({.Handle = 1,

@@ -9,7 +9,7 @@ namespace orvelle {
 
 namespace {
 
-// The panel's window with its frame, and the tray above it.
+// The panel's window and the tray above it.
 constexpr const char* ScreenHeight = "x484";
 // What the display's script runs: tells where the display is, and stays.
 constexpr const char* Session = "echo \"$DISPLAY\"; echo \"$DBUS_SESSION_BUS_ADDRESS\"; exec sleep infinity";

@@ -17,8 +17,9 @@ namespace orvelle {
 
 class VirtualComputer {
 public:
+    static constexpr int UsualScreenWidth = 984;  // pixels: the panel's window with its frame
+
     // `displayScript` is tests/with-display. Nobody else writes to `folder`, which is made.
-    // The screen's width is in pixels; as usual it holds the panel's window.
     VirtualComputer(const QDir& folder, const QString& displayScript, int screenWidth = UsualScreenWidth);
     VirtualComputer(const VirtualComputer&) = delete;
     VirtualComputer& operator=(const VirtualComputer&) = delete;
@@ -47,8 +48,6 @@ public:
     const std::string& SaidOfJoining() const { return saidOfJoining; }
 
 private:
-    static constexpr int UsualScreenWidth = 984;
-
     const QString script;
     const int width;
     std::string display;
