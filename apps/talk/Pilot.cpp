@@ -4,7 +4,6 @@
 
 #include "adapters/avahi/ServiceBrowser.h"
 #include "adapters/looks/Text.h"
-#include "adapters/looks/Theme.h"
 #include "adapters/mqtt/SetUpFile.h"
 #include "adapters/store/SqliteStore.h"
 #include "apps/FreePort.h"
@@ -21,7 +20,7 @@ namespace {
 
 constexpr int PanelIdentity = 2;  // orvelle-sim is c01
 // What the icon tells takes a third of a screen. It stands beside the panel, and the picture is of that alone.
-constexpr int ScreenWidth = 3 * VirtualComputer::UsualScreenWidth / 2 + Unit;
+constexpr int ScreenWidth = VirtualComputer::UsualScreenWidth * 8 / 5;
 
 bool HasEndedWell(const QProcess& program) {
     return program.state() == QProcess::NotRunning && program.exitStatus() == QProcess::NormalExit &&
@@ -31,7 +30,10 @@ bool HasEndedWell(const QProcess& program) {
 }  // namespace
 
 Pilot::Pilot(EventLoop& eventLoop, std::size_t ownNumber, const QDir& folder, const QString& displayScript)
-    : loop(eventLoop), number(ownNumber), computer(folder, displayScript, ScreenWidth), port(FreePort(mqtt::UsualPort)) {
+    : loop(eventLoop),
+      number(ownNumber),
+      computer(folder, displayScript, ScreenWidth),
+      port(FreePort(mqtt::UsualPort)) {
     OwnSound::Name(computer.Environment, number);
     SetUpPanel();
 }

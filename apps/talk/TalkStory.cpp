@@ -142,9 +142,10 @@ std::string TalkStory::Judge() {
         return "What was heard can't be written to " + FromQt(results.path()) + ".";
     const Likeness likeness = Compare(spokenLevels, heardLevels);
     char said[160];
-    std::snprintf(said, sizeof said,
-                  "What was heard rises and falls as what was said, %d ms later; the two are alike by %.3f, where 1 is the same.",
-                  static_cast<int>(likeness.Later), likeness.Correlation);
+    std::snprintf(
+        said, sizeof said,
+        "What was heard rises and falls as what was said, %d ms later; the two are alike by %.3f, where 1 is the same.",
+        static_cast<int>(likeness.Later), likeness.Correlation);
     telling.Happens(said);
     telling.Happens("Heard: " + FromQt(file) + ", its level over time: " + FromQt(picture));
     telling.Happens("Both panels while the first pilot talked: " + FromQt(results.filePath(PanelsPicture)));

@@ -84,7 +84,8 @@ RoomsBox::Room RoomsBox::NewRoom(int number) {
             new SelectableText(name + "RealStatus")};
 }
 
-// A sentence that nobody types is read in full: each has a line of its own, over all columns, in the place of the fields.
+// A sentence that nobody types is read in full: each has a line of its own, over all columns, in the place of the
+// fields.
 void RoomsBox::AddRealStatus() {
     int row = 0;
     int column = 0;

@@ -376,7 +376,8 @@ TEST_F(DeckHeardVoice, IsShownAndNotPlayed) {
     EXPECT_EQ(Text("FlightEngineText"), "Running");
     EXPECT_EQ(Text("TalksCOM2Text"), "COM2 talks");
     EXPECT_TRUE(heardDeck.findChild<QCheckBox*>("SpeakersFails")->isChecked());
-    EXPECT_EQ(heardDeck.findChild<deck::SelectableText*>("Room1RealStatus")->toPlainText(), "In voice.example.net/tower");
+    EXPECT_EQ(heardDeck.findChild<deck::SelectableText*>("Room1RealStatus")->toPlainText(),
+              "In voice.example.net/tower");
     EXPECT_FALSE(heardDeck.findChild<QWidget*>("Room1Status")->isVisible());
     EXPECT_EQ(heardDeck.findChild<QComboBox*>("EngineStart")->currentIndex(), 2);
     EXPECT_EQ(heardDeck.findChild<QComboBox*>("Room1Joins")->currentIndex(), 2);

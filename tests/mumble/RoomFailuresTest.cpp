@@ -3,8 +3,8 @@
 
 #include <chrono>
 #include <fstream>
-#include <regex>
 #include <iostream>
+#include <regex>
 
 #include "adapters/shared/PrivateFile.h"
 #include "tests/mumble/Operator.h"

@@ -33,9 +33,10 @@ struct Saying {
 Saying SayingOf(Step step) {
     switch (step) {
         case Step::Ready:
-            return {Sign::Off,
-                    "Press \"Begin\" when you are ready. First be quiet for two seconds, so that the noise of the room is "
-                    "measured; then speak for three seconds as you will on the radio."};
+            return {
+                Sign::Off,
+                "Press \"Begin\" when you are ready. First be quiet for two seconds, so that the noise of the room is "
+                "measured; then speak for three seconds as you will on the radio."};
         case Step::Waiting:
             return {Sign::Off, "One moment: the microphone is being opened."};
         case Step::Quiet:
@@ -132,7 +133,8 @@ VoiceTestDialog::VoiceTestDialog(VoiceTrial& voiceTrial, const Squelch& now, QWi
       input(new SquelchField("InputSquelch", "Input squelch",
                              "Sounds of the microphone that are weaker than this are not sent",
                              [this] { InputChanged(); })),
-      output(new SquelchField("OutputSquelch", "Output squelch", "Voices of others that are weaker than this are not heard",
+      output(new SquelchField("OutputSquelch", "Output squelch",
+                              "Voices of others that are weaker than this are not heard",
                               [this] { outputLevel->SetMark(output->Value()); })),
       headset(NewSentence("HeadsetState", SentenceLines - 1)),
       hear(new QCheckBox("&Hear myself")),

@@ -51,7 +51,8 @@ protected:
         QDir().mkpath(PICTURES);
         for (const Scheme scheme : {Scheme::Dark, Scheme::Light}) {
             shown.setPalette(CalmPalette(scheme));
-            const QString file = QString(PICTURES "/voice-test-%1-%2.png").arg(step, scheme == Scheme::Dark ? "dark" : "light");
+            const QString file =
+                QString(PICTURES "/voice-test-%1-%2.png").arg(step, scheme == Scheme::Dark ? "dark" : "light");
             EXPECT_TRUE(shown.grab().save(file));
         }
     }
@@ -313,8 +314,7 @@ TEST_F(VoiceTestDialogTest, AssistiveProgramsFindEverythingByNameAndRole) {
         EXPECT_EQ(nameOf("HearMyself"), "Hear myself");
         EXPECT_EQ(nameOf("Begin"), "Try again");
         EXPECT_EQ(nameOf("MeasurementProgress"), "Measurement");
-        for (const char* name :
-             {"InputLevel", "OutputLevel", "InputSquelch", "OutputSquelch", "HearMyself", "Begin"})
+        for (const char* name : {"InputLevel", "OutputLevel", "InputSquelch", "OutputSquelch", "HearMyself", "Begin"})
             EXPECT_NE(shown.findChild<QWidget*>(name)->toolTip(), "") << name;
         ClickKey(&shown, Qt::Key_Escape);
     });
