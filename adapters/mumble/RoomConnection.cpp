@@ -131,7 +131,7 @@ void RoomConnection::Send(std::span<const std::uint8_t> opus, VoiceRooms::Squelc
 
 void RoomConnection::TakeAnswer(PasswordAnswer answer) {
     if (state != State::Asking) return;
-    if (answer == PasswordAnswer::None) return GiveUp(TroubleText(RoomTrouble::PasswordMissing, wish));
+    if (answer == PasswordAnswer::None) return GiveUp(PasswordTroubleText());
     Begin();
 }
 
@@ -229,13 +229,12 @@ void RoomConnection::OnRefused(std::uint32_t type) {
     if (passwords.Of(server) != usedPassword && state != State::Out)
         return Connect(state == State::Joining ? JoinPatience : RejoinPatience);
     passwords.Forget(server, usedPassword);
-    if (!usedPassword.empty()) return GiveUp(TroubleText(RoomTrouble::PasswordWrong, wish));
-    if (state != State::Joining) return GiveUp(TroubleText(RoomTrouble::PasswordMissing, wish));
+    if (state != State::Joining) return GiveUp(PasswordTroubleText());
     Drop();
     Rest();
     state = State::Asking;
     SetStatus(PasswordText(wish));
-    PasswordWanted();
+    PasswordWanted(usedPassword.empty() ? PasswordQuestion::First : PasswordQuestion::AfterWrong);
 }
 
 void RoomConnection::OnDenied(std::uint32_t type, std::uint32_t permission) {
@@ -349,6 +348,10 @@ void RoomConnection::EndTalks() {
 }
 
 std::string RoomConnection::PresenceText() const { return session->IsSilenced() ? ListeningText(wish) : InText(wish); }
+
+std::string RoomConnection::PasswordTroubleText() const {
+    return TroubleText(usedPassword.empty() ? RoomTrouble::PasswordMissing : RoomTrouble::PasswordWrong, wish);
+}
 
 void RoomConnection::SetStatus(const std::string& text) {
     if (std::exchange(status, text) != text) StatusChanged(text);

@@ -65,8 +65,8 @@ std::unique_ptr<VoiceWork> VoiceEngine::NewWork(EventLoop& threadsLoop, const st
     made->DevicesChanged = [this, toPanel](const DeviceNews& news) {
         toPanel->Post([this, news] { TakeDevices(news); });
     };
-    made->PasswordWanted = [this, toPanel](const std::string& server) {
-        toPanel->Post([this, server] { AskPassword(server); });
+    made->PasswordWanted = [this, toPanel](const std::string& server, PasswordQuestion question) {
+        toPanel->Post([this, server, question] { AskPassword(server, question); });
     };
     toPanel->Post([this] { Begun(); });
     return made;
@@ -137,12 +137,13 @@ void VoiceEngine::TakeDevices(const DeviceNews& news) {
 }
 
 // One question for all rooms at that server.
-void VoiceEngine::AskPassword(const std::string& server) {
+void VoiceEngine::AskPassword(const std::string& server, PasswordQuestion question) {
     if (questions.contains(server)) return;
-    questions[server] = dialogs.AskPassword(server, [this, server](const std::optional<std::string>& password) {
+    const auto answer = [this, server](const std::optional<std::string>& password) {
         Do([server, password](VoiceWork& rooms) { rooms.GivePassword(server, password); });
         questions.erase(server);
-    });
+    };
+    questions[server] = dialogs.AskPassword(server, question, answer);
 }
 
 bool VoiceEngine::RoomJoin(Long room, const std::string& clientName, const std::string& roomAddress) {

@@ -71,7 +71,7 @@ private:
     void NotBegun(const std::string& why);
     void ShutDown();
     void TakeDevices(const DeviceNews& news);
-    void AskPassword(const std::string& server);
+    void AskPassword(const std::string& server, PasswordQuestion question);
     VoiceOutput* Find(Long output);
     std::string DeviceOf(Long output) const;
 

@@ -49,7 +49,8 @@ private:
 class NoDialogs : public VoiceDialogs {
 public:
     std::optional<Squelch> Calibrate(VoiceTrial&, const Squelch&) override { return {}; }
-    Ticket AskPassword(const std::string& server, std::function<void(const std::optional<std::string>&)>) override {
+    Ticket AskPassword(const std::string& server, PasswordQuestion,
+                       std::function<void(const std::optional<std::string>&)>) override {
         std::cout << "password " << server << std::endl;
         return {};
     }
