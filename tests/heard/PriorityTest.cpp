@@ -10,6 +10,7 @@
 #include "panel/FrmOrvelle.h"
 #include "platform/EngineRecord.h"
 #include "replay/World.h"
+#include "tests/apps/voice/NoVoiceDialogs.h"
 #include "tests/heard/EngineRig.h"
 #include "tests/heard/Median.h"
 #include "tests/linux/ServeUntil.h"
@@ -37,14 +38,6 @@ public:
     std::string OutputNames() const override { return "\n"; }
     std::string Microphone(Long) const override { return SoundOfComputers::Microphone(Listener); }
     std::string Output(Long) const override { return SoundOfComputers::Output(Listener); }
-};
-
-class NoDialogs : public VoiceDialogs {
-public:
-    std::optional<Squelch> Calibrate(VoiceTrial&, const Squelch&) override { return {}; }
-    Ticket AskPassword(const std::string&, std::function<void(const std::optional<std::string>&)>) override {
-        return {};
-    }
 };
 
 class PriorityTest : public EngineRig {
@@ -101,7 +94,7 @@ protected:
 
     linux::PollEventLoop loop;
     ListenersDevices devices;
-    NoDialogs dialogs;
+    NoVoiceDialogs dialogs;
     std::unique_ptr<HeardVoiceEngine> engine;
     std::ostringstream calls;
     replay::World world{calls};
