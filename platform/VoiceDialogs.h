@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "platform/PasswordQuestion.h"
 #include "platform/Squelch.h"
 #include "platform/Ticket.h"
 
@@ -35,7 +36,7 @@ public:
 
     // Asks for a server's password, without waiting: the answer is told from the loop, none where the user gives up.
     // The end of the ticket takes the question back.
-    [[nodiscard]] virtual Ticket AskPassword(const std::string& server,
+    [[nodiscard]] virtual Ticket AskPassword(const std::string& server, PasswordQuestion question,
                                              std::function<void(const std::optional<std::string>&)> answer) = 0;
 };
 

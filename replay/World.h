@@ -32,14 +32,15 @@ struct World {
     ~World();
 
     Platform Outside() { return Outside(TSRemote); }
-    // With another remote control of TeamSpeak than the scripted one.
-    Platform Outside(TeamSpeakRemote& teamSpeak) {
+    // With another remote control of TeamSpeak, and another voice engine, than the scripted ones.
+    Platform Outside(TeamSpeakRemote& teamSpeak) { return Outside(teamSpeak, VVL); }
+    Platform Outside(TeamSpeakRemote& teamSpeak, VoiceEngineControl& engine) {
         return {
             .Velmarc = Velmarc,
             .Settings = Store,
             .Registry = Registry,
             .Tessaly = Tessaly,
-            .VVL = VVL,
+            .VVL = engine,
             .VolumeControl = VolumeControl,
             .VolumeControlHP = VolumeControlHP,
             .TSRemote = teamSpeak,

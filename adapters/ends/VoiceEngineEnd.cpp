@@ -19,6 +19,11 @@ VoiceEngineEnd::VoiceEngineEnd(EventLoop& loop, ServingEngine first, std::functi
 
 VoiceEngineEnd::~VoiceEngineEnd() { EndEvents(*serving.Control); }
 
+bool VoiceEngineEnd::Running() {
+    Choose();
+    return serving.Control->Running();
+}
+
 bool VoiceEngineEnd::Start(Long mode) {
     Choose();
     return serving.Control->Start(mode);
@@ -27,6 +32,7 @@ bool VoiceEngineEnd::Start(Long mode) {
 // The engine takes over what it found by itself.
 bool VoiceEngineEnd::Calibrate(Long inputDevice, Long outputDevice, float& inputSquelch, float& outputSquelch) {
     Choose();
+    if (IsResting()) serving.Control->Stop();
     if (!serving.Control->Calibrate(inputDevice, outputDevice, inputSquelch, outputSquelch)) return false;
     InputSquelch(inputSquelch);
     OutputSquelch(outputSquelch);
@@ -75,11 +81,18 @@ void VoiceEngineEnd::Set(Setting setting, Long room, Long output, Call call) {
     kept.insert_or_assign({setting, room, output}, std::move(call));
 }
 
+bool VoiceEngineEnd::IsResting() const {
+    bool isAnywhere = false;
+    for (Long room = 0; room < Rooms; ++room) isAnywhere = isAnywhere || Room(room).Presence != RoomPresence::Out;
+    return IsRunning() && !isAnywhere;
+}
+
 void VoiceEngineEnd::Choose() {
-    if (IsRunning() || IsStarting()) return;
+    if (IsStarting() || (IsRunning() && !IsResting())) return;
     const ServingEngine chosen = choose();
     if (chosen.Control == serving.Control) return;
     EndEvents(*serving.Control);
+    serving.Control->Stop();
     serving = chosen;
     Join();
     for (const auto& [setting, call] : kept) call(*serving.Control);

@@ -1,6 +1,7 @@
 // The voice engine that the panel has, in front of the one that serves, and what is shown of it. The program chooses
-// who serves whenever the engine is started or calibrated while none runs; what the panel has set until then counts for
-// that one as well. The engines outlive it.
+// who serves whenever the engine is started or calibrated, or asked whether it runs, while it is in no room; what the
+// panel has set until then counts for that one as well. The panel leaves an engine that it has stopped up, without
+// rooms: such a one rests, and gives way to another one and to a calibration. The engines outlive it.
 #pragma once
 
 #include <functional>
@@ -32,7 +33,8 @@ public:
     VoiceEngineEnd& operator=(const VoiceEngineEnd&) = delete;
     ~VoiceEngineEnd() override;
 
-    bool Running() override { return serving.Control->Running(); }
+    // Asked by the panel before it starts or stops the engine, never in between.
+    bool Running() override;
     bool Start(Long mode) override;
     void Stop() override { serving.Control->Stop(); }
     void InputSquelch(double value) override;
@@ -81,6 +83,7 @@ private:
     };
 
     void Set(Setting setting, Long room, Long output, Call call);
+    bool IsResting() const;
     void Choose();
     void Join();
 

@@ -24,7 +24,7 @@ Ticket PollEventLoop::After(Long milliseconds, Task task) {
     if (milliseconds > 0)
         later.emplace(Clock::now() + std::chrono::milliseconds(milliseconds), std::move(moment));
     else
-        posted.emplace_back(std::move(moment));
+        posted.push_back({nullptr, std::move(moment)});
     return ticket;
 }
 
@@ -37,6 +37,7 @@ Ticket PollEventLoop::Await(int descriptor, short events, Task task) {
 
 void PollEventLoop::ForgetWhatEnded() {
     std::erase_if(later, [](const auto& each) { return each.second.HasEnded(); });
+    std::erase_if(posted, [](const Next& next) { return !next.Posted && next.Due.HasEnded(); });
     std::erase_if(watches, [](const Watch& watch) { return watch.Ready.HasEnded(); });
 }
 
@@ -50,15 +51,16 @@ int PollEventLoop::Patience() const {
 }
 
 void PollEventLoop::RunReady(int patience) {
-    // Tasks make and end watches meanwhile.
-    std::vector<Watch> awaited = watches;
-    std::vector<pollfd> interests;
-    for (const Watch& watch : awaited) interests.push_back(watch.Interest);
+    interests.clear();
+    for (const Watch& watch : watches) interests.push_back(watch.Interest);
     const int ready = poll(interests.data(), interests.size(), patience);
     if (ready < 0 && errno != EINTR) throw std::system_error(errno, std::generic_category(), "poll");
     if (ready <= 0) return;
-    for (std::size_t index = 0; index < awaited.size() && !isStopped; ++index)
-        if (interests[index].revents != 0) awaited[index].Ready();
+    for (std::size_t index = 0; index < interests.size() && !isStopped; ++index) {
+        if (interests[index].revents == 0) continue;
+        const Attachment<> readied = watches[index].Ready;  // tasks make watches meanwhile, behind these
+        readied();
+    }
 }
 
 void PollEventLoop::RunDue() {
@@ -73,9 +75,9 @@ void PollEventLoop::RunDue() {
 // What these post in turn waits for the next turn, so that the descriptors have theirs.
 void PollEventLoop::RunPosted() {
     for (std::size_t left = posted.size(); left > 0 && !isStopped; --left) {
-        const Task task = std::move(posted.front());
+        const Next next = std::move(posted.front());
         posted.pop_front();
-        task();
+        next.Posted ? next.Posted() : next.Due();
     }
 }
 

@@ -21,7 +21,7 @@ public:
     // Lets Run return when the task under way has; what waits then stays for the next Run.
     void Stop() { isStopped = true; }
 
-    void Post(Task task) override { posted.push_back(std::move(task)); }
+    void Post(Task task) override { posted.push_back({std::move(task), {}}); }
     [[nodiscard]] Ticket After(Long milliseconds, Task task) override;
     [[nodiscard]] Ticket WhenReadable(int descriptor, Task task) override;
     [[nodiscard]] Ticket WhenWritable(int descriptor, Task task) override;
@@ -41,9 +41,16 @@ private:
     void RunDue();
     void RunPosted();
 
-    std::deque<Task> posted;
+    // In one order: what was posted, and what a ticket still stands for.
+    struct Next {
+        Task Posted;
+        Attachment<> Due;
+    };
+
+    std::deque<Next> posted;
     std::multimap<Clock::time_point, Attachment<>> later;
     std::vector<Watch> watches;
+    std::vector<pollfd> interests;  // of the watches, kept for its memory
     bool isStopped = false;
 };
 

@@ -10,7 +10,7 @@ namespace orvelle {
 QString ToQt(const std::string& text);
 std::string FromQt(const QString& text);
 
-// A tool tip that shows `text` to the letter, whatever marks are in it; "" for none.
+// A tool tip that shows `text` to the letter, whatever marks are in it, and wraps it; "" for none.
 QString PlainTip(const QString& text);
 
 // What a text with a mnemonic (an ampersand before the letter, two for one that stands) shows.

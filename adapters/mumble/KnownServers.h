@@ -1,4 +1,5 @@
-// The servers' certificates as they were at first sight: a line each in a file of mode 0600, "HOST:PORT SHA-256". So a
+// The servers' certificates as they were at first sight: a line each in a file of mode 0600, "HOST:PORT SHA-256",
+// the hash as openssl prints it, AB:CD:... So a
 // server that takes another's place is noticed, though nobody vouches for any. Held by the rooms for all of them.
 #pragma once
 

@@ -131,7 +131,7 @@ void RoomConnection::Send(std::span<const std::uint8_t> opus, VoiceRooms::Squelc
 
 void RoomConnection::TakeAnswer(PasswordAnswer answer) {
     if (state != State::Asking) return;
-    if (answer == PasswordAnswer::None) return GiveUp(TroubleText(RoomTrouble::PasswordMissing, wish));
+    if (answer == PasswordAnswer::None) return GiveUp(PasswordTroubleText());
     Begin();
 }
 
@@ -229,12 +229,12 @@ void RoomConnection::OnRefused(std::uint32_t type) {
     if (passwords.Of(server) != usedPassword && state != State::Out)
         return Connect(state == State::Joining ? JoinPatience : RejoinPatience);
     passwords.Forget(server, usedPassword);
-    if (!usedPassword.empty() || state != State::Joining) return GiveUp(TroubleText(RoomTrouble::PasswordWrong, wish));
+    if (state != State::Joining) return GiveUp(PasswordTroubleText());
     Drop();
     Rest();
     state = State::Asking;
     SetStatus(PasswordText(wish));
-    PasswordWanted();
+    PasswordWanted(usedPassword.empty() ? PasswordQuestion::First : PasswordQuestion::AfterWrong);
 }
 
 void RoomConnection::OnDenied(std::uint32_t type, std::uint32_t permission) {
@@ -347,8 +347,10 @@ void RoomConnection::EndTalks() {
     for (const std::uint32_t speaker : std::exchange(speakers, {})) SpeakerGone(speaker);
 }
 
-std::string RoomConnection::PresenceText() const {
-    return session->IsSuppressed() ? ListeningText(wish) : InText(wish);
+std::string RoomConnection::PresenceText() const { return session->IsSilenced() ? ListeningText(wish) : InText(wish); }
+
+std::string RoomConnection::PasswordTroubleText() const {
+    return TroubleText(usedPassword.empty() ? RoomTrouble::PasswordMissing : RoomTrouble::PasswordWrong, wish);
 }
 
 void RoomConnection::SetStatus(const std::string& text) {

@@ -17,6 +17,7 @@
 #include "adapters/mumble/RoomTexts.h"
 #include "adapters/mumble/ServerPasswords.h"
 #include "adapters/mumble/ServerSession.h"
+#include "platform/PasswordQuestion.h"
 
 namespace orvelle::mumble {
 
@@ -62,7 +63,7 @@ public:
     Event<const std::string&> StatusChanged;
     Event<const speech::HeardVoice&> Heard;
     Event<std::uint32_t> SpeakerGone;
-    Event<> PasswordWanted;
+    Event<PasswordQuestion> PasswordWanted;
 
 private:
     // Lost: it was joined, and is on its way back. Asking: it waits for a password.
@@ -88,6 +89,7 @@ private:
     void Drop();
     void EndTalks();
     std::string PresenceText() const;
+    std::string PasswordTroubleText() const;
     void SetStatus(const std::string& text);
 
     EventLoop& loop;

@@ -134,6 +134,7 @@ void ServerSession::TakeUser(const Message& message) {
     tree.Take(state);
     if (!own) return;
     if (state.session() == *own) {
+        if (state.has_mute()) isMuted = state.mute();
         if (state.has_suppress()) isSuppressed = state.suppress();
         return Changed();
     }

@@ -31,7 +31,7 @@ public:
     // Once synced; of whoever we are at the server.
     std::optional<std::uint32_t> OwnSession() const { return own; }
     std::optional<std::uint32_t> OwnChannel() const { return own ? tree.ChannelOf(*own) : std::nullopt; }
-    bool IsSuppressed() const { return isSuppressed; }  // others don't hear us
+    bool IsSilenced() const { return isMuted || isSuppressed; }  // others don't hear us
     const ServerTree& Tree() const { return tree; }
 
     void MoveTo(std::uint32_t channel);
@@ -69,6 +69,7 @@ private:
     MessageReader reader;
     ServerTree tree;
     std::optional<std::uint32_t> own;
+    bool isMuted = false;  // by an operator
     bool isSuppressed = false;
     std::uint64_t sequence = 0;
     std::unique_ptr<VoiceDatagrams> datagrams;

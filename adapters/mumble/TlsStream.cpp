@@ -77,13 +77,14 @@ std::string TlsStream::TakeOutgoing() {
 }
 
 std::string TlsStream::Fingerprint() const {
-    constexpr std::string_view Digits = "0123456789abcdef";
+    constexpr std::string_view Digits = "0123456789ABCDEF";
     std::array<unsigned char, EVP_MAX_MD_SIZE> hash{};
     unsigned size = 0;
     const X509* const certificate = stream ? SSL_get0_peer_certificate(stream.get()) : nullptr;
     if (!certificate || X509_digest(certificate, EVP_sha256(), hash.data(), &size) != 1) return "";
     std::string text;
     for (const unsigned char byte : std::span(hash).first(size)) {
+        if (!text.empty()) text += ':';
         text += Digits[byte >> 4];
         text += Digits[byte & 0xF];
     }

@@ -40,9 +40,9 @@ void VoiceRooms::Wire(Long number) {
     room.Heard = [this, number, &room](const speech::HeardVoice& voice) {
         if (room.IsEcho() || !IsOurs(room, voice.Speaker)) Heard(number, voice);
     };
-    room.PasswordWanted = [this, &room] {
+    room.PasswordWanted = [this, &room](PasswordQuestion question) {
         const std::string server = room.AskedServer();
-        if (kept->Asked.insert(server).second) PasswordWanted(server);
+        if (kept->Asked.insert(server).second) PasswordWanted(server, question);
     };
 }
 

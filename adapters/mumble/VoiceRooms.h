@@ -19,6 +19,7 @@
 #include "adapters/speech/HeardVoice.h"
 #include "platform/Event.h"
 #include "platform/EventLoop.h"
+#include "platform/PasswordQuestion.h"
 #include "platform/VoiceEngine.h"
 
 namespace orvelle::mumble {
@@ -60,8 +61,9 @@ public:
     // Of others; of this user's own connections in the echo alone.
     Event<Long, const speech::HeardVoice&> Heard;
     Event<Long, std::uint32_t> SpeakerGone;
-    // The server asks for a password that it did not have from us; asked once for each server and attempt.
-    Event<const std::string&> PasswordWanted;
+    // The server asks for a password that it did not have from us; asked by one room for all at that server, and again
+    // where the answer is wrong, until it is none.
+    Event<const std::string&, PasswordQuestion> PasswordWanted;
 
 private:
     struct Kept;

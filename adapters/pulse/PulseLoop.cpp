@@ -2,10 +2,9 @@
 
 #include <pulse/timeval.h>
 
-#include <poll.h>
-
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 // The library leaves these types to the loop. Each runs its task for as long as it is wanted; an ended ticket is how
 // one that is freed inside its own call is not touched any more.
@@ -20,6 +19,8 @@ struct pa_io_event {
     pa_io_event_cb_t Call;
     void* User;
     pa_io_event_destroy_cb_t AtEnd = nullptr;
+    pa_io_event_flags_t Wanted = PA_IO_EVENT_NULL;
+    bool IsReadableAwaited = false;
     Ticket Readable = {};
     Ticket Writable = {};
 };
@@ -55,24 +56,27 @@ void Free(PulseEvent* event) {
     delete event;
 }
 
-// Our loop tells the end and errors of a descriptor as both kinds; the library wants them by name.
+// Our loop tells the end and errors of a descriptor as both kinds. The library finds them as it reads or writes then.
 void RunDescriptor(pa_io_event* event, pa_io_event_flags_t kind) {
-    pollfd state{event->Descriptor, 0, 0};
-    int flags = kind;
-    if (poll(&state, 1, 0) > 0) {
-        if (state.revents & POLLHUP) flags |= PA_IO_EVENT_HANGUP;
-        if (state.revents & (POLLERR | POLLNVAL)) flags |= PA_IO_EVENT_ERROR;
-    }
-    event->Call(event->Api, event, event->Descriptor, static_cast<pa_io_event_flags_t>(flags), event->User);
+    event->Call(event->Api, event, event->Descriptor, kind, event->User);
 }
 
+void Read(pa_io_event* event) {
+    if (event->Wanted & PA_IO_EVENT_INPUT) return RunDescriptor(event, PA_IO_EVENT_INPUT);
+    event->Readable.End();
+    event->IsReadableAwaited = false;
+}
+
+// The library takes its wish to read back and renews it with each message: what stands is kept until it disturbs.
 void Enable(pa_io_event* event, pa_io_event_flags_t flags) {
-    const auto await = [event](Ticket& ticket, bool isWanted, auto when, pa_io_event_flags_t kind) {
-        ticket.End();
-        if (isWanted) ticket = (event->Loop.*when)(event->Descriptor, [=] { RunDescriptor(event, kind); });
-    };
-    await(event->Readable, flags & PA_IO_EVENT_INPUT, &EventLoop::WhenReadable, PA_IO_EVENT_INPUT);
-    await(event->Writable, flags & PA_IO_EVENT_OUTPUT, &EventLoop::WhenWritable, PA_IO_EVENT_OUTPUT);
+    const int before = std::exchange(event->Wanted, flags);
+    if ((flags & PA_IO_EVENT_INPUT) && !std::exchange(event->IsReadableAwaited, true))
+        event->Readable = event->Loop.WhenReadable(event->Descriptor, [event] { Read(event); });
+    if (((before ^ flags) & PA_IO_EVENT_OUTPUT) == 0) return;
+    event->Writable.End();
+    if (flags & PA_IO_EVENT_OUTPUT)
+        event->Writable =
+            event->Loop.WhenWritable(event->Descriptor, [event] { RunDescriptor(event, PA_IO_EVENT_OUTPUT); });
 }
 
 pa_io_event* NewDescriptor(pa_mainloop_api* api, int descriptor, pa_io_event_flags_t flags, pa_io_event_cb_t call,

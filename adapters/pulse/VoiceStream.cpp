@@ -17,8 +17,10 @@ constexpr pa_sample_spec Form{PA_SAMPLE_FLOAT32NE, static_cast<std::uint32_t>(sp
 constexpr Long LooksOfPatience = LooksASecond;
 constexpr Long LooksUntilAnew = 4 * LooksASecond;
 // One that goes on after so long is opened anew as well: what it holds is old, and one of the servers may keep it
-// silent from then on.
+// silent from then on. But not again after its first moments: a device that had nobody may take a while to serve one,
+// and the next stream would have the same to wait for.
 constexpr std::chrono::seconds LongestPause{1};
+constexpr std::chrono::milliseconds FirstMoments{500};
 
 constexpr const char* DesktopName = "net.orvelle.orvellecp";
 
@@ -96,9 +98,15 @@ void VoiceStream::TakeState() {
 
 void VoiceStream::Move(std::size_t bytes) {
     const SoundPace::Moment now = std::chrono::steady_clock::now();
-    if (now - std::exchange(movedAt, now).value_or(now) > LongestPause) {
-        Close();
-        return changed();
+    if (!movedAt) evenSince = now;
+    const SoundPace::Moment before = std::exchange(movedAt, now).value_or(now);
+    if (before - evenSince > FirstMoments) isAnew = false;
+    if (now - before > LongestPause) {
+        evenSince = now;
+        if (!std::exchange(isAnew, true)) {
+            Close();
+            return changed();
+        }
     }
     stillFor = 0;
     if (!std::exchange(isMoving, true)) changed();
@@ -110,7 +118,8 @@ void VoiceStream::Look() {
     ++stillFor;
     if (stillFor > LooksOfPatience) Stand();
     const bool isMade = pa_stream_get_state(stream) == PA_STREAM_READY;
-    if (stillFor > (isMade ? LooksUntilAnew : LooksOfPatience)) Close();
+    if (stillFor > (isMade ? LooksUntilAnew : LooksOfPatience)) return Close();
+    if (isMade) ShowLife();
 }
 
 void VoiceStream::Stand() {

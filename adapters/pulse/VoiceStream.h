@@ -47,6 +47,7 @@ protected:
     // The server has so many bytes, or room for them.
     virtual void Carry(std::size_t bytes) = 0;
     virtual void Forget() = 0;  // what is left of the stream before
+    virtual void ShowLife() {}  // at each look, where the server would not be heard of otherwise
 
     pa_stream* stream = nullptr;
     SoundPace pace;
@@ -62,6 +63,8 @@ private:
     bool isMoving = false;
     Long stillFor = 0;  // looks
     std::optional<SoundPace::Moment> movedAt;
+    SoundPace::Moment evenSince{};  // it has moved without a pause
+    bool isAnew = false;            // opened for a pause, and not even yet
 };
 
 }  // namespace orvelle::pulse

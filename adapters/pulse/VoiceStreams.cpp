@@ -44,6 +44,10 @@ void VoiceStreams::CloseOutputs() {
     for (OutputStream& output : outputs) Leave(output);
 }
 
+void VoiceStreams::RouseOutputs() {
+    for (OutputStream& output : outputs) output.Rouse();
+}
+
 bool VoiceStreams::OutputWorks(Long output) const {
     return IsOutput(output) && outputs[static_cast<std::size_t>(output)].Works();
 }

@@ -38,6 +38,10 @@ public:
     void OpenOutputs();
     void CloseOutputs();
 
+    // An output to which nothing was written for some time rests, and is not wanted any more. Said whenever there may
+    // be something to write, for both.
+    void RouseOutputs();
+
     // Whether it is wanted and runs.
     bool MicrophoneWorks() const { return microphone.Works(); }
     bool OutputWorks(Long output) const;

@@ -19,14 +19,13 @@ namespace orvelle {
 
 namespace {
 
-std::vector<std::string> AddressesOf(const std::string& host) {
+// None where the resolver finds nothing.
+std::vector<std::string> Resolve(const std::string& host, int flags) {
     addrinfo wanted{};
     wanted.ai_socktype = SOCK_STREAM;
-    wanted.ai_flags = AI_ADDRCONFIG;
+    wanted.ai_flags = flags;
     addrinfo* found = nullptr;
-    // This computer is found also where no file of hosts says so.
-    if (getaddrinfo(host.c_str(), nullptr, &wanted, &found) != 0)
-        return host == LocalHost ? std::vector<std::string>{LoopbackAddress} : std::vector<std::string>{};
+    if (getaddrinfo(host.c_str(), nullptr, &wanted, &found) != 0) return {};
     std::vector<std::string> addresses;
     for (const addrinfo* each = found; each != nullptr; each = each->ai_next) {
         std::array<char, NI_MAXHOST> text{};
@@ -35,6 +34,16 @@ std::vector<std::string> AddressesOf(const std::string& host) {
             addresses.emplace_back(text.data());
     }
     freeaddrinfo(found);
+    return addresses;
+}
+
+std::vector<std::string> AddressesOf(const std::string& host) {
+    // An address is taken at its word: asked for as a name it is refused where no network of its family is up, and
+    // loopback counts as none.
+    std::vector<std::string> addresses = Resolve(host, AI_NUMERICHOST);
+    if (addresses.empty()) addresses = Resolve(host, AI_ADDRCONFIG);
+    // This computer is found also where no file of hosts says so.
+    if (addresses.empty() && host == LocalHost) addresses = {LoopbackAddress};
     return addresses;
 }
 

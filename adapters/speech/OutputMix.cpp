@@ -48,6 +48,12 @@ void OutputMix::Forget(Long room) {
     if (IsRoom(room)) rooms[room].Forget();
 }
 
+BlockCounts OutputMix::Counted() const {
+    BlockCounts all;
+    for (const RoomMix& room : rooms) all += room.Counted();
+    return all;
+}
+
 void OutputMix::Take(Block& block) {
     Block tones = Silence;
     block = Silence;

@@ -7,6 +7,7 @@
 #include <cstdint>
 
 #include "adapters/speech/Block.h"
+#include "adapters/speech/BlockCounts.h"
 #include "adapters/speech/HeardVoice.h"
 #include "adapters/speech/RadioEffect.h"
 #include "adapters/speech/Ramp.h"
@@ -35,6 +36,8 @@ public:
 
     // The next ten milliseconds, never above full scale.
     void Take(Block& block);
+    // Of all voices of all rooms, routed here or not.
+    BlockCounts Counted() const;
 
 private:
     static constexpr double EveryVoice = -1000;  // decibels

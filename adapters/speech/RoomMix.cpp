@@ -16,6 +16,25 @@ void RoomMix::Put(const HeardVoice& packet) {
     speakers[packet.Speaker].Voice.Put(packet);
 }
 
+void RoomMix::Forget(std::uint32_t speaker) {
+    if (const auto known = speakers.find(speaker); known != speakers.end()) PutAway(known);
+}
+
+void RoomMix::Forget() {
+    while (!speakers.empty()) PutAway(speakers.begin());
+}
+
+void RoomMix::PutAway(std::map<std::uint32_t, Speaker>::iterator speaker) {
+    countedOfGone += speaker->second.Voice.Counted();
+    speakers.erase(speaker);
+}
+
+BlockCounts RoomMix::Counted() const {
+    BlockCounts all = countedOfGone;
+    for (const auto& [number, speaker] : speakers) all += speaker.Voice.Counted();
+    return all;
+}
+
 bool RoomMix::MakePlace() {
     if (speakers.size() < MostSpeakers) return true;
     const auto silence = [](const auto& each) { return each.second.Voice.HasEnded() ? each.second.BlocksSilent : -1; };
@@ -23,7 +42,7 @@ bool RoomMix::MakePlace() {
         return silence(one) < silence(other);
     });
     if (silence(*longest) < 0) return false;
-    speakers.erase(longest);
+    PutAway(longest);
     return true;
 }
 
@@ -51,7 +70,7 @@ bool RoomMix::Mix(Block& room, double quietest) {
         Speaker& speaker = each->second;
         if (!speaker.Voice.Take(block)) {
             if (++speaker.BlocksSilent >= BlocksKept)
-                speakers.erase(each);
+                PutAway(each);
             else
                 speaker.Squelch.Close();
             continue;

@@ -6,6 +6,7 @@
 #include <map>
 
 #include "adapters/speech/Block.h"
+#include "adapters/speech/BlockCounts.h"
 #include "adapters/speech/HeardVoice.h"
 #include "adapters/speech/Ramp.h"
 #include "adapters/speech/SignalTone.h"
@@ -24,8 +25,8 @@ public:
     void Route(bool on) { share.To(on ? 1.0F : 0.0F); }
 
     void Put(const HeardVoice& packet);
-    void Forget(std::uint32_t speaker) { speakers.erase(speaker); }
-    void Forget() { speakers.clear(); }
+    void Forget(std::uint32_t speaker);
+    void Forget();
 
     // Adds the next ten milliseconds. A voice below `quietest` decibels fades out, and whoever is silent for a second
     // is put away.
@@ -33,6 +34,8 @@ public:
     // Somebody is talking, and it is heard there.
     bool IsHeard() const { return isTalking && share.End() > 0; }
     std::size_t Speakers() const { return speakers.size(); }
+    // Also of those who are not there any more.
+    BlockCounts Counted() const;
 
 private:
     struct Speaker {
@@ -42,10 +45,12 @@ private:
         Long BlocksSilent = 1;
     };
 
+    void PutAway(std::map<std::uint32_t, Speaker>::iterator speaker);
     bool MakePlace();
     bool Mix(Block& room, double quietest);
 
     std::map<std::uint32_t, Speaker> speakers;
+    BlockCounts countedOfGone;
     Ramp share{0};
     SignalTone signal;
     bool isTalking = false;

@@ -9,6 +9,8 @@ namespace orvelle::speech {
 namespace {
 
 constexpr Long Second = 1000 / BlockMilliseconds;
+// So long after a flood of packets, which only this computer's standing still brings, no more of it comes.
+constexpr Long FloodLasts = Second / 5;
 constexpr Long BlocksOfPatience = 120 / BlockMilliseconds;
 // A gap that is longer is none: the numbers went on elsewhere.
 constexpr Long MostGap = BlocksOfPatience;
@@ -44,7 +46,10 @@ void SpeakerVoice::Put(const HeardVoice& packet) {
         playing = isNextKnown = false;
     }
     if (arrival == Arrival::Late || !packets.Put(packet, opus.value_or(OpusPacket()))) ++counts.Late;
-    if (packets.DropTooOld() && playing) next = packets.First().Sequence;
+    if (!packets.DropTooOld()) return;
+    if (playing) next = packets.First().Sequence;
+    blocksToSettle = FloodLasts;
+    leastInHand = MostBlocksInHand;
 }
 
 SpeakerVoice::Arrival SpeakerVoice::ArrivalOf(std::uint64_t sequence, Long blocks) {
@@ -69,7 +74,10 @@ bool SpeakerVoice::Take(Block& block) {
 
     leastInHand = std::min(leastInHand, BlocksInHand());
     NextBlock(block);
-    if (++blocksOfSecond >= Second) LeaveOut(block);
+    if (blocksToSettle > 0 && --blocksToSettle == 0)
+        Settle(block);
+    else if (++blocksOfSecond >= Second)
+        LeaveOutSurplus(block);
     if (!playing) FadeOut(block);
     return true;
 }
@@ -144,6 +152,7 @@ void SpeakerVoice::PrepareFirst() {
     if (packet.Opus.Blocks > 0) {
         blocksOfPacket = packet.Opus.Blocks;
         prepared = decoder.Decode(packet.Data);
+        counts.Played += prepared.size() / BlockSamples;
     }
     if (prepared.empty()) Conceal();
     next += packet.Opus.Blocks;
@@ -155,19 +164,29 @@ void SpeakerVoice::Conceal() {
     ++counts.Concealed;
 }
 
-// Once a second. The block becomes a passage from itself to the last one that is left out, whose end the next one
-// follows.
-void SpeakerVoice::LeaveOut(Block& block) {
-    const Long tooMany = (leastInHand - BlocksNeeded() + 1) / 2;
+// Half of it once a second, as a network that is uneven may need it soon.
+void SpeakerVoice::LeaveOutSurplus(Block& block) {
+    const Long surplus = leastInHand - BlocksNeeded();
     leastInHand = MostBlocksInHand;
     blocksOfSecond = 0;
+    LeaveOut(block, (surplus + 1) / 2);
+}
 
+// All of it, once no more of the flood comes.
+void SpeakerVoice::Settle(Block& block) {
+    LeaveOut(block, leastInHand - BlocksNeeded());
+    leastInHand = MostBlocksInHand;
+    blocksOfSecond = 0;
+}
+
+// The block becomes a passage from itself to the last one that is left out, whose end the next one follows.
+void SpeakerVoice::LeaveOut(Block& block, Long blocks) {
     Block last = block;
-    for (Long left = tooMany; left > 0 && playing && BlocksInHand() >= BlocksNeeded(); --left) {
+    for (Long left = blocks; left > 0 && playing && BlocksInHand() >= BlocksNeeded(); --left) {
         NextBlock(last);
         ++counts.LeftOut;
     }
-    if (tooMany > 0) FadeInto(block, last);
+    if (blocks > 0) FadeInto(block, last);
 }
 
 Long SpeakerVoice::BlocksInHand() const {

@@ -1,8 +1,9 @@
 // The voice of one speaker, from the packets as they come to the blocks as they are heard: in order, at an even pace
 // and as soon as it can be. It begins with ten milliseconds in hand. A packet that is missing is restored from the one
 // that follows it, else made up from what was heard; where nothing is in hand the delay grows, and where more than
-// needed was in hand for a second, half of that is left out. While packets get lost, one more is needed in hand, as the
-// next one restores it. Held for each speaker by each output, as outputs have clocks of their own.
+// needed was in hand for a second, half of that is left out; where this computer stood still, all of it. While packets
+// get lost, one more is needed in hand, as the next one restores it. Held for each speaker by each output, as outputs
+// have clocks of their own.
 #pragma once
 
 #include <cstdint>
@@ -10,6 +11,7 @@
 #include <span>
 
 #include "adapters/speech/Block.h"
+#include "adapters/speech/BlockCounts.h"
 #include "adapters/speech/HeardVoice.h"
 #include "adapters/speech/PacketQueue.h"
 #include "adapters/speech/VoiceDecoder.h"
@@ -18,13 +20,6 @@ namespace orvelle::speech {
 
 class SpeakerVoice {
 public:
-    struct Counts {
-        unsigned long Restored = 0;   // blocks, from the packet that followed them
-        unsigned long Concealed = 0;  // blocks that were made up
-        unsigned long Late = 0;       // packets that came after their moment, or twice
-        unsigned long LeftOut = 0;    // blocks, so that the delay shrinks
-    };
-
     SpeakerVoice() = default;  // std::bad_alloc where the library has no memory
     SpeakerVoice(const SpeakerVoice&) = delete;
     SpeakerVoice& operator=(const SpeakerVoice&) = delete;
@@ -35,7 +30,7 @@ public:
     bool Take(Block& block);
     // The talk is over and was heard to its end: its last packet came, or none for 120 ms. So before the first one.
     bool HasEnded() const { return !playing && packets.IsEmpty(); }
-    const Counts& Counted() const { return counts; }
+    const BlockCounts& Counted() const { return counts; }
 
 private:
     enum class Arrival { InTime, Late, Anew };
@@ -48,13 +43,15 @@ private:
     void PrepareFirst();
     void Conceal();
     void SkipConcealed(std::int64_t gap);
-    void LeaveOut(Block& block);
+    void LeaveOutSurplus(Block& block);
+    void Settle(Block& block);
+    void LeaveOut(Block& block, Long blocks);
     Long BlocksInHand() const;
     Long BlocksNeeded() const;
 
     PacketQueue packets;
     VoiceDecoder decoder;
-    Counts counts;
+    BlockCounts counts;
 
     bool playing = false;
     bool isLast = false;              // what is prepared ends the talk
@@ -66,7 +63,8 @@ private:
     Long blocksSilent = 0;            // taken since the talk's end
     Long blocksLate = 0;              // that came late since one was in time
     Long blocksSinceLoss = std::numeric_limits<Long>::max();
-    Long leastInHand = 0;  // before any block of the second that runs
+    Long leastInHand = 0;     // before any block of the second that runs
+    Long blocksToSettle = 0;  // until what is in hand after a flood is known
     Long blocksOfSecond = 0;
 };
 

@@ -49,7 +49,11 @@ constexpr int PictureWidth = 1200;
 constexpr int RowHeight = 220;
 constexpr int Edge = 4 * Unit;
 
-// One row: the levels as bars from the middle, full scale of this row's loudest.
+int PlaceOf(const QRect& row, std::size_t step, std::size_t steps) {
+    return row.left() + static_cast<int>(step * static_cast<std::size_t>(row.width()) / steps);
+}
+
+// One row: the levels as bars from the middle, each as wide as its step, full scale of this row's loudest.
 void DrawRow(QPainter& painter, const QRect& row, const QString& caption, const std::vector<double>& levels,
              std::size_t steps) {
     painter.drawText(row.adjusted(0, -3 * Unit, 0, 0), Qt::AlignLeft | Qt::AlignTop, caption);
@@ -57,9 +61,10 @@ void DrawRow(QPainter& painter, const QRect& row, const QString& caption, const 
     const double loudest = levels.empty() ? 0 : *std::ranges::max_element(levels);
     if (loudest <= 0) return;
     for (std::size_t step = 0; step < levels.size(); ++step) {
-        const int x = row.left() + static_cast<int>(step * static_cast<std::size_t>(row.width()) / steps);
         const int height = static_cast<int>(levels[step] / loudest * row.height() / 2);
-        painter.drawLine(x, row.center().y() - height, x, row.center().y() + height);
+        const QPoint top(PlaceOf(row, step, steps), row.center().y() - height);
+        const QPoint bottom(PlaceOf(row, step + 1, steps) - 1, row.center().y() + height);
+        painter.fillRect(QRect(top, bottom), painter.pen().color());
     }
 }
 
@@ -130,7 +135,7 @@ bool DrawLevels(const QString& file, const std::vector<double>& spoken, const st
     DrawRow(painter, second, "Heard in the second pilot's headset", heard, steps);
     const int bottom = second.bottom() + Unit;
     for (std::size_t step = 0; step < steps; step += 1000 / LevelMilliseconds) {
-        const int x = second.left() + static_cast<int>(step * static_cast<std::size_t>(second.width()) / steps);
+        const int x = PlaceOf(second, step, steps);
         painter.drawLine(x, second.bottom(), x, bottom);
         painter.drawText(QRect(x - 4 * Unit, bottom, 8 * Unit, 3 * Unit), Qt::AlignHCenter | Qt::AlignTop,
                          QString::number(step * LevelMilliseconds / 1000) + " s");

@@ -1,5 +1,8 @@
 #include "apps/talk/Pilot.h"
 
+#include <iostream>
+
+#include "adapters/avahi/ServiceBrowser.h"
 #include "adapters/looks/Text.h"
 #include "adapters/mqtt/SetUpFile.h"
 #include "adapters/store/SqliteStore.h"
@@ -16,6 +19,8 @@ namespace orvelle {
 namespace {
 
 constexpr int PanelIdentity = 2;  // orvelle-sim is c01
+// What the icon tells takes a third of a screen. It stands beside the panel, and the picture is of that alone.
+constexpr int ScreenWidth = VirtualComputer::UsualScreenWidth * 8 / 5;
 
 bool HasEndedWell(const QProcess& program) {
     return program.state() == QProcess::NotRunning && program.exitStatus() == QProcess::NormalExit &&
@@ -25,7 +30,7 @@ bool HasEndedWell(const QProcess& program) {
 }  // namespace
 
 Pilot::Pilot(EventLoop& eventLoop, std::size_t ownNumber, const QDir& folder, const QString& displayScript)
-    : loop(eventLoop), number(ownNumber), computer(folder, displayScript), port(FreePort(mqtt::UsualPort)) {
+    : loop(eventLoop), number(ownNumber), computer(folder, displayScript, ScreenWidth), port(FreePort()) {
     OwnSound::Name(computer.Environment, number);
     SetUpPanel();
 }
@@ -34,6 +39,7 @@ Pilot::~Pilot() {
     watch.reset();
     keyboard.reset();
     for (QProcess* const each : {&adding, &panel, &simulator}) EndChild(*each);
+    if (simulator.isOpen()) std::cerr << simulator.readAll().toStdString();
 }
 
 std::string Pilot::Callsign() const { return number == 0 ? "ABC123" : "DEF456"; }
@@ -54,7 +60,17 @@ bool Pilot::IsOn() {
 }
 
 void Pilot::StartSimulator() {
+    simulator.setProcessChannelMode(QProcess::MergedChannels);
+    QObject::connect(&simulator, &QProcess::readyRead, [this] { PassOnWhatItSays(); });
     computer.Run(simulator, "orvelle-sim", {"--no-window", "--data", SetUpFolder(), "--port", QString::number(port)});
+}
+
+// That set-ups are not found by themselves is nothing to the story, which names its hosts.
+void Pilot::PassOnWhatItSays() {
+    while (simulator.canReadLine()) {
+        const QByteArray line = simulator.readLine();
+        if (!line.contains(avahi::MissingSentence)) std::cerr << line.toStdString() << std::flush;
+    }
 }
 
 bool Pilot::SimulatorServes() {
@@ -75,6 +91,11 @@ bool Pilot::HasJoined() {
 void Pilot::StartPanel() { computer.Run(panel, "orvelle-panel", {}); }
 
 bool Pilot::HasEngine() { return watch->Holders(EngineRole) == std::vector{PanelIdentity}; }
+
+QImage Pilot::Screen() const {
+    const QImage whole = computer.Screen();
+    return whole.copy(0, 0, VirtualComputer::UsualScreenWidth, whole.height());
+}
 
 void Pilot::Tune(const std::string& server, const std::string& channel) {
     watch->SetSession({.Handle = 1,

@@ -41,12 +41,14 @@ public:
     void PressTalkKey() { keyboard->Press(F8); }
     void ReleaseTalkKey() { keyboard->Release(F8); }
 
-    QImage Screen() const { return computer.Screen(); }
+    // Where the panel is.
+    QImage Screen() const;
 
 private:
     static constexpr int F8 = 66 + 8;  // of linux/input-event-codes.h, as X servers count
 
     void SetUpPanel();
+    void PassOnWhatItSays();
     QString SetUpFolder() const { return computer.Home.filePath("c01"); }
 
     EventLoop& loop;

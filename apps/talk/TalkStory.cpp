@@ -16,9 +16,9 @@ namespace {
 
 const std::string Sentence = "Tower, this is Alpha Bravo Charlie one two three, ready for departure.";
 const std::string Channel = "122.8";
-constexpr int UsualVoicePort = 64738;
 constexpr short LeastSound = 300;  // of 32768
 constexpr std::size_t QuietSamples = 48000 / 5;
+constexpr const char* PanelsPicture = "panels.png";
 constexpr double LeastCorrelation = 0.8;
 
 bool IsSound(std::span<const short> samples) {
@@ -32,7 +32,7 @@ bool IsQuietAtLast(const std::vector<short>& samples) {
 }  // namespace
 
 TalkStory::TalkStory(EventLoop& loop, const QDir& workFolder, const QDir& resultFolder, const QString& displayScript)
-    : work(workFolder), results(resultFolder), server(FreePort(UsualVoicePort)) {
+    : work(workFolder), results(resultFolder), server(FreePort()) {
     results.mkpath(".");
     std::vector<QString> runFolders;
     for (std::size_t number = 0; number < 2; ++number) {
@@ -118,7 +118,7 @@ bool TalkStory::Talk() {
                        [this] { return IsSound(headset.Samples()); }) ||
         !telling.Comes("The sentence is spoken.", [this] { return !sound->Speaks(); }))
         return false;
-    const QString screens = results.filePath("panels.png");
+    const QString screens = results.filePath(PanelsPicture);
     SideBySide(
         {{"One", "has talked, with F8 still down", pilots[0]->Screen()}, {"Two", "has listened", pilots[1]->Screen()}})
         .save(screens);
@@ -140,11 +140,14 @@ std::string TalkStory::Judge() {
     if (!WriteWaveFile(file, heard) || !DrawLevels(picture, spokenLevels, heardLevels))
         return "What was heard can't be written to " + FromQt(results.path()) + ".";
     const Likeness likeness = Compare(spokenLevels, heardLevels);
-    char said[120];
-    std::snprintf(said, sizeof said, "The levels of both are alike by %.3f, %d ms apart.", likeness.Correlation,
-                  static_cast<int>(likeness.Later));
+    char said[160];
+    std::snprintf(
+        said, sizeof said,
+        "What was heard rises and falls as what was said, %d ms later; the two are alike by %.3f, where 1 is the same.",
+        static_cast<int>(likeness.Later), likeness.Correlation);
     telling.Happens(said);
     telling.Happens("Heard: " + FromQt(file) + ", its level over time: " + FromQt(picture));
+    telling.Happens("Both panels while the first pilot talked: " + FromQt(results.filePath(PanelsPicture)));
     if (likeness.Correlation > LeastCorrelation) return "";
     return "What the second pilot heard is not what the first one said.";
 }

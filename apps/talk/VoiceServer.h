@@ -5,13 +5,16 @@
 #include <QByteArray>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <cstdint>
 #include <string>
+
+#include "apps/talk/VoiceServerFiles.h"
 
 namespace orvelle {
 
 class VoiceServer {
 public:
-    explicit VoiceServer(int port);
+    explicit VoiceServer(std::uint16_t port);
     VoiceServer(const VoiceServer&) = delete;
     VoiceServer& operator=(const VoiceServer&) = delete;
     ~VoiceServer();
@@ -24,12 +27,13 @@ public:
     bool HasInChannel(const std::string& callsign);
 
 private:
-    std::string MakeDatabase();
-    bool BelongToItsUser() const;
+    using Rights = VoiceServerFiles::Rights;
+
     bool Says(const std::string& words);
 
-    const int port;
+    const std::uint16_t port;
     const QTemporaryDir folder;
+    const VoiceServerFiles files;
     QProcess program;
     QByteArray said;
 };

@@ -28,10 +28,12 @@ SetUpWatch::SetUpWatch(EventLoop& loop, const mqtt::SetUpSetting& setUp)
         roles.clear();
     };
     const std::string identity = mqtt::WriteIdentity(simulator);
+    const std::string input =
+        mqtt::WriteTopic({.Identity = simulator, .From = Program::Simulator, .Kind = mqtt::TopicKind::Input});
     connection.Open({.Access = {setUp.Host, setUp.Port, identity, mqtt::WriteKey(setUp.Key)},
                      .ClientId = identity + ".watch." + std::to_string(getpid()),
                      .WillTopic = "",
-                     .Subscriptions = {{"orvelle/1/+/+/presence", 1}, {"orvelle/1/+/panel/record/+", 1}}});
+                     .Subscriptions = {{"orvelle/1/+/+/presence", 1}, {"orvelle/1/+/panel/record/+", 1}, {input, 0}}});
 }
 
 bool SetUpWatch::SimulatorServes() const {
@@ -68,6 +70,10 @@ void SetUpWatch::Hear(const std::string& text, const std::string& payload) {
     if (!topic) return;
     if (topic->Kind == mqtt::TopicKind::Presence)
         return presences.Hear({topic->Identity, topic->From}, mqtt::ReadPresence(payload));
+    if (topic->Kind == mqtt::TopicKind::Input) {
+        if (const auto input = mqtt::ReadInput(payload)) InputHeard(input->Held);
+        return;
+    }
     if (topic->Kind != mqtt::TopicKind::Record) return;
     const Long id = mqtt::RecordId(topic->Identity, topic->Record);
     const auto record = mqtt::ReadRecord(payload);

@@ -1,6 +1,6 @@
-// Looks on at a set-up from its broker: which programs are there and which panel holds a role, as every member of the
-// set-up counts it. It is no member itself and ends no other connection, but comes with the key of the simulator's
-// computer, and can so set the session for its program by hand.
+// Looks on at a set-up from its broker: which programs are there, which panel holds a role, as every member of the
+// set-up counts it, and what is held on the simulator's computer. It is no member itself and ends no other connection,
+// but comes with the key of the simulator's computer, and can so set the session for its program by hand.
 #pragma once
 
 #include <filesystem>
@@ -12,6 +12,7 @@
 #include "adapters/mqtt/BrokerConnection.h"
 #include "adapters/mqtt/Presences.h"
 #include "adapters/mqtt/SetUpFile.h"
+#include "platform/SimulatorInput.h"
 
 namespace orvelle {
 
@@ -26,6 +27,8 @@ public:
     // The program of the simulator's computer is there and offers both links.
     bool SimulatorServes() const;
     void SetSession(const SessionSetting& session);
+    // Each message, from the loop.
+    Event<const SimulatorInput&> InputHeard;
 
     // The beats of a computer's panel in its run so far; 0 while it is not there.
     Long PanelBeats(int identity) const;

@@ -18,7 +18,7 @@ QString Program() { return ToQt(linux::BesideOwnFile("orvelle-sim")); }
 }  // namespace
 
 SimulatorsComputer::SimulatorsComputer(EventLoop& eventLoop, const QDir& ownFolder)
-    : loop(eventLoop), folder(ownFolder.path()), port(FreePort(mqtt::UsualPort)) {
+    : loop(eventLoop), folder(ownFolder.path()), port(FreePort()) {
     ownFolder.mkpath(".");
 }
 
@@ -29,7 +29,7 @@ SimulatorsComputer::~SimulatorsComputer() {
 }
 
 void SimulatorsComputer::Start() {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    QProcessEnvironment environment = Environment;
     // Its keys are those of its display.
     environment.insert("XDG_SESSION_TYPE", "x11");
     program.setProcessEnvironment(environment);

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <memory>
 #include <string>
 
@@ -21,6 +22,8 @@ public:
     SimulatorsComputer& operator=(const SimulatorsComputer&) = delete;
     ~SimulatorsComputer();
 
+    // What orvelle-sim finds in its environment: at first what this process has.
+    QProcessEnvironment Environment = QProcessEnvironment::systemEnvironment();
     void Start();
     // The set-up is made, its broker serves, and both links are offered. From then on there is a watch.
     bool Serves();

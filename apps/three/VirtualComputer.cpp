@@ -9,8 +9,8 @@ namespace orvelle {
 
 namespace {
 
-// The panel's window with its frame, and the tray above it.
-constexpr const char* ScreenSize = "984x484";
+// The panel's window and the tray above it.
+constexpr const char* ScreenHeight = "x484";
 // What the display's script runs: tells where the display is, and stays.
 constexpr const char* Session = "echo \"$DISPLAY\"; echo \"$DBUS_SESSION_BUS_ADDRESS\"; exec sleep infinity";
 
@@ -23,8 +23,8 @@ QDir Made(const QDir& folder) {
 
 }  // namespace
 
-VirtualComputer::VirtualComputer(const QDir& folder, const QString& displayScript)
-    : Home(Made(folder)), script(displayScript) {}
+VirtualComputer::VirtualComputer(const QDir& folder, const QString& displayScript, int screenWidth)
+    : Home(Made(folder)), script(displayScript), width(screenWidth) {}
 
 VirtualComputer::~VirtualComputer() {
     EndChild(joining);
@@ -40,7 +40,7 @@ void VirtualComputer::SwitchOn() {
     // For what the script itself keeps.
     environment.insert("TMPDIR", Home.path());
     desktop.setProcessEnvironment(environment);
-    StartChild(desktop, script, {"--size", ScreenSize, "sh", "-c", Session});
+    StartChild(desktop, script, {"--size", QString::number(width) + ScreenHeight, "sh", "-c", Session});
 }
 
 bool VirtualComputer::IsOn() {

@@ -17,8 +17,10 @@ namespace orvelle {
 
 class VirtualComputer {
 public:
+    static constexpr int UsualScreenWidth = 984;  // pixels: the panel's window with its frame
+
     // `displayScript` is tests/with-display. Nobody else writes to `folder`, which is made.
-    VirtualComputer(const QDir& folder, const QString& displayScript);
+    VirtualComputer(const QDir& folder, const QString& displayScript, int screenWidth = UsualScreenWidth);
     VirtualComputer(const VirtualComputer&) = delete;
     VirtualComputer& operator=(const VirtualComputer&) = delete;
     ~VirtualComputer();
@@ -47,6 +49,7 @@ public:
 
 private:
     const QString script;
+    const int width;
     std::string display;
     QString sessionBus;
     QProcess desktop;

@@ -5,6 +5,12 @@
 
 namespace orvelle {
 
+namespace {
+
+constexpr std::array<const char*, Rooms> RoomNames{"COM1", "COM2", "The private room"};
+
+}  // namespace
+
 PanelRooms::PanelRooms(const VoiceEngineControl& eventsOf, Raise raiseEvent)
     : engine(eventsOf), raise(std::move(raiseEvent)) {}
 
@@ -18,7 +24,13 @@ unsigned long PanelRooms::Join(Long room, const std::string& clientName, const s
     return ++AttemptOf(room);
 }
 
-void PanelRooms::Refuse(Long room, const std::string& sentence) { SetStatus(room, sentence); }
+void PanelRooms::Refuse(Long room, const std::string& clientName, const std::string& address,
+                        const std::string& sentence) {
+    Of(room).ClientName = clientName;
+    Of(room).Address = address;
+    SetStatus(room, sentence);
+    TellWhy(room);
+}
 
 // Who is on the way back in when the event comes has not left: told late, it would pass for the end of the new join.
 void PanelRooms::Leave(Long room) {
@@ -36,13 +48,16 @@ void PanelRooms::Take(const RoomNews& news) {
     switch (news.What) {
         case RoomHappening::Joined:
             if (std::exchange(place.Presence, RoomPresence::In) == RoomPresence::In) return;
+            told.at(static_cast<std::size_t>(news.Room)).clear();
             FollowAudio();
             return RaiseUnlessGivenUp(engine.VVL_RoomJoinSucceed, news.Room);
         case RoomHappening::Failed:
             GoOut(news.Room);
+            TellWhy(news.Room);
             return RaiseUnlessGivenUp(engine.VVL_RoomJoinFailed, news.Room);
         case RoomHappening::Kicked:
             GoOut(news.Room);
+            TellWhy(news.Room);
             return RaiseUnlessGivenUp(engine.VVL_RoomKicked, news.Room);
         case RoomHappening::Left:
             // Else it is of the room before this one, which the panel left itself.
@@ -81,6 +96,13 @@ void PanelRooms::SetAudio(Long room, bool on) {
 
 void PanelRooms::SetStatus(Long room, const std::string& status) {
     if (std::exchange(Of(room).Status, status) != status) RaiseFor(engine.VVL_RoomStatusChanged, room);
+}
+
+// A room that can't be had is tried again and again by the panel.
+void PanelRooms::TellWhy(Long room) {
+    const std::string& why = Of(room).Status;
+    if (std::exchange(told.at(static_cast<std::size_t>(room)), why) == why || why.empty()) return;
+    raise([this, sentence = RoomNames.at(static_cast<std::size_t>(room)) + (": " + why)] { Told(sentence); });
 }
 
 // The engine's audio runs from the first room joined to the last one left.

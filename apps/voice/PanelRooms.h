@@ -8,6 +8,7 @@
 #include <string>
 
 #include "apps/voice/RoomNews.h"
+#include "platform/Event.h"
 #include "platform/VoiceEngine.h"
 #include "platform/sides/VoiceEngineView.h"
 
@@ -28,12 +29,15 @@ public:
     // Of a room that was left before. The number of this join.
     unsigned long Join(Long room, const std::string& clientName, const std::string& address);
     // The room was left before, and can't be joined, for the reason that its status then says.
-    void Refuse(Long room, const std::string& sentence);
+    void Refuse(Long room, const std::string& clientName, const std::string& address, const std::string& sentence);
     // Whatever was under way is given up.
     void Leave(Long room);
     void Take(const RoomNews& news);
     // The engine has stopped: nobody is anywhere, and nothing is raised.
     void Clear();
+
+    // Why a room can't be had, a sentence for the user: once, until that room is joined or has another reason.
+    Event<const std::string&> Told;
 
 private:
     VoiceRoom& Of(Long room) { return rooms.at(static_cast<std::size_t>(room)); }
@@ -41,6 +45,7 @@ private:
     void GoOut(Long room);
     void SetAudio(Long room, bool on);
     void SetStatus(Long room, const std::string& status);
+    void TellWhy(Long room);
     void FollowAudio();
     void RaiseFor(const Event<Long>& event, Long room);
     void RaiseUnlessGivenUp(const Event<Long>& event, Long room);
@@ -49,6 +54,7 @@ private:
     const Raise raise;
     std::array<VoiceRoom, Rooms> rooms;
     std::array<unsigned long, Rooms> attempts{};  // counts joins and ways out
+    std::array<std::string, Rooms> told;          // why each can't be had
     bool audioRuns = false;
 };
 

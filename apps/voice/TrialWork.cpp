@@ -36,6 +36,7 @@ void TrialWork::Record(const speech::Block& block) {
     if (!isHeard) return;
     if (const auto packet = encoder.Encode(block); !packet.empty())
         mix.Put(TrialRoom, {.Speaker = Myself, .Sequence = sequence++, .Opus = packet});
+    streams.RouseOutputs();
 }
 
 // The speakers, on the same device, stay silent.

@@ -19,7 +19,9 @@ VoiceEngine::VoiceEngine(EventLoop& eventLoop, VoiceDevices& voiceDevices, Voice
       rooms(*this, [this](std::function<void()> event) {
           changes.Mark();
           if (inbox) inbox->Post(std::move(event));
-      }) {}
+      }) {
+    rooms.Told = [this](const std::string& sentence) { Told(sentence); };
+}
 
 VoiceEngine::~VoiceEngine() { Stop(); }
 
@@ -63,8 +65,8 @@ std::unique_ptr<VoiceWork> VoiceEngine::NewWork(EventLoop& threadsLoop, const st
     made->DevicesChanged = [this, toPanel](const DeviceNews& news) {
         toPanel->Post([this, news] { TakeDevices(news); });
     };
-    made->PasswordWanted = [this, toPanel](const std::string& server) {
-        toPanel->Post([this, server] { AskPassword(server); });
+    made->PasswordWanted = [this, toPanel](const std::string& server, PasswordQuestion question) {
+        toPanel->Post([this, server, question] { AskPassword(server, question); });
     };
     toPanel->Post([this] { Begun(); });
     return made;
@@ -73,6 +75,13 @@ std::unique_ptr<VoiceWork> VoiceEngine::NewWork(EventLoop& threadsLoop, const st
 void VoiceEngine::Do(std::function<void(VoiceWork& work)> task) {
     changes.Mark();
     if (work) work->Do(std::move(task));
+}
+
+void VoiceEngine::Count(Long output, std::function<void(const speech::BlockCounts&)> answer) {
+    if (!Find(output)) return;
+    Do([output, toPanel = inbox, answer = std::move(answer)](VoiceWork& voice) {
+        toPanel->Post([counted = voice.Incoming().Mix(output).Counted(), answer] { answer(counted); });
+    });
 }
 
 void VoiceEngine::HandOver() {
@@ -128,12 +137,13 @@ void VoiceEngine::TakeDevices(const DeviceNews& news) {
 }
 
 // One question for all rooms at that server.
-void VoiceEngine::AskPassword(const std::string& server) {
+void VoiceEngine::AskPassword(const std::string& server, PasswordQuestion question) {
     if (questions.contains(server)) return;
-    questions[server] = dialogs.AskPassword(server, [this, server](const std::optional<std::string>& password) {
+    const auto answer = [this, server](const std::optional<std::string>& password) {
         Do([server, password](VoiceWork& rooms) { rooms.GivePassword(server, password); });
         questions.erase(server);
-    });
+    };
+    questions[server] = dialogs.AskPassword(server, question, answer);
 }
 
 bool VoiceEngine::RoomJoin(Long room, const std::string& clientName, const std::string& roomAddress) {
@@ -142,7 +152,7 @@ bool VoiceEngine::RoomJoin(Long room, const std::string& clientName, const std::
     std::string why;
     const std::optional<mumble::RoomAddress> address = mumble::ReadRoomAddress(roomAddress, why);
     if (!address) {
-        rooms.Refuse(room, why);
+        rooms.Refuse(room, clientName, roomAddress, why);
         return false;
     }
     Do([room, clientName, address = *address, attempt = rooms.Join(room, clientName, roomAddress)](VoiceWork& voice) {

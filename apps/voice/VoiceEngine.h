@@ -58,6 +58,7 @@ public:
     bool InputFailed() const override { return failed.InputFailed; }
     double InputSquelchValue() const override { return inputSquelchValue; }
     double OutputSquelchValue() const override { return outputSquelchValue; }
+    void Count(Long output, std::function<void(const speech::BlockCounts&)> answer) override;
     Ticket Observe(std::function<void()> observer) override { return changes.Observe(std::move(observer)); }
 
 private:
@@ -70,7 +71,7 @@ private:
     void NotBegun(const std::string& why);
     void ShutDown();
     void TakeDevices(const DeviceNews& news);
-    void AskPassword(const std::string& server);
+    void AskPassword(const std::string& server, PasswordQuestion question);
     VoiceOutput* Find(Long output);
     std::string DeviceOf(Long output) const;
 

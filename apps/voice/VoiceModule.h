@@ -4,8 +4,10 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 
+#include "adapters/speech/BlockCounts.h"
 #include "platform/EventLoop.h"
 #include "platform/VoiceDialogs.h"
 #include "platform/VoiceEngine.h"
@@ -29,6 +31,9 @@ public:
 
 class HeardVoiceEngine : public VoiceEngineControl, public VoiceEngineView {
 public:
+    // What became of the voices at an output since the start, in answer from the loop; none while it is off.
+    virtual void Count(Long output, std::function<void(const speech::BlockCounts&)> answer) = 0;
+
     // A sentence for the user that needs no answer.
     Event<const std::string&> Told;
 };

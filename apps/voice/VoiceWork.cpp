@@ -22,9 +22,14 @@ VoiceWork::VoiceWork(EventLoop& eventLoop, const std::filesystem::path& folder)
     rooms.StatusChanged = [this](Long room, const std::string& status) {
         Tell(room, RoomHappening::StatusChanged, status);
     };
-    rooms.Heard = [this](Long room, const speech::HeardVoice& packet) { incoming.Hear(room, packet); };
+    rooms.Heard = [this](Long room, const speech::HeardVoice& packet) {
+        incoming.Hear(room, packet);
+        streams.RouseOutputs();
+    };
     rooms.SpeakerGone = [this](Long room, std::uint32_t speaker) { incoming.Forget(room, speaker); };
-    rooms.PasswordWanted = [this](const std::string& server) { PasswordWanted(server); };
+    rooms.PasswordWanted = [this](const std::string& server, PasswordQuestion question) {
+        PasswordWanted(server, question);
+    };
     incoming.AudioStarted = [this](Long room) { Tell(room, RoomHappening::AudioStarted); };
     incoming.AudioStopped = [this](Long room) { Tell(room, RoomHappening::AudioStopped); };
     streams.Recorded = [this](const speech::Block& block) { outgoing.Take(block); };

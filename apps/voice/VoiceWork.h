@@ -44,7 +44,7 @@ public:
 
     Event<const RoomNews&> RoomChanged;
     Event<const DeviceNews&> DevicesChanged;
-    Event<const std::string&> PasswordWanted;
+    Event<const std::string&, PasswordQuestion> PasswordWanted;
 
 private:
     struct Place {

@@ -1,5 +1,5 @@
-// Work that lives on a thread of its own, and its asker's way to it: tasks run there, in order, on the work itself.
-// Where the work could not be made they do nothing.
+// Work with sound, which lives on an urgent thread of its own, and its asker's way to it: tasks run there, in order, on
+// the work itself. Where the work could not be made they do nothing.
 #pragma once
 
 #include <functional>
@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "adapters/linux/LoopThread.h"
+#include "adapters/linux/UrgentThread.h"
 
 namespace orvelle {
 
@@ -16,6 +17,7 @@ public:
     // `make` runs on the thread and may give none. std::system_error where no thread can be had.
     explicit WorkThread(std::function<std::unique_ptr<Work>(EventLoop& loop)> make)
         : thread([place = place, make = std::move(make)](EventLoop& loop) {
+              linux::BecomeUrgent();
               std::shared_ptr<Work> work = make(loop);
               *place = work.get();
               return work;

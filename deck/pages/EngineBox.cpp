@@ -42,8 +42,17 @@ EngineBox::EngineBox(VoiceEngineSide& playedEngine, VoiceEngineView& servingEngi
     ShowState();
 }
 
+// What runs is not heard where the devices fail.
+void EngineBox::ShowAudio() {
+    if (!engine.AudioRuns()) return audio->Show(Sign::Off, "No audio");
+    const bool outputFails[] = {engine.Output(0).Failed, engine.Output(1).Failed};
+    if (engine.InputFailed() && outputFails[0] && outputFails[1]) return audio->Show(Sign::Bad, "All devices fail");
+    if (engine.InputFailed() || outputFails[0] || outputFails[1]) return audio->Show(Sign::Waiting, "A device fails");
+    audio->Show(Sign::Good, "Audio runs");
+}
+
 void EngineBox::ShowState() {
-    audio->Show(engine.AudioRuns() ? Sign::Good : Sign::Off, engine.AudioRuns() ? "Audio runs" : "No audio");
+    ShowAudio();
     squelch->Show(QString("Squelch %1 / %2").arg(engine.InputSquelchValue()).arg(engine.OutputSquelchValue()));
     starts->setCurrentIndex(static_cast<int>(played.Starts()));
     for (QWidget* field : playing) field->setEnabled(played.IsServing());

@@ -24,6 +24,7 @@ public:
     EngineBox(VoiceEngineSide& playedEngine, VoiceEngineView& servingEngine);
 
 private:
+    void ShowAudio();
     void ShowState();
 
     VoiceEngineSide& played;

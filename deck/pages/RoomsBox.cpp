@@ -3,10 +3,12 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
+#include <QLabel>
 #include <QPushButton>
 
 #include "deck/fields/Fields.h"
 #include "deck/fields/Readout.h"
+#include "deck/fields/SelectableText.h"
 #include "deck/fields/SignalLight.h"
 #include "deck/fields/TextField.h"
 #include "platform/sides/VoiceEngineSide.h"
@@ -17,6 +19,8 @@ namespace {
 
 // In the order of the entries
 constexpr JoinOutcome JoinOutcomes[] = {JoinOutcome::Succeeds, JoinOutcome::Refused, JoinOutcome::Fails};
+
+const QStringList RoomNames{"0  COM1", "1  COM2", "2  Private"};
 
 void ShowRoomState(SignalLight& light, RoomPresence presence) {
     switch (presence) {
@@ -44,7 +48,7 @@ RoomsBox::RoomsBox(VoiceEngineSide& playedEngine, VoiceEngineView& servingEngine
     const auto addRow = [this](const QString& label, const auto field) {
         AddRow(label, {rooms[0].*field, rooms[1].*field, rooms[2].*field});
     };
-    AddCaptions({"0  COM1", "1  COM2", "2  Private"});
+    AddCaptions(RoomNames);
     addRow("State", &Room::State);
     addRow("Client", &Room::Client);
     addRow("Address", &Room::Address);
@@ -54,7 +58,7 @@ RoomsBox::RoomsBox(VoiceEngineSide& playedEngine, VoiceEngineView& servingEngine
     addRow("Audio", &Room::Audio);
     addRow("", &Room::CarriesAudio);
     addRow("Status text", &Room::Status);
-    for (const Room& room : rooms) AddRealStatus(room);
+    AddRealStatus();
     addRow("Joins", &Room::Joins);
     addRow("", &Room::Kick);
     ShowState();
@@ -77,17 +81,27 @@ RoomsBox::Room RoomsBox::NewRoom(int number) {
                       [this, number](int index) { played.SetJoinOutcome(number, JoinOutcomes[index]); }),
             NewEdit(name + "Status", "The room's status text; Enter applies it",
                     [this, number](const std::string& text) { played.SetRoomStatus(number, text); }),
-            new Readout(name + "RealStatus")};
+            new SelectableText(name + "RealStatus")};
 }
 
-// A sentence that nobody types is read in full.
-void RoomsBox::AddRealStatus(const Room& shown) {
+// A sentence that nobody types is read in full: each has a line of its own, over all columns, in the place of the
+// fields.
+void RoomsBox::AddRealStatus() {
     int row = 0;
     int column = 0;
     int span = 0;
-    Grid().getItemPosition(Grid().indexOf(shown.Status), &row, &column, &span, &span);
-    shown.RealStatus->setAccessibleName(shown.Status->accessibleName());
-    Grid().addWidget(shown.RealStatus, row, column);
+    Grid().getItemPosition(Grid().indexOf(rooms[0].Status), &row, &column, &span, &span);
+    auto* lines = new QGridLayout;
+    lines->setHorizontalSpacing(Unit);
+    lines->setVerticalSpacing(Unit / 2);
+    lines->setColumnStretch(1, 1);
+    for (std::size_t room = 0; room < rooms.size(); ++room) {
+        realCaptions.at(room) = new QLabel(RoomNames.at(static_cast<qsizetype>(room)));
+        rooms.at(room).RealStatus->setAccessibleName(rooms.at(room).Status->accessibleName());
+        lines->addWidget(realCaptions.at(room), static_cast<int>(room), 0, Qt::AlignTop);
+        lines->addWidget(rooms.at(room).RealStatus, static_cast<int>(room), 1);
+    }
+    Grid().addLayout(lines, row, 1, 1, 3);
 }
 
 // An engine that stands still has nobody in its rooms, and nothing is open there.
@@ -119,6 +133,7 @@ void RoomsBox::ShowState() {
         shown.RealStatus->Show(room.Status);
         shown.Status->setVisible(played.IsServing());
         shown.RealStatus->setVisible(!played.IsServing());
+        realCaptions.at(static_cast<std::size_t>(number))->setVisible(!played.IsServing());
         shown.Kick->setEnabled(played.IsServing());
         shown.Joins->setEnabled(played.IsServing());
     }

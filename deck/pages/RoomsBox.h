@@ -8,6 +8,7 @@
 
 class QCheckBox;
 class QComboBox;
+class QLabel;
 class QPushButton;
 
 namespace orvelle {
@@ -19,6 +20,7 @@ struct VoiceRoom;
 namespace orvelle::deck {
 
 class Readout;
+class SelectableText;
 class SignalLight;
 class TextField;
 
@@ -40,17 +42,18 @@ private:
         QPushButton* Kick;
         QComboBox* Joins;
         TextField* Status;
-        Readout* RealStatus;  // in its place
+        SelectableText* RealStatus;  // in its place
     };
 
     Room NewRoom(int number);
-    void AddRealStatus(const Room& shown);
+    void AddRealStatus();
     void ShowPanelsDoing(const Room& shown, const VoiceRoom& room) const;
     void ShowState();
 
     VoiceEngineSide& played;
     const VoiceEngineView& engine;
     std::array<Room, 3> rooms;
+    std::array<QLabel*, 3> realCaptions{};
     Ticket watch;
 };
 

@@ -5,9 +5,9 @@
 #include <fstream>
 
 #include "adapters/mqtt/OwnSetUp.h"
+#include "apps/FreePort.h"
 #include "tests/avahi/AvahiRig.h"
 #include "tests/mqtt/broker/BrokerProcess.h"
-#include "tests/mqtt/broker/LoopbackPorts.h"
 #include "tests/shared/OwnFolder.h"
 
 namespace orvelle {
@@ -81,7 +81,7 @@ TEST_F(SetUpCommands, AMistypedCodeIsToldBeforeAnythingIsTried) {
 TEST_F(SetUpCommands, EachFailureHasItsSentence) {
     EXPECT_EQ(Run({"--join", Code(7), "--host", "no-such-host.invalid"}),
               (Answer{1, "There is no computer by the name no-such-host.invalid."}));
-    const std::string nobody = "127.0.0.1:" + std::to_string(mqtt::FreePort());
+    const std::string nobody = "127.0.0.1:" + std::to_string(FreePort());
     EXPECT_EQ(Run({"--join", Code(7), "--host", nobody}),
               (Answer{1, "No set-up can be reached at " + nobody + ": nobody answers."}));
     EXPECT_EQ(

@@ -1,5 +1,7 @@
 // The voice engine's page: the engine, its rooms, its devices and the calibration dialogue.
+#include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -13,6 +15,7 @@
 #include <optional>
 
 #include "adapters/ends/VoiceEngineEnd.h"
+#include "deck/fields/SelectableText.h"
 #include "deck/fields/SignalLight.h"
 #include "tests/deck/DeckRig.h"
 #include "tests/qt/shell/WidgetInput.h"
@@ -311,6 +314,48 @@ protected:
     DeckWindow heardDeck{HeardSides()};
 };
 
+TEST_F(DeckHeardVoice, DevicesThatFailAreNoAudioThatRuns) {
+    Start();
+    heard.RoomJoin(0, "ORV123 (pilot)", "voice.example.net/tower");
+    Settle();
+    EXPECT_EQ(Text("EngineAudioText"), "Audio runs");
+    heard.FailInput(true);
+    Settle();
+    EXPECT_EQ(Text("EngineAudioText"), "A device fails");
+    for (const Long output : {Headset, Speakers}) heard.FailOutput(output, true);
+    Settle();
+    EXPECT_EQ(Text("EngineAudioText"), "All devices fail");
+    EXPECT_EQ(heardDeck.findChild<deck::SignalLight*>("EngineAudio")->Shown(), Sign::Bad);
+    heard.RoomLeave(0);
+    Settle();
+    EXPECT_EQ(Text("EngineAudioText"), "No audio");
+}
+
+TEST_F(DeckHeardVoice, ALongStatusHasTheWidthOfItsBoxAndIsSelectedByTheMouse) {
+    Start();
+    heard.RoomJoin(0, "ORV123 (pilot)", "voice.example.net/tower");
+    Settle();
+    const std::string sentence =
+        "voice.example.net is not the server that it was. If its operator says that its certificate is new, remove its "
+        "line from /home/pilot/.local/share/OrvelleCP/voice/known-servers.";
+    heard.SetRoomStatus(0, sentence);
+    Settle();
+    auto* status = heardDeck.findChild<deck::SelectableText*>("Room0RealStatus");
+    EXPECT_EQ(status->toPlainText().toStdString(), sentence);
+    EXPECT_GT(status->width(), heardDeck.findChild<QWidget*>("Rooms")->width() / 2);
+    EXPECT_GE(status->height(), status->document()->size().height()) << "its last line is cut off";
+    EXPECT_LT(status->height(), 6 * status->fontMetrics().lineSpacing());
+    PressMouse(status->viewport(), Qt::LeftButton, {}, {1, 5});
+    MoveMouse(status->viewport(), {150, 5});
+    ReleaseMouse(status->viewport(), Qt::LeftButton, {}, {150, 5});
+    EXPECT_TRUE(status->textCursor().selectedText().startsWith("voice.ex"));
+    status->selectAll();
+    status->copy();
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), sentence);
+    QDir().mkpath(PICTURES);
+    EXPECT_TRUE(heardDeck.grab().save(PICTURES "/deck-long-status.png"));
+}
+
 TEST_F(DeckHeardVoice, IsShownAndNotPlayed) {
     setUp.VVL.SetStartOutcome(StartOutcome::Dies);
     setUp.VVL.SetJoinOutcome(1, JoinOutcome::Fails);
@@ -323,7 +368,7 @@ TEST_F(DeckHeardVoice, IsShownAndNotPlayed) {
     heard.SetRoomAudio(1, true);
     Settle();
     EXPECT_EQ(Text("EngineStateText"), "Running");
-    EXPECT_EQ(Text("EngineAudioText"), "Audio runs");
+    EXPECT_EQ(Text("EngineAudioText"), "A device fails");
     EXPECT_EQ(Text("EngineSquelch"), "Squelch 37.5 / 50");
     EXPECT_EQ(Text("Room1StateText"), "In");
     EXPECT_EQ(Text("Room1MicrophoneText"), "Open");
@@ -331,7 +376,8 @@ TEST_F(DeckHeardVoice, IsShownAndNotPlayed) {
     EXPECT_EQ(Text("FlightEngineText"), "Running");
     EXPECT_EQ(Text("TalksCOM2Text"), "COM2 talks");
     EXPECT_TRUE(heardDeck.findChild<QCheckBox*>("SpeakersFails")->isChecked());
-    EXPECT_EQ(Text("Room1RealStatus"), "In voice.example.net/tower");
+    EXPECT_EQ(heardDeck.findChild<deck::SelectableText*>("Room1RealStatus")->toPlainText(),
+              "In voice.example.net/tower");
     EXPECT_FALSE(heardDeck.findChild<QWidget*>("Room1Status")->isVisible());
     EXPECT_EQ(heardDeck.findChild<QComboBox*>("EngineStart")->currentIndex(), 2);
     EXPECT_EQ(heardDeck.findChild<QComboBox*>("Room1Joins")->currentIndex(), 2);

@@ -1,6 +1,7 @@
 #include "tests/devices/MockedDevices.h"
 
 #include <gtest/gtest.h>
+#include <umockdev.h>
 #include <unistd.h>
 
 #include <fstream>

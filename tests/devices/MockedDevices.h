@@ -3,11 +3,13 @@
 #pragma once
 
 #include <linux/input.h>
-#include <umockdev.h>
 
 #include <filesystem>
 #include <string>
 #include <vector>
+
+// The library's own header can't stand beside those of windows.
+struct _UMockdevTestbed;
 
 namespace orvelle {
 
@@ -32,7 +34,7 @@ public:
     std::filesystem::path RealFolder() const;
 
 private:
-    UMockdevTestbed* testbed;
+    _UMockdevTestbed* testbed;
 };
 
 }  // namespace orvelle

@@ -69,7 +69,7 @@ TEST_F(VoiceEngineEndTest, EveryCallAndEventPasses) {
     EXPECT_EQ(Run(), Texts{"Stopped"});
 }
 
-TEST_F(VoiceEngineEndTest, AChoiceIsAskedForBeforeAStartAloneAndHoldsWhileTheEngineRuns) {
+TEST_F(VoiceEngineEndTest, AChoiceIsAskedForBeforeAStartAndHoldsWhileTheEngineIsInARoom) {
     end.RoomMute(0, true);
     EXPECT_EQ(asked, 0);
     chosen = &second;
@@ -77,16 +77,20 @@ TEST_F(VoiceEngineEndTest, AChoiceIsAskedForBeforeAStartAloneAndHoldsWhileTheEng
     ASSERT_TRUE(end.Start(EngineMode));
     chosen = &first;
     EXPECT_TRUE(end.Start(EngineMode)) << "it is starting";
+    EXPECT_EQ(asked, 1);
     loop.Run(10);
-    EXPECT_FALSE(end.Start(EngineMode)) << "it runs";
+    EXPECT_EQ(events.Take(), Texts{"Started"});
+    ASSERT_TRUE(end.RoomJoin(0, "ABC123", "srv/ops"));
+    EXPECT_FALSE(end.Start(EngineMode)) << "it is on its way into a room";
+    Run();
+    EXPECT_FALSE(end.Start(EngineMode)) << "it is in a room";
     EXPECT_EQ(asked, 1);
     EXPECT_TRUE(second.IsRunning());
     EXPECT_FALSE(first.IsRunning());
-    EXPECT_EQ(events.Take(), Texts{"Started"});
     first.Start(EngineMode);
     EXPECT_TRUE(Run().empty()) << "what does not serve is not heard of";
-    end.Stop();
     first.Stop();
+    end.Stop();
     ASSERT_TRUE(end.Start(EngineMode));
     EXPECT_EQ(asked, 2);
     EXPECT_EQ(Run(), Texts{"Started"});
@@ -153,6 +157,46 @@ TEST_F(VoiceEngineEndTest, WhoWatchesSeesTheOneThatServes) {
     Run();
     EXPECT_EQ(seen, 1);
     EXPECT_TRUE(end.InputFailed());
+}
+
+TEST_F(VoiceEngineEndTest, AnEngineThatRestsInNoRoomGivesWayToAnotherOne) {
+    ASSERT_TRUE(end.Start(EngineMode));
+    Run();
+    ASSERT_TRUE(end.RoomJoin(0, "ABC123", "srv/ops"));
+    Run();
+    chosen = &second;
+    EXPECT_TRUE(end.Running()) << "it is in a room";
+    EXPECT_TRUE(first.IsRunning());
+    end.RoomLeave(0);
+    Run();
+    EXPECT_FALSE(end.Running());
+    EXPECT_FALSE(first.IsRunning());
+    ASSERT_TRUE(end.Start(EngineMode));
+    EXPECT_EQ(Run(), Texts{"Started"});
+    EXPECT_TRUE(second.IsRunning());
+    EXPECT_TRUE(end.Running()) << "nobody else is chosen";
+}
+
+TEST_F(VoiceEngineEndTest, AnEngineThatRestsIsStoppedForACalibrationAndOneInARoomIsNot) {
+    float input = 0;
+    float output = 0;
+    bool ran = false;
+    const Ticket answer = first.AnswerCalibration([&](Long, Long) {
+        ran = first.IsRunning();
+        return std::optional<Squelch>(Squelch{20, 30});
+    });
+    ASSERT_TRUE(end.Start(EngineMode));
+    Run();
+    ASSERT_TRUE(end.RoomJoin(0, "ABC123", "srv/ops"));
+    Run();
+    EXPECT_TRUE(end.Calibrate(0, 0, input, output));
+    EXPECT_TRUE(ran);
+    end.RoomLeave(0);
+    Run();
+    EXPECT_TRUE(end.Calibrate(0, 0, input, output));
+    EXPECT_FALSE(ran);
+    EXPECT_FALSE(end.Running());
+    EXPECT_TRUE(end.Start(EngineMode));
 }
 
 }  // namespace

@@ -10,10 +10,10 @@
 #include <vector>
 
 #include "adapters/qt/services/QtEventLoop.h"
+#include "apps/FreePort.h"
 #include "apps/SimulatorProgram.h"
 #include "apps/SimulatorWindow.h"
 #include "tests/endtoend/User.h"
-#include "tests/mqtt/broker/LoopbackPorts.h"
 
 namespace orvelle {
 
@@ -21,7 +21,7 @@ class SimulatorRig : public testing::Test {
 protected:
     SimulatorRig() {
         command.Data = folder.filePath("data").toStdString();
-        command.Port = mqtt::FreePort();
+        command.Port = FreePort();
         command.Name = "Home";
     }
     ~SimulatorRig() override {

@@ -13,22 +13,28 @@ namespace orvelle::heard {
 constexpr Long BurstMilliseconds = 120;
 constexpr Long BurstPeriod = 500;
 constexpr double BurstHertz = 1000;
+constexpr Long Hole = 5;  // milliseconds of silence
 
 struct HeardBursts {
-    std::vector<double> Delays;  // in milliseconds, of those that were heard; in their order
+    std::vector<double> Delays{};  // in milliseconds, of those that were heard; in their order
+    std::vector<double> Ours{};    // likewise what of each is more than the reference had, where there was one
     int Spoken = 0;
     int Lost = 0;
+    int Excused = 0;  // which the machine had no time for, as the reference tells; counted nowhere else
 
-    // A machine that is very busy misses some at the sound server itself.
-    bool MostWereHeard() const { return Lost * 4 < Spoken; }
     double Median() const { return Part(0.5); }
     // The delay that this part of them does not exceed.
     double Part(double part) const;
+    double OursInTheMedian() const;
     std::string Text() const;  // one line for people; with each delay where one was lost or late
+    void Add(const HeardBursts& more);
 };
 
 // A burst counts as heard where a sound began in the ear within a period after it began in the mouth: the period is the
 // bound of every delay here. The last one of the mouth counts only if the ear was recorded for long enough.
 HeardBursts Compare(const pulse::SoundRecording& mouth, const pulse::SoundRecording& ear);
+// The same, but they count only where all came through the reference in time and without a hole.
+HeardBursts Compare(const pulse::SoundRecording& mouth, const pulse::SoundRecording& ear,
+                    const pulse::SoundRecording& reference);
 
 }  // namespace orvelle::heard

@@ -5,8 +5,11 @@
 
 #include <chrono>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "tests/heard/Bursts.h"
+#include "tests/heard/Reference.h"
 #include "tests/heard/SoundOfComputers.h"
 #include "tests/heard/Trial.h"
 #include "tests/linux/WaitUntil.h"
@@ -15,34 +18,67 @@
 
 namespace orvelle::heard {
 
+// Milliseconds of a delay that are not the sound server's own, over an unhurt network and over one that loses packets.
+constexpr double MostOfOurs = 45;
+constexpr double MostOfOursMended = 60;
+
+constexpr int MostRounds = 40;  // of three seconds
+
 inline double MillisecondsBetween(pulse::Moment from, pulse::Moment to) {
     return std::chrono::duration<double, std::milli>(to - from).count();
 }
 
 class EngineRig : public testing::Test {
 protected:
-    explicit EngineRig(int computers = 2) : sounds(computers) {}
+    explicit EngineRig(int computers = 2, mumble::VoiceServerSetting setting = {})
+        : sounds(computers), server(std::move(setting)) {}
+    explicit EngineRig(SoundOfComputers::Server kind) : sounds(2, kind) {}
 
     static std::string Mouth(int computer) { return SoundOfComputers::Mouth(computer); }
     static std::string Microphone(int computer) { return SoundOfComputers::Microphone(computer); }
     static std::string Ear(int computer, int output = 0) { return SoundOfComputers::Ear(computer, output); }
 
-    // So many bursts of one computer's mouth in the other one's ear, once the first ones were heard.
+    // So many bursts, or some more, of one computer's mouth in the other one's ear, in rounds of which the machine had
+    // time for all; once the first ones were heard, and what a beginning costs is over.
     HeardBursts Hear(int speaker, int listener, int count) {
-        probe.Record(Microphone(speaker));
-        probe.Record(Ear(listener));
+        Reference reference(sounds, Microphone(speaker));
+        const std::string mouth = Microphone(speaker);
+        const std::string ear = Ear(listener);
+        const std::vector<std::string> sources{mouth, ear, Reference::Ear};
+        for (const std::string& source : sources) probe.Record(source);
         probe.Play(Mouth(speaker), pulse::Burst(BurstHertz, BurstMilliseconds, BurstPeriod),
                    pulse::Playing::AgainAndAgain);
-        EXPECT_TRUE(linux::WaitUntil([&] { return probe.Recorded(Ear(listener)).Sounds().size() >= 3; }));
-        probe.Take(Ear(listener));
-        probe.Take(Microphone(speaker));
+        EXPECT_TRUE(linux::WaitUntil([&] { return probe.Last(ear, 4 * BurstPeriod).Sounds().size() >= 3; }));
+        Pass(ear, 4 * BurstPeriod);
         HeardBursts heard;
-        EXPECT_TRUE(linux::WaitUntil([&] {
-            heard = Compare(probe.Recorded(Microphone(speaker)), probe.Recorded(Ear(listener)));
-            return heard.Spoken >= count;
-        }));
+        int excused = 0;
+        for (int round = 0; round < MostRounds && heard.Spoken < count; ++round) {
+            for (const std::string& source : sources) probe.Take(source);
+            Pass(ear, 6 * BurstPeriod);
+            heard.Add(Compare(probe.Take(mouth), probe.Take(ear), probe.Take(Reference::Ear)));
+            if (std::exchange(excused, heard.Excused) == heard.Excused) continue;
+            reference.Renew();
+            Pass(ear, 2 * BurstPeriod);
+        }
+        EXPECT_GE(heard.Spoken, count) << "the machine had no time for more";
         probe.Stop(Mouth(speaker));
         return heard;
+    }
+
+    // Whether a tone that is spoken all the time came through the reference without a hole, since the last question.
+    bool MachineWasInTime() {
+        const pulse::SoundRecording recorded = probe.Take(Reference::Ear);
+        return !recorded.Samples().empty() && recorded.Sounds(pulse::LeastSound, Hole).size() == 1 &&
+               recorded.Sounds(pulse::LeastSound, Hole).front().first <= recorded.At(Hole * 48);
+    }
+
+    // So much time by the sound server's clock.
+    void Pass(const std::string& source, Long milliseconds) {
+        const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
+        EXPECT_TRUE(linux::WaitUntil([&] {
+            const pulse::SoundRecording last = probe.Last(source, 1);
+            return !last.Samples().empty() && last.At(last.Samples().size() - 1) > end;
+        }));
     }
 
     // Whether a tone is heard in an ear now: in a tenth of a second, at least 20 dB over tones that nobody speaks.

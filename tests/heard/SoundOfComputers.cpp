@@ -6,10 +6,19 @@
 
 namespace orvelle::heard {
 
-SoundOfComputers::SoundOfComputers(int computers) : count(computers) { Start(); }
+namespace {
+
+std::unique_ptr<pulse::SoundServerProcesses> NewServer(SoundOfComputers::Server kind) {
+    if (kind == SoundOfComputers::Server::PipeWire) return std::make_unique<pulse::PipeWireServer>();
+    return std::make_unique<pulse::PulseAudioServer>();
+}
+
+}  // namespace
+
+SoundOfComputers::SoundOfComputers(int computers, Server kind) : count(computers), server(NewServer(kind)) { Start(); }
 
 void SoundOfComputers::Start() {
-    server.Start();
+    server->Start();
     for (int computer = 0; computer < count; ++computer)
         for (const std::string& sink : {Mouth(computer), Output(computer, 0), Output(computer, 1)}) Add(sink);
 }

@@ -20,10 +20,18 @@ std::filesystem::path NewFolder() {
 
 }  // namespace
 
-Trial::Trial(int ofComputer)
+TrialFiles OwnTrialFiles() { return {VOICE_TRIAL, VOICE_MODULE}; }
+
+// Where that build keeps what this one keeps there.
+TrialFiles TrialFilesIn(const std::filesystem::path& build) {
+    const auto there = [&](const std::filesystem::path& own) { return build / own.lexically_relative(OWN_BUILD); };
+    return {there(VOICE_TRIAL), there(VOICE_MODULE)};
+}
+
+Trial::Trial(int ofComputer, const TrialFiles& files)
     : computer(ofComputer),
       folder(NewFolder()),
-      process({VOICE_TRIAL, VOICE_MODULE, folder.string(), SoundOfComputers::Microphone(computer),
+      process({files.Program.string(), files.Module.string(), folder.string(), SoundOfComputers::Microphone(computer),
                SoundOfComputers::Output(computer, 0), SoundOfComputers::Output(computer, 1)}) {
     for (const char* const each : {"signal 0 0", "signal 1 0", "squelch 0 0", "start"}) Say(each);
     Await("started");

@@ -12,10 +12,17 @@
 
 namespace orvelle::heard {
 
+struct TrialFiles {
+    std::filesystem::path Program;
+    std::filesystem::path Module;
+};
+TrialFiles OwnTrialFiles();  // of the build that the test is of
+TrialFiles TrialFilesIn(const std::filesystem::path& build);
+
 class Trial {
 public:
     // Has started its engine; no tones of its own, and all is heard: squelch 0.
-    explicit Trial(int computer);
+    explicit Trial(int computer, const TrialFiles& files = OwnTrialFiles());
     Trial(const Trial&) = delete;
     Trial& operator=(const Trial&) = delete;
     ~Trial();

@@ -5,6 +5,7 @@
 //
 //   start | stop | quit | join ROOM NAME ADDRESS | leave ROOM | mute ROOM 0|1 | route ROOM OUTPUT 0|1
 //   volume OUTPUT PERCENT | signal OUTPUT PERCENT | filter OUTPUT 0|1 | squelch INPUT OUTPUT | works
+//   count OUTPUT           answers: counted PLAYED RESTORED CONCEALED LATE LEFT-OUT
 //   sleep MILLISECONDS     of the panel's thread alone
 #include <unistd.h>
 
@@ -48,7 +49,8 @@ private:
 class NoDialogs : public VoiceDialogs {
 public:
     std::optional<Squelch> Calibrate(VoiceTrial&, const Squelch&) override { return {}; }
-    Ticket AskPassword(const std::string& server, std::function<void(const std::optional<std::string>&)>) override {
+    Ticket AskPassword(const std::string& server, PasswordQuestion,
+                       std::function<void(const std::optional<std::string>&)>) override {
         std::cout << "password " << server << std::endl;
         return {};
     }
@@ -130,6 +132,13 @@ std::map<std::string, Command> CommandsFor(HeardVoiceEngine& engine, linux::Poll
          [&](std::istream&) {
              Tell("works " + std::to_string(engine.InputStatus()) + " " + std::to_string(engine.OutputStatus(Headset)) +
                   " " + std::to_string(engine.OutputStatus(Speakers)));
+         }},
+        {"count",
+         [&](std::istream& words) {
+             engine.Count(Next<Long>(words), [](const speech::BlockCounts& counts) {
+                 std::cout << "counted " << counts.Played << ' ' << counts.Restored << ' ' << counts.Concealed << ' '
+                           << counts.Late << ' ' << counts.LeftOut << std::endl;
+             });
          }},
         {"sleep",
          [&](std::istream& words) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QLabel>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 
@@ -29,6 +30,17 @@ TEST(TextTest, ATipShowsItsTextToTheLetter) {
     EXPECT_TRUE(Qt::mightBeRichText(PlainTip(text)));
     EXPECT_EQ(QTextDocumentFragment::fromHtml(PlainTip(text)).toPlainText(), text);
     EXPECT_TRUE(PlainTip("").isEmpty());
+}
+
+TEST(TextTest, ATipOfOneLongWordWraps) {
+    const auto lines = [](const QString& text) {
+        QLabel tip(PlainTip(text));
+        tip.setWordWrap(true);
+        return tip.sizeHint().height() / tip.fontMetrics().lineSpacing();
+    };
+    EXPECT_EQ(lines("tower"), 1);
+    EXPECT_GE(lines(QString(1000, 'M')), 10);
+    EXPECT_GE(lines("In " + QString(300, 'M')), 3);
 }
 
 }  // namespace

@@ -26,10 +26,14 @@ Operator::Operator(linux::PollEventLoop& usedLoop, const VoiceServerRig& server)
 }
 
 void Operator::Take(const Message& message) {
-    wire::UserState state;
+    wire::UserState user;
+    wire::ChannelState channel;
     if (message.Type == MessageType::ServerSync) isSynced = true;
-    if (message.Type == MessageType::UserState && Parse(message, state) && state.has_name())
-        sessions[state.name()] = state.session();
+    if (message.Type == MessageType::ChannelState && Parse(message, channel) && channel.has_name())
+        channels[channel.name()] = channel.channel_id();
+    if (message.Type != MessageType::UserState || !Parse(message, user)) return;
+    if (user.has_name()) sessions[user.name()] = user.session();
+    if (user.has_user_id()) registered.insert(user.session());
 }
 
 std::uint32_t Operator::SessionOf(const std::string& userName) {
@@ -37,18 +41,65 @@ std::uint32_t Operator::SessionOf(const std::string& userName) {
     return sessions[userName];
 }
 
+std::uint32_t Operator::ChannelOf(const std::string& name) {
+    EXPECT_TRUE(linux::ServeUntil(loop, [&] { return channels.contains(name); })) << name;
+    return channels[name];
+}
+
+void Operator::Remove(wire::UserRemove& removal, const std::string& userName) {
+    removal.set_session(SessionOf(userName));
+    connection.Send(Frame(MessageType::UserRemove, removal));
+}
+
+void Operator::Say(const wire::UserState& state) { connection.Send(Frame(MessageType::UserState, state)); }
+
 void Operator::Kick(const std::string& userName, const std::string& reason) {
     wire::UserRemove kick;
-    kick.set_session(SessionOf(userName));
     kick.set_reason(reason);
-    connection.Send(Frame(MessageType::UserRemove, kick));
+    Remove(kick, userName);
+}
+
+void Operator::Ban(const std::string& userName, const std::string& reason) {
+    wire::UserRemove ban;
+    ban.set_reason(reason);
+    ban.set_ban(true);
+    Remove(ban, userName);
 }
 
 void Operator::MoveToRoot(const std::string& userName) {
     wire::UserState move;
     move.set_session(SessionOf(userName));
     move.set_channel_id(0);
-    connection.Send(Frame(MessageType::UserState, move));
+    Say(move);
+}
+
+void Operator::Move(const std::string& userName, const std::string& channel) {
+    wire::UserState move;
+    move.set_session(SessionOf(userName));
+    move.set_channel_id(ChannelOf(channel));
+    Say(move);
+}
+
+void Operator::Set(const std::string& userName, Voice voice) {
+    wire::UserState state;
+    state.set_session(SessionOf(userName));
+    state.set_mute(voice == Voice::Taken);
+    Say(state);
+}
+
+void Operator::RemoveChannel(const std::string& channel) {
+    wire::ChannelRemove removal;
+    removal.set_channel_id(ChannelOf(channel));
+    connection.Send(Frame(MessageType::ChannelRemove, removal));
+}
+
+// The number 0 asks for one that is free.
+void Operator::Register(const std::string& userName) {
+    wire::UserState state;
+    state.set_session(SessionOf(userName));
+    state.set_user_id(0);
+    Say(state);
+    EXPECT_TRUE(linux::ServeUntil(loop, [&] { return registered.contains(state.session()); })) << userName;
 }
 
 }  // namespace orvelle::mumble

@@ -31,9 +31,11 @@ void PlayedPilot::Make() {
                         (voice.IsLast ? "." : ""));
     };
     Rooms->SpeakerGone = [this](Long room, std::uint32_t) { Heard.push_back(std::to_string(room) + " gone"); };
-    Rooms->PasswordWanted = [this](const std::string& server) {
-        Told.push_back("password " + server);
-        if (Password) loop.Post([this, server] { Rooms->GivePassword(server, Password); });
+    Rooms->PasswordWanted = [this](const std::string& server, PasswordQuestion question) {
+        Told.push_back((question == PasswordQuestion::First ? "password " : "another password ") + server);
+        if (!Password) return;
+        const auto answer = question == PasswordQuestion::First ? Password : std::exchange(NextPassword, std::nullopt);
+        loop.Post([this, server, answer] { Rooms->GivePassword(server, answer); });
     };
 }
 

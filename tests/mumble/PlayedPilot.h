@@ -36,12 +36,14 @@ public:
 
     OwnFolder Folder;
     std::unique_ptr<VoiceRooms> Rooms;
-    std::vector<std::string> Told;      // "joined 0", "failed 1", "kicked 2", "left 0", "password SERVER"
+    std::vector<std::string> Told;      // "joined 0", "failed 1", "kicked 2", "left 0", "password SERVER",
+                                        // "another password SERVER"
     std::vector<std::string> Statuses;  // "0 In 122.8"
     std::vector<std::string> Heard;     // "0 data", "0 data." for the last one of a talk, "0 gone"
     std::string Status(Long room) const;
-    // Given at once, each time when asked.
+    // Given at once when asked, the second one where the server did not take the first; none of that gives up.
     std::optional<std::string> Password;
+    std::optional<std::string> NextPassword;
 
 private:
     void Make();

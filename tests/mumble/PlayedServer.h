@@ -7,9 +7,9 @@
 #include <string>
 
 #include "adapters/shared/FileDescriptor.h"
+#include "apps/FreePort.h"
 #include "platform/EventLoop.h"
 #include "tests/linux/ChildProcess.h"
-#include "tests/mumble/FreePort.h"
 #include "tests/shared/OwnFolder.h"
 
 namespace orvelle::mumble {

@@ -8,7 +8,7 @@
 #include <array>
 #include <functional>
 
-#include "tests/mumble/FreePort.h"
+#include "apps/FreePort.h"
 
 namespace orvelle::mumble {
 

@@ -31,6 +31,8 @@ public:
     unsigned long Passed = 0;  // packets, both ways
     unsigned long Lost = 0;
     unsigned long Tunnelled = 0;  // bytes, by TCP, both ways
+    // Whoever comes from now on is led to another server.
+    void LeadTo(std::uint16_t server) { serverPort = server; }
     // All TCP connections end now, in the middle of whatever they carry.
     void Cut();
 
@@ -45,7 +47,7 @@ private:
     void Pass(const std::string& packet, const Sending& sending);
 
     EventLoop& loop;
-    const std::uint16_t serverPort;
+    std::uint16_t serverPort;
     std::uint16_t port = 0;
     FileDescriptor listener;
     FileDescriptor datagrams;

@@ -10,14 +10,18 @@
 #include <memory>
 #include <string>
 
+#include "adapters/shared/HostAndPort.h"
+#include "apps/talk/VoiceServerFiles.h"
 #include "tests/linux/ChildProcess.h"
 
 namespace orvelle::mumble {
 
 struct VoiceServerSetting {
-    enum class Rights { EverybodyMakesChannels, AsDelivered };
+    using Rights = VoiceServerFiles::Rights;
 
-    std::string Password{};  // "" for none
+    std::string Host = "127.0.0.1";  // where it listens
+    std::uint16_t Port = 0;          // 0: one that is free
+    std::string Password{};          // "" for none
     Rights Of = Rights::EverybodyMakesChannels;
     int Users = 100;         // connections at the most
     int BansAfter = 0;       // connections within two minutes; 0: never
@@ -34,9 +38,9 @@ public:
     ~VoiceServerRig();
 
     // What a record says of it.
-    std::string Host() const { return "127.0.0.1"; }
+    std::string Host() const { return setting.Host; }
     std::uint16_t Port() const { return port; }
-    std::string Address() const { return Host() + ":" + std::to_string(port); }
+    std::string Address() const { return WriteHostAndPort({Host(), port}, 0); }
     std::string Room(const std::string& channel) const { return Address() + "/" + channel; }
 
     pid_t Id() const { return process->Id(); }
@@ -58,12 +62,11 @@ public:
     bool HasLogged(const std::string& text, int times = 1);
 
 private:
-    void MakeDatabase();
     void WriteConfiguration();
-    void OwnFiles() const;
 
     VoiceServerSetting setting;
     std::filesystem::path folder;
+    VoiceServerFiles files;
     std::uint16_t port = 0;
     std::string earlierLog;
     std::unique_ptr<linux::ChildProcess> process;

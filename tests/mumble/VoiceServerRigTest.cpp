@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/mumble/FreePort.h"
+#include "apps/FreePort.h"
 
 namespace orvelle::mumble {
 

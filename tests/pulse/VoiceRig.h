@@ -146,8 +146,20 @@ protected:
         const std::vector<float> tone = Tone(Tones[static_cast<std::size_t>(output)], speech::BlockMilliseconds);
         std::copy(tone.begin(), tone.end(), block.begin());
     }
-    void Speak(bool headset, bool speakers) { speaks = {headset, speakers}; }
+    void Speak(bool headset, bool speakers) {
+        speaks = {headset, speakers};
+        streams.RouseOutputs();
+    }
 
+    // Whether the outputs are asked for nothing any more; tells by a third of a second in which they weren't.
+    bool OutputsRest() {
+        long before = blocksWanted;
+        Moment since = Now();
+        return Until([&] {
+            if (std::exchange(before, blocksWanted) != blocksWanted) since = Now();
+            return Now() - since > std::chrono::milliseconds(330);
+        });
+    }
     // Whether the tone comes to be heard there, or not to be heard any more, for a tenth of a second.
     bool Hears(const std::string& source, double hertz) {
         return UntilNoticed([&] { return LevelThere(source, hertz) > LeastHeard; });
@@ -176,6 +188,7 @@ protected:
         return MedianDelay(Begins(probe->Recorded(MouthsMonitor)), Begins(recorded));
     }
     double PlayingDelay() {
+        streams.RouseOutputs();
         probe->Take("ear.monitor");
         std::vector<Moment> spoken;
         Moment next = Now();

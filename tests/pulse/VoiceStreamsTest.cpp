@@ -57,6 +57,28 @@ TYPED_TEST(VoiceStreamsTest, BothOutputsOfOneDeviceAreHeard) {
     EXPECT_TRUE(this->Hears("ear.monitor", this->Tones[0]));
 }
 
+TYPED_TEST(VoiceStreamsTest, OutputsOfSilenceRestUntilTheyAreRoused) {
+    this->Probe();
+    ASSERT_TRUE(this->OpenAll());
+    for (int time = 0; time < 2; ++time) {
+        ASSERT_TRUE(this->OutputsRest());
+        const long before = this->blocksWanted;
+        const int changesBefore = this->changes;
+        this->Serve(std::chrono::milliseconds(2000));
+        EXPECT_EQ(this->blocksWanted, before);
+        EXPECT_EQ(this->changes, changesBefore);
+        EXPECT_TRUE(this->AllWork());
+        this->Speak(true, true);
+        EXPECT_TRUE(this->Hears("ear.monitor", this->Tones[0]));
+        EXPECT_TRUE(this->Hears("ear.monitor", this->Tones[1]));
+        this->Speak(false, false);
+    }
+    ASSERT_TRUE(this->OutputsRest());
+    const double playing = this->PlayingDelay();
+    std::cout << "after a rest: heard " << playing << " ms after it was written\n";
+    EXPECT_LT(playing, 200);
+}
+
 TYPED_TEST(VoiceStreamsTest, OtherMixersShowWhoseStreamsTheyAre) {
     ASSERT_TRUE(this->OpenAll());
     const std::string all = Pactl({"list", "sink-inputs"}) + Pactl({"list", "source-outputs"});
@@ -269,6 +291,7 @@ class SuspendedDeviceTest : public VoiceRig<PulseAudioServer> {};
 
 TEST_F(SuspendedDeviceTest, ADeviceThatStandsStillDoesNotWork) {
     ASSERT_TRUE(OpenAll());
+    ASSERT_TRUE(OutputsRest());
     Pactl({"suspend-sink", "ear", "1"});
     double told = TimeUntil([this] { return !OutputsWork(); });
     std::cout << "sink suspended: told after " << told << " ms\n";

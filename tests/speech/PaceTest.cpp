@@ -28,7 +28,7 @@ TEST_P(LossTest, MostOfWhatIsLostIsRestored) {
     std::size_t lost = 0;
     Listener listener;
     listener.Hear(packets, Losing(GetParam(), packets.size(), lost));
-    const SpeakerVoice::Counts& counts = listener.Voice.Counted();
+    const BlockCounts& counts = listener.Voice.Counted();
     std::cout << lost << " lost of " << packets.size() << ", restored " << counts.Restored << ", concealed "
               << counts.Concealed << ", left out " << counts.LeftOut << '\n';
     ASSERT_GT(lost, packets.size() * GetParam() * 0.8);
@@ -133,6 +133,20 @@ TEST(PaceTest, WhatAStallHeldBackIsHeardAndTheDelayShrinksAgain) {
     EXPECT_EQ(std::count(delays.begin() + 9, delays.end(), -1), 0);
     EXPECT_GT(delays[14], 100) << "after the first second, when half of it is gone";
     EXPECT_LT(delays[48], 30) << "ten seconds later";
+    EXPECT_LT(delays.back(), 21);
+}
+
+// No network holds back so much: this computer slept.
+TEST(PaceTest, WhatCameWhileTheComputerStoodStillIsLeftOutAtOnce) {
+    const std::vector<SentPacket> packets = Encode(Bursts(20000));
+    Listener listener;
+    listener.Hear(packets, [&](std::size_t packet) {
+        const double sent = packets[packet].SentAt;
+        return sent > 2000 && sent < 5000 ? 5000 - sent : 0.0;
+    });
+    const std::vector<double> delays = listener.BurstDelays(79);
+    EXPECT_LT(delays[21], 30) << "half a second later";
+    EXPECT_EQ(std::count(delays.begin() + 21, delays.end(), -1), 0);
     EXPECT_LT(delays.back(), 21);
 }
 

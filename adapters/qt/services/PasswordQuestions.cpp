@@ -12,10 +12,10 @@ void PasswordQuestions::DeleteLater::operator()(PasswordDialog* gone) const {
     gone->deleteLater();
 }
 
-Ticket PasswordQuestions::Ask(const std::string& server,
+Ticket PasswordQuestions::Ask(const std::string& server, PasswordQuestion why,
                               std::function<void(const std::optional<std::string>&)> answer) {
     const unsigned long number = ++asked;
-    Question& question = questions.emplace_back(Question{number, server, {}});
+    Question& question = questions.emplace_back(Question{number, server, why, {}});
     Ticket ticket = question.Answered.Begin(std::move(answer), [weak = weak_from_this(), number] {
         if (const auto self = weak.lock()) self->TakeBack(number);
     });
@@ -26,7 +26,7 @@ Ticket PasswordQuestions::Ask(const std::string& server,
 void PasswordQuestions::ShowFirst() {
     shown.reset();
     if (questions.empty()) return;
-    shown.reset(new PasswordDialog(questions.front().Server));
+    shown.reset(new PasswordDialog(questions.front().Server, questions.front().Why));
     QObject::connect(shown.get(), &QDialog::finished, shown.get(), [this](int outcome) { TakeAnswer(outcome); });
     // Who works in another program, as in the simulator, goes on typing there.
     shown->setAttribute(Qt::WA_ShowWithoutActivating, QApplication::activeWindow() == nullptr);

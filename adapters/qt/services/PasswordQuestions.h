@@ -9,6 +9,7 @@
 #include <string>
 
 #include "adapters/qt/windows/PasswordDialog.h"
+#include "platform/PasswordQuestion.h"
 #include "platform/Ticket.h"
 
 namespace orvelle::qt {
@@ -16,7 +17,8 @@ namespace orvelle::qt {
 // Tickets may outlive it; hence the shared ownership.
 class PasswordQuestions : public std::enable_shared_from_this<PasswordQuestions> {
 public:
-    [[nodiscard]] Ticket Ask(const std::string& server, std::function<void(const std::optional<std::string>&)> answer);
+    [[nodiscard]] Ticket Ask(const std::string& server, PasswordQuestion why,
+                             std::function<void(const std::optional<std::string>&)> answer);
 
 private:
     using Answer = Attachment<const std::optional<std::string>&>;
@@ -24,6 +26,7 @@ private:
     struct Question {
         unsigned long Number;
         std::string Server;
+        PasswordQuestion Why;
         Answer Answered;
     };
 

@@ -16,9 +16,9 @@ std::optional<Squelch> QtVoiceDialogs::Calibrate(VoiceTrial& trial, const Squelc
     return dialog.Chosen();
 }
 
-Ticket QtVoiceDialogs::AskPassword(const std::string& server,
+Ticket QtVoiceDialogs::AskPassword(const std::string& server, PasswordQuestion question,
                                    std::function<void(const std::optional<std::string>&)> answer) {
-    return passwords->Ask(server, std::move(answer));
+    return passwords->Ask(server, question, std::move(answer));
 }
 
 }  // namespace orvelle::qt

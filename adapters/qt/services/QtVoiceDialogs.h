@@ -17,7 +17,7 @@ public:
     explicit QtVoiceDialogs(DialogParent dialogParent) : parentOf(std::move(dialogParent)) {}
 
     std::optional<Squelch> Calibrate(VoiceTrial& trial, const Squelch& now) override;
-    [[nodiscard]] Ticket AskPassword(const std::string& server,
+    [[nodiscard]] Ticket AskPassword(const std::string& server, PasswordQuestion question,
                                      std::function<void(const std::optional<std::string>&)> answer) override;
 
 private:

@@ -28,7 +28,10 @@ double Quantile(std::vector<double> levels, double share) {
 
 double AsLevel(double value) { return std::isnan(value) ? 0 : std::clamp(value, 0.0, 100.0); }
 
-void SquelchMeasurement::Restart() { *this = SquelchMeasurement(); }
+void SquelchMeasurement::Begin() {
+    *this = SquelchMeasurement();
+    step = Step::Waiting;
+}
 
 void SquelchMeasurement::Stop() { step = Step::Stopped; }
 
@@ -39,17 +42,18 @@ bool SquelchMeasurement::IsUnderWay() const {
 double SquelchMeasurement::Share() const {
     if (step == Step::Quiet) return static_cast<double>(room.size()) / RoomLevels;
     if (step == Step::Speaking) return static_cast<double>(voice.size()) / VoiceLevels;
-    return IsUnderWay() ? 0 : 1;
+    return IsUnderWay() || step == Step::Ready || step == Step::Silent ? 0 : 1;
 }
 
 bool SquelchMeasurement::Take(bool works, double level) {
     const Step before = step;
+    level = AsLevel(level);
+    if (step == Step::Silent && works && level >= Nothing) Begin();
     if (!IsUnderWay()) return false;
     if (!works) {
-        Restart();
+        Begin();
         return step != before;
     }
-    level = AsLevel(level);
     loudest = std::max(loudest, level);
     if (step == Step::Speaking) {
         TakeVoice(level);

@@ -1,7 +1,9 @@
 #include "adapters/qt/widgets/Lamp.h"
 
+#include <QHelpEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QToolTip>
 #include <algorithm>
 
 #include "adapters/looks/Contrast.h"
@@ -45,6 +47,12 @@ QString Lamp::Words() const {
     if (!isLit) return tr("off");
     if (!letters.isEmpty()) return tr("on");
     return sign == Sign::Good ? tr("works") : tr("does not work");
+}
+
+bool Lamp::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip || !letters.isEmpty() || toolTip().isEmpty()) return QWidget::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), toolTip() + QLatin1String(": ") + Words(), this);
+    return true;
 }
 
 QSize Lamp::sizeHint() const {

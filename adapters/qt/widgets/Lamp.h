@@ -33,6 +33,8 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
+    // A sign's tip tells in words what it shows.
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

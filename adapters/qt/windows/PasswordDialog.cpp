@@ -11,6 +11,7 @@
 #include "adapters/looks/ElidedLabel.h"
 #include "adapters/looks/Text.h"
 #include "adapters/looks/Theme.h"
+#include "adapters/qt/widgets/SignedSentence.h"
 
 namespace orvelle::qt {
 
@@ -21,7 +22,7 @@ constexpr int MostCharacters = 1000;
 
 }  // namespace
 
-PasswordDialog::PasswordDialog(const std::string& server)
+PasswordDialog::PasswordDialog(const std::string& server, PasswordQuestion why)
     : QDialog(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
       field(new QLineEdit) {
     setObjectName("PasswordDialog");
@@ -57,6 +58,12 @@ PasswordDialog::PasswordDialog(const std::string& server)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(2 * Unit, 2 * Unit, 2 * Unit, 2 * Unit);
     column->setSpacing(Unit);
+    if (why == PasswordQuestion::AfterWrong) {
+        auto* wrong = new SignedSentence;
+        wrong->setObjectName("PasswordWrong");
+        wrong->Say(Sign::Bad, "That password was not right.");
+        column->addWidget(wrong);
+    }
     column->addWidget(new QLabel("This voice server asks for a password:"));
     column->addWidget(name);
     column->addLayout(row);

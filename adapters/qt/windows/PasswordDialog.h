@@ -6,6 +6,8 @@
 #include <QDialog>
 #include <string>
 
+#include "platform/PasswordQuestion.h"
+
 class QLineEdit;
 
 namespace orvelle::qt {
@@ -14,7 +16,7 @@ class PasswordDialog : public QDialog {
     Q_OBJECT
 
 public:
-    explicit PasswordDialog(const std::string& server);
+    PasswordDialog(const std::string& server, PasswordQuestion why);
 
     // What was typed; the field is empty afterwards.
     std::string TakePassword();

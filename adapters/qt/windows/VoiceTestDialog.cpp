@@ -32,12 +32,17 @@ struct Saying {
 
 Saying SayingOf(Step step) {
     switch (step) {
+        case Step::Ready:
+            return {
+                Sign::Off,
+                "Press \"Begin\" when you are ready. First be quiet for two seconds, so that the noise of the room is "
+                "measured; then speak for three seconds as you will on the radio."};
         case Step::Waiting:
-            return {Sign::Waiting, "One moment: the microphone is being opened."};
+            return {Sign::Off, "One moment: the microphone is being opened."};
         case Step::Quiet:
-            return {Sign::Waiting, "Please be quiet for two seconds: the noise of the room is measured."};
+            return {Sign::Off, "Please be quiet for two seconds: the noise of the room is measured."};
         case Step::Speaking:
-            return {Sign::Waiting, "Now speak as you will on the radio, until the line below is full."};
+            return {Sign::Off, "Now speak as you will on the radio, until the line below is full."};
         case Step::Measured:
             return {Sign::Good, "Measured: the input squelch stands between your room and your voice."};
         case Step::TooLoud:
@@ -53,11 +58,11 @@ Saying SayingOf(Step step) {
             return {
                 Sign::Bad,
                 "Nothing comes from the microphone, not even the noise of a room. It may be muted by its own switch "
-                "or in the desktop's sound settings."};
+                "or in the desktop's sound settings. The measurement begins once something comes."};
         case Step::Stopped:
             break;
     }
-    return {Sign::Off, "The input squelch is set by hand. \"Try again\" measures it."};
+    return {Sign::Off, "The input squelch is set by hand. The button below measures it."};
 }
 
 constexpr Saying NoMicrophone{
@@ -90,6 +95,15 @@ void AddHeading(QGridLayout& grid, const QString& text) {
     AddWide(grid, heading);
 }
 
+QLabel* OutputExplanation() {
+    auto* text = new QLabel(
+        "Voices of others that are weaker than the output squelch are not heard. Here it counts for this test alone; "
+        "the engine starts with the one of its settings.");
+    text->setObjectName("OutputExplanation");
+    text->setWordWrap(true);
+    return text;
+}
+
 // The meter stands above the slider, so that mark and handle are one.
 void AddDevice(QGridLayout& grid, const QString& device, LevelMeter* meter, const QString& squelch,
                const SquelchField& field) {
@@ -119,10 +133,12 @@ VoiceTestDialog::VoiceTestDialog(VoiceTrial& voiceTrial, const Squelch& now, QWi
       input(new SquelchField("InputSquelch", "Input squelch",
                              "Sounds of the microphone that are weaker than this are not sent",
                              [this] { InputChanged(); })),
-      output(new SquelchField("OutputSquelch", "Output squelch", "Voices that are weaker than this are not heard",
+      output(new SquelchField("OutputSquelch", "Output squelch",
+                              "Voices of others that are weaker than this are not heard",
                               [this] { outputLevel->SetMark(output->Value()); })),
       headset(NewSentence("HeadsetState", SentenceLines - 1)),
-      hear(new QCheckBox("&Hear myself")) {
+      hear(new QCheckBox("&Hear myself")),
+      begin(new QPushButton) {
     setObjectName("VoiceTestDialog");
     setWindowTitle("Voice Test and Calibration");
     input->setParent(this);
@@ -131,6 +147,9 @@ VoiceTestDialog::VoiceTestDialog(VoiceTrial& voiceTrial, const Squelch& now, QWi
     QSizePolicy policy = headset->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     headset->setSizePolicy(policy);
+    begin->setObjectName("Begin");
+    begin->setText("&Begin");
+    begin->setToolTip("Measures the microphone: two seconds of quiet, then three of speech");
     progress->setObjectName("MeasurementProgress");
     progress->setAccessibleName("Measurement");
     progress->setRange(0, ProgressSteps);
@@ -162,14 +181,11 @@ Squelch VoiceTestDialog::Chosen() const {
 
 void VoiceTestDialog::Arrange() {
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    auto* again = buttons->addButton("&Try again", QDialogButtonBox::ResetRole);
-    again->setObjectName("TryAgain");
-    again->setToolTip("Measures the microphone once more");
-    again->setAutoDefault(false);
+    buttons->addButton(begin, QDialogButtonBox::ResetRole);
     for (QAbstractButton* button : buttons->buttons()) button->setIcon({});
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(again, &QPushButton::clicked, this, [this] { TryAgain(); });
+    connect(begin, &QPushButton::clicked, this, [this] { Begin(); });
 
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(2 * Unit);
@@ -177,6 +193,7 @@ void VoiceTestDialog::Arrange() {
     grid->setColumnStretch(1, 1);
     AddDevice(*grid, "Microphone", inputLevel, "&Input squelch", *input);
     AddDevice(*grid, "Headset", outputLevel, "O&utput squelch", *output);
+    AddWide(*grid, OutputExplanation());
     AddWide(*grid, hear);
     AddWide(*grid, headset);
     auto* column = new QVBoxLayout(this);
@@ -189,12 +206,13 @@ void VoiceTestDialog::Arrange() {
     column->addStrut(LineLength * fontMetrics().averageCharWidth());
     column->setSizeConstraint(QLayout::SetFixedSize);
     QWidget* before = hear;
-    for (QWidget* button : {static_cast<QWidget*>(again), static_cast<QWidget*>(buttons->button(QDialogButtonBox::Ok)),
+    for (QWidget* button : {static_cast<QWidget*>(begin), static_cast<QWidget*>(buttons->button(QDialogButtonBox::Ok)),
                             static_cast<QWidget*>(buttons->button(QDialogButtonBox::Cancel))}) {
         setTabOrder(before, button);
         before = button;
     }
-    again->setFocus();
+    accept = buttons->button(QDialogButtonBox::Ok);
+    begin->setFocus();
 }
 
 void VoiceTestDialog::Take() {
@@ -212,8 +230,12 @@ void VoiceTestDialog::Take() {
     ShowStep();
 }
 
-void VoiceTestDialog::TryAgain() {
-    measurement.Restart();
+// From now on Enter takes what was measured.
+void VoiceTestDialog::Begin() {
+    begin->setText("&Try again");
+    begin->setAutoDefault(false);
+    accept->setDefault(true);
+    measurement.Begin();
     HearAsWished();
     ShowStep();
 }

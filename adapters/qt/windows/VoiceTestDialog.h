@@ -1,5 +1,5 @@
 // "Voice Test and Calibration": the levels of microphone and headset, each with its squelch, which the user sets by
-// hand or has measured. It begins to measure when it is made, and says plainly which device does not work. Run by
+// hand or has measured. It measures once its user begins, and says plainly which device does not work. Run by
 // QtVoiceDialogs; accepted, it has the two values.
 #pragma once
 
@@ -10,6 +10,7 @@
 
 class QCheckBox;
 class QProgressBar;
+class QPushButton;
 
 namespace orvelle::qt {
 
@@ -38,7 +39,7 @@ private:
 
     void Arrange();
     void Take();
-    void TryAgain();
+    void Begin();
     void InputChanged();
     void ShowStep();
     void HearAsWished();
@@ -57,6 +58,8 @@ private:
     SquelchField* output;
     SignedSentence* headset;
     QCheckBox* hear;
+    QPushButton* begin;
+    QPushButton* accept = nullptr;
 };
 
 }  // namespace orvelle::qt

@@ -8,7 +8,8 @@ namespace orvelle {
 class NoVoiceDialogs : public VoiceDialogs {
 public:
     std::optional<Squelch> Calibrate(VoiceTrial&, const Squelch&) override { return std::nullopt; }
-    Ticket AskPassword(const std::string&, std::function<void(const std::optional<std::string>&)>) override {
+    Ticket AskPassword(const std::string&, PasswordQuestion,
+                       std::function<void(const std::optional<std::string>&)>) override {
         return {};
     }
 };

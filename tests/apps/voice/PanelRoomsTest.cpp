@@ -136,7 +136,8 @@ TEST_F(PanelRoomsTest, AudioStopsAlsoWhereTheRoomIsLeftForAnotherOne) {
 }
 
 TEST_F(PanelRoomsTest, ARefusalIsASentenceThatGoesWithTheRoom) {
-    rooms.Refuse(2, "There is no channel.");
+    rooms.Refuse(2, "ABC123", "srv", "There is no channel.");
+    EXPECT_EQ(rooms.At(2).Address, "srv");
     EXPECT_EQ(Run(), Texts{"Status 2"});
     EXPECT_EQ(rooms.At(2).Status, "There is no channel.");
     rooms.Leave(2);
@@ -159,6 +160,28 @@ TEST_F(PanelRoomsTest, AStoppedEngineKnowsWhatWasSetAndNothingElse) {
     EXPECT_FALSE(rooms.AudioRuns());
     EXPECT_FALSE(rooms.At(0).Muted);
     EXPECT_TRUE(rooms.At(0).Output[1]);
+}
+
+TEST_F(PanelRoomsTest, WhyARoomCantBeHadIsToldOnceUntilItIsJoinedOrThereIsAnotherReason) {
+    Texts told;
+    rooms.Told = [&told](const std::string& sentence) { told.push_back(sentence); };
+    const auto fail = [this](Long room, What what, const std::string& why) {
+        const unsigned long attempt = Join(room);
+        Take(room, attempt, What::StatusChanged, why);
+        Take(room, attempt, what);
+        Run();
+    };
+    fail(0, What::Failed, "The server is full.");
+    fail(0, What::Failed, "The server is full.");
+    fail(1, What::Failed, "The server is full.");
+    fail(0, What::Failed, "The password is wrong.");
+    Enter(0);
+    fail(0, What::Kicked, "The password is wrong.");
+    rooms.Refuse(2, "ABC123", "srv", "There is no channel.");
+    rooms.Refuse(2, "ABC123", "srv", "There is no channel.");
+    Run();
+    EXPECT_EQ(told, (Texts{"COM1: The server is full.", "COM2: The server is full.", "COM1: The password is wrong.",
+                           "COM1: The password is wrong.", "The private room: There is no channel."}));
 }
 
 }  // namespace

@@ -45,7 +45,7 @@ public:
     std::optional<Squelch> Calibrate(VoiceTrial& trial, const Squelch& now) override {
         return Calibration ? Calibration(trial, now) : std::nullopt;
     }
-    Ticket AskPassword(const std::string& server,
+    Ticket AskPassword(const std::string& server, PasswordQuestion,
                        std::function<void(const std::optional<std::string>&)> answer) override {
         Asked.push_back(server);
         return question.Begin(std::move(answer));

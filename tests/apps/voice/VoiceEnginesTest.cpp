@@ -49,6 +49,7 @@ public:
     bool InputFailed() const override { return false; }
     double InputSquelchValue() const override { return 0; }
     double OutputSquelchValue() const override { return 0; }
+    void Count(Long, std::function<void(const speech::BlockCounts&)>) override {}
     Ticket Observe(std::function<void()>) override { return {}; }
 
     VoiceDevices& Devices;

@@ -6,8 +6,8 @@
 #include <fstream>
 
 #include "adapters/mqtt/Topics.h"
+#include "apps/FreePort.h"
 #include "tests/linux/WaitUntil.h"
-#include "tests/mqtt/broker/LoopbackPorts.h"
 
 namespace orvelle::mqtt {
 
@@ -46,7 +46,7 @@ BrokerProcess::~BrokerProcess() {
 void BrokerProcess::Start() {
     process = std::make_unique<linux::ChildProcess>(
         std::vector<std::string>{"/usr/sbin/mosquitto", "-c", (folder / "configuration").string()});
-    EXPECT_TRUE(linux::WaitUntil([this] { return Listens(port); }));
+    EXPECT_TRUE(linux::WaitUntil([this] { return IsListenedTo(port); }));
 }
 
 void BrokerProcess::Kill(int signal) {

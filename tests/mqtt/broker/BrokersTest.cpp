@@ -4,6 +4,7 @@
 #include <csignal>
 #include <fstream>
 
+#include "apps/FreePort.h"
 #include "tests/mqtt/broker/LoopbackPorts.h"
 #include "tests/mqtt/broker/SetUpRig.h"
 #include "tests/shared/OwnFolder.h"

@@ -3,6 +3,7 @@
 
 #include <fstream>
 
+#include "apps/FreePort.h"
 #include "tests/linux/WaitUntil.h"
 #include "tests/mqtt/broker/LoopbackPorts.h"
 #include "tests/mqtt/broker/SetUpRig.h"

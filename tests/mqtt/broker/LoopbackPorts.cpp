@@ -36,14 +36,6 @@ int PortOf(const FileDescriptor& bound) {
 
 }  // namespace
 
-int FreePort() { return PortOf(BoundSocket()); }
-
-bool Listens(int port) {
-    const FileDescriptor asking = NewSocket();
-    const sockaddr_in address = Loopback(port);
-    return connect(asking.Number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
-}
-
 LoopbackListener::LoopbackListener() : Socket(BoundSocket()) { EXPECT_EQ(listen(Socket.Number(), 8), 0); }
 
 int LoopbackListener::Port() const { return PortOf(Socket); }

@@ -10,9 +10,9 @@
 #include "adapters/mqtt/JoinCode.h"
 #include "adapters/mqtt/OwnSetUp.h"
 #include "adapters/shared/WholeFile.h"
+#include "apps/FreePort.h"
 #include "tests/linux/WaitUntil.h"
 #include "tests/mqtt/broker/BrokerProcess.h"
-#include "tests/mqtt/broker/LoopbackPorts.h"
 #include "tests/mqtt/broker/SetUpRig.h"
 #include "tests/shared/OwnFolder.h"
 

@@ -126,7 +126,7 @@ void TakeVoiceDialogs(const Folder& folder) {
         Settle();
         folder.Keep(dialog.grab(), QStringLiteral("21-voice-test-") + state.Name);
     }
-    PasswordDialog question("voice.example:64738");
+    PasswordDialog question("voice.example:64738", PasswordQuestion::First);
     question.show();
     Settle();
     folder.Keep(question.grab(), QStringLiteral("22-password"));

@@ -1,7 +1,10 @@
 // What a lamp says by colour it says by shape, and the digits of a frequency do not jump.
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QHelpEvent>
 #include <QImage>
+#include <QToolTip>
 
 #include "adapters/qt/widgets/FrequencyDisplay.h"
 #include "adapters/qt/widgets/Lamp.h"
@@ -18,6 +21,24 @@ QImage Shape(QWidget& widget) {
         for (int x = 0; x < picture.width(); ++x)
             picture.setPixel(x, y, picture.pixel(x, y) == ground ? 0xffffffff : 0xff000000);
     return picture;
+}
+
+TEST(LampTest, TheTipOfADevicesLampTellsItsStateBehindItsOwnWords) {
+    Lamp device;
+    device.setToolTip("Microphone Device Status");
+    device.SetLit(true);
+    device.show();
+    const auto tip = [&device] {
+        QHelpEvent asked(QEvent::ToolTip, {1, 1}, device.mapToGlobal(QPoint(1, 1)));
+        QApplication::sendEvent(&device, &asked);
+        return QToolTip::text();
+    };
+    device.SetFill(128);
+    EXPECT_EQ(tip(), "Microphone Device Status: does not work");
+    device.SetFill(32768);
+    EXPECT_EQ(tip(), "Microphone Device Status: works");
+    EXPECT_EQ(device.toolTip(), "Microphone Device Status");
+    QToolTip::hideText();
 }
 
 TEST(LampTest, ALampTellsItsStateByShapeAlone) {

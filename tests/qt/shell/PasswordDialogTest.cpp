@@ -3,6 +3,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -20,8 +21,8 @@ class PasswordDialogTest : public testing::Test {
 protected:
     using Answer = std::optional<std::string>;
 
-    Ticket Ask(const std::string& server) {
-        return dialogs->AskPassword(server, [this](const Answer& answer) { answers.push_back(answer); });
+    Ticket Ask(const std::string& server, PasswordQuestion why = PasswordQuestion::First) {
+        return dialogs->AskPassword(server, why, [this](const Answer& answer) { answers.push_back(answer); });
     }
 
     // The one that is seen; null for none.
@@ -48,6 +49,18 @@ protected:
     std::unique_ptr<QtVoiceDialogs> dialogs = std::make_unique<QtVoiceDialogs>([] { return nullptr; });
     std::vector<Answer> answers;
 };
+
+TEST_F(PasswordDialogTest, AskedAgainItSaysThatTheAnswerWasNotRight) {
+    const Ticket first = Ask("one");
+    EXPECT_EQ(Shown()->findChild<QLabel*>("PasswordWrong"), nullptr);
+    Type(*Shown(), "a");
+    const Ticket again = Ask("one", PasswordQuestion::AfterWrong);
+    ASSERT_NE(Shown(), nullptr);
+    EXPECT_EQ(Shown()->findChild<QLabel*>("PasswordWrong")->text(), "That password was not right.");
+    EXPECT_EQ(Shown()->findChild<QLineEdit*>("Password")->text(), "");
+    QDir().mkpath(PICTURES);
+    EXPECT_TRUE(Shown()->grab().save(PICTURES "/password-again.png"));
+}
 
 TEST_F(PasswordDialogTest, WhatIsTypedIsTheAnswer) {
     const Ticket ticket = Ask("voice.example:64739");
@@ -105,7 +118,7 @@ TEST_F(PasswordDialogTest, AQuestionIsTakenBackWithItsTicket) {
 
 TEST_F(PasswordDialogTest, AnAnswerMayAskAgainAndEndItsOwnTicket) {
     Ticket ticket, again;
-    ticket = dialogs->AskPassword("one", [&](const Answer&) {
+    ticket = dialogs->AskPassword("one", PasswordQuestion::First, [&](const Answer&) {
         ticket.End();
         again = Ask("one");
     });

@@ -15,6 +15,8 @@ constexpr int Seconds = 1000 / SquelchMeasurement::Interval;  // in levels
 
 class SquelchMeasurementTest : public testing::Test {
 protected:
+    SquelchMeasurementTest() { measurement.Begin(); }
+
     // Until the step is another one or `levels` were taken.
     void Give(double level, int levels) {
         for (int given = 0; given < levels; ++given) measurement.Take(true, level);
@@ -70,7 +72,7 @@ TEST_F(SquelchMeasurementTest, AVoiceNoLouderThanTheRoomIsTold) {
     Give(44, 1);
     EXPECT_EQ(measurement.Now(), Step::TooSoft);
     EXPECT_FALSE(measurement.Result());
-    measurement.Restart();
+    measurement.Begin();
     Give(40, 2 * Seconds);
     Give(90, 1);  // no voice, but a click
     Give(41, 3 * Seconds);
@@ -81,12 +83,37 @@ TEST_F(SquelchMeasurementTest, AVoiceNoLouderThanTheRoomIsTold) {
 TEST_F(SquelchMeasurementTest, AMicrophoneThatGivesNothingIsTold) {
     Give(0, 12 * Seconds);
     EXPECT_EQ(measurement.Now(), Step::Silent);
-    measurement.Restart();
+    measurement.Begin();
     Give(std::numeric_limits<double>::quiet_NaN(), 12 * Seconds);
     EXPECT_EQ(measurement.Now(), Step::Silent);
-    measurement.Restart();
+    measurement.Begin();
     Measure(0, 50);  // one that lets no noise through
     EXPECT_EQ(measurement.Now(), Step::Measured);
+}
+
+TEST_F(SquelchMeasurementTest, ItWaitsForItsUser) {
+    SquelchMeasurement unbegun;
+    for (int given = 0; given < 20 * Seconds; ++given) EXPECT_FALSE(unbegun.Take(true, 50));
+    EXPECT_EQ(unbegun.Now(), Step::Ready);
+    EXPECT_EQ(unbegun.Share(), 0);
+    EXPECT_FALSE(unbegun.IsUnderWay());
+    unbegun.Begin();
+    EXPECT_EQ(unbegun.Now(), Step::Waiting);
+    EXPECT_TRUE(unbegun.IsUnderWay());
+}
+
+TEST_F(SquelchMeasurementTest, AMicrophoneThatGivesSomethingAfterAllIsMeasured) {
+    Give(0, 12 * Seconds);
+    EXPECT_EQ(measurement.Now(), Step::Silent);
+    EXPECT_FALSE(measurement.Take(false, 10));
+    EXPECT_FALSE(measurement.Take(true, 0));
+    EXPECT_TRUE(measurement.Take(true, 10));
+    EXPECT_EQ(measurement.Now(), Step::Quiet);
+    Give(10, 2 * Seconds - 1);
+    EXPECT_EQ(measurement.Now(), Step::Speaking);
+    Give(70, 3 * Seconds);
+    EXPECT_EQ(measurement.Now(), Step::Measured);
+    EXPECT_NEAR(*measurement.Result(), 30, 0.01);
 }
 
 TEST_F(SquelchMeasurementTest, AVoiceThatIsDistortedIsMeasuredAndTold) {

@@ -3,12 +3,14 @@
 
 #include <QAccessible>
 #include <QCheckBox>
+#include <QDir>
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QSlider>
 #include <cmath>
 
+#include "adapters/looks/Theme.h"
 #include "adapters/looks/reach/Reach.h"
 #include "adapters/qt/services/QtVoiceDialogs.h"
 #include "adapters/qt/widgets/LevelMeter.h"
@@ -24,10 +26,14 @@ namespace {
 class VoiceTestDialogTest : public testing::Test {
 protected:
     // What the dialogue gives when its user does `answer`.
-    std::optional<Squelch> Run(std::function<void(VoiceTestDialog&)> answer, Squelch now = {50, 50}) {
-        Answerer<VoiceTestDialog> answerer([answer = std::move(answer)](VoiceTestDialog& shown) {
+    // Begun: its user has pressed the button.
+    enum class First { Begun, Unbegun };
+    std::optional<Squelch> Run(std::function<void(VoiceTestDialog&)> answer, Squelch now = {50, 50},
+                               First first = First::Begun) {
+        Answerer<VoiceTestDialog> answerer([answer = std::move(answer), first](VoiceTestDialog& shown) {
             MakeQuick(shown);
             EXPECT_TRUE(WaitForWindowActive(&shown));
+            if (first == First::Begun) shown.findChild<QPushButton*>("Begin")->click();
             answer(shown);
         });
         const auto given = dialogs.Calibrate(trial, now);
@@ -38,6 +44,17 @@ protected:
     // A room of level 10 and a voice of 70, as soon as it is asked for.
     void SpeakWhenAsked(const VoiceTestDialog& shown) {
         trial.Input = [sentence = SentenceOf(shown)] { return sentence->text().startsWith("Now speak") ? 70 : 10; };
+    }
+
+    // What its user sees in this step, in both palettes.
+    static void Picture(VoiceTestDialog& shown, const QString& step) {
+        QDir().mkpath(PICTURES);
+        for (const Scheme scheme : {Scheme::Dark, Scheme::Light}) {
+            shown.setPalette(CalmPalette(scheme));
+            const QString file =
+                QString(PICTURES "/voice-test-%1-%2.png").arg(step, scheme == Scheme::Dark ? "dark" : "light");
+            EXPECT_TRUE(shown.grab().save(file));
+        }
     }
 
     static SignedSentence* SentenceOf(const VoiceTestDialog& shown) {
@@ -66,6 +83,49 @@ TEST_F(VoiceTestDialogTest, TheSquelchComesBetweenSilenceAndSpeech) {
     ASSERT_TRUE(given);
     EXPECT_FLOAT_EQ(given->Input, 30);
     EXPECT_FLOAT_EQ(given->Output, 50);
+}
+
+TEST_F(VoiceTestDialogTest, NothingIsMeasuredUntilItsUserBegins) {
+    Run(
+        [this](VoiceTestDialog& shown) {
+            auto* begin = shown.findChild<QPushButton*>("Begin");
+            EXPECT_TRUE(SentenceOf(shown)->text().startsWith("Press \"Begin\""));
+            EXPECT_EQ(SentenceOf(shown)->ShownSign(), Sign::Off);
+            EXPECT_EQ(begin->text(), "&Begin");
+            EXPECT_EQ(shown.focusWidget(), begin);
+            trial.Input = [] { return 30; };
+            EXPECT_TRUE(ComesTrue([&] { return shown.findChild<LevelMeter*>("InputLevel")->Level() == 30; }));
+            EXPECT_TRUE(SentenceOf(shown)->text().startsWith("Press"));
+            Picture(shown, "ready");
+            SpeakWhenAsked(shown);
+            ClickKey(begin, Qt::Key_Return);
+            EXPECT_TRUE(ComesToSay(shown, "Please be quiet"));
+            EXPECT_EQ(SentenceOf(shown)->ShownSign(), Sign::Off);
+            EXPECT_EQ(begin->text(), "&Try again");
+            Picture(shown, "quiet");
+            EXPECT_TRUE(ComesToSay(shown, "Now speak"));
+            EXPECT_EQ(SentenceOf(shown)->ShownSign(), Sign::Off);
+            Picture(shown, "speaking");
+            EXPECT_TRUE(ComesToSay(shown, "Measured: "));
+            Picture(shown, "measured");
+            ClickKey(begin, Qt::Key_Return);
+            EXPECT_FALSE(shown.isVisible());
+        },
+        {50, 50}, First::Unbegun);
+}
+
+TEST_F(VoiceTestDialogTest, AMicrophoneThatWasMutedIsMeasuredOnceItGivesSomething) {
+    const auto given = Run([this](VoiceTestDialog& shown) {
+        trial.Input = [] { return 0; };
+        EXPECT_TRUE(ComesToSay(shown, "Nothing comes from the microphone"));
+        EXPECT_EQ(SentenceOf(shown)->ShownSign(), Sign::Bad);
+        Picture(shown, "silent");
+        SpeakWhenAsked(shown);
+        EXPECT_TRUE(ComesToSay(shown, "Measured: "));
+        ClickKey(shown.focusWidget(), Qt::Key_Return);
+    });
+    ASSERT_TRUE(given);
+    EXPECT_FLOAT_EQ(given->Input, 30);
 }
 
 TEST_F(VoiceTestDialogTest, ACancelGivesNoneInWhicheverStep) {
@@ -106,7 +166,7 @@ TEST_F(VoiceTestDialogTest, TheKeyboardAloneDoesAll) {
     const auto given = Run([this](VoiceTestDialog& shown) {
         SpeakWhenAsked(shown);
         EXPECT_TRUE(ComesToSay(shown, "Measured"));
-        EXPECT_EQ(shown.focusWidget()->objectName(), "TryAgain");
+        EXPECT_EQ(shown.focusWidget()->objectName(), "Begin");
         trial.Input = [sentence = SentenceOf(shown)] { return sentence->text().startsWith("Now speak") ? 80 : 20; };
         ClickKey(shown.focusWidget(), Qt::Key_Space);
         EXPECT_TRUE(ComesToSay(shown, "Please be quiet"));
@@ -144,7 +204,7 @@ TEST_F(VoiceTestDialogTest, OneHearsOneselfWhileNothingIsMeasured) {
         EXPECT_TRUE(trial.Heard.empty());
         EXPECT_TRUE(ComesToSay(shown, "Measured"));
         EXPECT_TRUE(ComesTrue([&] { return trial.Heard == std::vector<bool>{true}; }));
-        shown.findChild<QPushButton*>("TryAgain")->click();
+        shown.findChild<QPushButton*>("Begin")->click();
         EXPECT_EQ(trial.Heard, (std::vector<bool>{true, false}));
         EXPECT_TRUE(ComesToSay(shown, "Measured"));
         EXPECT_TRUE(ComesTrue([&] { return trial.Heard.size() == 3; }));
@@ -178,12 +238,12 @@ TEST_F(VoiceTestDialogTest, DevicesThatDoNotWorkAreTold) {
 TEST_F(VoiceTestDialogTest, EachTroubleOfAMicrophoneHasItsSentence) {
     Run([this](VoiceTestDialog& shown) {
         EXPECT_TRUE(ComesToSay(shown, "Nothing comes from the microphone"));
-        trial.Input = [] { return 40; };
-        shown.findChild<QPushButton*>("TryAgain")->click();
+        trial.Input = [] { return 40; };  // it goes on by itself, and may be begun anew
+        shown.findChild<QPushButton*>("Begin")->click();
         EXPECT_TRUE(ComesToSay(shown, "Your voice was hardly louder"));
         EXPECT_EQ(InputOf(shown), 50);
         trial.Input = [sentence = SentenceOf(shown)] { return sentence->text().startsWith("Now speak") ? 100 : 10; };
-        shown.findChild<QPushButton*>("TryAgain")->click();
+        shown.findChild<QPushButton*>("Begin")->click();
         EXPECT_TRUE(ComesToSay(shown, "Measured, but your voice is so loud"));
         EXPECT_NEAR(InputOf(shown), 40, 0.1);
         ClickKey(&shown, Qt::Key_Escape);
@@ -252,10 +312,9 @@ TEST_F(VoiceTestDialogTest, AssistiveProgramsFindEverythingByNameAndRole) {
         EXPECT_EQ(nameOf("OutputSquelch"), "Output squelch");
         EXPECT_EQ(roleOf("HearMyself"), QAccessible::CheckBox);
         EXPECT_EQ(nameOf("HearMyself"), "Hear myself");
-        EXPECT_EQ(nameOf("TryAgain"), "Try again");
+        EXPECT_EQ(nameOf("Begin"), "Try again");
         EXPECT_EQ(nameOf("MeasurementProgress"), "Measurement");
-        for (const char* name :
-             {"InputLevel", "OutputLevel", "InputSquelch", "OutputSquelch", "HearMyself", "TryAgain"})
+        for (const char* name : {"InputLevel", "OutputLevel", "InputSquelch", "OutputSquelch", "HearMyself", "Begin"})
             EXPECT_NE(shown.findChild<QWidget*>(name)->toolTip(), "") << name;
         ClickKey(&shown, Qt::Key_Escape);
     });
