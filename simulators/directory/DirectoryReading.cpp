@@ -30,7 +30,13 @@ std::size_t LineAt(std::string_view text, std::size_t place) {
            static_cast<std::size_t>(std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(place), '\n'));
 }
 
-// Of the beginning that is UTF-8.
+// Nothing stands before it.
+std::string OutermostPath(std::string_view member) {
+    const std::string path = MemberPath(member);
+    return path.starts_with('.') ? path.substr(1) : path;
+}
+
+// Of the lines at its beginning that are UTF-8.
 std::size_t LengthOfUtf8(std::string_view text) {
     std::size_t line = 0;
     for (std::size_t end = text.find('\n'); end != std::string_view::npos; end = text.find('\n', line)) {
@@ -97,7 +103,7 @@ private:
                                                         "stations", "everywhere", "otherwise"};
         isTaken = false;
         if (std::ranges::find(Known, member) == Known.end())
-            return findings.TellUnknown(value.Line, MemberPath(member).substr(1));
+            return findings.TellUnknown(value.Line, OutermostPath(member));
         if (!names.insert(member).second) return findings.Tell(value.Line, member, "It stands here a second time.");
         if (entry.IsCut) return findings.Tell(value.Line, member, "It is too large.");
         if (member == "$schema") return;
