@@ -63,7 +63,7 @@ TEST(DirectoryOddities, AServerThatNobodyNamesIsTold) {
 TEST(DirectoryOddities, PlaceholdersThatAreEmptyOrNoneAreTold) {
     EXPECT_EQ(Oddities(DirectoryWith(ClubServer, "",
                                      "{'frequency': 122800000, 'voice': {'server': 'club', 'channel': "
-                                     "'{airport} {callsign}'}}",
+                                     "'{callsign}{airport}'}}",
                                      ",\n 'otherwise': {'server': 'club', 'channel': '{frequency} {} { mhz }'}")),
               "4: everywhere[0]: {airport} is always empty here.\n"
               "5: otherwise: {frequency} is no placeholder; it stays as it stands.\n");

@@ -114,7 +114,7 @@ protected:
     static void Expect(const Choice& choice, const Found& plain, const Place& place) {
         EXPECT_EQ(choice.Why, plain.Why) << place.Latitude << " " << place.Longitude;
         EXPECT_EQ(choice.Station, plain.Station) << place.Latitude << " " << place.Longitude;
-        if (choice.Distance) EXPECT_NEAR(*choice.Distance, plain.Distance, 1e-4);
+        EXPECT_NEAR(choice.Distance.value_or(0), plain.Distance, 1e-4);
     }
 
     std::mt19937 random{12345};

@@ -32,13 +32,13 @@ const std::string Otherwise = ", 'otherwise': {'server': 'club', 'channel': 'Oth
 
 class StationChoice : public testing::Test {
 protected:
-    void Use(const std::vector<std::string>& texts) {
+    void UseAll(const std::vector<std::string>& texts) {
         std::vector<std::shared_ptr<const Directory>> directories;
         for (const std::string& text : texts) directories.push_back(Read(text));
         index = StationIndex(std::move(directories));
     }
     void Use(const std::string& stations, const std::string& everywhere = "", const std::string& others = "") {
-        Use({DirectoryWith(ClubServer, stations, everywhere, others)});
+        UseAll({DirectoryWith(ClubServer, stations, everywhere, others)});
     }
     // What is chosen is held from then on.
     Reason Tune(int kilohertz, const std::optional<Place>& place) {
@@ -178,7 +178,7 @@ TEST_F(StationChoice, TheFirstDirectoryThatHasAnyWins) {
     const std::string second =
         DirectoryWith(ClubServer, StationText("B", 118300, "", At(1)) + "," + StationText("C", 118300, "", At(90)),
                       Unicom, Otherwise);
-    Use({first, second});
+    UseAll({first, second});
     EXPECT_EQ(Tune(118300, PlaceAt(1)), Reason::Station);
     EXPECT_EQ(held.Station, "A") << "though that of the second is nearer";
     EXPECT_EQ(Tune(118300, PlaceAt(90)), Reason::Station);
@@ -186,14 +186,14 @@ TEST_F(StationChoice, TheFirstDirectoryThatHasAnyWins) {
     EXPECT_EQ(held.Directory, 1U);
     EXPECT_EQ(index.Find(held.Directory)->Stations.size(), 2U);
     EXPECT_EQ(Tune(118300, PlaceAt(50)), Reason::Otherwise);
-    Use({second, first});
+    UseAll({second, first});
     EXPECT_EQ(Tune(118300, PlaceAt(-20.5)), Reason::Otherwise) << "before the next one's station";
     EXPECT_EQ(index.Find(2), nullptr);
 }
 
 TEST_F(StationChoice, OfStationsThatAreTooFarTheNearestIsNamed) {
-    Use({DirectoryWith(ClubServer, StationText("A", 118300, "", At(0))),
-         DirectoryWith(ClubServer, StationText("B", 118300, "", At(100))), DirectoryWith(ClubServer)});
+    UseAll({DirectoryWith(ClubServer, StationText("A", 118300, "", At(0))),
+            DirectoryWith(ClubServer, StationText("B", 118300, "", At(100))), DirectoryWith(ClubServer)});
     EXPECT_EQ(Tune(118300, PlaceAt(70)), Reason::NoneInRange);
     EXPECT_EQ(held.Station, "B");
     EXPECT_EQ(held.Directory, 1U);
