@@ -59,12 +59,16 @@ public:
     const std::optional<JsonTrouble>& Trouble() const { return trouble; }
 
     // The events, by the names that the parser gives them.
-    bool null() { return Put({.What = Kind::Null}); }
-    bool boolean(bool) { return Put({.What = Kind::Boolean}); }
+    bool null() { return Put(ValueOf(Kind::Null)); }
+    bool boolean(bool) { return Put(ValueOf(Kind::Boolean)); }
     bool number_integer(std::int64_t number) { return PutNumber(static_cast<double>(number)); }
     bool number_unsigned(std::uint64_t number) { return PutNumber(static_cast<double>(number)); }
     bool number_float(double number, const std::string&) { return PutNumber(number); }
-    bool string(std::string& content) { return Put({.What = Kind::Text, .Text = std::move(content)}); }
+    bool string(std::string& content) {
+        JsonValue value = ValueOf(Kind::Text);
+        value.Text = std::move(content);
+        return Put(std::move(value));
+    }
     bool binary(nlohmann::json::binary_t&) { return false; }
     bool start_object(std::size_t) { return Open(Kind::Object); }
     bool start_array(std::size_t) { return Open(Kind::List); }
@@ -120,7 +124,17 @@ private:
         return path.starts_with('.') ? path.substr(1) : path;
     }
 
-    bool PutNumber(double number) { return Put({.What = Kind::Number, .Number = number}); }
+    static JsonValue ValueOf(Kind kind) {
+        JsonValue value;
+        value.What = kind;
+        return value;
+    }
+
+    bool PutNumber(double number) {
+        JsonValue value = ValueOf(Kind::Number);
+        value.Number = number;
+        return Put(std::move(value));
+    }
 
     // A value without members; its line is that of its end.
     bool Put(JsonValue value) {
@@ -139,7 +153,8 @@ private:
     bool Open(Kind kind) {
         if (open.size() == DeepestJson)
             return Fail("It is nested too deep: " + std::to_string(DeepestJson) + " levels at most.");
-        JsonValue value{.What = kind, .Line = Line()};
+        JsonValue value = ValueOf(kind);
+        value.Line = Line();
         if (open.empty()) {
             if (kind == Kind::List) return Fail("A directory is one JSON object, in braces.");
             open.push_back({});

@@ -20,8 +20,8 @@ struct JsonValue {
     Kind What = Kind::Null;
     std::size_t Line = 0;  // from 1, where it begins
     double Number = 0;
-    std::string Text{};
-    std::vector<JsonMember> Members{};  // of an object, in its order; of a list, without names
+    std::string Text;
+    std::vector<JsonMember> Members;  // of an object, in its order; of a list, without names
 };
 
 struct JsonMember {

@@ -4,11 +4,11 @@
 // the aircraft's height + root of the transceiver's height, in feet) nautical miles, but at least 20, and never more
 // than the station's own range where it names one. The nearest counts, of equally near ones the first by callsign;
 // several transceivers of a station count by the nearest that is in range. A station that is held, as long as its
-// channel is tuned, counts as if its distance were divided by 1.1: it is left at 1.1 times its range, or for one that
-// is nearer by a tenth, so that nobody flaps at the edge of one or halfway between two. Then come the channels that are
-// valid everywhere, then what counts otherwise. Without a place the only station of a channel counts, if there is but
-// one. The first directory that has any of these for the channel wins, in the user's order: each is asked for stations,
-// everywhere and otherwise before the next one.
+// channel is tuned, counts as if its distance were divided by 1.1: it is left at 1.1 times its range, or where another
+// one in range is so much nearer, so that nobody flaps at the edge of one or halfway between two. Then come the
+// channels that are valid everywhere, then what counts otherwise. Without a place the only station of a channel counts,
+// if there is but one. The first directory that has any of these for the channel wins, in the user's order: each is
+// asked for stations, everywhere and otherwise before the next one.
 #pragma once
 
 #include <cstddef>
