@@ -107,13 +107,16 @@ void DirectoryEntries::TakeStation(const JsonValue& value, const std::string& pa
     }
     const JsonValue* const object = fields.Object("voice");
     const std::optional<VoiceEntry> voice = object ? ReadVoice(*object, placed.Voice.Field) : std::nullopt;
-    if (!fields.IsSound() || !voice) return;
-    const auto [first, isNew] = callsigns.emplace(station.Callsign, value.Line);
-    if (!isNew)
-        return fields.Tell("callsign",
-                           Quoted(station.Callsign) + " stands on line " + std::to_string(first->second) + " already.");
+    if (!voice) return;
     station.Voice = *voice;
-    if (!station.Transceivers.empty()) stations.push_back(std::move(placed));
+    if (fields.IsSound()) {
+        const auto [first, isNew] = callsigns.emplace(station.Callsign, value.Line);
+        if (!isNew)
+            fields.Tell("callsign",
+                        Quoted(station.Callsign) + " stands on line " + std::to_string(first->second) + " already.");
+    }
+    placed.IsSound = fields.IsSound() && !station.Transceivers.empty();
+    stations.push_back(std::move(placed));
 }
 
 void DirectoryEntries::TakeEverywhere(const JsonValue& value, const std::string& path) {
@@ -122,18 +125,21 @@ void DirectoryEntries::TakeEverywhere(const JsonValue& value, const std::string&
     placed.Content.Kilohertz = ReadChannel(fields);
     const JsonValue* const object = fields.Object("voice");
     const std::optional<VoiceEntry> voice = object ? ReadVoice(*object, placed.Voice.Field) : std::nullopt;
-    if (!fields.IsSound() || !voice) return;
-    const auto [first, isNew] = channels.emplace(placed.Content.Kilohertz, value.Line);
-    if (!isNew)
-        return fields.Tell("frequency",
-                           Megahertz(first->first) + " stands on line " + std::to_string(first->second) + " already.");
+    if (!voice) return;
     placed.Content.Voice = *voice;
+    if (fields.IsSound()) {
+        const auto [first, isNew] = channels.emplace(placed.Content.Kilohertz, value.Line);
+        if (!isNew)
+            fields.Tell("frequency",
+                        Megahertz(first->first) + " stands on line " + std::to_string(first->second) + " already.");
+    }
+    placed.IsSound = fields.IsSound();
     everywhere.push_back(std::move(placed));
 }
 
 void DirectoryEntries::TakeOtherwise(const JsonValue& value) {
     if (const std::optional<VoiceEntry> voice = ReadVoice(value, "otherwise"))
-        otherwise = {*voice, {value.Line, "otherwise"}, {value.Line, "otherwise"}};
+        otherwise = Placed<VoiceEntry>{*voice, {value.Line, "otherwise"}, {value.Line, "otherwise"}};
 }
 
 // With what is known of the placeholders; the pilot's callsign is held against the rules by whoever takes the record.
@@ -152,14 +158,14 @@ bool DirectoryEntries::IsSound(const VoiceEntry& voice, const EntryPlace& place,
 void DirectoryEntries::Join(ReadText& read) {
     constexpr const char* AnyCallsign = "{callsign}";
     Directory directory;
-    for (auto& [station, place, voice] : stations) {
-        if (!IsSound(station.Voice, voice, {station.Transceivers.front().Kilohertz, station.Callsign, AnyCallsign}))
-            continue;
+    for (auto& [station, place, voice, isSound] : stations) {
+        const int channel = station.Transceivers.empty() ? FirstChannel : station.Transceivers.front().Kilohertz;
+        if (!IsSound(station.Voice, voice, {channel, station.Callsign, AnyCallsign}) || !isSound) continue;
         directory.Stations.push_back(std::move(station));
         read.Stations.push_back(std::move(place));
     }
-    for (auto& [channel, place, voice] : everywhere) {
-        if (!IsSound(channel.Voice, voice, {channel.Kilohertz, "", AnyCallsign})) continue;
+    for (auto& [channel, place, voice, isSound] : everywhere) {
+        if (!IsSound(channel.Voice, voice, {channel.Kilohertz, "", AnyCallsign}) || !isSound) continue;
         directory.Everywhere.push_back(std::move(channel));
         read.Everywhere.push_back(std::move(place));
     }

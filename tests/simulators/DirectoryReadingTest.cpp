@@ -163,6 +163,21 @@ TEST(DirectoryReading, ATransceiverWithAMistakeIsLeftOutAlone) {
     EXPECT_EQ(read.Content->Stations[0].Transceivers.size(), 1U);
 }
 
+TEST(DirectoryReading, TellsAllMistakesOfAnEntryAtOnce) {
+    const ReadText read = ReadDirectory(DirectoryWith(
+        ClubServer,
+        "{'callsign': '',\n'transceivers': [{'frequency': 1,\n'latDeg': 91}],\n'rangeNm': 'far',\n'voice': {'server': "
+        "'clb'}}"));
+    EXPECT_EQ(Told(read),
+              "3: stations[0].callsign: It is empty.\n"
+              "4: stations[0].transceivers[0].frequency: 1 is no frequency in Hz of the aircraft's band: 118000000 to "
+              "136995000.\n"
+              "4: stations[0].transceivers[0].lonDeg: It is missing.\n"
+              "5: stations[0].transceivers[0].latDeg: 91 is no latitude: -90 to 90 degrees.\n"
+              "6: stations[0].rangeNm: A number is expected here, not a text.\n"
+              "7: stations[0].voice.server: No server is called \"clb\".\n");
+}
+
 TEST(DirectoryReading, TellsWhatStandsTwice) {
     const std::string unicom = "{'frequency': 122800000, 'voice': {'server': 'club'}}";
     const ReadText read = ReadDirectory(DirectoryWith(
