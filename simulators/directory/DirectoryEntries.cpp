@@ -94,7 +94,7 @@ std::optional<Transceiver> DirectoryEntries::ReadTransceiver(const JsonValue& va
 
 void DirectoryEntries::TakeStation(const JsonValue& value, const std::string& path) {
     Fields fields(value, path, findings, {"callsign", "transceivers", "rangeNm", "voice"});
-    Placed<Station> placed{{}, {value.Line, path}, {fields.LineOf("voice"), fields.PathOf("voice")}};
+    Placed<Station> placed{{}, {value.Line, path}, {fields.LineOf("voice"), fields.PathOf("voice")}, true};
     Station& station = placed.Content;
     station.Callsign = fields.Text("callsign", Need::Required);
     station.Range = fields.Number("rangeNm", Need::Optional, RangeBounds);
@@ -121,7 +121,7 @@ void DirectoryEntries::TakeStation(const JsonValue& value, const std::string& pa
 
 void DirectoryEntries::TakeEverywhere(const JsonValue& value, const std::string& path) {
     Fields fields(value, path, findings, {"frequency", "voice"});
-    Placed<EverywhereChannel> placed{{}, {value.Line, path}, {fields.LineOf("voice"), fields.PathOf("voice")}};
+    Placed<EverywhereChannel> placed{{}, {value.Line, path}, {fields.LineOf("voice"), fields.PathOf("voice")}, true};
     placed.Content.Kilohertz = ReadChannel(fields);
     const JsonValue* const object = fields.Object("voice");
     const std::optional<VoiceEntry> voice = object ? ReadVoice(*object, placed.Voice.Field) : std::nullopt;
@@ -139,7 +139,7 @@ void DirectoryEntries::TakeEverywhere(const JsonValue& value, const std::string&
 
 void DirectoryEntries::TakeOtherwise(const JsonValue& value) {
     if (const std::optional<VoiceEntry> voice = ReadVoice(value, "otherwise"))
-        otherwise = Placed<VoiceEntry>{*voice, {value.Line, "otherwise"}, {value.Line, "otherwise"}};
+        otherwise = Placed<VoiceEntry>{*voice, {value.Line, "otherwise"}, {value.Line, "otherwise"}, true};
 }
 
 // With what is known of the placeholders; the pilot's callsign is held against the rules by whoever takes the record.

@@ -34,7 +34,7 @@ private:
         Entry Content;
         EntryPlace Place;
         EntryPlace Voice;
-        bool IsSound = true;  // but for its voice, which is looked at last
+        bool IsSound;  // but for its voice, which is looked at last
     };
     // Nothing where it is not sound.
     std::optional<VoiceEntry> ReadVoice(const JsonValue& value, const std::string& path);
