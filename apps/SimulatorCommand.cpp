@@ -28,6 +28,7 @@ std::optional<Task> TaskOf(std::string_view word) {
     if (word == "--add") return Task::Add;
     if (word == "--list") return Task::List;
     if (word == "--remove") return Task::Remove;
+    if (word == "--check") return Task::Check;
     if (word == "--no-window") return Task::ServeWithoutWindow;
     if (word == "--help") return Task::Help;
     if (word == "--version") return Task::Version;
@@ -46,6 +47,7 @@ It makes the set-up at its first start, brings the broker, and serves until it i
   orvelle-sim --add           add a computer; prints the code to type on it, alone on one line
   orvelle-sim --list          print the computers: identity, name or "-", "there" or "away", parted by tabs
   orvelle-sim --remove c07    take a computer out of the set-up; it is cut off at once
+  orvelle-sim --check FILE... hold directories of voice channels against the rules; "-" is standard input
   orvelle-sim --help, --version
 
   --data FOLDER               keep everything in this folder (usually ~/.local/share/OrvelleCP)
@@ -58,7 +60,9 @@ It makes the set-up at its first start, brings the broker, and serves until it i
 
 A set-up has up to 99 computers. --add, --list and --remove work beside a running orvelle-sim or without one. A
 computer that has joined another one's set-up serves there, and brings no broker.
-Exit status: 0, or 1 with one line on standard error.
+--check prints a line for each mistake, "FILE:LINE: FIELD: ...", one for each oddity, "FILE:LINE: note: FIELD: ...",
+and one that sums up.
+Exit status: 0, or 1 with one line on standard error; of --check 1 where there is a mistake.
 )";
 }
 
@@ -73,6 +77,10 @@ ReadCommand ReadSimulatorCommand(int count, const char* const* words) {
             if (hasTask) return {std::nullopt, "one task at a time"};
             hasTask = true;
             command.What = *task;
+            if (task == Task::Check)
+                while (index + 1 < count && !std::string_view(words[index + 1]).starts_with("--"))
+                    command.Files.emplace_back(words[++index]);
+            if (task == Task::Check && command.Files.empty()) return {std::nullopt, "--check needs a file"};
             if (task != Task::Remove) continue;
             const std::string_view identity = value();
             command.Identity = mqtt::ReadIdentity(identity).value_or(0);

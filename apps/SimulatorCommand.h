@@ -4,13 +4,14 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "adapters/shared/HostAndPort.h"
 
 namespace orvelle {
 
 struct SimulatorCommand {
-    enum class Task { Serve, ServeWithoutWindow, Add, List, Remove, Help, Version };
+    enum class Task { Serve, ServeWithoutWindow, Add, List, Remove, Check, Help, Version };
 
     Task What = Task::Serve;
     std::filesystem::path Data;           // where all is kept
@@ -19,6 +20,7 @@ struct SimulatorCommand {
     int Port = 0;                         // of the broker, 0 for the kept or the usual one
     bool Own = false;                     // leaves the set-up of another computer that was joined
     std::optional<HostAndPort> Broker{};  // an existing one in place of one of our own
+    std::vector<std::string> Files{};     // that are checked, "-" for standard input
 
     bool Serves() const { return What == Task::Serve || What == Task::ServeWithoutWindow; }
 

@@ -2,7 +2,7 @@
 #include <utility>
 
 #include "adapters/ends/FrameworkEnd.h"
-#include "adapters/ends/VoiceTexts.h"
+#include "adapters/shared/VoiceTexts.h"
 
 namespace orvelle::ends {
 

@@ -1,8 +1,10 @@
 // Reads a directory from its text, and names each mistake by its line and its field, so that an operator finds it. An
-// entry with a mistake is left out, the others count; a text that is no directory at all gives none. For the sources
-// and for `orvelle-sim --check`. Nothing throws.
+// entry with a mistake is left out, and so is what names a server that is left out; the others count. A transceiver is
+// an entry, too. A text that is no directory at all, or breaks off, gives none. For the sources and for
+// `orvelle-sim --check`. Nothing throws.
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -21,16 +23,27 @@ struct Fault {
     std::string Sentence;  // "91 is no latitude: -90 to 90 degrees."
 };
 
+// Where an entry stands in the text.
+struct EntryPlace {
+    std::size_t Line = 0;
+    std::string Field;  // "stations[3]"
+};
+
 struct ReadText {
     std::optional<Directory> Content;
-    std::vector<Fault> Faults;
+    std::vector<Fault> Faults;   // by line
     std::size_t FaultCount = 0;  // also of those beyond MostFaults
+    std::vector<Fault> Unknown;  // members that mean nothing here, each name once: no mistake, as exports have many
+    // Of the content's entries, in its order.
+    std::map<std::string, EntryPlace> Servers;
+    std::vector<EntryPlace> Stations, Everywhere;
+    EntryPlace Otherwise;
 };
 
 ReadText ReadDirectory(std::string_view text);
 
-// What is no mistake, but hardly meant: two stations of one channel whose ranges overlap, a server that nobody names, a
-// placeholder that is always empty there. By line, where it is known.
-std::vector<Fault> FindOddities(const Directory& directory);
+// What is no mistake, but hardly meant, by line: members that mean nothing here, two stations of one channel whose
+// ranges overlap, a server that nobody names, a placeholder that is always empty there or is none.
+std::vector<Fault> FindOddities(const ReadText& read);
 
 }  // namespace orvelle::directory

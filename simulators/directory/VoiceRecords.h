@@ -1,4 +1,5 @@
-// The voice record that a choice comes to: texts filled in, the user's own logins put in place of the directory's.
+// The voice record that a choice comes to: texts filled in, the user's own logins put in place of the directory's. An
+// own password goes before that of the directory also where it is empty; an own login without a name keeps its name.
 #pragma once
 
 #include <string>

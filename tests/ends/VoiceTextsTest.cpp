@@ -1,4 +1,4 @@
-#include "adapters/ends/VoiceTexts.h"
+#include "adapters/shared/VoiceTexts.h"
 
 #include <gtest/gtest.h>
 
@@ -13,10 +13,9 @@
 namespace orvelle {
 namespace {
 
-using ends::IsAllowedCallsign;
 using Texts = std::vector<std::string>;
 
-std::string RefusedPart(const RadioVoiceSetting& record) { return ends::RefusalOf(record).Part; }
+std::string RefusedPart(const RadioVoiceSetting& record) { return RefusalOf(record).Part; }
 
 // What would part an argument, be an option, or swallow what follows.
 const Texts NoArguments{"tower /exec /bin/sh",

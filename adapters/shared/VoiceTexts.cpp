@@ -1,4 +1,4 @@
-#include "adapters/ends/VoiceTexts.h"
+#include "adapters/shared/VoiceTexts.h"
 
 #include <algorithm>
 #include <cctype>
@@ -6,7 +6,7 @@
 
 #include "adapters/shared/TeamSpeakUrl.h"
 
-namespace orvelle::ends {
+namespace orvelle {
 
 namespace {
 
@@ -121,4 +121,4 @@ bool IsAllowedCallsign(const std::string& callsign) { return IsName(callsign, Pa
 
 std::string CallsignRule() { return NameRule(PartSignsBeforeOthers); }
 
-}  // namespace orvelle::ends
+}  // namespace orvelle
