@@ -10,7 +10,18 @@
 namespace orvelle {
 
 struct SimulatorCommand {
-    enum class Task { Serve, ServeWithoutWindow, Add, List, Remove, Help, Version };
+    enum class Task {
+        Serve,
+        ServeWithoutWindow,
+        Add,
+        List,
+        Remove,
+        FlightGear,
+        AddFlightGear,
+        RemoveFlightGear,
+        Help,
+        Version
+    };
 
     Task What = Task::Serve;
     std::filesystem::path Data;           // where all is kept
@@ -21,6 +32,10 @@ struct SimulatorCommand {
     std::optional<HostAndPort> Broker{};  // an existing one in place of one of our own
 
     bool Serves() const { return What == Task::Serve || What == Task::ServeWithoutWindow; }
+
+    bool IsOfFlightGear() const {
+        return What == Task::FlightGear || What == Task::AddFlightGear || What == Task::RemoveFlightGear;
+    }
 
     static const char* Help();
 };

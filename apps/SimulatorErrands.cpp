@@ -12,6 +12,7 @@
 #include "adapters/mqtt/Payloads.h"
 #include "adapters/mqtt/Topics.h"
 #include "apps/ComputerName.h"
+#include "apps/FlightGearErrand.h"
 #include "apps/OneLine.h"
 #include "apps/SimulatorProgram.h"
 
@@ -107,6 +108,7 @@ int RunErrand(const SimulatorCommand& command) {
     using Task = SimulatorCommand::Task;
     if (command.What == Task::Help) return Print(SimulatorCommand::Help());
     if (command.What == Task::Version) return Print("orvelle-sim " ORVELLE_VERSION "\n");
+    if (command.IsOfFlightGear()) return RunFlightGearErrand(command);
     const mqtt::OwnSetUp setUp(command.Data);
     const bool changes = command.What != Task::List || !command.Name.empty();
     if (const auto joined = setUp.JoinedElsewhere(); joined && changes)
