@@ -13,6 +13,8 @@ namespace orvelle::simulators {
 namespace {
 
 constexpr double GreatestMegahertz = 1000;
+constexpr double LowestAltitude = -2000;  // feet; FlightGear has lower ones while it places the aircraft
+constexpr double HighestAltitude = 1e9;
 constexpr std::string_view NoCallsign = "callsign";  // what FlightGear calls a pilot who has given none
 
 std::optional<double> NumberOf(std::string text) {
@@ -48,9 +50,9 @@ public:
         return number ? *number != 0 : usual;
     }
     // As Number, but what can't be is none.
-    std::optional<double> Within(std::string_view name, double greatest) {
+    std::optional<double> Within(std::string_view name, double least, double greatest) {
         const std::optional<double> number = NumberOf(Take(name).value_or(""));
-        return number && std::abs(*number) <= greatest ? number : std::nullopt;
+        return number && *number >= least && *number <= greatest ? number : std::nullopt;
     }
     orvelle::simulators::Radio Radio(const std::string& number) {
         const std::optional<double> megahertz = Number("COM" + number);
@@ -80,9 +82,9 @@ private:
 };
 
 std::optional<Place> PlaceOf(Reading& reading) {
-    const auto latitude = reading.Within("LAT", 90);
-    const auto longitude = reading.Within("LON", 180);
-    const auto altitude = reading.Within("ALT", 1e9);
+    const auto latitude = reading.Within("LAT", -90, 90);
+    const auto longitude = reading.Within("LON", -180, 180);
+    const auto altitude = reading.Within("ALT", LowestAltitude, HighestAltitude);
     if (!latitude || !longitude || !altitude) return std::nullopt;
     return Place{*latitude, *longitude, *altitude};
 }

@@ -76,9 +76,9 @@ TEST(FlightGearTextTest, WhatIsNoLineIsNone) {
 }
 
 TEST(FlightGearTextTest, APlaceThatCantBeIsNoneAndTheRestCounts) {
-    for (const char* place :
-         {"LAT=91.00000,LON=0.0,ALT=0.0", "LAT=-90.1,LON=0.0,ALT=0.0", "LAT=1.0,LON=181.0,ALT=0.0",
-          "LAT=nan,LON=0.0,ALT=0.0", "LAT=1.0,LON=0.0,ALT=inf", "LAT=1.0,LON=0.0", "LAT=,LON=,ALT="}) {
+    for (const char* place : {"LAT=91.00000,LON=0.0,ALT=0.0", "LAT=-90.1,LON=0.0,ALT=0.0", "LAT=1.0,LON=181.0,ALT=0.0",
+                              "LAT=nan,LON=0.0,ALT=0.0", "LAT=1.0,LON=0.0,ALT=inf", "LAT=1.0,LON=0.0,ALT=-9999.0",
+                              "LAT=1.0,LON=0.0", "LAT=,LON=,ALT="}) {
         const SimulatorState state = Read(std::string("COM1=118.305,") + place + ",CS=D-EABC\n");
         EXPECT_EQ(state.Where, std::nullopt) << place;
         EXPECT_EQ(state.Callsign, "D-EABC") << place;
