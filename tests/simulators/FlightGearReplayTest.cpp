@@ -115,7 +115,7 @@ TEST_P(FlightGearReplayTest, GivesItsTranscript) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Recorded, FlightGearReplayTest,
-                         testing::Values("cessna", "loading", "stopped", "reset", "killed", "saucer"),
+                         testing::Values("cessna", "loading", "stopped", "reset", "killed", "saucer", "panel"),
                          [](const auto& each) { return std::string(each.param); });
 
 }  // namespace
