@@ -26,7 +26,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using simulators::SimulatorState;
 
-constexpr Long StartPatience = 300'000;  // milliseconds until FlightGear tells its first line
+constexpr Long StartPatience = 600'000;  // milliseconds until FlightGear tells its first line
 constexpr Long ChangePatience = 2'000;   // until a change counts as lost
 
 // FlightGear's own interface for setting properties, in its mode without a prompt.
