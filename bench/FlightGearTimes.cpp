@@ -27,6 +27,7 @@ using Clock = std::chrono::steady_clock;
 using simulators::SimulatorState;
 
 constexpr Long StartPatience = 600'000;  // milliseconds until FlightGear tells its first line
+constexpr Long Loading = 30'000;         // after it FlightGear goes on loading, and tells nothing for seconds
 constexpr Long ChangePatience = 2'000;   // until a change counts as lost
 
 // FlightGear's own interface for setting properties, in its mode without a prompt.
@@ -75,7 +76,7 @@ public:
             throw std::runtime_error("no line has come");
         std::printf("first line after %.1f s, aircraft %s\n", Milliseconds(start) / 1000,
                     line.State()->Aircraft.c_str());
-        Pause(5000);
+        Pause(Loading);
         Telnet telnet(loop, telnetPort);
         Tune(telnet, count);
         if (line.State()->Aircraft.starts_with("c172p")) ShowPanel(telnet);
