@@ -13,9 +13,7 @@ namespace {
 constexpr std::string_view Scheme = "https://";
 constexpr std::size_t Longest = 2000;  // bytes
 
-bool IsBlankOrControl(char character) {
-    return static_cast<unsigned char>(character) <= ' ' || character == '\x7F';
-}
+bool IsBlankOrControl(char character) { return static_cast<unsigned char>(character) <= ' ' || character == '\x7F'; }
 
 std::string Trimmed(const std::string& text) {
     const auto begin = std::ranges::find_if_not(text, IsBlankOrControl);

@@ -36,8 +36,8 @@ struct DirectoryTold {
 class DirectorySource {
 public:
     struct Found {
-        std::shared_ptr<const Directory> Content;          // null where there is none
-        DirectoryTold Told;                                // whose Age is left to ReadAt where that is there
+        std::shared_ptr<const Directory> Content;        // null where there is none
+        DirectoryTold Told;                              // whose Age is left to ReadAt where that is there
         std::optional<long long> ReadAt = std::nullopt;  // or confirmed, by SecondsSinceBoot
     };
 

@@ -1,7 +1,7 @@
 // Directories fetched by HTTPS from the addresses that the user has entered (directory-addresses.json in the data
-// folder): at the start, every 15 minutes, when asked, and after a trouble sooner, at first after 15 s. What was fetched
-// is kept with its ETag in the folder directory-copies, and counts while its address can't be had; each trouble is told
-// once, until it is over. The fetching is curl's, as a child: HttpsFetch.h.
+// folder): at the start, every 15 minutes, when asked, and after a trouble sooner, at first after 15 s. What was
+// fetched is kept with its ETag in the folder directory-copies, and counts while its address can't be had; each trouble
+// is told once, until it is over. The fetching is curl's, as a child: HttpsFetch.h.
 #pragma once
 
 #include <filesystem>

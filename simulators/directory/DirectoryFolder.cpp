@@ -73,8 +73,8 @@ void DirectoryFolder::Gather() {
         found.push_back(kept.Now());
     }
     if (files.size() > MostFiles)
-        trouble = "Only the first " + std::to_string(MostFiles) + " of " + std::to_string(files.size()) +
-                  " files are taken.";
+        trouble =
+            "Only the first " + std::to_string(MostFiles) + " of " + std::to_string(files.size()) + " files are taken.";
     if (trouble.empty()) return;
     found.emplace_back().Told.Source = folder.string();
     found.back().Told.Trouble = trouble;

@@ -37,6 +37,7 @@ constexpr std::array Sentences{
 
 std::string SentenceOfAnswer(int answer) {
     const std::string number = " (" + std::to_string(answer) + ").";
+    if (answer < 300) return "Its server gives nothing there" + number;
     if (answer == 404 || answer == 410) return "There is nothing at this address" + number;
     if (answer == 401 || answer == 403) return "Its server doesn't give it to everybody" + number;
     if (answer >= 500) return "Its server has a trouble of its own" + number;

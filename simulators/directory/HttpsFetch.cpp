@@ -24,12 +24,29 @@ namespace {
 
 std::vector<std::string> CommandLine(const std::string& curl) {
     // The address comes by the standard input, as others may see a command line. --disable has to be the first one.
-    return {curl,           "--disable",     "--config", "-",
-            "--silent",     "--fail",        "--globoff", "--compressed",
-            "--proto",      "=https",        "--location", "--proto-redir",
-            "=https",       "--max-redirs",  "5",         "--connect-timeout",
-            "20",           "--max-time",    "60",        "--max-filesize",
-            std::to_string(LongestDirectory), "--write-out", "%{http_code} %{errormsg}"};
+    return {curl,
+            "--disable",
+            "--config",
+            "-",
+            "--silent",
+            "--fail",
+            "--globoff",
+            "--compressed",
+            "--proto",
+            "=https",
+            "--location",
+            "--proto-redir",
+            "=https",
+            "--max-redirs",
+            "5",
+            "--connect-timeout",
+            "20",
+            "--max-time",
+            "60",
+            "--max-filesize",
+            std::to_string(LongestDirectory),
+            "--write-out",
+            "%{http_code} %{errormsg}"};
 }
 
 // Its values are quoted as JSON's are, as far as names of files and addresses go.

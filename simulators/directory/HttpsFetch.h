@@ -17,10 +17,10 @@
 namespace orvelle::directory {
 
 struct FetchRequest {
-    std::string Address;               // "https://..."
-    std::filesystem::path File;        // where it comes to; also after a trouble something may lie there
-    std::filesystem::path Tag;         // where the server's ETag comes to
-    std::filesystem::path FormerTag;   // an answer "not changed" (304) is asked for by this one; "" for none
+    std::string Address;              // "https://..."
+    std::filesystem::path File;       // where it comes to; also after a trouble something may lie there
+    std::filesystem::path Tag;        // where the server's ETag comes to
+    std::filesystem::path FormerTag;  // an answer "not changed" (304) is asked for by this one; "" for none
 };
 
 class HttpsFetch {

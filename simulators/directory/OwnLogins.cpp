@@ -63,8 +63,8 @@ std::string OwnLogins::Set(const std::string& server, const OwnLogin& login) {
 std::string OwnLogins::Write(const std::map<std::string, OwnLogin>& all) {
     std::string content;
     for (const auto& [server, login] : all)
-        content += (content.empty() ? "{" : ", ") + JsonText(ToUtf8(server)) + ": {\"login\": " +
-                   JsonText(login.Login) + ", \"password\": " + JsonText(login.Password) + "}";
+        content += (content.empty() ? "{" : ", ") + JsonText(ToUtf8(server)) +
+                   ": {\"login\": " + JsonText(login.Login) + ", \"password\": " + JsonText(login.Password) + "}";
     return file.Write(Section, content.empty() ? "{}" : content + "}");
 }
 
