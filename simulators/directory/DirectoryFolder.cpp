@@ -72,12 +72,13 @@ void DirectoryFolder::Gather() {
         if (found.size() == MostFiles) break;
         found.push_back(kept.Now());
     }
-    if (files.size() > MostFiles)
-        trouble =
-            "Only the first " + std::to_string(MostFiles) + " of " + std::to_string(files.size()) + " files are taken.";
-    if (trouble.empty()) return;
+    const std::string all = std::to_string(files.size());
+    const std::string sentence =
+        files.size() > MostFiles ? "Only the first " + std::to_string(MostFiles) + " of " + all + " files are taken."
+                                 : trouble;
+    if (sentence.empty()) return;
     found.emplace_back().Told.Source = folder.string();
-    found.back().Told.Trouble = trouble;
+    found.back().Told.Trouble = sentence;
 }
 
 }  // namespace orvelle::directory

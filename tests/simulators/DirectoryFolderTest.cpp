@@ -92,7 +92,7 @@ TEST_F(DirectoryFolderTest, OneThatIsHalfWrittenCountsWhenItsWriterClosesIt) {
 TEST_F(DirectoryFolderTest, ADamagedNewVersionLeavesTheLastGoodOneAndIsTold) {
     Write("a.json", DirectoryNamed("A"));
     Begin();
-    Write("a.json", "{\n  \"format\": \"orvelle-directory/2\"}");
+    Write("a.json", "{\"servers\": {},\n  \"format\": \"orvelle-directory/2\"}");
     ASSERT_TRUE(Until([this] { return !Told().Trouble.empty(); }));
     EXPECT_EQ(NamesIn(folder->Directories()), "A");
     EXPECT_TRUE(Told().Trouble.starts_with("It is no directory: line 2, format: ")) << Told().Trouble;
