@@ -23,8 +23,9 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION net)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# The broker is asked for on the simulator's computer alone, and the daemon where set-ups are to find each other.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "avahi-daemon, gstreamer1.0-plugins-base, gstreamer1.0-plugins-good, mosquitto, qt6-wayland")
+# The broker, and what fetches directories of channels, are asked for on the simulator's computer alone, and the daemon
+# where set-ups are to find each other.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "avahi-daemon, ca-certificates, curl, gstreamer1.0-plugins-base, gstreamer1.0-plugins-good, mosquitto, qt6-wayland")
 # A voice server is asked for on one computer of a whole community.
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "mumble-server, sqlite3")
 

@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <sys/prctl.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -10,10 +9,10 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <cstdlib>
-#include <sstream>
 #include <system_error>
 #include <utility>
+
+#include "adapters/shared/ChildProgram.h"
 
 namespace orvelle::linux {
 
@@ -27,44 +26,14 @@ constexpr int EndMilliseconds = 3000;      // until an end is forced
 constexpr std::size_t LongestLine = 4096;  // bytes; the broker itself cuts its lines before
 constexpr std::size_t MostNames = 16;      // of one user; two are usual
 
-// Systems have it where a usual user's path doesn't lead.
-std::string FindMosquitto() {
-    const char* const path = std::getenv("PATH");
-    std::istringstream folders(std::string(path ? path : "") + ":/usr/sbin:/usr/local/sbin");
-    for (std::string folder; std::getline(folders, folder, ':');)
-        if (std::string file = folder + "/mosquitto"; folder.starts_with('/') && access(file.c_str(), X_OK) == 0)
-            return file;
-    return "";
-}
-
 std::string CantBeStarted() {
     return "The broker mosquitto can't be started: " + std::generic_category().message(errno) + ".";
-}
-
-// Between fork and exec: nothing but system calls, since other threads may have held locks.
-[[noreturn]] void Become(char* const* arguments, int errors, pid_t parent) {
-    // It must not outlive us. Whoever died before this was said is not told of any more.
-    if (prctl(PR_SET_PDEATHSIG, SIGKILL) != 0 || getppid() != parent) _exit(127);
-    // What ends us by the terminal must not end it before us.
-    setsid();
-    sigset_t none;
-    sigemptyset(&none);
-    sigprocmask(SIG_SETMASK, &none, nullptr);
-    signal(SIGPIPE, SIG_DFL);
-    signal(SIGHUP, SIG_DFL);
-    const int nothing = open("/dev/null", O_RDWR);
-    dup2(nothing, 0);
-    dup2(nothing, 1);
-    dup2(errors, 2);
-    close_range(3, ~0U, 0);
-    execv(arguments[0], arguments);
-    _exit(127);
 }
 
 }  // namespace
 
 std::string BrokerChild::Start() {
-    std::string file = FindMosquitto();
+    std::string file = FindProgram("mosquitto");
     if (file.empty()) return "The broker mosquitto is not installed on this computer.";
     std::string option = "-c";
     std::string name = configuration.string();
@@ -76,7 +45,7 @@ std::string BrokerChild::Start() {
     const FileDescriptor theirs(pipeEnds[1]);
     const pid_t parent = getpid();
     process = fork();
-    if (process == 0) Become(arguments.data(), theirs.Number(), parent);
+    if (process == 0) BecomeProgram(arguments.data(), {.Errors = theirs.Number()}, parent);
     if (process < 0) return CantBeStarted();
     end = FileDescriptor(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
     part.clear();

@@ -1,15 +1,13 @@
 // Tells when a named file appears, changes or goes, from the loop and within an instant, without looking again and
-// again: its folder is watched, or the nearest folder above it until it is there. Only where the system has no watches
-// left (they are counted by user) the file is looked at every second. A file that is written in place is told when its
-// writer closes it. Called by programs that take up a file while they run.
+// again: its folder is watched (adapters/shared/FolderWatch.h). A file that is written in place is told when its writer
+// closes it. Called by programs that take up a file while they run.
 #pragma once
 
 #include <sys/stat.h>
 
 #include <filesystem>
-#include <string>
 
-#include "adapters/shared/FileDescriptor.h"
+#include "adapters/shared/FolderWatch.h"
 #include "platform/Event.h"
 #include "platform/EventLoop.h"
 
@@ -17,7 +15,7 @@ namespace orvelle::linux {
 
 class FileWatch {
 public:
-    FileWatch(EventLoop& eventLoop, const std::filesystem::path& watchedFile);
+    FileWatch(EventLoop& loop, const std::filesystem::path& watchedFile);
     FileWatch(const FileWatch&) = delete;
     FileWatch& operator=(const FileWatch&) = delete;
 
@@ -26,27 +24,12 @@ public:
     Event<> Changed;
 
 private:
-    struct Woken {
-        bool ByFolders = false;
-        bool ByFile = false;
-    };
-
-    void Look();
-    bool LookFrom(const std::filesystem::path& folder);
-    void Take();
-    Woken TakeEvents();
     struct stat State() const;
     void Compare();
-    void LookLater();
 
-    EventLoop& loop;
     const std::filesystem::path file;
-    const FileDescriptor events;
-    int watched = -1;      // the folder's watch
-    std::string awaited;   // the name in it that matters
-    bool isThere = false;  // the file's own folder is watched
+    FolderWatch folder;
     struct stat state {};  // of the file as it was told last
-    Ticket readable, later;
 };
 
 }  // namespace orvelle::linux

@@ -25,6 +25,12 @@ constexpr std::chrono::milliseconds ShortLife{3000};
 constexpr int KeepAliveSeconds = 5;     // after half as much again the broker counts a silent client as gone
 constexpr int MessagesOfOneTurn = 100;  // then others of the loop have their turn
 
+void Ask(mosquitto* client, const Subscription& wanted) {
+    const int kept = wanted.Kept == KeptMessages::LeftOut ? MQTT_SUB_OPT_SEND_RETAIN_NEVER : 0;
+    const int own = wanted.Own == OwnMessages::LeftOut ? MQTT_SUB_OPT_NO_LOCAL : 0;
+    mosquitto_subscribe_v5(client, nullptr, wanted.Pattern.c_str(), wanted.Quality, kept | own, nullptr);
+}
+
 }  // namespace
 
 // What the library calls, always from within one of our calls. Nothing but notes is taken there: the library holds
@@ -204,7 +210,7 @@ void BrokerConnection::Write() {
 void BrokerConnection::Settle(int result) {
     const bool goesOn = result == MOSQ_ERR_SUCCESS || result == MOSQ_ERR_CONN_PENDING;
     if (goesOn && lastReason == 0 && mosquitto_socket(client.get()) >= 0) {
-        if (std::exchange(isAccepted, false)) Subscribe();
+        if (std::exchange(isAccepted, false)) SubscribeToPlanned();
         Watch();
         return Deliver();
     }
@@ -218,13 +224,15 @@ void BrokerConnection::Settle(int result) {
     Fail(BrokerTrouble::Unreachable);
 }
 
-void BrokerConnection::Subscribe() {
+void BrokerConnection::SubscribeToPlanned() {
     isAnswered = true;
-    for (const Subscription& each : plan.Subscriptions) {
-        const int kept = each.Kept == KeptMessages::LeftOut ? MQTT_SUB_OPT_SEND_RETAIN_NEVER : 0;
-        const int own = each.Own == OwnMessages::LeftOut ? MQTT_SUB_OPT_NO_LOCAL : 0;
-        mosquitto_subscribe_v5(client.get(), nullptr, each.Pattern.c_str(), each.Quality, kept | own, nullptr);
-    }
+    for (const Subscription& each : plan.Subscriptions) Ask(client.get(), each);
+}
+
+void BrokerConnection::Subscribe(const Subscription& subscription) {
+    if (!isUp) return;
+    Ask(client.get(), subscription);
+    Watch();
 }
 
 void BrokerConnection::OnConnected(int reason) {

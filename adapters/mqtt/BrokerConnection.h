@@ -76,6 +76,8 @@ public:
     bool IsUp() const { return isUp; }
     // Nothing while it is not up.
     void Publish(const Publication& publication);
+    // Beside what was planned, for this connection. Nothing while it is not up.
+    void Subscribe(const Subscription& subscription);
     // This computer's address on the way there, "" while it is not up.
     std::string OwnAddress() const;
     // Why it is not up; None while it is, or before the first attempt has ended.
@@ -105,7 +107,7 @@ private:
     bool HasDeciphered() const;
     const ssl_st* ProtectionUnderWay() const;  // null where it stands
     void Settle(int result);
-    void Subscribe();
+    void SubscribeToPlanned();
     void OnConnected(int reason);
     void OnDisconnected(int reason);
     void OnSubscribed();

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 
+#include "adapters/mqtt/Bounds.h"
 #include "adapters/mqtt/Topics.h"
 #include "adapters/shared/PrivateFile.h"
 
@@ -23,7 +24,7 @@ std::string Keys(const std::map<int, Key>& keys) {
 }
 
 // Its notices name the clients that come, by which those of a removed computer are known. It takes messages of twice
-// the set-up's longest: what is merely too long is for the receivers to refuse and count.
+// the set-up's longest, which is a directory: what is merely too long is for the receivers to refuse and count.
 std::string Configuration(const fs::path& folder, int port) {
     std::string lines = "listener " + std::to_string(port) +
                         "\n"
@@ -35,7 +36,9 @@ std::string Configuration(const fs::path& folder, int port) {
                         "\n"
                         "persistence false\n"
                         "set_tcp_nodelay true\n"
-                        "message_size_limit 131072\n"
+                        "message_size_limit " +
+                        std::to_string(2 * bounds::Directory) +
+                        "\n"
                         "connection_messages true\n"
                         "log_dest stderr\n"
                         "log_timestamp false\n"

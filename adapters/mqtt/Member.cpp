@@ -75,6 +75,12 @@ void Member::Say(TopicKind what, const std::string& payload, int quality, Retain
         Publish(what, payload, quality, keep, record, 0);
 }
 
+void Member::HearAlso(const Subscription& pattern) {
+    if (!IsThere()) return;
+    connection.Subscribe(pattern);
+    connection.Publish({.Topic = OwnTopic(TopicKind::Sync), .Payload = "1"});
+}
+
 void Member::Describe() {
     if (!IsThere()) return;
     PresenceSetting presence = tell();
@@ -86,10 +92,15 @@ void Member::Describe() {
 void Member::Hear(const std::string& text, const std::string& payload) {
     const auto topic = ReadTopic(text);
     if (!topic) return;
-    if (payload.size() > bounds::Payload) return CountRefused();
+    const std::size_t longest = topic->Kind == TopicKind::Directory ? bounds::Directory : bounds::Payload;
+    if (payload.size() > longest) return CountRefused();
     const bool isOwn = topic->Identity == identity && topic->From == kind;
     if (topic->Kind == TopicKind::Sync) {
-        if (isOwn && state == State::Coming) Come();
+        if (!isOwn) return;
+        if (state == State::Coming)
+            Come();
+        else if (IsThere())
+            Caught();
     } else if (topic->Kind != TopicKind::Presence) {
         Heard(*topic, payload);
     } else if (!isOwn) {

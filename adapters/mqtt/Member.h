@@ -39,6 +39,9 @@ public:
 
     // Publishes below this computer's identity, while it is there; what is retained also while it comes.
     void Say(TopicKind kind, const std::string& payload, int quality, Retain keep, Long record = 0);
+    // Subscribes to what may be so long that being there can't wait for it; Caught comes once what the broker has kept
+    // of it was heard. While it is there; again after each Came.
+    void HearAlso(const Subscription& pattern);
     // Tells of itself at once, for what it says of itself has changed.
     void Describe();
     void CountRefused() { ++refused; }
@@ -46,6 +49,7 @@ public:
     Event<> Reached;                                // the broker takes it; before Coming
     Event<> Coming;                                 // what the broker has kept was heard: to end what must not live on
     Event<> Came;                                   // it is there: to publish what is
+    Event<> Caught;                                 // what of HearAlso the broker has kept was heard
     Event<> Going;                                  // an orderly end: to end what is
     Event<> Lost;                                   // after Came
     Event<const Topic&, const std::string&> Heard;  // all but presence; also before Coming

@@ -28,7 +28,12 @@ SimulatorAtBroker::SimulatorAtBroker(EventLoop& eventLoop, std::function<Presenc
     member.Came = [this] {
         SaySession(session);
         if (!input.Held.Keys.empty() || !input.Held.Buttons.empty()) SayInputAgain();
+        directories.Begin();
+        member.HearAlso({"orvelle/1/+/directory/+", 1});
         changes.Mark();
+    };
+    member.Caught = [this] {
+        for (const auto& [identity, name] : directories.End()) DirectoryHeard.Tell(identity, name, "");
     };
     member.Going = [this] { member.Say(TopicKind::Session, "", 1, Retain::Yes); };
     member.Lost = [this] {
@@ -94,11 +99,18 @@ void SimulatorAtBroker::Hear(const Topic& topic, const std::string& payload) {
         const bool isWell = payload.empty() || ReadRecord(payload);
         if (!isWell || !kept.Take(topic, payload)) member.CountRefused();
         changes.Mark();
+    } else if (topic.Kind == TopicKind::Directory) {
+        HearDirectory(topic, payload);
     } else if (topic.Kind == TopicKind::Play) {
         const auto request = ReadPlay(payload);
         if (!request) return member.CountRefused();
         if (request->To == Identity()) SoundAsked.Tell(request->Sound);
     }
+}
+
+void SimulatorAtBroker::HearDirectory(const Topic& topic, const std::string& text) {
+    if (!directories.Take({topic.Identity, topic.Name}, text.size())) return member.CountRefused();
+    DirectoryHeard.Tell(topic.Identity, topic.Name, text);
 }
 
 }  // namespace orvelle::mqtt

@@ -7,6 +7,7 @@
 #include <map>
 #include <string>
 
+#include "adapters/mqtt/HeardDirectories.h"
 #include "adapters/mqtt/Member.h"
 #include "adapters/mqtt/RetainedMessages.h"
 #include "adapters/shared/Changes.h"
@@ -47,11 +48,15 @@ public:
     Observers<> Reached;  // the broker takes this program
     Observers<BrokerTrouble> Failed;
     Observers<const std::string&> SoundAsked;  // the name of a file of sound
+    // A directory that the computer of this identity holds, its name and its text; "" where it holds it no more, also
+    // where that happened while the connection was down. Each again after a connection.
+    Observers<int, const std::string&, const std::string&> DirectoryHeard;
     Ticket Observe(std::function<void()> observer) { return changes.Observe(std::move(observer)); }
     void MarkChange() { changes.Mark(); }
 
 private:
     void Hear(const Topic& topic, const std::string& payload);
+    void HearDirectory(const Topic& topic, const std::string& text);
     void SayInputAgain();
 
     EventLoop& loop;
@@ -62,6 +67,7 @@ private:
     InputMessage input{0, {}};
     SessionSetting session;
     RetainedMessages kept;  // records
+    HeardDirectories directories;
     Ticket again;
 };
 

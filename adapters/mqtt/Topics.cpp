@@ -4,6 +4,7 @@
 #include <array>
 
 #include "adapters/mqtt/Decimal.h"
+#include "adapters/shared/Utf8.h"
 
 namespace orvelle::mqtt {
 
@@ -11,14 +12,14 @@ namespace {
 
 constexpr std::string_view Root = "orvelle/1/";
 
-// What stands behind the identity, to the end, but for a record's number.
+// What stands behind the identity, to the end, but for a record's number and a directory's name.
 struct TopicForm {
     Program From;
     TopicKind Kind;
     std::string_view Text;
 };
 
-constexpr std::array<TopicForm, 10> Forms{{
+constexpr std::array<TopicForm, 11> Forms{{
     {Program::Panel, TopicKind::Presence, "/panel/presence"},
     {Program::Panel, TopicKind::Sync, "/panel/sync"},
     {Program::Panel, TopicKind::Play, "/panel/play"},
@@ -29,7 +30,15 @@ constexpr std::array<TopicForm, 10> Forms{{
     {Program::Simulator, TopicKind::Input, "/sim/input"},
     {Program::Simulator, TopicKind::Session, "/sim/session"},
     {Program::Simulator, TopicKind::Write, "/sim/write"},
+    {Program::Simulator, TopicKind::Directory, "/directory/"},
 }};
+
+bool IsDirectoryName(std::string_view text) {
+    return !text.empty() && IsUtf8(text) && CharactersOf(text) <= LongestDirectoryName &&
+           std::ranges::none_of(text, [](unsigned char character) {
+               return character < 0x20 || character == 0x7F || character == '/' || character == '+' || character == '#';
+           });
+}
 
 }  // namespace
 
@@ -58,6 +67,11 @@ std::optional<Topic> ReadTopic(std::string_view text) {
             if (!record || *record < 1 || *record > LastRecord) return std::nullopt;
             return Topic{*identity, form.From, form.Kind, *record};
         }
+        if (form.Kind == TopicKind::Directory && text.starts_with(form.Text)) {
+            text.remove_prefix(form.Text.size());
+            if (!IsDirectoryName(text)) return std::nullopt;
+            return Topic{*identity, form.From, form.Kind, 0, std::string(text)};
+        }
         if (form.Kind != TopicKind::Record && text == form.Text) return Topic{*identity, form.From, form.Kind};
     }
     return std::nullopt;
@@ -69,7 +83,8 @@ std::string WriteTopic(const Topic& topic) {
     });
     if (form == Forms.end()) return "";
     std::string text = std::string(Root) + WriteIdentity(topic.Identity) + std::string(form->Text);
-    return topic.Kind == TopicKind::Record ? text + std::to_string(topic.Record) : text;
+    if (topic.Kind == TopicKind::Record) text += std::to_string(topic.Record);
+    return text + topic.Name;
 }
 
 }  // namespace orvelle::mqtt

@@ -2,6 +2,7 @@
 // whoever publishes or subscribes. A topic that is not the protocol's gives nothing: other programs may use the broker.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,15 +13,17 @@ namespace orvelle::mqtt {
 
 constexpr int LastIdentity = 99;
 constexpr Long LastRecord = 65535;
+constexpr std::size_t LongestDirectoryName = 100;  // characters
 
 enum class Program { Panel, Simulator };
-enum class TopicKind { Presence, Sync, Input, Play, Session, Record, Write };
+enum class TopicKind { Presence, Sync, Input, Play, Session, Record, Write, Directory };
 
 struct Topic {
     int Identity = 0;  // number of the computer that publishes, 1 to LastIdentity
     Program From = Program::Panel;
     TopicKind Kind = TopicKind::Presence;
-    Long Record = 0;  // 1 to LastRecord for TopicKind::Record, else 0
+    Long Record = 0;        // 1 to LastRecord for TopicKind::Record, else 0
+    std::string Name = "";  // of TopicKind::Directory, which any program of the computer may write, else ""
     bool operator==(const Topic&) const = default;
 };
 

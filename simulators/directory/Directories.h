@@ -1,11 +1,13 @@
 // All directories of this computer, from wherever they come, in the user's order: files of the folder directory.d by
 // their names, then addresses in the order in which they were entered, then topics of the broker by theirs. Where one
-// can't be had or read, its last good copy counts. Changes come from the loop.
+// can't be had or read, its last good copy counts. Changes come from the loop; that a directory was confirmed, so that
+// its age begins anew, is none.
 #pragma once
 
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,6 +16,9 @@
 #include "simulators/directory/StationIndex.h"
 
 namespace orvelle::directory {
+
+// Asleep ones included; the time of day may jump.
+long long SecondsSinceBoot();
 
 // One of them, for the user to read.
 struct DirectoryTold {
@@ -31,8 +36,9 @@ struct DirectoryTold {
 class DirectorySource {
 public:
     struct Found {
-        std::shared_ptr<const Directory> Content;  // null where there is none
-        DirectoryTold Told;
+        std::shared_ptr<const Directory> Content;        // null where there is none
+        DirectoryTold Told;                              // whose Age is left to ReadAt where that is there
+        std::optional<long long> ReadAt = std::nullopt;  // or confirmed, by SecondsSinceBoot
     };
 
     virtual ~DirectorySource() = default;
@@ -46,6 +52,7 @@ public:
     // Sources in the user's order; they outlive this object, and their Changed is its.
     explicit Directories(std::vector<DirectorySource*> sources);
 
+    // Of those that have content, in their order.
     const StationIndex& Index() const { return index; }
     std::vector<DirectoryTold> Told() const;
 
@@ -55,6 +62,7 @@ private:
     void Gather();
 
     const std::vector<DirectorySource*> sources;
+    std::vector<DirectorySource::Found> gathered;
     StationIndex index;
 };
 

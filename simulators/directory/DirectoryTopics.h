@@ -1,12 +1,16 @@
 // Directories that computers of the set-up hold as retained messages of the broker, each the file as it is, at
 // orvelle/1/<identity>/directory/<NAME>; an empty one takes it away. So a club's own tool can write one, and a bridge
-// of the broker can bring a club's. Whoever hears the broker hands on what it heard.
+// of the broker can bring a club's. By name, of one name by holder. Whoever hears the broker hands on what it heard,
+// from the loop.
 #pragma once
 
 #include <map>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "simulators/directory/Directories.h"
+#include "simulators/directory/LastGood.h"
 
 namespace orvelle::directory {
 
@@ -22,7 +26,7 @@ public:
 private:
     void Gather();
 
-    std::map<std::pair<std::string, std::string>, Found> heard;  // by name, then holder
+    std::map<std::pair<std::string, std::string>, LastGood> heard;  // by name, then holder
     std::vector<Found> found;
 };
 

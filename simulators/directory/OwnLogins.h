@@ -8,6 +8,8 @@
 #include <map>
 #include <string>
 
+#include "simulators/directory/KeptFile.h"
+
 namespace orvelle::directory {
 
 struct OwnLogin {
@@ -25,14 +27,15 @@ public:
     std::string Read();
     // The one of a server as a directory names it; upper and lower case are alike. Null for none.
     const OwnLogin* Find(const std::string& server) const;
-    // Both empty takes it out. "" for success, else one sentence.
+    // Both empty takes it out. "" for success, else one sentence; then nothing has changed.
     std::string Set(const std::string& server, const OwnLogin& login);
     const std::map<std::string, OwnLogin>& All() const { return logins; }
 
 private:
-    const std::filesystem::path file;
+    std::string Write(const std::map<std::string, OwnLogin>& all);
+
+    KeptFile file;
     std::map<std::string, OwnLogin> logins;  // by the server in lower case
-    bool isDamaged = false;
 };
 
 }  // namespace orvelle::directory
