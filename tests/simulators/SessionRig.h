@@ -70,10 +70,10 @@ protected:
     }
 
     void Tell() { flightGear.Tell(state); }
-    // Both radios have their records.
+    // Both radios have their records, and the next message can go at once.
     void TellAndSettle() {
         Tell();
-        loop.Run(SimulatorSession::SettlingMilliseconds + SimulatorSession::PaceMilliseconds);
+        loop.Run(SimulatorSession::SettlingMilliseconds + 2 * SimulatorSession::PaceMilliseconds);
     }
     void Tune(int kilohertz) {
         state.Radios[0].Kilohertz = kilohertz;

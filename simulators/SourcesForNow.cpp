@@ -1,5 +1,5 @@
-// The sources of directories in their simplest form: the files of the folder as they are at the start, what topics
-// hold, and no addresses.
+// What is read in its simplest form: directories from the files of the folder as they are at the start and from what
+// topics hold, from no addresses, no own logins, and no X-Plane.
 #include <fstream>
 #include <iterator>
 #include <set>
@@ -10,6 +10,7 @@
 #include "simulators/directory/DirectoryReading.h"
 #include "simulators/directory/DirectoryTopics.h"
 #include "simulators/directory/OwnLogins.h"
+#include "simulators/xplane/XPlaneRref.h"
 
 namespace orvelle::directory {
 
@@ -98,3 +99,20 @@ void DirectoryAddresses::FetchNow() {}
 std::string OwnLogins::Read() { return ""; }
 
 }  // namespace orvelle::directory
+
+namespace orvelle::simulators {
+
+struct XPlaneRref::Parts {
+    std::optional<SimulatorState> State;
+};
+
+XPlaneRref::XPlaneRref(EventLoop&, ProcessQuestions, XPlaneSetting) : parts(std::make_unique<Parts>()) {}
+XPlaneRref::~XPlaneRref() = default;
+std::string XPlaneRref::Name() const { return "X-Plane"; }
+Presence XPlaneRref::Stands() const { return Presence::Absent; }
+int XPlaneRref::Run() const { return 0; }
+const std::optional<SimulatorState>& XPlaneRref::State() const { return parts->State; }
+bool XPlaneRref::IsProgram(const std::string&) const { return false; }
+std::string XPlaneRref::Problem() const { return ""; }
+
+}  // namespace orvelle::simulators
