@@ -57,7 +57,7 @@ void SimulatorSession::Rule(SimulatorSource& source) {
         run = source.Run();
         told = {};
         tuned = {};
-        isPaced = false;
+        justSaid.clear();
     }
     const SimulatorState& state = *source.State();
     for (std::size_t radio = 0; radio < tuned.size(); ++radio)
@@ -71,7 +71,7 @@ void SimulatorSession::GiveBack() {
     if (!std::exchange(ruling, nullptr)) return;
     told = {};
     tuned = {};
-    pace.End();
+    justSaid.clear();
     network.EndSession();
     network.SetAll(byHand);
 }
@@ -107,17 +107,16 @@ void SimulatorSession::ChooseStations(const SimulatorState& state) {
 }
 
 void SimulatorSession::Say() {
-    if (isPaced) return;
+    if (justSaid.size() == MostAtOnce) return;
     const SessionSetting setting = SettingOf(*ruling->State());
     SessionSetting before = network.Session();
     before.Handle = setting.Handle;
     if (before == setting) return;
     network.SetAll(setting);
-    isPaced = true;
-    pace = loop.After(PaceMilliseconds, [this] {
-        isPaced = false;
+    justSaid.push_back(loop.After(PaceMilliseconds, [this] {
+        justSaid.pop_front();
         Say();
-    });
+    }));
 }
 
 SessionSetting SimulatorSession::SettingOf(const SimulatorState& state) const {

@@ -9,6 +9,7 @@
 #pragma once
 
 #include <array>
+#include <deque>
 #include <optional>
 #include <string>
 
@@ -31,7 +32,9 @@ struct RadioTold {
 class SimulatorSession {
 public:
     static constexpr Long SettlingMilliseconds = 400;
-    static constexpr Long PaceMilliseconds = 50;
+    // What is set at most within this time; a simulator tells 20 times a second itself, not always evenly.
+    static constexpr std::size_t MostAtOnce = 4;
+    static constexpr Long PaceMilliseconds = 200;
 
     // All outlive this object; the Changed of choice and directories is its.
     SimulatorSession(EventLoop& eventLoop, SimulatorChoice& simulatorChoice, directory::Directories& allDirectories,
@@ -83,8 +86,7 @@ private:
     std::string ownCallsign;
     std::array<RadioTold, 2> told;
     std::array<Tuned, 2> tuned;
-    bool isPaced = false;  // something was set just now
-    Ticket pace;
+    std::deque<Ticket> justSaid;  // one for each message, until its time is over
 };
 
 }  // namespace orvelle::simulators

@@ -73,7 +73,7 @@ protected:
     // Both radios have their records, and the next message can go at once.
     void TellAndSettle() {
         Tell();
-        loop.Run(SimulatorSession::SettlingMilliseconds + 2 * SimulatorSession::PaceMilliseconds);
+        loop.Run(SimulatorSession::SettlingMilliseconds + SimulatorSession::PaceMilliseconds);
     }
     void Tune(int kilohertz) {
         state.Radios[0].Kilohertz = kilohertz;

@@ -29,7 +29,6 @@ TEST_F(SimulatorSessionTest, WhatASimulatorTellsIsTheSessionAtOnceAndItsRecordsA
     EXPECT_EQ(Now().Voice[0], tower);
     EXPECT_EQ(session.Radios()[0].Chosen.Station, "BIKF_TWR");
     EXPECT_TRUE(session.Radios()[0].IsSettled);
-    loop.Run(SimulatorSession::PaceMilliseconds);
     EXPECT_EQ(Channel(1), "Unicom");
     EXPECT_EQ(Now().Handle, first.Handle);
 }
@@ -39,13 +38,13 @@ TEST_F(SimulatorSessionTest, AKnobPassesManyFrequenciesAndOneRecordComes) {
     network.Said.clear();
     for (int step = 1; step <= 32; ++step) {
         Tune(118300 + 25 * step);
-        loop.Run(SimulatorSession::PaceMilliseconds);
+        loop.Run(50);
         EXPECT_EQ(Channel(0), "Keflavik Tower");
     }
     EXPECT_EQ(network.Said.size(), 32U);
     EXPECT_EQ(Now().Frequency[0], "119.100");
     EXPECT_FALSE(session.Radios()[0].IsSettled);
-    loop.Run(SimulatorSession::SettlingMilliseconds - SimulatorSession::PaceMilliseconds);
+    loop.Run(SimulatorSession::SettlingMilliseconds - 50);
     EXPECT_EQ(Channel(0), "Keflavik Tower");
     EXPECT_TRUE(session.Radios()[0].IsSettled);
     EXPECT_EQ(network.Said.size(), 32U) << "a record that stays as it is was set again";
