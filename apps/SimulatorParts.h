@@ -43,7 +43,7 @@ public:
     directory::Directories Directories{{&Folder, &Addresses, &Topics}};
     simulators::SimulatorSession Session;
 
-    Event<> Changed;                   // what the session, the choice or the directories tell; up to 20 times a second
+    Event<> Changed;                 // what the session, the choice or the directories tell; up to 20 times a second
     Event<const std::string&> Told;  // a sentence for the user, once until it is over
 
 private:

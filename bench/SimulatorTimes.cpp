@@ -1,7 +1,7 @@
-// orvelle-simulator-times ORVELLE-SIM [COUNT]: how long a change that a simulator tells takes from the UDP socket of a real
-// orvelle-sim to another computer of its set-up, over a real broker, encrypted: half of the changes are frequencies, which
-// come in the session at once, the other half places, by which a settled radio gets or loses its voice record. Fails where
-// one is lost. Needs no display; bench/simulator-times runs it.
+// orvelle-simulator-times ORVELLE-SIM [COUNT]: how long a change that a simulator tells takes from the UDP socket of a
+// real orvelle-sim to another computer of its set-up, over a real broker, encrypted: half of the changes are
+// frequencies, which come in the session at once, the other half places, by which a settled radio gets or loses its
+// voice record. Fails where one is lost. Needs no display; bench/simulator-times runs it.
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -55,8 +55,8 @@ public:
         const auto at = [this](std::size_t percent) {
             return times.empty() ? 0 : times[std::min(times.size() - 1, times.size() * percent / 100)];
         };
-        std::printf("%-10s %6zu changes: least %.2f, median %.2f, p95 %.2f, p99 %.2f, greatest %.2f ms, lost %d\n", what,
-                    times.size(), at(0), at(50), at(95), at(99), times.empty() ? 0 : times.back(), lost);
+        std::printf("%-10s %6zu changes: least %.2f, median %.2f, p95 %.2f, p99 %.2f, greatest %.2f ms, lost %d\n",
+                    what, times.size(), at(0), at(50), at(95), at(99), times.empty() ? 0 : times.back(), lost);
         std::fflush(stdout);
         const bool isWell = lost == 0 && !times.empty();
         times.clear();

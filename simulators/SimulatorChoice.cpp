@@ -40,7 +40,9 @@ void SimulatorChoice::Follow() {
 
 SimulatorSource* SimulatorChoice::Best() const {
     SimulatorSource* best = nullptr;
-    const auto rank = [this](const SimulatorSource& source) { return std::pair(source.State().has_value(), &source == active); };
+    const auto rank = [this](const SimulatorSource& source) {
+        return std::pair(source.State().has_value(), &source == active);
+    };
     for (SimulatorSource* const source : there)
         if (!best || rank(*source) > rank(*best)) best = source;
     return best;

@@ -125,8 +125,7 @@ SessionSetting SimulatorSession::SettingOf(const SimulatorState& state) const {
     setting.Callsign = CallsignOf(state);
     const auto& [first, second] = state.Radios;
     setting.Receive = Selection(first.IsOperable && first.IsHeard, second.IsOperable && second.IsHeard);
-    setting.Transmit =
-        Selection(first.IsOperable && state.Transmits == 1, second.IsOperable && state.Transmits == 2);
+    setting.Transmit = Selection(first.IsOperable && state.Transmits == 1, second.IsOperable && state.Transmits == 2);
     for (std::size_t radio = 0; radio < tuned.size(); ++radio) {
         setting.Frequency[radio] = Shown(state.Radios[radio].Kilohertz);
         if (!tuned[radio].Settled) continue;

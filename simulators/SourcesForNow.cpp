@@ -88,8 +88,7 @@ struct DirectoryAddresses::Parts {
     std::vector<Found> Directories;
 };
 
-DirectoryAddresses::DirectoryAddresses(EventLoop&, const std::filesystem::path)
-    : parts(std::make_unique<Parts>()) {}
+DirectoryAddresses::DirectoryAddresses(EventLoop&, const std::filesystem::path) : parts(std::make_unique<Parts>()) {}
 DirectoryAddresses::~DirectoryAddresses() = default;
 const std::vector<DirectorySource::Found>& DirectoryAddresses::Directories() const { return parts->Directories; }
 std::vector<std::string> DirectoryAddresses::Addresses() const { return {}; }

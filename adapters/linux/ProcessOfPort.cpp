@@ -32,8 +32,8 @@ struct Socket {
 
 // Addresses as the kernel writes them, words of 32 bits in this computer's order.
 bool ServesLoopback(std::string_view address) {
-    constexpr std::array<std::string_view, 4> Addresses = {
-        "0100007F", "00000000", "0000000000000000FFFF00000100007F", "00000000000000000000000000000000"};
+    constexpr std::array<std::string_view, 4> Addresses = {"0100007F", "00000000", "0000000000000000FFFF00000100007F",
+                                                           "00000000000000000000000000000000"};
     return std::ranges::find(Addresses, address) != Addresses.end();
 }
 

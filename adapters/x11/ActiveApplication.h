@@ -1,8 +1,8 @@
 // Whether the simulator is the active application of this computer, told to the far side of the simulator link: so it
 // is while the window with the focus is one of the simulator's. While no window of a simulator is there, whether for
 // want of a simulator or of an X server, it counts as active, since keys for the radio must work for those who
-// practise with no simulator. Asked of the window manager, and where there is none of the input focus. Which simulator's
-// window it was last is told, too. Loop and far side outlive this object.
+// practise with no simulator. Asked of the window manager, and where there is none of the input focus. Which
+// simulator's window it was last is told, too. Loop and far side outlive this object.
 #pragma once
 
 #include <xcb/xcb.h>

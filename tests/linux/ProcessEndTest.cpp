@@ -16,7 +16,8 @@ namespace {
 class ProcessEndTest : public testing::TestWithParam<EndToldBy> {
 protected:
     Ticket Watch(pid_t process) {
-        return WhenProcessEnds(loop, process, [this] { ++told; }, GetParam());
+        return WhenProcessEnds(
+            loop, process, [this] { ++told; }, GetParam());
     }
     bool IsTold() {
         return ServeUntil(loop, [this] { return told > 0; });

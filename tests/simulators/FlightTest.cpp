@@ -58,8 +58,8 @@ TEST_F(FlightTest, AStoppedSimulatorLosesNothingAndAKilledOneItsSession) {
     UserStrokes user(server.Display());
     user.Press(KeyOfF8);
     EXPECT_TRUE(setUp.Until([&] { return setUp.Keys == std::vector<std::string>{"F8"}; }));
-    std::optional<linux::ChildProcess> flightGear(std::in_place, std::vector<std::string>{
-                                                      FGFS, std::to_string(setUp.LinesPort()), "118.300"});
+    std::optional<linux::ChildProcess> flightGear(
+        std::in_place, std::vector<std::string>{FGFS, std::to_string(setUp.LinesPort()), "118.300"});
     ASSERT_TRUE(HasRecord("Keflavik Tower"));
     const SessionSetting flown = setUp.Session;
     const int sessions = setUp.Sessions, inputs = setUp.Inputs;

@@ -1,6 +1,6 @@
-// A real orvelle-sim without a window, with its broker and a directory, and a second computer of its set-up, which hears
-// at the broker what all computers hear. All on loopback, in a folder and on ports of the test's own; all of it ends with
-// the object.
+// A real orvelle-sim without a window, with its broker and a directory, and a second computer of its set-up, which
+// hears at the broker what all computers hear. All on loopback, in a folder and on ports of the test's own; all of it
+// ends with the object.
 #pragma once
 
 #include <cstdint>
@@ -29,11 +29,11 @@ public:
     bool Until(const std::function<bool()>& isSo);
 
     linux::PollEventLoop Loop;
-    SessionSetting Session;          // as it was heard last
-    int Sessions = 0;                // messages of it so far
-    std::vector<std::string> Keys;   // that are held at the simulator's computer
-    int Inputs = 0;                  // messages of them so far
-    Event<> Heard;                   // either
+    SessionSetting Session;         // as it was heard last
+    int Sessions = 0;               // messages of it so far
+    std::vector<std::string> Keys;  // that are held at the simulator's computer
+    int Inputs = 0;                 // messages of them so far
+    Event<> Heard;                  // either
 
 private:
     void Join(const std::string& program);

@@ -1,5 +1,6 @@
-// fgfs PORT MEGAHERTZ: a FlightGear that is played, for tests: its file has the name, and it sends the line of its radios
-// to that port of loopback 20 times a second. A line of its input is what COM1 is tuned to from then on; it ends with it.
+// fgfs PORT MEGAHERTZ: a FlightGear that is played, for tests: its file has the name, and it sends the line of its
+// radios to that port of loopback 20 times a second. A line of its input is what COM1 is tuned to from then on; it ends
+// with it.
 #include <arpa/inet.h>
 #include <netinet/in.h>
 #include <poll.h>
