@@ -33,6 +33,7 @@ struct Devices::Parts {
 Devices::Devices(EventLoop& loop, SimulatorSide& simulatorSide, const DevicesSetting& setting)
     : parts(std::make_unique<Parts>(loop, simulatorSide, setting)) {
     parts->Sticks.Changed = [this] { Changed(); };
+    parts->Active.Changed = [this] { SimulatorChanged(); };
     if (parts->Keys) parts->Keys->Told = [this](const std::string&) { Changed(); };
 }
 
@@ -45,6 +46,8 @@ std::vector<std::string> Devices::Problems() const {
     std::erase(problems, "");
     return problems;
 }
+
+std::string Devices::LastSimulator() const { return parts->Active.LastSimulator(); }
 
 std::vector<std::string> Devices::Joysticks() const { return parts->Sticks.Names(); }
 

@@ -38,6 +38,10 @@ public:
     std::vector<std::string> Joysticks() const;
     // From the loop, after either has changed.
     Event<> Changed;
+    // The simulator whose window was the active one last: its program, or its window where that can't be told; "" for
+    // none so far.
+    std::string LastSimulator() const;
+    Event<> SimulatorChanged;  // from the loop, another one
 
 private:
     struct Parts;

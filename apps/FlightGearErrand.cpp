@@ -29,11 +29,11 @@ std::string Quoted(const simulators::SimulatorState& state) {
 }
 
 // Whether lines come. Which process they are from is no matter here.
-std::string Hearing(const FlightGearSetting& setting) {
+std::string Hearing(const FlightGearSetting& setting, std::uint16_t port) {
     linux::PollEventLoop loop;
     simulators::FlightGearLine line(
         loop, {[](std::uint16_t) { return 0; }, [](pid_t, const std::function<void()>&) { return Ticket(); }},
-        setting.Aircraft);
+        setting.Aircraft, port);
     if (!line.Problem().empty()) return line.Problem();
     line.Changed = [&] { loop.Stop(); };
     const Ticket patience = loop.After(Patience, [&] { loop.Stop(); });
@@ -51,7 +51,7 @@ int Show(const SimulatorCommand& command, const FlightGearSetting& setting) {
                                              : "They aren't in " + file + "; --add writes them there.")
               << "\n"
               << (IsServed(command) ? "Whether FlightGear tells anything is shown by the orvelle-sim that runs now."
-                                    : Hearing(setting))
+                                    : Hearing(setting, command.FlightGearPort))
               << "\n";
     return EXIT_SUCCESS;
 }
@@ -66,7 +66,7 @@ int Tell(const std::string& failure, const std::string& success) {
 
 int RunFlightGearErrand(const SimulatorCommand& command) {
     using Task = SimulatorCommand::Task;
-    const FlightGearSetting setting(command.Data);
+    const FlightGearSetting setting(command.Data, command.FlightGearPort);
     for (const std::string& trouble : setting.Troubles) Fail(trouble);
     const std::string file = setting.Options.File().string();
     if (command.What == Task::AddFlightGear)

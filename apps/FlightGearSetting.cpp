@@ -2,7 +2,6 @@
 
 #include "adapters/linux/OwnFile.h"
 #include "adapters/shared/Environment.h"
-#include "simulators/flightgear/FlightGearLine.h"
 
 namespace orvelle {
 
@@ -13,8 +12,8 @@ std::filesystem::path Installed() { return linux::OwnPrefix() / "share" / "orvel
 
 }  // namespace
 
-FlightGearSetting::FlightGearSetting(const std::filesystem::path& data)
-    : Options(Installed(), data / "flightgear", Variable("HOME"), simulators::FlightGearLine::UsualPort) {
+FlightGearSetting::FlightGearSetting(const std::filesystem::path& data, std::uint16_t port)
+    : Options(Installed(), data / "flightgear", Variable("HOME"), port) {
     const auto note = [this](std::string sentence) {
         if (!sentence.empty()) Troubles.push_back(std::move(sentence));
     };

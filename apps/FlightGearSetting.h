@@ -2,6 +2,7 @@
 // are installed, and the options that make it send its lines. For whoever reads FlightGear or sets it up.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -13,7 +14,7 @@ namespace orvelle {
 
 struct FlightGearSetting {
     // `data` is the user's data folder. The protocol file that the aircraft need is at its place after this.
-    explicit FlightGearSetting(const std::filesystem::path& data);
+    FlightGearSetting(const std::filesystem::path& data, std::uint16_t port);
 
     simulators::AircraftOverrides Aircraft;
     simulators::FlightGearOptions Options;

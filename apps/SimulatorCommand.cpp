@@ -67,6 +67,7 @@ It makes the set-up at its first start, brings the broker, and serves until it i
   --port N                    the broker's port from now on (8883 at first)
   --host HOST[:PORT]          use the broker that runs there instead of bringing one; it needs the keys and the
                               access list that lie in FOLDER/broker
+  --flightgear-port N         hear FlightGear's lines on this port (usually 5601), and name it in its two lines
   --own                       serve a set-up of this computer's own, leaving the one that it has joined
 
 A set-up has up to 99 computers. --add, --list and --remove work beside a running orvelle-sim or without one. A
@@ -118,6 +119,9 @@ ReadCommand ReadSimulatorCommand(int count, const char* const* words) {
         } else if (word == "--port") {
             command.Port = PortOf(value());
             if (command.Port == 0) return {std::nullopt, "--port needs a number from 1 to 65535"};
+        } else if (word == "--flightgear-port") {
+            command.FlightGearPort = static_cast<std::uint16_t>(PortOf(value()));
+            if (command.FlightGearPort == 0) return {std::nullopt, "--flightgear-port needs a number from 1 to 65535"};
         } else if (word == "--host") {
             command.Broker = ReadHostAndPort(value(), mqtt::UsualPort);
             if (!command.Broker) return {std::nullopt, "--host needs HOST or HOST:PORT"};

@@ -1,12 +1,14 @@
 // The command line of orvelle-sim.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "adapters/shared/HostAndPort.h"
+#include "simulators/flightgear/FlightGearLine.h"
 
 namespace orvelle {
 
@@ -33,6 +35,7 @@ struct SimulatorCommand {
     bool Own = false;                     // leaves the set-up of another computer that was joined
     std::optional<HostAndPort> Broker{};  // an existing one in place of one of our own
     std::vector<std::string> Files{};     // that are checked, "-" for standard input
+    std::uint16_t FlightGearPort = simulators::FlightGearLine::UsualPort;  // to which its lines come
 
     bool Serves() const { return What == Task::Serve || What == Task::ServeWithoutWindow; }
 

@@ -26,6 +26,7 @@ SimulatorProgram::SimulatorProgram(EventLoop& eventLoop, const SimulatorCommand&
       AtBroker(eventLoop,
                [] { return mqtt::PresenceSetting{.Name = ComputerName(), .Address = "", .Desktop = DesktopName()}; }),
       Devices(eventLoop, Simulator, {.SessionType = DesktopName(), .Sounds = OwnSounds()}),
+      Parts(eventLoop, asked.Data, asked.FlightGearPort, Network),
       command(asked),
       lock(ServingLock(asked)) {
     Simulator.SetLink(LinkState::Up);
@@ -51,7 +52,11 @@ std::string SimulatorProgram::Open() {
     watch->Changed = [this] { TakeUpFile(); };
     if (!lock.Problem().empty()) Told(lock.Problem());
     Devices.Changed = [this] { TellOfDevices(); };
+    Devices.SimulatorChanged = [this] { Parts.Choice.Activate(Devices.LastSimulator()); };
     TellOfDevices();
+    Parts.Choice.Activate(Devices.LastSimulator());
+    Parts.Told = [this](const std::string& sentence) { Told(sentence); };
+    Parts.TellTroubles();
     return "";
 }
 

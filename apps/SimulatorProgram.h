@@ -1,6 +1,6 @@
 // The program of the simulator's computer without its window: itself as a member of a set-up, either the one that this
 // computer has made, which it serves with its broker, or the one of another computer that was joined. A window or
-// devices act on its two far sides. Made on a loop of any kind.
+// devices act on its two far sides, and so does a simulator that is read here. Made on a loop of any kind.
 #pragma once
 
 #include <optional>
@@ -15,6 +15,7 @@
 #include "adapters/mqtt/TroubleTeller.h"
 #include "apps/Devices.h"
 #include "apps/OwnServing.h"
+#include "apps/SimulatorParts.h"
 
 namespace orvelle {
 
@@ -37,6 +38,7 @@ public:
     mqtt::BrokerSimulatorSide Simulator{AtBroker};
     mqtt::BrokerNetworkSide Network{AtBroker};
     orvelle::Devices Devices;
+    SimulatorParts Parts;  // whose session a simulator flies
 
     // The set-up that this computer has made, while it is served; nothing where another one's was joined.
     std::optional<mqtt::OwnSetting> Made() const { return own ? own->Setting() : std::nullopt; }

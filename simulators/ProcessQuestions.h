@@ -15,8 +15,7 @@ struct ProcessQuestions {
     // Whose socket of UDP over IPv4 is bound to this port of this computer; 0 where that can't be told, as of another
     // user's process.
     std::function<pid_t(std::uint16_t port)> OwnerOfPort;
-    // Runs the task once, from the loop, when the process has ended, also where it has ended already. An empty ticket
-    // where the process can't be watched.
+    // Runs the task once, from the loop, when the process has ended, also where it has ended already.
     std::function<Ticket(pid_t process, std::function<void()> task)> WhenEnded;
 };
 

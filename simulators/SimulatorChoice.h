@@ -15,10 +15,12 @@ public:
     // The sources outlive this object, and their Changed is its.
     explicit SimulatorChoice(std::vector<SimulatorSource*> sources);
 
-    // The window of this program became the active one (the name of its file).
-    void Activate(const std::string& executable);
+    // The window of this program became the active one: the name of its file, or where that can't be told the
+    // window's. It may be a simulator's that is still to come, as one that loads has a window long before its first
+    // word; any other program's is none of its business.
+    void Activate(const std::string& program);
 
-    // The one that counts; null while none is there.
+    // The one that counts; null while none is there. One that has told nothing yet counts only where it is alone.
     SimulatorSource* Chosen() const { return chosen; }
     // Those that are there and don't count, for the user to read.
     std::vector<SimulatorSource*> PassedOver() const;
@@ -27,9 +29,12 @@ public:
     Event<> Changed;  // of any source, or which one counts
 
 private:
-    void Choose();
+    void Follow();
+    SimulatorSource* Best() const;
 
     const std::vector<SimulatorSource*> sources;
+    std::vector<SimulatorSource*> there;  // as they came
+    SimulatorSource* active = nullptr;    // whose window was the active one last; null for unknown
     SimulatorSource* chosen = nullptr;
 };
 

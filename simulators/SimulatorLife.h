@@ -13,8 +13,8 @@ namespace orvelle::simulators {
 
 class SimulatorLife {
 public:
-    static constexpr Long QuietMilliseconds = 2000;       // without a word: busy
-    static constexpr Long ForgottenMilliseconds = 10000;  // without a word, and the process unknown: gone
+    static constexpr Long QuietMilliseconds = 2000;        // without a word: busy
+    static constexpr Long ForgottenMilliseconds = 10'000;  // without a word, and the process unknown: gone
 
     SimulatorLife(EventLoop& eventLoop, ProcessQuestions processQuestions);
 

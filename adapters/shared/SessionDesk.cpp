@@ -38,6 +38,14 @@ void SessionDesk::SetVoice(Long radio, const RadioVoiceSetting& voice) {
     SaySession();
 }
 
+void SessionDesk::SetAll(const SessionSetting& setting) {
+    SessionSetting next = setting;
+    next.Handle = session.Handle;
+    if (session == next) return;
+    session = next;
+    SaySession();
+}
+
 void SessionDesk::ChangeText(std::string& text, const std::string& value) {
     if (text == value) return;
     text = value;

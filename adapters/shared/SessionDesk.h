@@ -19,6 +19,7 @@ public:
     void SetReceive(const std::string& selection) override { ChangeText(session.Receive, selection); }
     void SetTransmit(const std::string& selection) override { ChangeText(session.Transmit, selection); }
     void SetVoice(Long radio, const RadioVoiceSetting& voice) override;
+    void SetAll(const SessionSetting& setting) override;
 
 protected:
     // Sessions have the handles above this one.

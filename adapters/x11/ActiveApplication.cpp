@@ -78,9 +78,13 @@ void ActiveApplication::Take(const xcb_generic_event_t& event) {
 void ActiveApplication::Look() {
     const std::vector<xcb_window_t> windows = Windows();
     std::erase_if(known, [&](const auto& each) { return std::ranges::find(windows, each.first) == windows.end(); });
-    const auto isSimulators = [this](xcb_window_t window) { return IsSimulators(window); };
-    const bool isThere = std::ranges::any_of(windows, isSimulators);
-    Tell(!isThere || std::ranges::any_of(Focused(), isSimulators));
+    const bool isThere =
+        std::ranges::any_of(windows, [this](xcb_window_t window) { return !SimulatorOf(window).empty(); });
+    std::string active;
+    for (const xcb_window_t window : isThere ? Focused() : std::vector<xcb_window_t>())
+        if (active.empty()) active = SimulatorOf(window);
+    Tell(!isThere || !active.empty());
+    if (!active.empty() && std::exchange(lastSimulator, active) != active) Changed();
     Serve();  // what came with the answers is inside the connection, where no descriptor tells of it
 }
 
@@ -129,7 +133,7 @@ std::optional<std::vector<xcb_window_t>> ActiveApplication::Property(Name name) 
     return std::vector<xcb_window_t>(first, first + reply->value_len);
 }
 
-bool ActiveApplication::IsSimulators(xcb_window_t window) {
+std::string ActiveApplication::SimulatorOf(xcb_window_t window) {
     if (const auto found = known.find(window); found != known.end()) return found->second;
     const auto isNamed = [this](const std::string& name) {
         return std::ranges::find(simulators, name) != simulators.end();
@@ -137,11 +141,13 @@ bool ActiveApplication::IsSimulators(xcb_window_t window) {
     bool isTold = false;
     for (const pid_t process : owners.ProcessesOf(window)) {
         const std::string executable = executableOf(process);
-        if (isNamed(executable)) return known[window] = true;
+        if (isNamed(executable)) return known[window] = executable;
         isTold = isTold || !executable.empty();
     }
-    if (isTold) return known[window] = false;
-    return std::ranges::any_of(owners.NamesOf(window), isNamed);
+    if (isTold) return known[window] = "";
+    const std::vector<std::string> names = owners.NamesOf(window);
+    const auto named = std::ranges::find_if(names, isNamed);
+    return named == names.end() ? "" : *named;
 }
 
 }  // namespace orvelle

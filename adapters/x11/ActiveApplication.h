@@ -1,8 +1,8 @@
 // Whether the simulator is the active application of this computer, told to the far side of the simulator link: so it
 // is while the window with the focus is one of the simulator's. While no window of a simulator is there, whether for
 // want of a simulator or of an X server, it counts as active, since keys for the radio must work for those who
-// practise with no simulator. Asked of the window manager, and where there is none of the input focus. Loop and far
-// side outlive this object.
+// practise with no simulator. Asked of the window manager, and where there is none of the input focus. Which
+// simulator's window it was last is told, too. Loop and far side outlive this object.
 #pragma once
 
 #include <xcb/xcb.h>
@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "adapters/x11/WindowOwner.h"
+#include "platform/Event.h"
 #include "platform/EventLoop.h"
 #include "platform/sides/SimulatorSide.h"
 
@@ -29,6 +30,10 @@ public:
     // the environment's.
     ActiveApplication(EventLoop& eventLoop, SimulatorSide& simulatorSide, std::vector<std::string> simulators,
                       ExecutableOf executableOf, const std::string& display);
+
+    // Of the simulators that were named, the one whose window was the active one last; "" for none so far.
+    const std::string& LastSimulator() const { return lastSimulator; }
+    Event<> Changed;  // LastSimulator, from the loop
 
 private:
     enum Name { ActiveWindow, ClientList, Names };
@@ -46,7 +51,7 @@ private:
     std::vector<xcb_window_t> ChildrenOfRoot();
     std::vector<xcb_window_t> Focused();
     std::optional<std::vector<xcb_window_t>> Property(Name name);
-    bool IsSimulators(xcb_window_t window);
+    std::string SimulatorOf(xcb_window_t window);
 
     EventLoop& loop;
     SimulatorSide& simulator;
@@ -57,7 +62,9 @@ private:
     WindowOwner owners;
     xcb_window_t root = XCB_NONE;
     xcb_atom_t atoms[Names] = {};
-    std::map<xcb_window_t, bool> known;  // windows whose process could be told: whether they are a simulator's
+    // Windows whose process could be told: the simulator whose they are, "" for none.
+    std::map<xcb_window_t, std::string> known;
+    std::string lastSimulator;
     Ticket served;
     Ticket looking;
 };

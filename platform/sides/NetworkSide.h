@@ -48,6 +48,8 @@ public:
     virtual void SetReceive(const std::string& selection) = 0;
     virtual void SetTransmit(const std::string& selection) = 0;
     virtual void SetVoice(Long radio, const RadioVoiceSetting& voice) = 0;
+    // All of these at once, told as one change. The handle stays.
+    virtual void SetAll(const SessionSetting& setting) = 0;
 
     // The records. What another party writes reaches a record while the link stands.
     virtual bool WriteParameter(Long id, Long index, Long value) = 0;

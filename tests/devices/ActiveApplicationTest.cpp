@@ -69,6 +69,21 @@ TEST_F(ActiveApplicationTest, IsTheSimulatorWhileItsWindowHasTheFocusAndAlsoWhen
     EXPECT_TRUE(Until([&] { return side.SimulatorActive(); }));
 }
 
+TEST_F(ActiveApplicationTest, TellsWhichSimulatorItWasLast) {
+    Manage();
+    Watch();
+    int changes = 0;
+    active->Changed = [&] { ++changes; };
+    EXPECT_EQ(active->LastSimulator(), "");
+    auto simulator = Show();
+    AskForFocus(WindowOf(*simulator));
+    EXPECT_TRUE(Until([&] { return active->LastSimulator() == "shows-window"; }));
+    const linux::XClient other(server.Display());
+    EXPECT_TRUE(Until([&] { return !side.SimulatorActive(); }));
+    EXPECT_EQ(active->LastSimulator(), "shows-window");
+    EXPECT_EQ(changes, 1);
+}
+
 TEST_F(ActiveApplicationTest, IsFoundAtTheStart) {
     Manage();
     auto simulator = Show();

@@ -23,6 +23,7 @@ protected:
         command.Data = folder.filePath("data").toStdString();
         command.Port = FreePort();
         command.Name = "Home";
+        command.FlightGearPort = 0;
     }
     ~SimulatorRig() override {
         if (program) program->Close();

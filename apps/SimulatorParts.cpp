@@ -1,0 +1,65 @@
+#include "apps/SimulatorParts.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "adapters/linux/ProcessEnd.h"
+#include "adapters/linux/ProcessOfPort.h"
+#include "adapters/shared/PrivateFile.h"
+
+namespace orvelle {
+
+namespace {
+
+constexpr std::size_t LongestCallsign = 100;  // bytes
+
+simulators::ProcessQuestions QuestionsOn(EventLoop& loop) {
+    return {linux::ProcessOfPort, [&loop](pid_t process, std::function<void()> task) {
+                return linux::WhenProcessEnds(loop, process, std::move(task));
+            }};
+}
+
+}  // namespace
+
+SimulatorParts::SimulatorParts(EventLoop& loop, const std::filesystem::path& data, std::uint16_t flightGearPort,
+                               NetworkSide& network)
+    : DirectoryFiles(data / "directory.d"),
+      FlightGear(data, flightGearPort),
+      FlightGearLine(loop, QuestionsOn(loop), FlightGear.Aircraft, flightGearPort),
+      XPlane(loop, QuestionsOn(loop)),
+      Logins(data / "directory-logins.json"),
+      Folder(loop, DirectoryFiles),
+      Addresses(loop, data),
+      Session(loop, Choice, Directories, Logins, network),
+      callsignFile(data / "callsign") {
+    troubles = FlightGear.Troubles;
+    if (std::string trouble = Logins.Read(); !trouble.empty()) troubles.push_back(std::move(trouble));
+    if (const PrivateText kept = ReadPrivateFile(callsignFile, LongestCallsign); kept.Text)
+        Session.SetOwnCallsign(*kept.Text);
+    Session.Changed = [this] {
+        TellProblems();
+        Changed();
+    };
+    Addresses.Told = [this](const std::string& sentence) { Told(sentence); };
+}
+
+void SimulatorParts::TellTroubles() {
+    for (const std::string& trouble : troubles) Told(trouble);
+    TellProblems();
+}
+
+void SimulatorParts::SetOwnCallsign(const std::string& callsign) {
+    Session.SetOwnCallsign(callsign);
+    if (const std::string why = WritePrivateFile(callsignFile, callsign); !why.empty())
+        Told("Your callsign can't be kept in " + callsignFile.string() + ", since " + why + ".");
+}
+
+void SimulatorParts::TellProblems() {
+    std::vector<std::string> problems = {FlightGearLine.Problem(), XPlane.Problem()};
+    std::erase(problems, "");
+    for (const std::string& problem : problems)
+        if (std::ranges::find(toldProblems, problem) == toldProblems.end()) Told(problem);
+    toldProblems = std::move(problems);
+}
+
+}  // namespace orvelle

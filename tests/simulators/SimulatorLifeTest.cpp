@@ -1,0 +1,111 @@
+#include "simulators/SimulatorLife.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "platform/Observers.h"
+#include "tests/shared/HandLoop.h"
+
+namespace orvelle::simulators {
+namespace {
+
+class SimulatorLifeTest : public testing::Test {
+protected:
+    SimulatorLifeTest() {
+        life.Changed = [this] { ++changes; };
+    }
+    void Expect(Presence presence, int run, int told) {
+        EXPECT_EQ(life.Stands(), presence);
+        EXPECT_EQ(life.Run(), run);
+        EXPECT_EQ(changes, told);
+    }
+
+    HandLoop loop;
+    std::map<pid_t, Observers<>> endings;
+    SimulatorLife life{
+        loop,
+        {[](std::uint16_t) { return 0; },
+         [this](pid_t process, std::function<void()> task) { return endings[process].Attach(std::move(task)); }}};
+    int changes = 0;
+};
+
+TEST_F(SimulatorLifeTest, BeginsWithTheFirstWordAndWordsTellNothingNew) {
+    Expect(Presence::Absent, 0, 0);
+    for (int word = 0; word < 100; ++word) {
+        life.Hear(41);
+        loop.Run(SimulatorLife::QuietMilliseconds - 1);
+    }
+    Expect(Presence::Live, 1, 1);
+    EXPECT_EQ(life.Process(), 41);
+}
+
+TEST_F(SimulatorLifeTest, IsBusyAfterTwoSecondsAndForAsLongAsItsProcessIsThere) {
+    life.Hear(41);
+    loop.Run(1999);
+    Expect(Presence::Live, 1, 1);
+    loop.Run(1);
+    Expect(Presence::Busy, 1, 2);
+    loop.Run(3'600'000);
+    Expect(Presence::Busy, 1, 2);
+    life.Hear(41);
+    Expect(Presence::Live, 1, 3);
+}
+
+TEST_F(SimulatorLifeTest, EndsWithItsProcessAtOnce) {
+    life.Hear(41);
+    endings[41].Tell();
+    Expect(Presence::Absent, 1, 2);
+    EXPECT_EQ(life.Process(), 0);
+    EXPECT_TRUE(loop.Idle());
+}
+
+TEST_F(SimulatorLifeTest, EndsWithItsProcessAlsoWhileItIsBusy) {
+    life.Hear(41);
+    loop.Run(5000);
+    endings[41].Tell();
+    Expect(Presence::Absent, 1, 3);
+}
+
+TEST_F(SimulatorLifeTest, TheNextProcessIsAnotherRun) {
+    life.Hear(41);
+    endings[41].Tell();
+    life.Hear(42);
+    Expect(Presence::Live, 2, 3);
+    life.Hear(43);
+    Expect(Presence::Live, 3, 4);
+    endings[42].Tell();
+    Expect(Presence::Live, 3, 4);
+}
+
+TEST_F(SimulatorLifeTest, OfAnUnknownProcessTenSecondsOfSilenceAreTheEnd) {
+    life.Hear(0);
+    loop.Run(9999);
+    Expect(Presence::Busy, 1, 2);
+    loop.Run(1);
+    Expect(Presence::Absent, 1, 3);
+    life.Hear(0);
+    Expect(Presence::Live, 2, 4);
+}
+
+TEST_F(SimulatorLifeTest, AWordAfterASilenceBeginsAllTimesAnew) {
+    life.Hear(0);
+    loop.Run(9000);
+    life.Hear(0);
+    loop.Run(9999);
+    Expect(Presence::Busy, 1, 4);
+    loop.Run(1);
+    Expect(Presence::Absent, 1, 5);
+}
+
+TEST_F(SimulatorLifeTest, OneThatSaysThatItGoesHasGone) {
+    life.Hear(41);
+    life.Forget();
+    Expect(Presence::Absent, 1, 2);
+    life.Forget();
+    Expect(Presence::Absent, 1, 2);
+    EXPECT_TRUE(loop.Idle());
+}
+
+}  // namespace
+}  // namespace orvelle::simulators
