@@ -20,7 +20,6 @@ namespace {
 constexpr Long AwaitedMilliseconds = 5000;  // without any answer: it can't be asked
 constexpr Long LostMilliseconds = 10000;    // without a beacon, and without any answer: it isn't there
 constexpr Long SilentMilliseconds = 1000;   // without a value, but with a beacon: it has forgotten what was asked
-constexpr float EarlierSeconds = 1;         // by so much X-Plane's own clock has gone back: it was started anew
 
 std::string Dotted(std::uint32_t address) {
     const in_addr bytes{htonl(address)};
@@ -125,7 +124,7 @@ void XPlaneRref::Parts::AwaitValue() {
 void XPlaneRref::Parts::Take(const std::vector<NumberedValue>& told) {
     XPlaneValues next = Values;
     if (next.Take(told) == 0) return;
-    // An unknown process is found again by its next beacon.
+    // One whose process isn't known; its next beacon brings it back.
     if (Process == 0 && WasStartedAnew(next)) return Life.Forget();
 
     if (Life.Stands() == Presence::Absent && Target->Owner == XPlaneOwner::ThisComputer)
@@ -165,9 +164,10 @@ XPlaneAnswer XPlaneRref::Parts::Answer() const {
     return XPlaneAnswer::Given;
 }
 
+// By its own clock, which goes on while it is paused.
 bool XPlaneRref::Parts::WasStartedAnew(const XPlaneValues& next) const {
     const std::optional<float> before = Values.RunningTime();
-    return before && *next.RunningTime() < *before - EarlierSeconds;
+    return before && *next.RunningTime() < *before;
 }
 
 std::string XPlaneRref::Parts::Problem() const {

@@ -51,8 +51,11 @@ std::int32_t NumberAt(const std::string& packet, std::size_t place) {
 
 }  // namespace
 
-XPlaneServer::XPlaneServer() : reserved(Bound(beaconPort)) {
-    KeepBeaconPort(PortUse::Shared);
+XPlaneServer::XPlaneServer(std::uint16_t sharedBeaconPort) : beaconPort(sharedBeaconPort) {
+    if (beaconPort == 0) {
+        reserved = Bound(beaconPort);
+        KeepBeaconPort(PortUse::Shared);
+    }
     const std::string folder = "sim/cockpit2/radios/actuators/";
     for (const std::string radio : {"com1", "com2"}) {
         Values[folder + radio + "_frequency_hz_833"] = radio == "com1" ? 118305 : 121500;
@@ -71,6 +74,11 @@ XPlaneServer::XPlaneServer() : reserved(Bound(beaconPort)) {
     SetText("sim/aircraft/view/acf_tailnum", "N172SP");
     SetText("sim/aircraft/view/acf_ICAO", "C172");
     Start(XPlanePort::Another);
+}
+
+std::string XPlaneServer::SubscribersAddress() const {
+    if (subscriptions.empty()) return "";
+    return inet_ntoa({htonl(std::get<0>(subscriptions.begin()->first))});
 }
 
 // The kernel asks who has a port already at the moment when another one wants it.
@@ -120,8 +128,8 @@ std::string XPlaneServer::Beacon() const {
 }
 
 void XPlaneServer::SendBeacon(const std::string& packet) const {
-    const in_addr loopback{htonl(INADDR_LOOPBACK)};
-    EXPECT_EQ(setsockopt(socket.Number(), IPPROTO_IP, IP_MULTICAST_IF, &loopback, sizeof(loopback)), 0);
+    const in_addr from{inet_addr(BeaconInterface.c_str())};
+    EXPECT_EQ(setsockopt(socket.Number(), IPPROTO_IP, IP_MULTICAST_IF, &from, sizeof(from)), 0);
     Send(packet, ntohl(inet_addr("239.255.1.1")), beaconPort);
 }
 

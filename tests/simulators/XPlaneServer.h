@@ -1,6 +1,6 @@
 // A played X-Plane on sockets of its own: its beacon, and what it answers to subscriptions, as the public documents
 // tell both. It proves that we speak the documents, not that X-Plane does. Its time passes by Pass alone; its beacon
-// goes over loopback, to a port that no other test has.
+// goes to a port that no other test has.
 #pragma once
 
 #include <cstdint>
@@ -21,7 +21,8 @@ class XPlaneServer {
 public:
     // One of version 12.1.4 that flies, with both radios on. Values are those of the datarefs' names; others it doesn't
     // know.
-    XPlaneServer();
+    // Its beacon goes to the given port, which another one has reserved, or to one of its own.
+    explicit XPlaneServer(std::uint16_t sharedBeaconPort = 0);
 
     std::uint16_t BeaconPort() const { return beaconPort; }
     std::uint16_t Port() const { return port; }
@@ -44,10 +45,12 @@ public:
 
     void SetText(const std::string& name, const std::string& text);
     std::size_t Subscriptions() const { return subscriptions.size(); }
+    std::string SubscribersAddress() const;        // of any one
     int Requests() const { return requests; }      // so far
     int MostAtOnce() const { return mostAtOnce; }  // requests between two steps of its time
 
     std::map<std::string, float> Values;
+    std::string BeaconInterface = "127.0.0.1";  // its address
     std::string Head = "RREF,";
     std::size_t PairsInPacket = 183;
     bool SendsBeacons = true;
