@@ -88,7 +88,8 @@ TEST(XPlaneRrefTest, TheEndOfItsProcessIsTheEndAtOnce) {
     rig.Kill();
     EXPECT_EQ(rig.Source.Stands(), Presence::Absent);
     EXPECT_FALSE(rig.Source.State());
-    EXPECT_EQ(rig.Source.Name(), "X-Plane");
+    rig.Pass(100);
+    EXPECT_EQ(rig.Source.Name(), "X-Plane") << "what a process has left behind brings it back";
     rig.Pass(20'000);
     EXPECT_EQ(rig.Source.Stands(), Presence::Absent);
     EXPECT_EQ(rig.Source.Problem(), "");
@@ -142,6 +143,17 @@ TEST(XPlaneRrefTest, IsAskedAgainEveryFiveSecondsWithoutItsBeacon) {
     EXPECT_NEAR(rig.Server.Requests() - before, 12 * static_cast<int>(rig.Server.Subscriptions()),
                 static_cast<int>(rig.Server.Subscriptions()));
     EXPECT_LE(rig.Server.MostAtOnce(), 140);
+}
+
+TEST(XPlaneRrefTest, IsAskedAgainAtOnceByABeaconAfterSilence) {
+    XPlaneRig rig;
+    rig.Pass(2000);
+    rig.Server.Stop();
+    rig.Pass(1500);
+    rig.Server.Start();
+    const Long back = rig.PassUntil([&] { return rig.Server.Subscriptions() > 0; });
+    EXPECT_GE(back, 0);
+    EXPECT_LE(back, 200);
 }
 
 TEST(XPlaneRrefTest, AtItsEndNothingIsAskedForAnyMore) {
