@@ -37,6 +37,7 @@ public:
         Run("ip addr add 192.0.2.1/24 dev here");
         Run("ip link set here up");
     }
+    static void Leave() { Run("ip addr del 192.0.2.1/24 dev here"); }
     // Sockets that are made inside are that computer's.
     void Do(const std::function<void()>& what) const {
         EXPECT_EQ(setns(there.Number(), CLONE_NEWNET), 0);
