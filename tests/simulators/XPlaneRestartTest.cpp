@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <iostream>
+#include <ostream>
 
 #include "tests/simulators/XPlaneRig.h"
 
@@ -21,6 +22,11 @@ struct Kind {
     XPlanePort Where;
     Long Away;  // milliseconds between end and start
 };
+
+// As tests are named by it.
+void PrintTo(const Kind& kind, std::ostream* out) {
+    *out << (kind.Whose == Process::Known ? "known" : "unknown") << " process, away for " << kind.Away << " ms";
+}
 
 class XPlaneRestartTest : public testing::TestWithParam<Kind> {};
 
