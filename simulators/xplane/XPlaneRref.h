@@ -1,6 +1,8 @@
 // X-Plane 11 and 12, found by its beacon on this computer or on the network and read by subscriptions over UDP, which
 // are asked for again every 5 seconds, as X-Plane forgets them at a restart and says nothing. Nothing is taken as known
-// before the first value of each. Made after the public documents alone: nobody has tried it on the real program yet.
+// before the first value of each. One of this computer comes before all others. Where the process isn't known, its own
+// clock tells one that was started anew from one that paused. IPv4 alone, as documented. Made after the public
+// documents alone: nobody has tried it on the real program yet.
 #pragma once
 
 #include <cstdint>

@@ -1,0 +1,201 @@
+#include "simulators/xplane/XPlaneRref.h"
+
+#include <arpa/inet.h>
+#include <netinet/in.h>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "simulators/xplane/Ipv4Interfaces.h"
+#include "simulators/xplane/XPlaneBeacons.h"
+#include "simulators/xplane/XPlaneSubscriptions.h"
+#include "simulators/xplane/XPlaneTarget.h"
+#include "simulators/xplane/XPlaneValues.h"
+
+namespace orvelle::simulators {
+
+namespace {
+
+constexpr Long AwaitedMilliseconds = 5000;  // without any answer: it can't be asked
+constexpr Long LostMilliseconds = 10000;    // without a beacon, and without any answer: it isn't there
+constexpr Long SilentMilliseconds = 1000;   // without a value, but with a beacon: it has forgotten what was asked
+
+std::string Dotted(std::uint32_t address) {
+    const in_addr bytes{htonl(address)};
+    std::array<char, INET_ADDRSTRLEN> text{};
+    inet_ntop(AF_INET, &bytes, text.data(), text.size());
+    return text.data();
+}
+
+}  // namespace
+
+struct XPlaneRref::Parts {
+    Parts(XPlaneRref& source, EventLoop& eventLoop, ProcessQuestions processQuestions, XPlaneSetting used);
+
+    void Find(const Beacon& beacon, std::uint32_t sender);
+    void Choose(const XPlaneTarget& next);
+    void Drop();
+    void AwaitBeacon();
+    void AwaitValue();
+    void Take(const std::vector<NumberedValue>& told);
+    void Follow();
+    XPlaneAnswer Answer() const;
+    bool WasStartedAnew(const XPlaneValues& next) const;
+    std::string Problem() const;
+
+    XPlaneRref& Source;
+    EventLoop& Loop;
+    const ProcessQuestions Questions;
+    const XPlaneSetting Setting;
+    Ipv4Interfaces Interfaces{Loop};
+    XPlaneBeacons Beacons{Loop, Interfaces, Setting.BeaconPort};
+    XPlaneSubscriptions Subscriptions{Loop, Interfaces, XPlaneDatarefs()};
+    SimulatorLife Life{Loop, Questions};
+
+    std::optional<XPlaneTarget> Target;
+    bool CanBeAsked = true;  // it answers, or hasn't been asked for long
+    bool IsSilent = false;   // without a value for a second
+    bool IsTold = false;     // what came last, by the life's own change
+    pid_t Process = 0;       // 0 for unknown
+    XPlaneValues Values;
+    std::optional<SimulatorState> State;
+    Ticket Awaited, Lost, Silent;
+};
+
+XPlaneRref::Parts::Parts(XPlaneRref& source, EventLoop& eventLoop, ProcessQuestions processQuestions,
+                         XPlaneSetting used)
+    : Source(source), Loop(eventLoop), Questions(std::move(processQuestions)), Setting(std::move(used)) {
+    Beacons.Heard = [this](const Beacon& beacon, std::uint32_t sender) { Find(beacon, sender); };
+    Beacons.Changed = [this] { Source.Changed(); };
+    Subscriptions.Heard = [this](const std::vector<NumberedValue>& told) { Take(told); };
+    Life.Changed = [this] { Follow(); };
+}
+
+void XPlaneRref::Parts::Find(const Beacon& beacon, std::uint32_t sender) {
+    const bool isOwn = Interfaces.IsOwn(sender);
+    const XPlaneTarget found{isOwn ? XPlaneOwner::ThisComputer : XPlaneOwner::Another, isOwn ? INADDR_LOOPBACK : sender,
+                             beacon.Port, beacon.Version};
+    if (!Target || TakesOver(found, *Target, Answer())) return Choose(found);
+    if (!IsSame(found, *Target)) return;
+    AwaitBeacon();
+    if (IsSilent) Subscriptions.Ask();
+}
+
+void XPlaneRref::Parts::Choose(const XPlaneTarget& next) {
+    Life.Forget();
+    Drop();
+    Target = next;
+    Awaited = Loop.After(AwaitedMilliseconds, [this] {
+        CanBeAsked = false;
+        Source.Changed();
+    });
+    AwaitBeacon();
+    AwaitValue();
+    Subscriptions.Begin(next);
+    Source.Changed();
+}
+
+void XPlaneRref::Parts::Drop() {
+    Awaited.End();
+    Lost.End();
+    Silent.End();
+    Subscriptions.End();
+    Target.reset();
+    CanBeAsked = true;
+    Process = 0;
+    Values = {};
+    State.reset();
+}
+
+void XPlaneRref::Parts::AwaitBeacon() {
+    Lost = Loop.After(LostMilliseconds, [this] {
+        if (Life.Stands() != Presence::Absent) return;
+        Drop();
+        Source.Changed();
+    });
+}
+
+void XPlaneRref::Parts::AwaitValue() {
+    IsSilent = false;
+    Silent = Loop.After(SilentMilliseconds, [this] { IsSilent = true; });
+}
+
+void XPlaneRref::Parts::Take(const std::vector<NumberedValue>& told) {
+    XPlaneValues next = Values;
+    if (next.Take(told) == 0) return;
+    // One whose process isn't known; its next beacon brings it back.
+    if (Process == 0 && WasStartedAnew(next)) return Life.Forget();
+
+    if (Life.Stands() == Presence::Absent && Target->Owner == XPlaneOwner::ThisComputer)
+        Process = Questions.OwnerOfPort(Target->Port);
+    Awaited.End();
+    CanBeAsked = true;
+    AwaitValue();
+    Values = next;
+    std::optional<SimulatorState> state = Values.State();
+    const bool differs = State != state;
+    State = std::move(state);
+    // With the state already told, as another process is told with its own.
+    IsTold = false;
+    Life.Hear(Process);
+    if (differs && !IsTold) Source.Changed();
+}
+
+void XPlaneRref::Parts::Follow() {
+    IsTold = true;
+    if (Life.Stands() == Presence::Absent) {
+        Drop();
+        // What its process has left would be taken for an X-Plane that is there.
+        Beacons.LeaveOut();
+    }
+    Source.Changed();
+}
+
+XPlaneAnswer XPlaneRref::Parts::Answer() const {
+    switch (Life.Stands()) {
+        case Presence::Absent:
+            return CanBeAsked ? XPlaneAnswer::Awaited : XPlaneAnswer::None;
+        case Presence::Busy:
+            return Process == 0 ? XPlaneAnswer::Paused : XPlaneAnswer::Given;
+        case Presence::Live:
+            break;
+    }
+    return XPlaneAnswer::Given;
+}
+
+// By its own clock, which goes on while it is paused.
+bool XPlaneRref::Parts::WasStartedAnew(const XPlaneValues& next) const {
+    const std::optional<float> before = Values.RunningTime();
+    return before && *next.RunningTime() < *before;
+}
+
+std::string XPlaneRref::Parts::Problem() const {
+    if (!Beacons.Problem().empty() || !Target || CanBeAsked) return Beacons.Problem();
+    const std::string where =
+        Target->Owner == XPlaneOwner::ThisComputer ? "on this computer" : "at " + Dotted(Target->Address);
+    return NameOf(*Target) + " is there " + where + ", but doesn't answer on port " + std::to_string(Target->Port) +
+           ": a firewall may be in the way, or its setting \"Disable Incoming Traffic\".";
+}
+
+XPlaneRref::XPlaneRref(EventLoop& eventLoop, ProcessQuestions questions, XPlaneSetting setting)
+    : parts(std::make_unique<Parts>(*this, eventLoop, std::move(questions), std::move(setting))) {}
+
+XPlaneRref::~XPlaneRref() = default;
+
+std::string XPlaneRref::Name() const { return parts->Target ? NameOf(*parts->Target) : "X-Plane"; }
+
+Presence XPlaneRref::Stands() const { return parts->Life.Stands(); }
+
+int XPlaneRref::Run() const { return parts->Life.Run(); }
+
+const std::optional<SimulatorState>& XPlaneRref::State() const { return parts->State; }
+
+bool XPlaneRref::IsProgram(const std::string& executable) const {
+    const std::vector<std::string>& programs = parts->Setting.Programs;
+    return std::find(programs.begin(), programs.end(), executable) != programs.end();
+}
+
+std::string XPlaneRref::Problem() const { return parts->Problem(); }
+
+}  // namespace orvelle::simulators

@@ -1,0 +1,130 @@
+// The fuzz target of X-Plane's packets: the first byte chooses the beacon, one packet of values, or several that come
+// one after the other; the rest is what it reads. What is taken must be within the bounds, and the state that it comes
+// to one that can be. At the end it tells how many packets were refused.
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <iostream>
+#include <string>
+#include <string_view>
+
+#include "adapters/shared/Utf8.h"
+#include "simulators/xplane/XPlanePackets.h"
+#include "simulators/xplane/XPlaneValues.h"
+
+namespace orvelle::simulators {
+
+namespace {
+
+constexpr std::size_t HeadLength = 5;
+constexpr std::size_t PairLength = 8;
+constexpr std::size_t BeaconLength = 21;
+constexpr std::size_t LongestName = 500;
+
+void Hold(bool isSo, std::string_view what) {
+    if (isSo) return;
+    std::cerr << "breach: " << what << '\n';
+    std::abort();
+}
+
+// Told by the target's own destructor, since the fuzzer ends the program by exit.
+struct Counts {
+    ~Counts() { std::cerr << "packets: " << Refused << " refused, " << Taken << " taken\n"; }
+    void Count(bool isTaken) { ++(isTaken ? Taken : Refused); }
+    unsigned long Refused = 0;
+    unsigned long Taken = 0;
+};
+
+Counts& Tried() {
+    static Counts counts;
+    return counts;
+}
+
+bool IsPlain(const std::string& text) {
+    const auto isControl = [](char each) { return static_cast<unsigned char>(each) < ' ' || each == 0x7F; };
+    return IsUtf8(text) && std::none_of(text.begin(), text.end(), isControl);
+}
+
+void HoldBeacon(std::string_view packet) {
+    const std::optional<Beacon> beacon = ReadBeacon(packet);
+    Tried().Count(beacon.has_value());
+    if (!beacon) return;
+    Hold(packet.size() >= BeaconLength, "a beacon is cut");
+    Hold(beacon->Port != 0, "a beacon has no port");
+    Hold(beacon->Name.size() <= LongestName && IsUtf8(beacon->Name), "a name is none");
+    Hold(beacon->Name.find('\0') == std::string::npos, "a name goes beyond its end");
+}
+
+std::optional<std::vector<NumberedValue>> HoldValues(std::string_view packet) {
+    std::optional<std::vector<NumberedValue>> values = ReadValues(packet);
+    Tried().Count(values.has_value());
+    if (!values) return values;
+    Hold(packet.size() <= HeadLength + MostValuesInPacket * PairLength, "a packet is too long");
+    Hold(HeadLength + values->size() * PairLength <= packet.size(), "values are made up");
+    std::string again = "RREF,";
+    for (const auto& [number, value] : *values) {
+        Hold(std::isfinite(value), "a value is no number");
+        char pair[PairLength];
+        std::memcpy(pair, &number, sizeof(number));
+        std::memcpy(pair + sizeof(number), &value, sizeof(value));
+        again.append(pair, sizeof(pair));
+    }
+    Hold(values->empty() || ReadValues(again) == values, "values are read as others");
+    return values;
+}
+
+void HoldState(const SimulatorState& state) {
+    for (const Radio& radio : state.Radios) {
+        Hold(radio.Kilohertz >= 0 && radio.Kilohertz <= 999999, "a frequency can't be");
+        Hold(radio.IsOperable || !radio.IsHeard, "a radio without power is heard");
+    }
+    Hold(state.Transmits >= 0 && state.Transmits <= 2, "a radio that isn't there transmits");
+    Hold(IsPlain(state.Tail) && IsPlain(state.Aircraft), "a text is none");
+    if (!state.Where) return;
+    Hold(std::abs(state.Where->Latitude) <= 90 && std::abs(state.Where->Longitude) <= 180, "a place can't be");
+    Hold(std::abs(state.Where->Altitude) <= 1e6, "a height can't be");
+}
+
+// Each packet begins with its count of pairs; their numbers are small ones, so that they are mostly asked for.
+void HoldSeveral(std::string_view bytes) {
+    XPlaneValues values;
+    while (!bytes.empty()) {
+        const std::size_t length =
+            std::min<std::size_t>(static_cast<unsigned char>(bytes[0]) * PairLength, bytes.size() - 1);
+        std::string packet = "RREF," + std::string(bytes.substr(1, length));
+        for (std::size_t pair = HeadLength; pair + 4 <= packet.size(); pair += PairLength)
+            std::fill(packet.begin() + static_cast<std::ptrdiff_t>(pair) + 1,
+                      packet.begin() + static_cast<std::ptrdiff_t>(pair) + 4, '\0');
+        bytes.remove_prefix(1 + length);
+        const std::optional<std::vector<NumberedValue>> told = HoldValues(packet);
+        if (told) Hold(values.Take(*told) <= told->size(), "more values are taken than told");
+        HoldState(values.State());
+    }
+}
+
+}  // namespace
+
+}  // namespace orvelle::simulators
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t count) {
+    using namespace orvelle::simulators;
+    if (count == 0) return 0;
+    const std::string_view rest(reinterpret_cast<const char*>(bytes) + 1, count - 1);
+    switch (bytes[0] % 3) {
+        case 0:
+            HoldBeacon(rest);
+            break;
+        case 1: {
+            XPlaneValues values;
+            if (const auto told = HoldValues(rest)) values.Take(*told);
+            HoldState(values.State());
+            break;
+        }
+        default:
+            HoldSeveral(rest);
+    }
+    return 0;
+}
