@@ -35,6 +35,13 @@ std::optional<Task> TaskOf(std::string_view word) {
     return std::nullopt;
 }
 
+// Behind "flightgear".
+std::optional<Task> FlightGearTaskOf(std::string_view word) {
+    if (word == "--add") return Task::AddFlightGear;
+    if (word == "--remove") return Task::RemoveFlightGear;
+    return std::nullopt;
+}
+
 }  // namespace
 
 const char* SimulatorCommand::Help() {
@@ -48,6 +55,10 @@ It makes the set-up at its first start, brings the broker, and serves until it i
   orvelle-sim --list          print the computers: identity, name or "-", "there" or "away", parted by tabs
   orvelle-sim --remove c07    take a computer out of the set-up; it is cut off at once
   orvelle-sim --check FILE... hold directories of voice channels against the rules; "-" is standard input
+  orvelle-sim flightgear      print the two lines that make FlightGear tell its radios, for ~/.fgfsrc, and say whether
+                              they are there, and whether FlightGear tells anything now
+  orvelle-sim flightgear --add, --remove
+                              write them into ~/.fgfsrc, keeping a copy of it, or take them out
   orvelle-sim --help, --version
 
   --data FOLDER               keep everything in this folder (usually ~/.local/share/OrvelleCP)
@@ -72,6 +83,15 @@ ReadCommand ReadSimulatorCommand(int count, const char* const* words) {
     bool hasTask = false;
     for (int index = 1; index < count; ++index) {
         const std::string_view word = words[index];
+        if (index == 1 && word == "flightgear") {
+            hasTask = true;
+            command.What = Task::FlightGear;
+            continue;
+        }
+        if (const std::optional<Task> task = FlightGearTaskOf(word); task && command.What == Task::FlightGear) {
+            command.What = *task;
+            continue;
+        }
         const auto value = [&] { return std::string_view(index + 1 < count ? words[++index] : ""); };
         if (const std::optional<Task> task = TaskOf(word)) {
             if (hasTask) return {std::nullopt, "one task at a time"};
@@ -105,6 +125,8 @@ ReadCommand ReadSimulatorCommand(int count, const char* const* words) {
             return {std::nullopt, "\"" + std::string(word) + "\" is not understood; --help tells what is"};
         }
     }
+    if (command.IsOfFlightGear() && (!command.Name.empty() || command.Port != 0 || command.Broker))
+        return {std::nullopt, "--name, --port and --host are for a set-up, not for flightgear"};
     if (command.Own && !command.Serves()) return {std::nullopt, "--own is for an orvelle-sim that serves"};
     if (command.Broker && command.Port != 0)
         return {std::nullopt, "--port is for a broker that orvelle-sim brings; with --host it is HOST:PORT"};

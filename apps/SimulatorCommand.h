@@ -11,7 +11,19 @@
 namespace orvelle {
 
 struct SimulatorCommand {
-    enum class Task { Serve, ServeWithoutWindow, Add, List, Remove, Check, Help, Version };
+    enum class Task {
+        Serve,
+        ServeWithoutWindow,
+        Add,
+        List,
+        Remove,
+        Check,
+        FlightGear,
+        AddFlightGear,
+        RemoveFlightGear,
+        Help,
+        Version
+    };
 
     Task What = Task::Serve;
     std::filesystem::path Data;           // where all is kept
@@ -23,6 +35,10 @@ struct SimulatorCommand {
     std::vector<std::string> Files{};     // that are checked, "-" for standard input
 
     bool Serves() const { return What == Task::Serve || What == Task::ServeWithoutWindow; }
+
+    bool IsOfFlightGear() const {
+        return What == Task::FlightGear || What == Task::AddFlightGear || What == Task::RemoveFlightGear;
+    }
 
     static const char* Help();
 };

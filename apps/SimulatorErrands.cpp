@@ -13,6 +13,7 @@
 #include "adapters/mqtt/Topics.h"
 #include "apps/ComputerName.h"
 #include "apps/DirectoryCheck.h"
+#include "apps/FlightGearErrand.h"
 #include "apps/OneLine.h"
 #include "apps/SimulatorProgram.h"
 
@@ -109,6 +110,7 @@ int RunErrand(const SimulatorCommand& command) {
     if (command.What == Task::Help) return Print(SimulatorCommand::Help());
     if (command.What == Task::Version) return Print("orvelle-sim " ORVELLE_VERSION "\n");
     if (command.What == Task::Check) return CheckDirectories(command.Files);
+    if (command.IsOfFlightGear()) return RunFlightGearErrand(command);
     const mqtt::OwnSetUp setUp(command.Data);
     const bool changes = command.What != Task::List || !command.Name.empty();
     if (const auto joined = setUp.JoinedElsewhere(); joined && changes)

@@ -1,5 +1,5 @@
 // What orvelle-sim does beside a running one or none, and then ends: adding, listing and removing computers, giving the
-// set-up another name, checking directories, and telling of itself.
+// set-up another name, checking directories, FlightGear's options (FlightGearErrand), and telling of itself.
 #pragma once
 
 #include "apps/SimulatorCommand.h"

@@ -5,8 +5,11 @@
 //
 //   {"format": "orvelle-aircraft/1", "aircraft": [
 //     {"simulator": "flightgear", "names": ["c172p*"],
-//      "transmits": {"property": "/instrumentation/kma20/knob", "values": {"1": 1, "2": 2}},
-//      "heard": [{"property": "/instrumentation/kma20/com1"}, {"property": "/instrumentation/kma20/com2"}]}]}
+//      "transmits": {"property": "/instrumentation/kma20/knob", "values": {"-1": 1, "0": 2, "1": 0}},
+//      "heard": [{"property": "/instrumentation/kma20/com1"}, {"property": "/instrumentation/kma20/com2"}],
+//      "auto": {"property": "/instrumentation/kma20/auto"}}]}
+//
+// A part that is missing, or null in "heard", leaves the usual rule.
 #pragma once
 
 #include <array>
@@ -22,8 +25,9 @@ namespace orvelle::simulators {
 struct AircraftOverride {
     std::vector<std::string> Names;             // of aircraft, * stands for any characters
     std::string Transmits;                      // the property that tells it, "" for the usual one
-    std::map<std::string, int> TransmitValues;  // what it holds, and the radio that this means, 0 for none
+    std::map<std::string, int> TransmitValues;  // what it holds, and the radio that this means; any other is none
     std::array<std::string, 2> Heard;           // properties, true where the radio is heard; "" for the usual rule
+    std::string Auto;                           // true where the radio of Transmits is heard anyway; "" for never
 };
 
 class AircraftOverrides {
@@ -34,9 +38,10 @@ public:
     // sentence that names the file and its line; nothing of it counts then.
     std::string Add(const std::filesystem::path& file);
 
-    // The properties that a line must hold, in the order of their members X1, X2 ...
+    // The properties that a line must hold, each as a member of its own name.
     std::vector<std::string> Properties() const;
-    // The state as the aircraft's panel means it.
+    // The state as the aircraft's panel means it. A property that the line doesn't hold, as one of an older protocol
+    // file, changes nothing; a radio that isn't operable is not heard whatever its property tells.
     SimulatorState Apply(const FlightGearWords& words) const;
 
 private:

@@ -1,11 +1,14 @@
 // FlightGear, read by the lines that its generic output sends to a UDP socket of this computer's loopback, 20 a second,
 // each the whole state. The protocol file orvelle.xml tells it what to put into a line; FlightGear opens no port for
-// it. The socket takes what comes over loopback alone.
+// it. The socket takes what comes over loopback alone, from FlightGear or any other program of this computer; whoever
+// owns the port that a line comes from is the simulator's process. While one is heard, lines of another one don't
+// count.
 #pragma once
 
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "adapters/shared/FileDescriptor.h"
 #include "simulators/SimulatorLife.h"
@@ -37,6 +40,8 @@ public:
 private:
     void Listen();
     void Serve();
+    bool Counts(std::uint16_t from);
+    void Take(std::string_view line);
     void Follow();
 
     EventLoop& loop;
@@ -44,11 +49,15 @@ private:
     const AircraftOverrides overrides;
     std::uint16_t port;
     FileDescriptor socket;
+    std::uint16_t sender = 0;    // the port that is heard, 0 for none
+    pid_t process = 0;           // which owns it, 0 for unknown
+    std::uint16_t stranger = 0;  // the port whose lines don't count, 0 for none
     SimulatorLife life;
     std::optional<SimulatorState> state;
     unsigned long lines = 0;
     unsigned long refused = 0;
     std::string problem;
+    bool isTold = false;  // by the life, while a line is taken
     Ticket readable, again;
 };
 

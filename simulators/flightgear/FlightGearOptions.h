@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "simulators/flightgear/AircraftOverrides.h"
 
@@ -22,7 +23,8 @@ public:
     std::array<std::string, 2> Lines() const;
     std::filesystem::path File() const;  // ~/.fgfsrc
 
-    // The protocol file that sends those properties is at its place after this. "" for success, else a sentence.
+    // The protocol file that sends those properties is at its place after this; Lines() name that place. "" for
+    // success, else a sentence.
     std::string Prepare(const AircraftOverrides& aircraft);
 
     bool AreAdded() const;
@@ -33,6 +35,9 @@ public:
     std::string TakeOut() const;
 
 private:
+    bool IsOurs(const std::string& line) const;
+    std::string Change(const std::vector<std::string>& wanted) const;
+
     const std::filesystem::path installed, own, home;
     const std::uint16_t port;
 };

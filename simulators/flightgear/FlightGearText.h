@@ -1,11 +1,12 @@
 // One line of FlightGear's generic output as orvelle.xml shapes it: members NAME=VALUE parted by commas, the callsign
 // last, since it may hold a comma itself:
 //
-//   COM1=118.305,COM2=121.500,OP1=1,OP2=1,VOL1=0.700,VOL2=0.700,TX=1,PTT=0,ONLINE=1,PAUSED=0,LAT=63.98500,LON=-22.60560,
-//   ALT=171.0,AIRCRAFT=c172p,CS=D-EABC
+//   COM1=118.305,COM2=121.500,OP1=1,OP2=1,VOL1=0.700,VOL2=0.700,TX=1,PTT=0,ONLINE=1,PAUSED=0,LAT=63.98500,
+//   LON=-22.60560,ALT=171.0,/instrumentation/kma20/knob=1,AIRCRAFT=c172p,CS=D-EABC
 //
-// Members may be missing but for one frequency, and their order is free but for the last; unknown ones are those that
-// overrides of aircraft ask for. Frequencies are numbers, with a point or a comma-free decimal alone.
+// Members may be missing but for one frequency (MHz), and their order is free but for the last; a volume that is
+// missing is one that is heard. Members named by a property are those that overrides of aircraft ask for. What begins
+// as no member belongs to the value before it; so numbers have a decimal point or a decimal comma.
 #pragma once
 
 #include <map>
@@ -22,10 +23,12 @@ struct FlightGearWords {
     std::map<std::string, std::string> Others;  // members that are not ours, by their names
 };
 
-constexpr std::size_t LongestFlightGearLine = 1024;  // bytes
+constexpr std::size_t LongestFlightGearLine = 1024;  // bytes, its end included
+constexpr std::size_t LeastCutFlightGearLine = 512;  // from here on a line without its end was cut
 
-// Nothing for a text that is no such line: a number that is none, or that can't be, no frequency at all. A line that
-// was cut loses its last member.
+// Nothing for a text that is no such line: a frequency, switch or volume that is no number or can't be, no frequency at
+// all. A place that can't be is none, and the rest counts. A line that was cut loses its last member. Texts come as
+// UTF-8, without control characters.
 std::optional<FlightGearWords> ReadFlightGearLine(std::string_view line);
 
 }  // namespace orvelle::simulators
