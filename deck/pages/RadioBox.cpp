@@ -8,6 +8,7 @@
 #include "deck/fields/Fields.h"
 #include "deck/fields/Frequencies.h"
 #include "deck/fields/Remark.h"
+#include "deck/fields/SignalLight.h"
 #include "deck/fields/TextField.h"
 #include "deck/pages/RadioRemarks.h"
 #include "platform/RadioSelection.h"
@@ -64,15 +65,17 @@ QWidget* Labelled(const QString& label, QWidget* field) {
 
 }  // namespace
 
-RadioBox::RadioBox(NetworkSide& framework)
+RadioBox::RadioBox(NetworkSide& framework, ChannelLookUp channelLookUp)
     : Section("Radios", "Radios", 2),
       network(framework),
+      lookUp(std::move(channelLookUp)),
       radios{NewRadio(0), NewRadio(1)},
       receive(NewSelection("Receive", "The radios that are received",
                            [this](const std::string& text) { network.SetReceive(text); })),
       transmit(NewSelection("Transmit", "The radio that transmits",
                             [this](const std::string& text) { network.SetTransmit(text); })),
       remark(new Remark("RadioRemark")),
+      lookedUp(new SignalLight("RadioLookedUp")),
       watch(network.Observe([this] { ShowState(); })) {
     AddCaptions({RadioName(0), RadioName(1)});
     AddRow("&Frequency", {radios[0].Frequency, radios[1].Frequency});
@@ -86,7 +89,10 @@ RadioBox::RadioBox(NetworkSide& framework)
     transmit->setAccessibleName("Transmit");
     AddRow("&Receive", {receive, Labelled("&Transmit", transmit)});
     // Below all fields, none of which moves when it comes or goes.
+    AddWide(lookedUp);
     AddWide(remark);
+    lookedUp->setAccessibleName("Directories");
+    lookedUp->hide();
     ShowState();
 }
 
@@ -116,8 +122,21 @@ void RadioBox::Tune(int radio, const std::string& typed) {
     refused = frequency ? QString() : RefusedFrequency(radio, typed, held);
     refusing = radio;
     radios.at(static_cast<std::size_t>(radio)).Frequency->Show(frequency.value_or(held));
-    if (frequency) network.SetFrequency(radio, *frequency);
+    if (frequency) {
+        network.SetFrequency(radio, *frequency);
+        LookUp(radio, *frequency);
+    }
     ShowRemark();
+}
+
+void RadioBox::LookUp(int radio, const std::string& frequency) {
+    const FoundChannel found = lookUp && !frequency.empty() ? lookUp(frequency) : FoundChannel();
+    if (found.Voice) network.SetVoice(radio, *found.Voice);
+    lookedUp->setVisible(!found.Words.isEmpty());
+    lookedUp->Show(found.Voice ? Sign::Good : Sign::Off,
+                   found.Words.isEmpty() ? QString()
+                                         : LookedUpFrequency(radio, frequency, found.Words,
+                                                             found.Voice ? RecordFrom::Directory : RecordFrom::Before));
 }
 
 // Who goes on to something else has read what was refused.
