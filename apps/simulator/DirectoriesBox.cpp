@@ -1,7 +1,7 @@
 #include "apps/simulator/DirectoriesBox.h"
 
 #include <QDesktopServices>
-#include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -13,6 +13,7 @@
 #include "adapters/looks/SignIcon.h"
 #include "adapters/looks/Text.h"
 #include "apps/simulator/DirectoryRows.h"
+#include "apps/simulator/LeastHeight.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/Readout.h"
 #include "deck/fields/Tables.h"
@@ -24,7 +25,7 @@ namespace {
 enum Column { Name, From, Stations, Age, Trouble };
 
 constexpr int LeastRows = 3;
-constexpr int FaultLines = 3;
+constexpr int FaultLines = 2;
 
 QPlainTextEdit* NewFaults() {
     auto* edit = new QPlainTextEdit;
@@ -34,7 +35,6 @@ QPlainTextEdit* NewFaults() {
     edit->setPlaceholderText("What is wrong with the selected directory stands here.");
     edit->setReadOnly(true);
     edit->setTabChangesFocus(true);
-    edit->setMinimumHeight(FaultLines * edit->fontMetrics().lineSpacing());
     return edit;
 }
 
@@ -43,23 +43,15 @@ QTableWidget* NewDirectories() {
         deck::NewTable("Directories", "The directories of voice channels, the first that lists a channel counts",
                        {"Name", "From", "Stations", "Age", "Trouble"}, Trouble);
     table->setEditTriggers(QTableWidget::NoEditTriggers);
-    table->setMinimumHeight((LeastRows + 1) * table->fontMetrics().height() * 3 / 2);
+    // Addresses may be long, too.
+    table->horizontalHeader()->setSectionResizeMode(From, QHeaderView::Stretch);
     return table;
-}
-
-QWidget* SideBySide(std::initializer_list<QWidget*> parts) {
-    auto* widget = new QWidget;
-    auto* row = new QHBoxLayout(widget);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Unit);
-    for (QWidget* part : parts) row->addWidget(part);
-    return widget;
 }
 
 }  // namespace
 
 DirectoriesBox::DirectoriesBox(DirectoryDoings directoryDoings)
-    : Section("DirectoriesSection", "Directories of voice channels"),
+    : Section("DirectoriesSection", "Directories of voice channels", 4),
       doings(std::move(directoryDoings)),
       table(NewDirectories()),
       faults(NewFaults()),
@@ -82,16 +74,16 @@ DirectoriesBox::DirectoriesBox(DirectoryDoings directoryDoings)
     connect(table, &QTableWidget::itemSelectionChanged, this, [this] { ShowSelected(); });
     auto* folder = new deck::Readout("DirectoryFolder");
     folder->Show(doings.Folder.string());
-    AddWide(table, 2);
-    AddWide(faults, 1);
-    AddWide(SideBySide({remove, up, down, fetch}));
-    AddRow("Add&ress", {address});
-    AddRow("", {SideBySide({deck::NewButton("AddDirectory", "Add addr&ess", "Adds what is typed, and fetches it",
-                                            [this] { EnterTyped(); }),
-                            deck::NewButton("OpenDirectories", "&Open folder",
-                                            "Opens the folder in which files that end in .json are directories",
-                                            [this] { OpenFolder(); })})});
-    AddRow("Folder", {folder});
+    AddAtLeast(*this, table, LeastRows + 1, 2);
+    AddAtLeast(*this, faults, FaultLines, 1);
+    AddRow("", {remove, up, down, fetch});
+    AddRow("Add&ress", {address, nullptr, nullptr,
+                        deck::NewButton("AddDirectory", "Add addr&ess", "Adds what is typed, and fetches it",
+                                        [this] { EnterTyped(); })});
+    AddRow("Folder", {folder, nullptr, nullptr,
+                      deck::NewButton("OpenDirectories", "&Open folder",
+                                      "Opens the folder in which files that end in .json are directories",
+                                      [this] { OpenFolder(); })});
     AddRow("", {answer});
     answer->setAccessibleName("Directories");
     ShowSelected();

@@ -16,9 +16,8 @@ namespace orvelle {
 
 namespace {
 
-constexpr int LineCount = 2;
+constexpr double ShownLines = 2.5;  // with room for all of both
 
-// As high as its lines, which aren't wrapped, and a bar below them.
 QPlainTextEdit* NewLines() {
     auto* edit = new QPlainTextEdit;
     edit->setObjectName("FlightGearLines");
@@ -32,7 +31,7 @@ QPlainTextEdit* NewLines() {
 
 void FitHeight(QPlainTextEdit& edit) {
     const int margins = 2 * (edit.frameWidth() + static_cast<int>(edit.document()->documentMargin()));
-    edit.setFixedHeight(2 * LineCount * edit.fontMetrics().lineSpacing() + margins);
+    edit.setFixedHeight(static_cast<int>(ShownLines * edit.fontMetrics().lineSpacing()) + margins);
 }
 
 }  // namespace

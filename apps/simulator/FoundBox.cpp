@@ -41,7 +41,7 @@ QString OthersWords(const std::vector<simulators::SimulatorSource*>& passedOver)
     QStringList names;
     for (const simulators::SimulatorSource* source : passedOver) names << ToQt(source->Name());
     return names.join(", ") +
-           ": passed over, as the simulator counts whose window was active last, else the one that came first";
+           ", passed over: the one whose window was active last counts, else the one that came first";
 }
 
 }  // namespace

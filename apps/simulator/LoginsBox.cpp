@@ -1,11 +1,10 @@
 #include "apps/simulator/LoginsBox.h"
 
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
 #include "adapters/looks/Text.h"
+#include "apps/simulator/LeastHeight.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/Readout.h"
 #include "deck/fields/Tables.h"
@@ -31,14 +30,13 @@ QTableWidget* NewLogins() {
     QTableWidget* table =
         deck::NewTable("OwnLogins", "Your own logins at voice servers", {"Server", "Login", "Password"}, Server);
     table->setEditTriggers(QTableWidget::NoEditTriggers);
-    table->setMinimumHeight((LeastRows + 1) * table->fontMetrics().height() * 3 / 2);
     return table;
 }
 
 }  // namespace
 
 LoginsBox::LoginsBox(directory::OwnLogins& ownLogins)
-    : Section("OwnLoginsSection", "Own logins at voice servers", 2),
+    : Section("OwnLoginsSection", "Own logins at voice servers", 4),
       logins(ownLogins),
       table(NewLogins()),
       server(NewText("LoginServer", "Server", "The voice server as the directory names it: voice.example.org:8767")),
@@ -55,11 +53,9 @@ LoginsBox::LoginsBox(directory::OwnLogins& ownLogins)
     for (const QLineEdit* edit : {server, login, password})
         connect(edit, &QLineEdit::textChanged, this, [this] { ShowState(); });
     connect(table, &QTableWidget::itemSelectionChanged, this, [this] { ShowSelected(); });
-    AddWide(table, 1);
-    AddRow("&Server", {server});
-    AddRow("Lo&gin", {login});
-    AddRow("Pass&word", {password});
-    AddRow("", {keep, forget});
+    AddAtLeast(*this, table, LeastRows + 1, 1);
+    AddRow("&Server", {server, nullptr, keep, forget});
+    AddRow("Lo&gin", {login, nullptr, deck::Labelled("Pass&word", password)});
     AddRow("", {answer});
     answer->setAccessibleName("Own logins");
     ShowState();

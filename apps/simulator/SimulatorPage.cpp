@@ -25,11 +25,12 @@ bool IsSilent(const SimulatorPageContent& content) {
     return content.Chosen && content.Chosen->Stands() == simulators::Presence::Busy;
 }
 
-QVBoxLayout* ColumnOf(std::initializer_list<QWidget*> parts, QWidget* tallest) {
+// The last one takes the height that is left.
+QVBoxLayout* ColumnOf(QWidget* first, QWidget* last) {
     auto* column = new QVBoxLayout;
     column->setSpacing(deck::SectionGap);
-    for (QWidget* part : parts) column->addWidget(part, part == tallest);
-    if (!tallest) column->addStretch();
+    column->addWidget(first);
+    column->addWidget(last, 1);
     return column;
 }
 
@@ -43,11 +44,15 @@ SimulatorPage::SimulatorPage(const SimulatorPageParts& pageParts)
       directories(new DirectoriesBox(parts.Directories)),
       logins(new LoginsBox(parts.Logins)) {
     setObjectName("SimulatorPage");
-    auto* columns = new QHBoxLayout(this);
-    columns->setContentsMargins(0, 0, 0, 0);
+    auto* columns = new QHBoxLayout;
     columns->setSpacing(3 * Unit);
-    columns->addLayout(ColumnOf({found, tuned, flightGear}, nullptr), 1);
-    columns->addLayout(ColumnOf({directories, logins}, directories), 1);
+    columns->addLayout(ColumnOf(found, tuned), 1);
+    columns->addLayout(ColumnOf(flightGear, logins), 1);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(deck::SectionGap);
+    column->addLayout(columns);
+    column->addWidget(directories, 1);
     logins->Changed = [this] { parts.LoginsChanged(); };
     directories->Changed = [this] { ShowNow(); };
     soon.setSingleShot(true);

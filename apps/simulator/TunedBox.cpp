@@ -36,6 +36,7 @@ TunedBox::TunedBox() : Section("TunedRadios", "Radios of the simulator", 2) {
     AddRow("State", {radios[0].Sounds, radios[1].Sounds});
     AddRow("Station", {radios[0].Station, radios[1].Station});
     AddRow("Voice", {radios[0].Record, radios[1].Record});
+    AddWide(new QWidget, 1);
 }
 
 void TunedBox::Show(const simulators::SimulatorState* state, const std::array<simulators::RadioTold, 2>& told,

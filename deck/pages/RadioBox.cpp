@@ -1,8 +1,6 @@
 #include "deck/pages/RadioBox.h"
 
 #include <QComboBox>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <utility>
 
 #include "deck/fields/Fields.h"
@@ -49,18 +47,6 @@ int SelectionOf(const std::string& text) {
     for (int index = 0; index < NoSelection; ++index)
         if (text == Selections[index]) return index;
     return NoSelection;
-}
-
-QWidget* Labelled(const QString& label, QWidget* field) {
-    auto* widget = new QWidget;
-    auto* row = new QHBoxLayout(widget);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Unit);
-    auto* caption = new QLabel(label);
-    caption->setBuddy(field);
-    row->addWidget(caption);
-    row->addWidget(field, 1);
-    return widget;
 }
 
 }  // namespace
@@ -122,13 +108,12 @@ void RadioBox::Tune(int radio, const std::string& typed) {
     refused = frequency ? QString() : RefusedFrequency(radio, typed, held);
     refusing = radio;
     radios.at(static_cast<std::size_t>(radio)).Frequency->Show(frequency.value_or(held));
-    if (frequency) {
-        network.SetFrequency(radio, *frequency);
-        LookUp(radio, *frequency);
-    }
+    if (frequency) network.SetFrequency(radio, *frequency);
+    LookUp(radio, frequency.value_or(""));
     ShowRemark();
 }
 
+// "" is nothing to look up.
 void RadioBox::LookUp(int radio, const std::string& frequency) {
     const FoundChannel found = lookUp && !frequency.empty() ? lookUp(frequency) : FoundChannel();
     if (found.Voice) network.SetVoice(radio, *found.Voice);

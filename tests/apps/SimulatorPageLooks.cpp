@@ -57,6 +57,12 @@ TEST_P(SimulatorPageLooks, NothingIsClipped) {
         EXPECT_GE(widget->width(), needed.width()) << widget->objectName().toStdString();
         EXPECT_GE(widget->height(), needed.height()) << widget->objectName().toStdString();
     }
+    for (const QWidget* section : page->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        for (const QWidget* one : section->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+            for (const QWidget* other : section->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+                EXPECT_TRUE(one == other || !one->isVisible() || !other->isVisible() ||
+                            !one->geometry().intersects(other->geometry()))
+                    << one->objectName().toStdString() << " lies on " << other->objectName().toStdString();
     QDir().mkpath(PICTURES);
     const QString scheme = std::get<Scheme>(GetParam()) == Scheme::Dark ? "dark" : "light";
     EXPECT_TRUE(window->grab().save(QString("%1/simulator-page-%2-%3pt-%4x.png")

@@ -36,7 +36,8 @@ SimulatorPageRig::SimulatorPageRig()
     window->setDocumentMode(true);
     deck::AddScrolledPage(*window, new QWidget, "Set-&up");
     deck::AddScrolledPage(*window, new QWidget, "Session an&d radios");
-    deck::AddScrolledPage(*window, new SimulatorPage(parts), "S&imulator");
+    page = new SimulatorPage(parts);
+    deck::AddScrolledPage(*window, page, "S&imulator");
     window->setCurrentIndex(2);
     window->resize(UsualSize);
     window->show();

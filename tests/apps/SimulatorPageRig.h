@@ -74,6 +74,7 @@ protected:
     int fetches = 0;
     int loginChanges = 0;
     std::unique_ptr<QTabWidget> window;
+    SimulatorPage* page = nullptr;
 };
 
 }  // namespace orvelle

@@ -55,7 +55,7 @@ TEST_F(SimulatorPageTest, ASimulatorIsShownWithAircraftPlaceAndRadios) {
     EXPECT_EQ(TextOf("FoundText"), "FlightGear");
     EXPECT_EQ(TextOf("Aircraft"), "c172p, callsign D-EABC, online");
     EXPECT_EQ(TextOf("AircraftPlace"), "63.985° N, 22.606° W, 2171 ft, paused");
-    EXPECT_TRUE(TextOf("PassedOver").startsWith("X-Plane 12: passed over, as ")) << TextOf("PassedOver").toStdString();
+    EXPECT_TRUE(TextOf("PassedOver").startsWith("X-Plane 12, passed over: ")) << TextOf("PassedOver").toStdString();
     EXPECT_EQ(TextOf("FoundRemark"), "The network refuses to tell where X-Plane is.");
     EXPECT_EQ(TextOf("TunedCOM1"), "118.300");
     EXPECT_EQ(TextOf("SoundsCOM1"), "Heard, transmits");
@@ -70,8 +70,7 @@ TEST_F(SimulatorPageTest, ASilentSimulatorIsCountedAlsoWhileThePageIsHidden) {
     PlayFlight();
     window->setCurrentIndex(0);
     cessna.Presence = simulators::Presence::Busy;
-    auto& page = *window->findChild<SimulatorPage*>();
-    page.ShowState();
+    page->ShowState();
     ASSERT_TRUE(WaitFor([&] {
         ShowAll();
         return TextOf("FoundText").startsWith("FlightGear, silent for ");
@@ -80,7 +79,7 @@ TEST_F(SimulatorPageTest, ASilentSimulatorIsCountedAlsoWhileThePageIsHidden) {
     const QString first = TextOf("FoundText");
     EXPECT_TRUE(WaitFor([&] { return TextOf("FoundText") != first; })) << "the seconds go on by themselves";
     cessna.Presence = simulators::Presence::Live;
-    page.ShowState();
+    page->ShowState();
     EXPECT_TRUE(WaitFor([&] { return TextOf("FoundText") == "FlightGear"; }));
 }
 
@@ -109,8 +108,7 @@ TEST_F(SimulatorPageTest, FlightGearsLinesAreCopiedAddedAndTakenOut) {
 
 TEST_F(SimulatorPageTest, WhetherFlightGearsLinesComeIsSeen) {
     simulators::LoopbackSocket sender;
-    auto& page = *window->findChild<SimulatorPage*>();
-    flightGear.Changed = [&] { page.ShowState(); };
+    flightGear.Changed = [&] { page->ShowState(); };
     sender.Send(flightGear.Port(), "COM1=118.300,COM2=121.500,OP1=1,OP2=1,CS=D-EABC\n");
     EXPECT_TRUE(WaitFor([&] { return TextOf("FlightGearComesText") == "They come"; }));
     EXPECT_EQ(SignAt("FlightGearComes"), Sign::Good);
