@@ -17,10 +17,12 @@ QString SoundsWords(const simulators::Radio& radio, bool transmits) {
     return radio.IsHeard ? "Heard" : "Not heard";
 }
 
-QString ToldWords(const simulators::RadioTold& told) {
-    const QString words = ChoiceWords(told.Chosen, told.Kilohertz);
+// A radio without power has no station, and one that is being turned none yet.
+QString ToldWords(const simulators::RadioTold& told, bool isOperable) {
+    if (!told.IsSettled) return "Settling";
     if (told.Chosen.Why == directory::Reason::NoDirectory) return "There is no directory";
-    return told.IsSettled ? words : "Settling: " + words;
+    if (told.Chosen.Why == directory::Reason::NotTuned && !isOperable) return "None without power";
+    return ChoiceWords(told.Chosen, told.Kilohertz);
 }
 
 }  // namespace
@@ -52,7 +54,7 @@ void TunedBox::Show(const simulators::SimulatorState* state, const std::array<si
         const bool transmits = state->Transmits == static_cast<int>(radio) + 1;
         shown.Tuned->Show(tuned.Kilohertz == 0 ? QString("-") : ToQt(directory::Megahertz(tuned.Kilohertz)));
         shown.Sounds->Show(SoundsWords(tuned, transmits));
-        shown.Station->Show(ToldWords(told.at(radio)));
+        shown.Station->Show(ToldWords(told.at(radio), tuned.IsOperable));
         shown.Record->Show(RecordWords(records.at(radio)));
     }
 }

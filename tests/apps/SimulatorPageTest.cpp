@@ -61,9 +61,18 @@ TEST_F(SimulatorPageTest, ASimulatorIsShownWithAircraftPlaceAndRadios) {
     EXPECT_EQ(TextOf("SoundsCOM1"), "Heard, transmits");
     EXPECT_EQ(TextOf("SoundsCOM2"), "Not heard");
     EXPECT_EQ(TextOf("StationCOM1"), "BIKF_TWR, 12.3 nm of 50");
-    EXPECT_EQ(TextOf("StationCOM2"), "Settling: valid everywhere");
+    EXPECT_EQ(TextOf("StationCOM2"), "Settling");
     EXPECT_EQ(TextOf("RecordCOM1"), "TeamSpeak at voice.example.org:8767, Keflavik Tower, as pilot7");
     EXPECT_EQ(TextOf("RecordCOM2"), "None");
+}
+
+TEST_F(SimulatorPageTest, ARadioWithoutPowerHasNoStation) {
+    PlayFlight();
+    cessna.Told->Radios[1].IsOperable = false;
+    content.Radios[1] = {122800, true, {directory::Reason::NotTuned}};
+    ShowAll();
+    EXPECT_EQ(TextOf("SoundsCOM2"), "No power");
+    EXPECT_EQ(TextOf("StationCOM2"), "None without power");
 }
 
 TEST_F(SimulatorPageTest, ASilentSimulatorIsCountedAlsoWhileThePageIsHidden) {
