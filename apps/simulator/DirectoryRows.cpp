@@ -29,8 +29,9 @@ QString Since(long long seconds) {
 QString AgeWords(const directory::DirectoryTold& told) { return Since(told.Age) + (told.IsCopy ? ", a copy" : ""); }
 
 Sign SignOf(const directory::DirectoryTold& told) {
-    if (told.Age < 0) return told.Trouble.empty() ? Sign::Off : Sign::Bad;
-    return told.Trouble.empty() && told.FaultCount == 0 ? Sign::Good : Sign::Waiting;
+    if (told.Age < 0 && !told.Trouble.empty()) return Sign::Bad;
+    if (!told.Trouble.empty() || told.FaultCount > 0) return Sign::Waiting;
+    return told.Age < 0 ? Sign::Off : Sign::Good;
 }
 
 QString TroubleWords(const directory::DirectoryTold& told) {

@@ -22,7 +22,8 @@ QString ToldWords(const simulators::RadioTold& told, bool isOperable) {
     if (!told.IsSettled) return "Settling";
     if (told.Chosen.Why == directory::Reason::NoDirectory) return "There is no directory";
     if (told.Chosen.Why == directory::Reason::NotTuned && !isOperable) return "None without power";
-    return ChoiceWords(told.Chosen, told.Kilohertz);
+    const QString words = ChoiceWords(told.Chosen, told.Kilohertz);
+    return words.left(1).toUpper() + words.mid(1);
 }
 
 }  // namespace
