@@ -117,6 +117,8 @@ void RadioBox::Tune(int radio, const std::string& typed) {
 void RadioBox::LookUp(int radio, const std::string& frequency) {
     const FoundChannel found = lookUp && !frequency.empty() ? lookUp(frequency) : FoundChannel();
     if (found.Voice) network.SetVoice(radio, *found.Voice);
+    lookedUpRadio = static_cast<std::size_t>(radio);
+    lookedUpFrequency = frequency;
     lookedUp->setVisible(!found.Words.isEmpty());
     lookedUp->Show(found.Voice ? Sign::Good : Sign::Off,
                    found.Words.isEmpty() ? QString()
@@ -157,6 +159,7 @@ void RadioBox::ShowState() {
     }
     receive->setCurrentIndex(SelectionOf(session.Receive));
     transmit->setCurrentIndex(SelectionOf(session.Transmit));
+    if (session.Frequency.at(lookedUpRadio) != lookedUpFrequency) lookedUp->hide();
     ShowRemark();
 }
 

@@ -53,8 +53,10 @@ private:
     QComboBox* transmit;
     Remark* remark;
     SignalLight* lookedUp;
-    QString refused;   // the sentence on a frequency, "" for none
-    int refusing = 0;  // the radio that it is about
+    std::size_t lookedUpRadio = 0;
+    std::string lookedUpFrequency;  // what is said of it stands as long as the radio is tuned to it
+    QString refused;                // the sentence on a frequency, "" for none
+    int refusing = 0;               // the radio that it is about
     Ticket watch;
 };
 

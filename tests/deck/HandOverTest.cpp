@@ -87,6 +87,10 @@ TEST_F(DeckHandOver, AFrequencyBringsTheRecordThatADirectoryHasForIt) {
     EXPECT_EQ(Session().Voice[0].Channel, "Another one") << "stands until the next frequency";
     TypeOn("FrequencyCOM1", "118.3");
     EXPECT_EQ(Session().Voice[0].Channel, "Keflavik Tower");
+    EXPECT_TRUE(On<QLabel>("RadioLookedUpText").isVisible());
+    setUp.NetworkLink.SetFrequency(0, "121.500");
+    Settle();
+    EXPECT_FALSE(On<QLabel>("RadioLookedUpText").isVisible()) << "somebody else has tuned away";
 }
 
 TEST_F(DeckHandOver, AFrequencyThatNoDirectoryListsLeavesTheRecord) {
