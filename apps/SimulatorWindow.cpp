@@ -12,6 +12,8 @@
 #include "apps/SimulatorLinks.h"
 #include "apps/SimulatorProgram.h"
 #include "apps/SimulatorSetUpPage.h"
+#include "apps/simulator/HandTuning.h"
+#include "apps/simulator/PartsOfPage.h"
 #include "deck/fields/ScrolledPage.h"
 #include "deck/pages/NetworkPage.h"
 #include "platform/sides/FarSides.h"
@@ -25,7 +27,14 @@ constexpr QSize WantedSize(1000, 640);
 }  // namespace
 
 SimulatorWindow::SimulatorWindow(SimulatorProgram& simulatorProgram)
-    : program(simulatorProgram), setUp(new SimulatorSetUpPage(program)) {
+    : program(simulatorProgram),
+      setUp(new SimulatorSetUpPage(program)),
+      radios(new deck::NetworkPage({.Network = &program.Network},
+                                   [this](const std::string& frequency) {
+                                       return LookUpByHand(program.Parts.Directories.Index(), program.Parts.Logins,
+                                                           frequency, program.Network.Session().Callsign);
+                                   })),
+      simulator(new SimulatorPage(PartsOfPage(program.Parts, program.Network))) {
     setObjectName("SimulatorWindow");
     setWindowTitle("OrvelleCP Simulator's Computer");
     setWindowIcon(SimulatorIcon(Sign::Good));
@@ -33,7 +42,8 @@ SimulatorWindow::SimulatorWindow(SimulatorProgram& simulatorProgram)
     tabs->setObjectName("SimulatorPages");
     tabs->setDocumentMode(true);
     deck::AddScrolledPage(*tabs, setUp, "Set-&up");
-    deck::AddScrolledPage(*tabs, new deck::NetworkPage({.Network = &program.Network}), "Session an&d radios");
+    deck::AddScrolledPage(*tabs, radios, "Session an&d radios");
+    deck::AddScrolledPage(*tabs, simulator, "S&imulator");
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(tabs);
@@ -48,8 +58,10 @@ SimulatorWindow::SimulatorWindow(SimulatorProgram& simulatorProgram)
     };
     program.SetUpChanged = [this] { ShowState(); };
     program.DevicesChanged = [this] { ShowState(); };
+    program.Parts.Changed = [this] { ShowSimulator(); };
     watch = program.AtBroker.Observe([this] { ShowState(); });
     ShowState();
+    ShowSimulator();
 }
 
 void SimulatorWindow::Tell(const std::string& sentence) {
@@ -82,6 +94,12 @@ void SimulatorWindow::ShowState() {
     setUp->ShowState();
     const Sign sign = program.AtBroker.IsThere() ? Sign::Good : program.Trouble().empty() ? Sign::Waiting : Sign::Bad;
     tray.Show(sign, Tip());
+}
+
+void SimulatorWindow::ShowSimulator() {
+    const simulators::SimulatorSource* const chosen = program.Parts.Choice.Chosen();
+    radios->ShowRuler(program.Parts.Session.Rules() && chosen ? ToQt(chosen->Name()) : QString());
+    simulator->ShowState();
 }
 
 QString SimulatorWindow::Tip() const {

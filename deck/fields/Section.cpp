@@ -86,4 +86,16 @@ void Section::AddCaptions(const QStringList& texts) {
     ++nextRow;
 }
 
+QWidget* Labelled(const QString& label, QWidget* field) {
+    auto* widget = new QWidget;
+    auto* row = new QHBoxLayout(widget);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Unit);
+    auto* caption = new QLabel(label);
+    caption->setBuddy(field);
+    row->addWidget(caption);
+    row->addWidget(field, 1);
+    return widget;
+}
+
 }  // namespace orvelle::deck

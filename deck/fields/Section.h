@@ -39,4 +39,7 @@ private:
     int nextRow = 1;
 };
 
+// A field with a label of its own, whose mnemonic leads to it, in one place of a row.
+QWidget* Labelled(const QString& label, QWidget* field);
+
 }  // namespace orvelle::deck

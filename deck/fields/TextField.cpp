@@ -48,9 +48,13 @@ void TextField::ShowRefusal(const QString& why) {
 
 void TextField::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && isModified())
-        ShowHolding();
+        TakeBack();
     else
         QLineEdit::keyPressEvent(event);
+}
+
+void TextField::TakeBack() {
+    if (isModified()) ShowHolding();
 }
 
 void TextField::ShowHolding() {

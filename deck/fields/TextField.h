@@ -20,6 +20,8 @@ public:
     void Show(const std::string& text);
     // A triangle in the field, whose tool tip says why the user's text was refused; "" takes it away.
     void ShowRefusal(const QString& why);
+    // What is being typed; the text that holds stands there again.
+    void TakeBack();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -1,7 +1,10 @@
 #include "deck/pages/NetworkPage.h"
 
 #include <QVBoxLayout>
+#include <utility>
 
+#include "deck/fields/Remark.h"
+#include "deck/fields/TextField.h"
 #include "deck/pages/LinkBox.h"
 #include "deck/pages/RadioBox.h"
 #include "deck/pages/RecordsBox.h"
@@ -10,15 +13,30 @@
 
 namespace orvelle::deck {
 
-NetworkPage::NetworkPage(const FarSides& sides) {
+NetworkPage::NetworkPage(const FarSides& sides, ChannelLookUp lookUp)
+    : ruler(new Remark("Ruler")),
+      session(new SessionBox(*sides.Network)),
+      radios(new RadioBox(*sides.Network, std::move(lookUp))) {
     setObjectName("NetworkPage");
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(SectionGap);
     if (sides.NetworkLink) column->addWidget(new LinkBox("Network", "Network", "&Network link", *sides.NetworkLink));
-    column->addWidget(new SessionBox(*sides.Network));
-    column->addWidget(new RadioBox(*sides.Network));
+    column->addWidget(ruler);
+    column->addWidget(session);
+    column->addWidget(radios);
     column->addWidget(new RecordsBox(*sides.Network), 1);
+}
+
+void NetworkPage::ShowRuler(const QString& simulator) {
+    ruler->Show(simulator.isEmpty() ? QString() : simulator + " sets session and radios.");
+    for (QWidget* box : {session, radios}) {
+        // What was half typed would be applied as its field loses the keys.
+        if (!simulator.isEmpty())
+            for (QLineEdit* edit : box->findChildren<QLineEdit*>())
+                if (auto* field = dynamic_cast<TextField*>(edit)) field->TakeBack();
+        box->setEnabled(simulator.isEmpty());
+    }
 }
 
 }  // namespace orvelle::deck

@@ -3,16 +3,28 @@
 
 #include <QWidget>
 
+#include "deck/pages/ChannelLookUp.h"
+
 namespace orvelle {
 struct FarSides;
 }  // namespace orvelle
 
 namespace orvelle::deck {
 
+class Remark;
+
 class NetworkPage : public QWidget {
 public:
     // The network is there.
-    explicit NetworkPage(const FarSides& sides);
+    explicit NetworkPage(const FarSides& sides, ChannelLookUp lookUp = {});
+
+    // Session and radios are set by a simulator of this name, and by nobody else meanwhile; "" for none.
+    void ShowRuler(const QString& simulator);
+
+private:
+    Remark* ruler;
+    QWidget* session;
+    QWidget* radios;
 };
 
 }  // namespace orvelle::deck

@@ -1,13 +1,12 @@
 #include "deck/pages/RadioBox.h"
 
 #include <QComboBox>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <utility>
 
 #include "deck/fields/Fields.h"
 #include "deck/fields/Frequencies.h"
 #include "deck/fields/Remark.h"
+#include "deck/fields/SignalLight.h"
 #include "deck/fields/TextField.h"
 #include "deck/pages/RadioRemarks.h"
 #include "platform/RadioSelection.h"
@@ -50,29 +49,19 @@ int SelectionOf(const std::string& text) {
     return NoSelection;
 }
 
-QWidget* Labelled(const QString& label, QWidget* field) {
-    auto* widget = new QWidget;
-    auto* row = new QHBoxLayout(widget);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Unit);
-    auto* caption = new QLabel(label);
-    caption->setBuddy(field);
-    row->addWidget(caption);
-    row->addWidget(field, 1);
-    return widget;
-}
-
 }  // namespace
 
-RadioBox::RadioBox(NetworkSide& framework)
+RadioBox::RadioBox(NetworkSide& framework, ChannelLookUp channelLookUp)
     : Section("Radios", "Radios", 2),
       network(framework),
+      lookUp(std::move(channelLookUp)),
       radios{NewRadio(0), NewRadio(1)},
       receive(NewSelection("Receive", "The radios that are received",
                            [this](const std::string& text) { network.SetReceive(text); })),
       transmit(NewSelection("Transmit", "The radio that transmits",
                             [this](const std::string& text) { network.SetTransmit(text); })),
       remark(new Remark("RadioRemark")),
+      lookedUp(new SignalLight("RadioLookedUp")),
       watch(network.Observe([this] { ShowState(); })) {
     AddCaptions({RadioName(0), RadioName(1)});
     AddRow("&Frequency", {radios[0].Frequency, radios[1].Frequency});
@@ -86,7 +75,10 @@ RadioBox::RadioBox(NetworkSide& framework)
     transmit->setAccessibleName("Transmit");
     AddRow("&Receive", {receive, Labelled("&Transmit", transmit)});
     // Below all fields, none of which moves when it comes or goes.
+    AddWide(lookedUp);
     AddWide(remark);
+    lookedUp->setAccessibleName("Directories");
+    lookedUp->hide();
     ShowState();
 }
 
@@ -117,7 +109,21 @@ void RadioBox::Tune(int radio, const std::string& typed) {
     refusing = radio;
     radios.at(static_cast<std::size_t>(radio)).Frequency->Show(frequency.value_or(held));
     if (frequency) network.SetFrequency(radio, *frequency);
+    LookUp(radio, frequency.value_or(""));
     ShowRemark();
+}
+
+// "" is nothing to look up.
+void RadioBox::LookUp(int radio, const std::string& frequency) {
+    const FoundChannel found = lookUp && !frequency.empty() ? lookUp(frequency) : FoundChannel();
+    if (found.Voice) network.SetVoice(radio, *found.Voice);
+    lookedUpRadio = static_cast<std::size_t>(radio);
+    lookedUpFrequency = frequency;
+    lookedUp->setVisible(!found.Words.isEmpty());
+    lookedUp->Show(found.Voice ? Sign::Good : Sign::Off,
+                   found.Words.isEmpty() ? QString()
+                                         : LookedUpFrequency(radio, frequency, found.Words,
+                                                             found.Voice ? RecordFrom::Directory : RecordFrom::Before));
 }
 
 // Who goes on to something else has read what was refused.
@@ -153,6 +159,7 @@ void RadioBox::ShowState() {
     }
     receive->setCurrentIndex(SelectionOf(session.Receive));
     transmit->setCurrentIndex(SelectionOf(session.Transmit));
+    if (session.Frequency.at(lookedUpRadio) != lookedUpFrequency) lookedUp->hide();
     ShowRemark();
 }
 

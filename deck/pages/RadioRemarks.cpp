@@ -13,8 +13,18 @@ constexpr qsizetype MostLetters = 24;
 
 QString Shortened(const QString& text) { return text.size() > MostLetters ? text.left(MostLetters) + "…" : text; }
 
-QString NameOf(Long software) {
+bool NeedsChannel(Long software) {
+    return software == RogerWilco || software == TeamSpeakHost || software == VatsimVoice;
+}
+
+}  // namespace
+
+QString RadioName(int radio) { return radio == 0 ? "COM1" : "COM2"; }
+
+QString SoftwareName(Long software) {
     switch (software) {
+        case NoVoice:
+            return "None";
         case RogerWilco:
             return "RogerWilco";
         case VatsimVoice:
@@ -26,17 +36,14 @@ QString NameOf(Long software) {
     }
 }
 
-bool NeedsChannel(Long software) {
-    return software == RogerWilco || software == TeamSpeakHost || software == VatsimVoice;
-}
-
-}  // namespace
-
-QString RadioName(int radio) { return radio == 0 ? "COM1" : "COM2"; }
-
 QString RefusedFrequency(int radio, const std::string& typed, const std::string& held) {
     return RadioName(radio) + (held.empty() ? " stays as it is" : " stays on " + ToQt(held)) + ": \"" +
            Shortened(ToQt(typed)) + "\" is none of its frequencies, 118.000 to 136.990 in steps of 25 or 8.33 kHz.";
+}
+
+QString LookedUpFrequency(int radio, const std::string& frequency, const QString& words, RecordFrom from) {
+    return RadioName(radio) + " on " + ToQt(frequency) + ": " + words +
+           (from == RecordFrom::Directory ? "." : "; its voice record stays as it is.");
 }
 
 QString MissingOnRadios(const SessionSetting& session) {
@@ -49,7 +56,7 @@ QString MissingOnRadios(const SessionSetting& session) {
         if (voice.Channel.empty() && NeedsChannel(voice.Software)) missing << "a channel";
         if (!missing.isEmpty())
             sentences << RadioName(static_cast<int>(radio)) + " needs " + missing.join(" and ") + " for " +
-                             NameOf(voice.Software) + ".";
+                             SoftwareName(voice.Software) + ".";
     }
     return sentences.join(" ");
 }

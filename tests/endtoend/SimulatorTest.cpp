@@ -5,11 +5,13 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
+#include <QTabWidget>
 #include <csignal>
 
 #include "adapters/looks/Text.h"
 #include "adapters/mqtt/Member.h"
 #include "tests/endtoend/SimulatorRig.h"
+#include "tests/linux/ChildProcess.h"
 #include "tests/mqtt/broker/BrokerProcess.h"
 #include "tests/qt/shell/WidgetInput.h"
 
@@ -66,6 +68,39 @@ protected:
 
     User user;
 };
+
+// FlightGear, played by a program of its own that tells its radios ten times a second until it is killed.
+struct PlayedFlightGear {
+    explicit PlayedFlightGear(std::uint16_t port)
+        : Program({"/bin/bash", "-c",
+                   "exec 3>/dev/udp/127.0.0.1/" + std::to_string(port) +
+                       "; while :; do echo COM1=118.300,COM2=121.500,OP1=1,OP2=1,VOL1=1,VOL2=1,TX=1,ONLINE=1,"
+                       "AIRCRAFT=c172p,CS=D-EABC >&3; sleep 0.1 3>&-; done"}) {}
+
+    linux::ChildProcess Program;
+};
+
+TEST_F(SimulatorTest, ASimulatorTakesSessionAndRadiosAndGivesThemBack) {
+    ASSERT_NO_FATAL_FAILURE(Open());
+    ASSERT_TRUE(IsThere());
+    program->Network.SetFrequency(0, "122.800");
+    At<QTabWidget>("SimulatorPages").setCurrentIndex(2);
+    {
+        PlayedFlightGear flightGear(program->Parts.FlightGearLine.Port());
+        EXPECT_TRUE(ComesTrue([&] { return At<QLabel>("FoundText").text() == "FlightGear"; }));
+        EXPECT_TRUE(ComesTrue([&] { return At<QLabel>("TunedCOM1").text() == "118.300"; }));
+        EXPECT_EQ(At<QLabel>("Aircraft").text(), "c172p, callsign D-EABC, online");
+        EXPECT_TRUE(ComesTrue([&] { return At<QLineEdit>("FrequencyCOM1").text() == "118.300"; }));
+        EXPECT_FALSE(At<QLineEdit>("FrequencyCOM1").isEnabled());
+        EXPECT_EQ(At<QLabel>("Ruler").text(), "FlightGear sets session and radios.");
+        flightGear.Program.Kill(SIGKILL);
+        flightGear.Program.Wait();
+        EXPECT_TRUE(ComesTrue([&] { return At<QLineEdit>("FrequencyCOM1").isEnabled(); }));
+    }
+    EXPECT_TRUE(ComesTrue([&] { return At<QLineEdit>("FrequencyCOM1").text() == "122.800"; }));
+    EXPECT_EQ(At<QLabel>("Ruler").text(), "");
+    EXPECT_TRUE(ComesTrue([&] { return At<QLabel>("FoundText").text().startsWith("None"); }));
+}
 
 TEST_F(SimulatorTest, AnAddedComputerHasACodeAndIsListedUntilItIsRemoved) {
     ASSERT_NO_FATAL_FAILURE(Open());
