@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "adapters/mqtt/BrokerTroubles.h"
+#include "adapters/mqtt/Topics.h"
 #include "adapters/shared/Environment.h"
 #include "apps/AskedSounds.h"
 #include "apps/ComputerName.h"
@@ -34,6 +35,9 @@ SimulatorProgram::SimulatorProgram(EventLoop& eventLoop, const SimulatorCommand&
     reached = AtBroker.Reached.Attach([this] { troubles->Reach({member->Host, member->Port}); });
     failed = AtBroker.Failed.Attach([this](mqtt::BrokerTrouble why) {
         IsOwnBrokersEnd(why) ? troubles->Rest() : troubles->Fail(why, {member->Host, member->Port});
+    });
+    heard = AtBroker.DirectoryHeard.Attach([this](int identity, const std::string& name, const std::string& text) {
+        Parts.Topics.Hear(mqtt::WriteIdentity(identity), name, text);
     });
 }
 

@@ -67,7 +67,7 @@ private:
     std::string toldOfFile;
     std::optional<mqtt::TroubleTeller> troubles;  // of the member
     std::vector<std::string> toldOfDevices;
-    Ticket reached, failed;
+    Ticket reached, failed, heard;
 };
 
 }  // namespace orvelle
