@@ -25,7 +25,7 @@ struct SimulatorState {
     std::array<Radio, 2> Radios;  // COM1 and COM2
     int Transmits = 0;            // 1 or 2: the radio on which the user would talk; 0 for none
     std::string Callsign;         // "" where the simulator knows none
-    std::string Tail;             // the aircraft's registration, "" where the simulator tells none
+    std::string Tail{};           // the aircraft's registration, "" where the simulator tells none
     bool IsOnline = false;        // connected to the multiplayer network, as far as the simulator knows
     bool IsPaused = false;
     std::optional<Place> Where;  // none where the simulator tells none, or one that can't be

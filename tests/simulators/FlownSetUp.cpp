@@ -7,15 +7,15 @@
 #include "adapters/mqtt/JoinCode.h"
 #include "adapters/mqtt/Payloads.h"
 #include "adapters/mqtt/Topics.h"
+#include "apps/FreePort.h"
 #include "tests/linux/ServeUntil.h"
 #include "tests/linux/WaitUntil.h"
-#include "tests/mqtt/broker/LoopbackPorts.h"
 #include "tests/simulators/FlightGearRig.h"
 
 namespace orvelle::simulators {
 
 FlownSetUp::FlownSetUp(const std::string& program, const std::string& directory, const std::string& display)
-    : port(mqtt::FreePort()), linesPort(LoopbackSocket().Port()) {
+    : port(FreePort()), linesPort(LoopbackSocket().Port()) {
     const std::filesystem::path data = folder.Path / "data";
     std::filesystem::create_directories(data / "directory.d");
     std::ofstream(data / "directory.d" / "club.json") << directory;
@@ -23,7 +23,7 @@ FlownSetUp::FlownSetUp(const std::string& program, const std::string& directory,
         "/usr/bin/env", "-u", "WAYLAND_DISPLAY", "DISPLAY=" + display, "HOME=" + folder.Path.string(),
         "XDG_SESSION_TYPE=x11", program, "--no-window", "--data", data.string(), "--port", std::to_string(port),
         "--flightgear-port", std::to_string(linesPort)});
-    EXPECT_TRUE(linux::WaitUntil([this] { return mqtt::Listens(port); }));
+    EXPECT_TRUE(linux::WaitUntil([this] { return IsListenedTo(port); }));
     Join(program);
     EXPECT_TRUE(Until([this] { return second.IsUp(); }));
 }
