@@ -62,7 +62,10 @@ bool Pilot::IsOn() {
 void Pilot::StartSimulator() {
     simulator.setProcessChannelMode(QProcess::MergedChannels);
     QObject::connect(&simulator, &QProcess::readyRead, [this] { PassOnWhatItSays(); });
-    computer.Run(simulator, "orvelle-sim", {"--no-window", "--data", SetUpFolder(), "--port", QString::number(port)});
+    // Both pilots' programs run on one computer here, so each has its own port of FlightGear, too.
+    computer.Run(simulator, "orvelle-sim",
+                 {"--no-window", "--data", SetUpFolder(), "--port", QString::number(port), "--flightgear-port",
+                  QString::number(FreePort())});
 }
 
 // That set-ups are not found by themselves is nothing to the story, which names its hosts.
