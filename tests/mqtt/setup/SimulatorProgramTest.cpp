@@ -6,6 +6,8 @@
 #include <csignal>
 #include <cstdlib>
 #include <fstream>
+#include <set>
+#include <sstream>
 
 #include "adapters/mqtt/JoinCode.h"
 #include "adapters/mqtt/OwnSetUp.h"
@@ -390,8 +392,11 @@ TEST_F(GuestTest, TwoAsOneComputerGoOnAndDoNotTellAgainAndAgain) {
     program->Kill(SIGTERM);
     EXPECT_EQ(program->Wait(), 0);
     // Each reason once, however often.
-    for (const std::string& told : {program->Errors(), second.Errors()})
-        EXPECT_LE(std::ranges::count(told, '\n'), 3) << told;
+    for (const std::string& told : {program->Errors(), second.Errors()}) {
+        std::istringstream lines(told);
+        std::set<std::string> seen;
+        for (std::string line; std::getline(lines, line);) EXPECT_TRUE(seen.insert(line).second) << told;
+    }
 }
 
 TEST_F(SimulatorProgramTest, WordsThatAreNotUnderstoodAreToldInOneLine) {
