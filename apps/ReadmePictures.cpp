@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "apps/PanelPages.h"
+#include "apps/SimulatorPicture.h"
 #include "apps/UserStrokes.h"
 #include "apps/Waiting.h"
 #include "deck/FirstFlight.h"
@@ -139,7 +140,7 @@ bool ReadmePictures::Take() {
     Keep(screen.copy(house.Desktop.Window().frameGeometry() | house.Deck->frameGeometry()), "desktop");
     Keep(screen.copy(QRect(QPoint(screen.width() - TrayIcon.width(), 0), TrayIcon)).scaled(TrayIcon * TrayScale),
          "tray");
-    return true;
+    return TakeSimulatorPicture(folder, ending);
 }
 
 void ReadmePictures::Keep(const QPixmap& picture, const QString& name) const {

@@ -1,6 +1,7 @@
 // Takes the pictures that README.md shows, of a whole panel at work: what its user set up on another day is in its
-// settings, links and session are up, both radios are tuned, one of them talks. Each picture is a PNG, named by what it
-// shows and the palette: overview-light.png. For a display of its own with a tray, where nothing else happens.
+// settings, links and session are up, both radios are tuned, one of them talks; and one of the simulator's program,
+// SimulatorPicture.h. Each picture is a PNG, named by what it shows and the palette: overview-light.png. For a display
+// of its own with a tray, where nothing else happens.
 #pragma once
 
 #include <QDir>

@@ -1,7 +1,6 @@
 #include "apps/simulator/DirectoriesBox.h"
 
 #include <QDesktopServices>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -10,19 +9,15 @@
 #include <system_error>
 #include <utility>
 
-#include "adapters/looks/SignIcon.h"
 #include "adapters/looks/Text.h"
 #include "apps/simulator/DirectoryRows.h"
 #include "apps/simulator/LeastHeight.h"
 #include "deck/fields/Fields.h"
 #include "deck/fields/Readout.h"
-#include "deck/fields/Tables.h"
 
 namespace orvelle {
 
 namespace {
-
-enum Column { Name, From, Stations, Age, Trouble };
 
 constexpr int LeastRows = 3;
 constexpr int FaultLines = 2;
@@ -38,22 +33,11 @@ QPlainTextEdit* NewFaults() {
     return edit;
 }
 
-QTableWidget* NewDirectories() {
-    QTableWidget* table =
-        deck::NewTable("Directories", "The directories of voice channels, the first that lists a channel counts",
-                       {"Name", "From", "Stations", "Age", "Trouble"}, Trouble);
-    table->setEditTriggers(QTableWidget::NoEditTriggers);
-    // Addresses may be long, too.
-    table->horizontalHeader()->setSectionResizeMode(From, QHeaderView::Stretch);
-    return table;
-}
-
 }  // namespace
 
 DirectoriesBox::DirectoriesBox(DirectoryDoings directoryDoings)
     : Section("DirectoriesSection", "Directories of voice channels", 4),
       doings(std::move(directoryDoings)),
-      table(NewDirectories()),
       faults(NewFaults()),
       address(new QLineEdit),
       remove(deck::NewButton("RemoveDirectory", "Remo&ve", "Takes the selected address out", [this] { Remove(); })),
@@ -71,10 +55,10 @@ DirectoriesBox::DirectoriesBox(DirectoryDoings directoryDoings)
     address->setPlaceholderText("www.example.org/channels.json");
     address->setToolTip("Where a community keeps its directory, by HTTPS; Enter adds it");
     connect(address, &QLineEdit::returnPressed, this, [this] { EnterTyped(); });
-    connect(table, &QTableWidget::itemSelectionChanged, this, [this] { ShowSelected(); });
+    connect(table.Widget(), &QTableWidget::itemSelectionChanged, this, [this] { ShowSelected(); });
     auto* folder = new deck::Readout("DirectoryFolder");
     folder->Show(doings.Folder.string());
-    AddAtLeast(*this, table, LeastRows + 1, 2);
+    AddAtLeast(*this, table.Widget(), LeastRows + 1, 2);
     AddAtLeast(*this, faults, FaultLines, 1);
     AddRow("", {remove, up, down, fetch});
     AddRow("Add&ress", {address, nullptr, nullptr,
@@ -90,42 +74,18 @@ DirectoriesBox::DirectoriesBox(DirectoryDoings directoryDoings)
 }
 
 void DirectoriesBox::Show(std::vector<directory::DirectoryTold> told, const std::vector<std::string>& addresses) {
-    const std::string selected = Selected();
-    directories = std::move(told);
     entered = addresses;
     for (const std::string& each : entered) {
-        if (std::ranges::find(directories, each, &directory::DirectoryTold::Source) != directories.end()) continue;
-        directories.emplace_back().Source = each;
+        if (std::ranges::find(told, each, &directory::DirectoryTold::Source) != told.end()) continue;
+        told.emplace_back().Source = each;
     }
-    {
-        const QSignalBlocker quiet(table);
-        table->setRowCount(static_cast<int>(directories.size()));
-        for (int row = 0; row < table->rowCount(); ++row) ShowRow(row);
-        // The selection follows its directory, wherever that stands now.
-        const auto found = std::ranges::find(directories, selected, &directory::DirectoryTold::Source);
-        if (selected.empty() || found == directories.end())
-            table->clearSelection();
-        else if (Selected() != selected)
-            table->selectRow(static_cast<int>(found - directories.begin()));
-    }
+    directories = std::move(told);
+    table.Show(directories);
     ShowSelected();
 }
 
-void DirectoriesBox::ShowRow(int row) {
-    const directory::DirectoryTold& told = directories.at(static_cast<std::size_t>(row));
-    const QString trouble = TroubleWords(told);
-    deck::ShowCell(*table, row, Name, told.Name.empty() ? QString("-") : ToQt(told.Name));
-    auto& from = deck::ShowCell(*table, row, From, ToQt(told.Source));
-    from.setToolTip(PlainTip(ToQt(told.Source)));
-    deck::ShowCell(*table, row, Stations, static_cast<qulonglong>(told.Stations));
-    deck::ShowCell(*table, row, Age, AgeWords(told));
-    auto& cell = deck::ShowCell(*table, row, Trouble, trouble);
-    cell.setIcon(SignIcon(SignOf(told)));
-    cell.setToolTip(PlainTip(trouble));
-}
-
 void DirectoriesBox::ShowSelected() {
-    const auto found = std::ranges::find(directories, Selected(), &directory::DirectoryTold::Source);
+    const auto found = std::ranges::find(directories, table.Selected(), &directory::DirectoryTold::Source);
     const QString text = found == directories.end() ? QString() : FaultWords(*found);
     if (faults->toPlainText() != text) faults->setPlainText(text);
     const std::size_t place = SelectedPlace();
@@ -135,13 +95,8 @@ void DirectoriesBox::ShowSelected() {
     fetch->setEnabled(!entered.empty());
 }
 
-std::string DirectoriesBox::Selected() const {
-    const QList<QTableWidgetItem*> selected = table->selectedItems();
-    return selected.isEmpty() ? "" : FromQt(table->item(selected.first()->row(), From)->text());
-}
-
 std::size_t DirectoriesBox::SelectedPlace() const {
-    return static_cast<std::size_t>(std::ranges::find(entered, Selected()) - entered.begin());
+    return static_cast<std::size_t>(std::ranges::find(entered, table.Selected()) - entered.begin());
 }
 
 void DirectoriesBox::EnterTyped() {

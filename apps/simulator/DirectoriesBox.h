@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "apps/simulator/DirectoryTable.h"
 #include "deck/fields/Section.h"
 #include "platform/Event.h"
 #include "simulators/directory/Directories.h"
@@ -15,7 +16,6 @@
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
-class QTableWidget;
 
 namespace orvelle {
 
@@ -39,20 +39,18 @@ public:
     Event<> Changed;  // the user entered, removed or moved an address
 
 private:
-    void ShowRow(int row);
     void ShowSelected();
     void EnterTyped();
     void Remove();
     void Move(int places);
     void Apply(const std::vector<std::string>& addresses, const QString& success);
     void OpenFolder();
-    std::string Selected() const;       // from where it comes, "" for none
     std::size_t SelectedPlace() const;  // among the addresses; their number for none
 
     const DirectoryDoings doings;
     std::vector<directory::DirectoryTold> directories;  // a row each
     std::vector<std::string> entered;
-    QTableWidget* table;
+    DirectoryTable table;
     QPlainTextEdit* faults;
     QLineEdit* address;
     QPushButton *remove, *up, *down, *fetch;

@@ -61,6 +61,19 @@ FlightGearBox::FlightGearBox(const simulators::FlightGearLine& flightGear,
     AddWide(answer);
     answer->setAccessibleName("FlightGear's options");
     FitHeight(*lines);
+    const auto both = options.Lines();
+    lines->setPlainText(ToQt(both[0]) + "\n" + ToQt(both[1]));
+}
+
+void FlightGearBox::showEvent(QShowEvent* event) {
+    Section::showEvent(event);
+    LookAtFile();
+}
+
+void FlightGearBox::LookAtFile() {
+    areAdded = options.AreAdded();
+    add->setEnabled(!areAdded);
+    takeOut->setEnabled(areAdded);
     ShowState();
 }
 
@@ -70,17 +83,11 @@ void FlightGearBox::Copy() {
 }
 
 void FlightGearBox::Change(const std::string& failure, const QString& success) {
-    ShowState();
+    LookAtFile();
     answer->Show(failure.empty() ? success : ToQt(failure));
 }
 
 void FlightGearBox::ShowState() {
-    const auto both = options.Lines();
-    const QString text = ToQt(both[0]) + "\n" + ToQt(both[1]);
-    if (lines->toPlainText() != text) lines->setPlainText(text);
-    const bool areAdded = options.AreAdded();
-    add->setEnabled(!areAdded);
-    takeOut->setEnabled(areAdded);
     using simulators::Presence;
     if (!line.Problem().empty()) return comes->Show(Sign::Bad, ToQt(line.Problem()));
     if (line.Stands() == Presence::Live) return comes->Show(Sign::Good, "They come");

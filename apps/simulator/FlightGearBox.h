@@ -29,7 +29,11 @@ public:
 
     void ShowState();
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
+    void LookAtFile();
     void Copy();
     void Change(const std::string& failure, const QString& success);
 
@@ -40,6 +44,7 @@ private:
     QPushButton* add;
     QPushButton* takeOut;
     deck::Readout* answer;
+    bool areAdded = false;  // the lines to the file, when it was looked at
 };
 
 }  // namespace orvelle

@@ -68,6 +68,7 @@ FoundBox::FoundBox(std::function<void(const std::string&)> setOwnCallsign)
 void FoundBox::Show(const simulators::SimulatorSource* chosen,
                     const std::vector<simulators::SimulatorSource*>& passedOver, const std::string& ownCallsign,
                     const QString& trouble) {
+    Follow(chosen);
     const simulators::SimulatorState* const state = chosen && chosen->State() ? &*chosen->State() : nullptr;
     ShowPresence(chosen);
     aircraft->Show(AircraftWords(state));

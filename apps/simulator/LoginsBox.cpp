@@ -51,37 +51,44 @@ LoginsBox::LoginsBox(directory::OwnLogins& ownLogins)
       answer(new deck::Readout("LoginAnswer")) {
     password->setEchoMode(QLineEdit::Password);
     for (const QLineEdit* edit : {server, login, password})
-        connect(edit, &QLineEdit::textChanged, this, [this] { ShowState(); });
+        connect(edit, &QLineEdit::textChanged, this, [this] { ShowButtons(); });
     connect(table, &QTableWidget::itemSelectionChanged, this, [this] { ShowSelected(); });
     AddAtLeast(*this, table, LeastRows + 1, 1);
     AddRow("&Server", {server, nullptr, keep, forget});
     AddRow("Lo&gin", {login, nullptr, deck::Labelled("Pass&word", password)});
     AddRow("", {answer});
     answer->setAccessibleName("Own logins");
-    ShowState();
+    ShowButtons();
+}
+
+void LoginsBox::showEvent(QShowEvent* event) {
+    Section::showEvent(event);
+    ShowKept();
 }
 
 void LoginsBox::Set(const directory::OwnLogin& wanted, const QString& success) {
     const std::string failure = logins.Set(FromQt(server->text().trimmed()), wanted);
     if (failure.empty())
         for (QLineEdit* edit : {server, login, password}) edit->clear();
-    ShowState();
+    ShowKept();
     answer->Show(failure.empty() ? success : ToQt(failure));
     if (failure.empty()) Changed();
 }
 
-void LoginsBox::ShowState() {
-    {
-        const QSignalBlocker quiet(table);
-        table->setRowCount(static_cast<int>(logins.All().size()));
-        for (int row = 0; const auto& [name, own] : logins.All()) {
-            deck::ShowCell(*table, row, Server, ToQt(name));
-            deck::ShowCell(*table, row, Login, own.Login.empty() ? QString("-") : ToQt(own.Login));
-            // Always as many, as their number is nobody's business.
-            deck::ShowCell(*table, row, Password, own.Password.empty() ? QString("-") : QString("••••••"));
-            ++row;
-        }
+void LoginsBox::ShowKept() {
+    const QSignalBlocker quiet(table);
+    table->setRowCount(static_cast<int>(logins.All().size()));
+    for (int row = 0; const auto& [name, own] : logins.All()) {
+        deck::ShowCell(*table, row, Server, ToQt(name));
+        deck::ShowCell(*table, row, Login, own.Login.empty() ? QString("-") : ToQt(own.Login));
+        // Always as many, as their number is nobody's business.
+        deck::ShowCell(*table, row, Password, own.Password.empty() ? QString("-") : QString("••••••"));
+        ++row;
     }
+    ShowButtons();
+}
+
+void LoginsBox::ShowButtons() {
     const std::string name = FromQt(server->text().trimmed());
     keep->setEnabled(!name.empty() && !(login->text().isEmpty() && password->text().isEmpty()));
     forget->setEnabled(!name.empty() && logins.Find(name) != nullptr);

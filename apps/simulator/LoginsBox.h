@@ -25,11 +25,14 @@ public:
     // They outlive the box.
     explicit LoginsBox(directory::OwnLogins& ownLogins);
 
-    void ShowState();
-
     Event<> Changed;  // by the user
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
+    void ShowKept();
+    void ShowButtons();
     void Set(const directory::OwnLogin& login, const QString& success);
     void ShowSelected();
 

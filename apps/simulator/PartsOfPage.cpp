@@ -8,8 +8,7 @@ namespace {
 
 // FlightGear's trouble stands beside its lines.
 SimulatorPageContent ContentOf(const SimulatorParts& parts, const NetworkSide& network) {
-    return {.Chosen = parts.Choice.Chosen(),
-            .PassedOver = parts.Choice.PassedOver(),
+    return {.PassedOver = parts.Choice.PassedOver(),
             .Trouble = parts.XPlane.Problem(),
             .OwnCallsign = parts.Session.OwnCallsign(),
             .Radios = parts.Session.Radios(),
@@ -30,6 +29,7 @@ SimulatorPageParts PartsOfPage(SimulatorParts& parts, const NetworkSide& network
                                     return parts.Addresses.Enter(addresses);
                                 },
                             .FetchNow = [&parts] { parts.Addresses.FetchNow(); }},
+            .Chosen = [&parts] { return parts.Choice.Chosen(); },
             .Content = [&parts, &network] { return ContentOf(parts, network); },
             .SetOwnCallsign = [&parts](const std::string& callsign) { parts.SetOwnCallsign(callsign); },
             .LoginsChanged = [&parts] { parts.Session.TakeUpLogins(); }};

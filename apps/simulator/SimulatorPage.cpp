@@ -21,10 +21,6 @@ constexpr auto Pace = 200ms;       // between two showings, as a simulator in fl
 constexpr auto WhileSilent = 1s;   // told in seconds
 constexpr auto WhileAgeing = 20s;  // told in minutes
 
-bool IsSilent(const SimulatorPageContent& content) {
-    return content.Chosen && content.Chosen->Stands() == simulators::Presence::Busy;
-}
-
 // The last one takes the height that is left.
 QVBoxLayout* ColumnOf(QWidget* first, QWidget* last) {
     auto* column = new QVBoxLayout;
@@ -59,25 +55,23 @@ SimulatorPage::SimulatorPage(const SimulatorPageParts& pageParts)
     connect(&soon, &QTimer::timeout, this, [this] { ShowNow(); });
     later.setSingleShot(true);
     connect(&later, &QTimer::timeout, this, [this] { ShowNow(); });
-    ShowNow();
 }
 
 void SimulatorPage::ShowState() {
-    if (!soon.isActive()) soon.start(Pace);
+    found->Follow(parts.Chosen());
+    if (isVisible() && !soon.isActive()) soon.start(Pace);
 }
 
 void SimulatorPage::ShowNow() {
-    const SimulatorPageContent content = parts.Content();
-    found->Follow(content.Chosen);
     later.stop();
     if (!isVisible()) return;
-    const auto* state = content.Chosen && content.Chosen->State() ? &*content.Chosen->State() : nullptr;
-    found->Show(content.Chosen, content.PassedOver, content.OwnCallsign, ToQt(content.Trouble));
-    tuned->Show(state, content.Radios, content.Records);
+    const simulators::SimulatorSource* const chosen = parts.Chosen();
+    const SimulatorPageContent content = parts.Content();
+    found->Show(chosen, content.PassedOver, content.OwnCallsign, ToQt(content.Trouble));
+    tuned->Show(chosen && chosen->State() ? &*chosen->State() : nullptr, content.Radios, content.Records);
     flightGear->ShowState();
-    logins->ShowState();
     directories->Show(content.Directories, content.Addresses);
-    if (IsSilent(content))
+    if (chosen && chosen->Stands() == simulators::Presence::Busy)
         later.start(WhileSilent);
     else if (!content.Directories.empty())
         later.start(WhileAgeing);

@@ -1,6 +1,6 @@
 // The third page of the window of the simulator's program: which simulator is there and what its radios came to,
-// FlightGear's options, the directories of voice channels, and the user's own logins. It asks for what it shows, at
-// changes that it is told of, at most five times a second, and while it is seen also as time passes.
+// FlightGear's options, the directories of voice channels, and the user's own logins. While it is seen it asks for what
+// it shows, at changes that it is told of, at most five times a second, and as time passes.
 #pragma once
 
 #include <QTimer>
@@ -32,7 +32,6 @@ class SimulatorSource;
 
 // What it shows, as it is now.
 struct SimulatorPageContent {
-    const simulators::SimulatorSource* Chosen = nullptr;  // null for none
     std::vector<simulators::SimulatorSource*> PassedOver;
     std::string Trouble;  // sentences on what keeps simulators other than FlightGear from being heard
     std::string OwnCallsign;
@@ -48,6 +47,7 @@ struct SimulatorPageParts {
     const simulators::FlightGearOptions& Options;
     directory::OwnLogins& Logins;
     DirectoryDoings Directories;
+    std::function<const simulators::SimulatorSource*()> Chosen;  // null for none
     std::function<SimulatorPageContent()> Content;
     std::function<void(const std::string&)> SetOwnCallsign;
     std::function<void()> LoginsChanged;

@@ -30,6 +30,7 @@ SimulatorPageRig::SimulatorPageRig()
                                 return refusal;
                             },
                         .FetchNow = [this] { ++fetches; }},
+        .Chosen = [this] { return chosen; },
         .Content = [this] { return content; },
         .SetOwnCallsign = [this](const std::string& callsign) { content.OwnCallsign = callsign; },
         .LoginsChanged = [this] { ++loginChanges; }};
@@ -54,7 +55,7 @@ void SimulatorPageRig::PlayFlight() {
                                              .IsPaused = true,
                                              .Where = simulators::Place{63.985, -22.6056, 2171},
                                              .Aircraft = "c172p"};
-    content.Chosen = &cessna;
+    chosen = &cessna;
     content.PassedOver = {&other};
     content.Trouble = "The network refuses to tell where X-Plane is.";
     content.OwnCallsign = "ORV123";

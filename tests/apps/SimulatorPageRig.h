@@ -69,6 +69,7 @@ protected:
     directory::OwnLogins logins{home / "directory-logins.json"};
     PlayedSimulator cessna{"FlightGear"};
     PlayedSimulator other{"X-Plane 12"};
+    const simulators::SimulatorSource* chosen = nullptr;
     SimulatorPageContent content;
     std::string refusal;  // what entering an address is answered
     int fetches = 0;
