@@ -30,6 +30,7 @@ SimulatorParts::SimulatorParts(EventLoop& loop, const std::filesystem::path& dat
       Logins(data / "directory-logins.json"),
       Folder(loop, DirectoryFiles),
       Addresses(loop, data),
+      Topics(loop),
       Session(loop, Choice, Directories, Logins, network),
       callsignFile(data / "callsign") {
     troubles = FlightGear.Troubles;

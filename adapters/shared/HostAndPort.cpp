@@ -1,8 +1,8 @@
 #include "adapters/shared/HostAndPort.h"
 
 #include <algorithm>
-#include <cctype>
 #include <charconv>
+#include <utility>
 
 namespace orvelle {
 
@@ -56,8 +56,15 @@ std::string WriteHostAndPort(const HostAndPort& place, int usualPort) {
     return (isVersion6 ? "[" + place.Host + "]" : place.Host) + ":" + std::to_string(place.Port);
 }
 
+std::string HostInLowerCase(std::string host) {
+    std::ranges::transform(host, host.begin(), [](char each) {
+        return each >= 'A' && each <= 'Z' ? static_cast<char>(each - 'A' + 'a') : each;
+    });
+    return host;
+}
+
 HostAndPort InLowerCase(HostAndPort place) {
-    std::ranges::transform(place.Host, place.Host.begin(), [](unsigned char each) { return std::tolower(each); });
+    place.Host = HostInLowerCase(std::move(place.Host));
     return place;
 }
 

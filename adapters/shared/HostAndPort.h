@@ -23,7 +23,8 @@ bool IsHost(std::string_view text);
 std::optional<HostAndPort> ReadHostAndPort(std::string_view text, int usualPort);
 // Without the port where that is the usual one.
 std::string WriteHostAndPort(const HostAndPort& place, int usualPort);
-// As places are compared: case means nothing in the name of a host.
+// As places are compared: case means nothing in the name of a host, which has no letters but ASCII's.
+std::string HostInLowerCase(std::string host);
 HostAndPort InLowerCase(HostAndPort place);
 
 }  // namespace orvelle

@@ -1,18 +1,12 @@
 #include "adapters/shared/HostLookup.h"
 
 #include <netdb.h>
-#include <sys/eventfd.h>
 #include <sys/socket.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
-#include <system_error>
-#include <thread>
 #include <utility>
 
-#include "adapters/shared/FileDescriptor.h"
 #include "platform/ServerNames.h"
 
 namespace orvelle {
@@ -49,39 +43,9 @@ std::vector<std::string> AddressesOf(const std::string& host) {
 
 }  // namespace
 
-// What asker and thread share. The thread writes the addresses, then the event; the asker reads them after it.
-struct HostLookup::Asked {
-    const FileDescriptor Event{eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)};
-    std::vector<std::string> Addresses;
-};
-
-HostLookup::HostLookup(EventLoop& loop, const std::string& host, Answer whenKnown)
-    : answer(std::move(whenKnown)), asked(std::make_shared<Asked>()) {
-    if (!asked->Event) {
-        ready = loop.After(0, [this] { Take(); });
-        return;
-    }
-    ready = loop.WhenReadable(asked->Event.Number(), [this] { Take(); });
-    const auto work = [shared = asked, host] {
-        shared->Addresses = AddressesOf(host);
-        const std::uint64_t one = 1;
-        [[maybe_unused]] const auto written = write(shared->Event.Number(), &one, sizeof one);
-    };
-    try {
-        std::thread(work).detach();
-    } catch (const std::system_error&) {
-        ready = loop.After(0, [this] { Take(); });  // no thread can be had now: no addresses
-    }
-}
-
-HostLookup::~HostLookup() = default;
-
-void HostLookup::Take() {
-    ready.End();
-    // The answer may end this object.
-    const Answer call = std::move(answer);
-    const std::vector<std::string> addresses = std::move(asked->Addresses);
-    call(addresses);
-}
+HostLookup::HostLookup(EventLoop& loop, const std::string& host, Answer answer)
+    : work(
+          loop, [kept = found, host] { *kept = AddressesOf(host); },
+          [kept = found, call = std::move(answer)] { call(*kept); }) {}
 
 }  // namespace orvelle

@@ -1,5 +1,5 @@
 // The addresses of a host name, asked for without holding up the loop: the system's resolver may take many seconds, so
-// it works on a thread of its own, which touches nothing of its asker and may outlive it. The answer comes by the loop.
+// it works in the background. The answer comes by the loop.
 #pragma once
 
 #include <functional>
@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/EventLoop.h"
+#include "adapters/shared/BackgroundWork.h"
 
 namespace orvelle {
 
@@ -18,18 +18,10 @@ public:
 
     // An address is its own answer. `answer` is called once from the loop, unless this object goes before.
     HostLookup(EventLoop& loop, const std::string& host, Answer answer);
-    HostLookup(const HostLookup&) = delete;
-    HostLookup& operator=(const HostLookup&) = delete;
-    ~HostLookup();
 
 private:
-    struct Asked;
-
-    void Take();
-
-    Answer answer;
-    std::shared_ptr<Asked> asked;
-    Ticket ready;
+    const std::shared_ptr<std::vector<std::string>> found = std::make_shared<std::vector<std::string>>();
+    const BackgroundWork work;
 };
 
 }  // namespace orvelle

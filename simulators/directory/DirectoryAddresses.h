@@ -19,7 +19,7 @@ public:
     static constexpr Long PeriodMilliseconds = 15 * 60 * 1000;
     static constexpr std::size_t MostAddresses = 20;
 
-    // `data` is the data folder. Copies are read at once; nothing is fetched before the loop runs.
+    // `data` is the data folder. An address is fetched once its copy was read.
     DirectoryAddresses(EventLoop& eventLoop, std::filesystem::path data);
     ~DirectoryAddresses() override;
 

@@ -25,9 +25,10 @@ DirectoryFolder::DirectoryFolder(EventLoop& eventLoop, fs::path itsFolder)
     };
     watch.Renewed = [this] {
         ReadAll();
-        Changed();
+        TellChange();
     };
     ReadAll();
+    Gather();
 }
 
 void DirectoryFolder::ReadAll() {
@@ -39,7 +40,6 @@ void DirectoryFolder::ReadAll() {
     const bool isMissing = error == std::errc::no_such_file_or_directory;
     trouble = error && !isMissing ? "The folder can't be read: " + error.message() + "." : "";
     for (const std::string& name : names) Read(name);
-    Gather();
 }
 
 void DirectoryFolder::Read(const std::string& name) {
@@ -50,18 +50,24 @@ void DirectoryFolder::Read(const std::string& name) {
         files.erase(name);
         return;
     }
-    LastGood& kept = files.try_emplace(name, name).first->second;
+    const auto [place, isNew] = files.try_emplace(name, loop, name);
+    LastGood& kept = place->second;
+    if (isNew) kept.Taken = [this](bool) { TellChange(); };
     const fs::path target = fs::canonical(file, error);
     if (error) return kept.Miss("It is a link that leads nowhere: " + error.message() + ".");
-    const PrivateText text = ReadPrivateFile(target, LongestDirectory);
+    PrivateText text = ReadPrivateFile(target, LongestDirectory);
     if (text.Text)
-        kept.Take(*text.Text);
+        kept.Take(std::move(*text.Text));
     else
         kept.Miss("It can't be read: " + (text.Reason.empty() ? "it is there no more" : text.Reason) + ".");
 }
 
 void DirectoryFolder::ReadTouched() {
     for (const std::string& name : std::exchange(touched, {})) Read(name);
+    TellChange();
+}
+
+void DirectoryFolder::TellChange() {
     Gather();
     Changed();
 }

@@ -29,6 +29,7 @@ private:
     void ReadAll();
     void Read(const std::string& name);
     void ReadTouched();
+    void TellChange();
     void Gather();
 
     EventLoop& loop;

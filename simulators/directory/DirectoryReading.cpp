@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <set>
 #include <utility>
 
@@ -19,11 +18,6 @@ using Kind = JsonValue::Kind;
 
 constexpr std::string_view Format = "orvelle-directory/1";
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
-
-const std::vector<std::string>& Sections() {
-    static const std::vector<std::string> Names{"servers", "stations", "everywhere"};
-    return Names;
-}
 
 std::size_t LineAt(std::string_view text, std::size_t place) {
     return 1 +
@@ -63,7 +57,8 @@ std::optional<Fault> Unreadable(std::string_view text) {
 class DirectoryReader {
 public:
     void Read(std::string_view text) {
-        const auto trouble = ReadJsonEntries(text, Sections(), [this](const JsonEntry& entry) { Take(entry); });
+        const auto trouble = ReadJsonEntries(text, {"servers", "stations", "everywhere"},
+                                             [this](const JsonEntry& entry) { Take(entry); });
         if (trouble) {
             findings.Tell(trouble->Line, trouble->Field, trouble->Sentence);
             return;

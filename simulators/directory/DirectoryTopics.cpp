@@ -4,11 +4,13 @@ namespace orvelle::directory {
 
 void DirectoryTopics::Hear(const std::string& holder, const std::string& name, const std::string& text) {
     const std::pair key(name, holder);
-    if (text.empty())
+    if (text.empty()) {
         heard.erase(key);
-    else
-        heard.try_emplace(key, "topic " + name + " of " + holder).first->second.Take(text);
-    Gather();
+        return Gather();
+    }
+    const auto [place, isNew] = heard.try_emplace(key, loop, "topic " + name + " of " + holder);
+    if (isNew) place->second.Taken = [this](bool) { Gather(); };
+    if (place->second.Take(text)) Gather();
 }
 
 void DirectoryTopics::Forget() {

@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/EventLoop.h"
 #include "simulators/directory/Directories.h"
 #include "simulators/directory/LastGood.h"
 
@@ -16,6 +17,8 @@ namespace orvelle::directory {
 
 class DirectoryTopics : public DirectorySource {
 public:
+    explicit DirectoryTopics(EventLoop& eventLoop) : loop(eventLoop) {}
+
     // `holder` "c03"; an empty text takes it away.
     void Hear(const std::string& holder, const std::string& name, const std::string& text);
     // The broker is another one, or has nothing any more.
@@ -26,6 +29,7 @@ public:
 private:
     void Gather();
 
+    EventLoop& loop;
     std::map<std::pair<std::string, std::string>, LastGood> heard;  // by name, then holder
     std::vector<Found> found;
 };

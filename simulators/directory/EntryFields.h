@@ -24,7 +24,6 @@ public:
     void Tell(std::size_t line, const std::string& field, const std::string& sentence);
     // A member that nobody asked for; alike ones of a list's entries count as one.
     void TellUnknown(std::size_t line, const std::string& field);
-    std::size_t Count() const { return count; }
     void MoveTo(ReadText& read);
 
 private:
@@ -54,7 +53,6 @@ public:
            std::initializer_list<std::string_view> known);
 
     bool IsSound() const { return isSound; }
-    std::size_t Line() const { return object.Line; }
     std::string PathOf(std::string_view name) const;
     std::size_t LineOf(std::string_view name) const;
 

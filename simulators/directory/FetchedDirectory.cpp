@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <optional>
+#include <utility>
 
 #include "simulators/directory/DirectoryAddresses.h"
 
@@ -23,14 +24,21 @@ std::string SentenceOn(const std::string& address, std::string trouble, bool isC
 
 FetchedDirectory::FetchedDirectory(EventLoop& eventLoop, const std::filesystem::path& copies,
                                    const std::string& itsAddress)
-    : loop(eventLoop), address(itsAddress), copy(copies, address), kept(address), fetch(loop), pause(FirstPause) {
-    if (const std::optional<std::string> text = copy.Text(); text && kept.Take(*text)) kept.Date(copy.Age());
+    : loop(eventLoop), address(itsAddress), copy(copies, address), kept(loop, address), fetch(loop), pause(FirstPause) {
     fetch.Ended = [this](const FetchEnd& how) { Take(how); };
+    kept.Taken = [this](bool isDirectory) {
+        if (isDirectory) kept.Date(copy.Age());
+        TellChange();
+    };
+    if (std::optional<std::string> text = copy.Text()) kept.Take(std::move(*text));
 }
 
+// Whether the copy is one, so that its ETag counts, is known when it was read; and what was fetched lies there until
+// then.
 void FetchedDirectory::Fetch() {
     again.End();
-    if (!fetch.IsRunning()) fetch.Start(copy.Request(kept.Now().Content != nullptr));
+    isAsked = kept.IsReading();
+    if (!isAsked && !fetch.IsRunning()) fetch.Start(copy.Request(kept.Now().Content != nullptr));
 }
 
 void FetchedDirectory::Remove() {
@@ -40,33 +48,42 @@ void FetchedDirectory::Remove() {
 }
 
 void FetchedDirectory::Take(const FetchEnd& how) {
-    std::string trouble = FetchTrouble(how);
-    if (trouble.empty() && how.Answer == NotChanged) {
+    const std::string trouble = FetchTrouble(how);
+    if (!trouble.empty()) {
+        kept.Miss(trouble);
+        Finish(trouble);
+    } else if (how.Answer == NotChanged) {
         kept.Confirm();
         copy.Confirm();
-    } else if (trouble.empty()) {
-        // A server that sends nothing makes no file.
-        if (kept.Take(copy.Fetched().value_or("")))
-            copy.TakeOver();
-        else
-            trouble = kept.Now().Told.Trouble;
+        Finish("");
     } else {
-        kept.Miss(trouble);
+        kept.Taken = [this](bool isDirectory) { TakeRead(isDirectory); };
+        // A server that sends nothing makes no file.
+        if (kept.Take(copy.Fetched().value_or(""))) TakeRead(true);
     }
+}
+
+void FetchedDirectory::TakeRead(bool isDirectory) {
+    if (isDirectory) copy.TakeOver();
+    Finish(isDirectory ? "" : kept.Now().Told.Trouble);
+}
+
+void FetchedDirectory::Finish(const std::string& trouble) {
     if (trouble.empty()) {
         told.clear();
         pause = FirstPause;
     } else {
         copy.DropFetched();
-        Suffer(trouble);
+        again = loop.After(pause, [this] { Fetch(); });
+        pause = std::min(2 * pause, DirectoryAddresses::PeriodMilliseconds);
+        if (told.insert(trouble).second) Told(SentenceOn(address, trouble, kept.Now().Told.IsCopy));
     }
-    Changed();
+    TellChange();
 }
 
-void FetchedDirectory::Suffer(const std::string& trouble) {
-    again = loop.After(pause, [this] { Fetch(); });
-    pause = std::min(2 * pause, DirectoryAddresses::PeriodMilliseconds);
-    if (told.insert(trouble).second) Told(SentenceOn(address, trouble, kept.Now().Told.IsCopy));
+void FetchedDirectory::TellChange() {
+    Changed();
+    if (isAsked) Fetch();
 }
 
 }  // namespace orvelle::directory

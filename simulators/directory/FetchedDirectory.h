@@ -15,12 +15,12 @@ namespace orvelle::directory {
 
 class FetchedDirectory {
 public:
-    // Reads the copy of an earlier run.
+    // Begins to read the copy of an earlier run.
     FetchedDirectory(EventLoop& eventLoop, const std::filesystem::path& copies, const std::string& itsAddress);
 
     const std::string& Address() const { return address; }
     const DirectorySource::Found& Now() const { return kept.Now(); }
-    // Nothing where it is under way.
+    // Nothing where it is under way; after the reading where its text is being read.
     void Fetch();
     // The address counts no more.
     void Remove();
@@ -30,7 +30,9 @@ public:
 
 private:
     void Take(const FetchEnd& how);
-    void Suffer(const std::string& sentence);
+    void TakeRead(bool isDirectory);
+    void Finish(const std::string& trouble);
+    void TellChange();
 
     EventLoop& loop;
     const std::string address;
@@ -38,7 +40,8 @@ private:
     LastGood kept;
     HttpsFetch fetch;
     std::set<std::string> told;
-    Long pause;  // after the next trouble, milliseconds
+    Long pause;            // after the next trouble, milliseconds
+    bool isAsked = false;  // to be fetched after the reading
     Ticket again;
 };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <string_view>
 #include <utility>
 
 namespace orvelle::directory {
@@ -19,29 +20,65 @@ std::string NoDirectory(const ReadText& read) {
     return "It is no directory: line " + std::to_string(first.Line) + field + ": " + first.Sentence;
 }
 
+// Without its source.
+DirectorySource::Found ReadFrom(std::string_view text) {
+    ReadText read = ReadDirectory(text);
+    DirectorySource::Found found;
+    if (read.Content) {
+        found.Told.Name = read.Content->Name;
+        found.Told.Stations = read.Content->Stations.size();
+        found.Content = std::make_shared<const Directory>(std::move(*read.Content));
+    } else {
+        found.Told.Trouble = NoDirectory(read);
+    }
+    found.Told.Faults = std::move(read.Faults);
+    found.Told.FaultCount = read.FaultCount;
+    return found;
+}
+
 }  // namespace
 
-bool LastGood::Take(std::string_view text) {
-    const std::size_t newDigest = std::hash<std::string_view>()(text);
-    if (found.Content && newDigest == digest) {
+// One at a time, however often it changes.
+bool LastGood::Take(std::string text) {
+    if (reading) {
+        next = std::move(text);
+        return false;
+    }
+    const std::size_t itsDigest = std::hash<std::string>()(text);
+    if (found.Content && itsDigest == digest) {
         Confirm();
         return true;
     }
-    ReadText read = ReadDirectory(text);
-    if (!read.Content) {
-        Miss(NoDirectory(read));
-        found.Told.Faults = std::move(read.Faults);
-        found.Told.FaultCount = read.FaultCount;
-        return false;
+    struct Shared {
+        const std::string Text;
+        std::optional<DirectorySource::Found> Read;
+    };
+    const auto shared = std::make_shared<Shared>(Shared{std::move(text), std::nullopt});
+    reading = std::make_unique<BackgroundWork>(
+        loop, [shared] { shared->Read = ReadFrom(shared->Text); },
+        // Where no thread could be had it is read here.
+        [this, shared, itsDigest] { Finish(shared->Read ? *shared->Read : ReadFrom(shared->Text), itsDigest); });
+    return false;
+}
+
+void LastGood::Finish(const DirectorySource::Found& read, std::size_t itsDigest) {
+    reading.reset();
+    if (next) {
+        if (Take(*std::exchange(next, std::nullopt))) Taken(true);
+        return;
     }
-    digest = newDigest;
-    good.Name = read.Content->Name;
-    good.Stations = read.Content->Stations.size();
-    good.Faults = std::move(read.Faults);
-    good.FaultCount = read.FaultCount;
-    found.Content = std::make_shared<const Directory>(std::move(*read.Content));
-    Confirm();
-    return true;
+    if (read.Content) {
+        found.Content = read.Content;
+        good = read.Told;
+        good.Source = found.Told.Source;
+        digest = itsDigest;
+        Confirm();
+    } else {
+        Miss(read.Told.Trouble);
+        found.Told.Faults = read.Told.Faults;
+        found.Told.FaultCount = read.Told.FaultCount;
+    }
+    Taken(read.Content != nullptr);
 }
 
 void LastGood::Confirm() {
@@ -50,6 +87,8 @@ void LastGood::Confirm() {
 }
 
 void LastGood::Miss(const std::string& sentence) {
+    reading.reset();
+    next.reset();
     found.Told.IsCopy = found.Content != nullptr;
     found.Told.Trouble = sentence;
 }

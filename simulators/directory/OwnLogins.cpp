@@ -1,9 +1,9 @@
 #include "simulators/directory/OwnLogins.h"
 
-#include <algorithm>
 #include <optional>
 #include <utility>
 
+#include "adapters/shared/HostAndPort.h"
 #include "adapters/shared/Utf8.h"
 
 namespace orvelle::directory {
@@ -11,14 +11,6 @@ namespace orvelle::directory {
 namespace {
 
 constexpr const char* Section = "logins";
-
-// Hosts have no letters but ASCII's.
-std::string LowerCase(std::string text) {
-    std::ranges::transform(text, text.begin(), [](char character) {
-        return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
-    });
-    return text;
-}
 
 std::optional<OwnLogin> ReadLogin(const JsonValue& value) {
     OwnLogin login;
@@ -39,22 +31,22 @@ std::string OwnLogins::Read() {
     logins.clear();
     return file.Read(Section, [this](const JsonMember& member) {
         const std::optional<OwnLogin> login = ReadLogin(member.Value);
-        if (login) logins[LowerCase(member.Name)] = *login;
+        if (login) logins[HostInLowerCase(member.Name)] = *login;
         return login.has_value();
     });
 }
 
 const OwnLogin* OwnLogins::Find(const std::string& server) const {
-    const auto found = logins.find(LowerCase(server));
+    const auto found = logins.find(HostInLowerCase(server));
     return found == logins.end() ? nullptr : &found->second;
 }
 
 std::string OwnLogins::Set(const std::string& server, const OwnLogin& login) {
     auto next = logins;
     if (login == OwnLogin())
-        next.erase(LowerCase(server));
+        next.erase(HostInLowerCase(server));
     else
-        next[LowerCase(server)] = {ToUtf8(login.Login), ToUtf8(login.Password)};
+        next[HostInLowerCase(server)] = {ToUtf8(login.Login), ToUtf8(login.Password)};
     std::string sentence = Write(next);
     if (sentence.empty()) logins = std::move(next);
     return sentence;

@@ -67,7 +67,6 @@ struct StationIndex::Parts {
     std::vector<Entries> Index;
 
     Choice Ask(std::size_t which, int channel, const std::optional<Spot>& spot, const std::string& held) const {
-        if (!Directories[which]) return {.Why = Reason::NotListed};
         const Entries& entries = Index[which];
         Choice none{.Why = Reason::NotListed};
         if (const auto found = entries.Channels.find(channel); found != entries.Channels.end()) {
@@ -97,7 +96,7 @@ StationIndex::StationIndex() : StationIndex(std::vector<std::shared_ptr<const Di
 
 StationIndex::StationIndex(std::vector<std::shared_ptr<const Directory>> directories)
     : parts(std::make_unique<Parts>()) {
-    for (const auto& directory : directories) parts->Index.push_back(directory ? EntriesOf(*directory) : Entries{});
+    for (const auto& directory : directories) parts->Index.push_back(EntriesOf(*directory));
     parts->Directories = std::move(directories);
 }
 

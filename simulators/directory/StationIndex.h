@@ -50,7 +50,7 @@ struct Choice {
 class StationIndex {
 public:
     StationIndex();
-    // In the user's order; a null one counts as empty. 20,000 stations take less than 50 us a look.
+    // In the user's order, none of them null. 20,000 stations take less than 50 us a look.
     explicit StationIndex(std::vector<std::shared_ptr<const Directory>> directories);
     ~StationIndex();
     StationIndex(StationIndex&&) noexcept;

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "simulators/directory/LastGood.h"
 #include "tests/simulators/PlacedDirectories.h"
 
 namespace orvelle::directory {
@@ -12,9 +11,8 @@ namespace {
 class PlayedSource : public DirectorySource {
 public:
     const std::vector<Found>& Directories() const override { return found; }
-    void Set(const std::vector<LastGood>& all) {
-        found.clear();
-        for (const LastGood& each : all) found.push_back(each.Now());
+    void Set(std::vector<Found> all) {
+        found = std::move(all);
         Changed();
     }
 
@@ -22,23 +20,26 @@ private:
     std::vector<Found> found;
 };
 
-LastGood Good(const std::string& source, const std::string& name) {
-    LastGood good(source);
-    EXPECT_TRUE(good.Take(DirectoryNamed(name)));
-    return good;
-}
-
 class DirectoriesTest : public testing::Test {
 protected:
     DirectoriesTest() {
         all.Changed = [this] { ++changes; };
     }
+    bool Takes(LastGood& kept, const std::string& text) { return directory::Takes(kept, text, loop); }
+    DirectorySource::Found Good(const std::string& source, const std::string& name) {
+        LastGood good(loop, source);
+        EXPECT_TRUE(Takes(good, DirectoryNamed(name)));
+        return good.Now();
+    }
+    DirectorySource::Found Empty(const std::string& source) { return LastGood(loop, source).Now(); }
     std::string Names() const {
         std::string names;
         for (std::size_t number = 0; const Directory* each = all.Index().Find(number); ++number) names += each->Name;
         return names;
     }
 
+    linux::PollEventLoop loop;
+    LastGood good{loop, "a.json"};
     PlayedSource files, addresses;
     Directories all{{&files, &addresses}};
     int changes = 0;
@@ -47,7 +48,7 @@ protected:
 TEST_F(DirectoriesTest, AreInTheOrderOfTheirSources) {
     addresses.Set({Good("https://c", "C"), Good("https://d", "D")});
     EXPECT_EQ(Names(), "CD");
-    files.Set({Good("a.json", "A"), LastGood("b.json")});
+    files.Set({Good("a.json", "A"), Empty("b.json")});
     EXPECT_EQ(Names(), "ACD");
     const auto told = all.Told();
     ASSERT_EQ(told.size(), 4U);
@@ -61,48 +62,47 @@ TEST_F(DirectoriesTest, AreInTheOrderOfTheirSources) {
 }
 
 TEST_F(DirectoriesTest, WhatIsAsItWasIsNoChange) {
-    LastGood good = Good("a.json", "A");
-    files.Set({good});
+    ASSERT_TRUE(Takes(good, DirectoryNamed("A")));
+    files.Set({good.Now()});
     const Directory* const first = all.Index().Find(0);
     EXPECT_EQ(changes, 1);
-    files.Set({good});
-    EXPECT_TRUE(good.Take(DirectoryNamed("A")));
-    files.Set({good});
+    files.Set({good.Now()});
+    EXPECT_TRUE(Takes(good, DirectoryNamed("A")));
+    files.Set({good.Now()});
     EXPECT_EQ(changes, 1);
     good.Miss("It can't be read.");
-    files.Set({good});
+    files.Set({good.Now()});
     EXPECT_EQ(changes, 2) << "its trouble is one";
     EXPECT_EQ(all.Index().Find(0), first);
-    EXPECT_FALSE(good.Take("{"));
-    files.Set({good});
+    EXPECT_FALSE(Takes(good, "{"));
+    files.Set({good.Now()});
     EXPECT_EQ(changes, 3);
     EXPECT_EQ(all.Index().Find(0), first);
-    EXPECT_TRUE(good.Take(DirectoryNamed("B")));
-    files.Set({good});
+    EXPECT_TRUE(Takes(good, DirectoryNamed("B")));
+    files.Set({good.Now()});
     EXPECT_EQ(changes, 4);
     EXPECT_EQ(Names(), "B");
 }
 
 TEST_F(DirectoriesTest, TheirAgesCountFromWhenTheyWereReadOrConfirmed) {
-    LastGood good = Good("a.json", "A");
+    ASSERT_TRUE(Takes(good, DirectoryNamed("A")));
     good.Date(180);
-    files.Set({good, LastGood("b.json")});
+    files.Set({good.Now(), Empty("b.json")});
     EXPECT_GE(all.Told()[0].Age, 180);
     EXPECT_LT(all.Told()[0].Age, 240);
     EXPECT_EQ(all.Told()[1].Age, -1);
     good.Miss("It can't be read.");
-    files.Set({good});
+    files.Set({good.Now()});
     EXPECT_GE(all.Told()[0].Age, 180);
     EXPECT_TRUE(all.Told()[0].IsCopy);
     good.Confirm();
-    files.Set({good});
+    files.Set({good.Now()});
     EXPECT_LT(all.Told()[0].Age, 60);
 }
 
 TEST_F(DirectoriesTest, TheirFaultsAreTold) {
-    LastGood good("a.json");
-    EXPECT_TRUE(good.Take(DirectoryWith(ClubServer, "{}")));
-    files.Set({good});
+    EXPECT_TRUE(Takes(good, DirectoryWith(ClubServer, "{}")));
+    files.Set({good.Now()});
     EXPECT_EQ(all.Told()[0].Name, "Club");
     EXPECT_EQ(all.Told()[0].Trouble, "");
     ASSERT_FALSE(all.Told()[0].Faults.empty());
