@@ -1,13 +1,13 @@
 #include "simulators/flightgear/FlightGearLine.h"
 
-#include <arpa/inet.h>
 #include <netinet/in.h>
-#include <sys/socket.h>
 
 #include <array>
 #include <cerrno>
 #include <system_error>
 #include <utility>
+
+#include "simulators/UdpSocket.h"
 
 namespace orvelle::simulators {
 
@@ -16,19 +16,6 @@ namespace {
 constexpr Long AgainMilliseconds = 1000;
 constexpr int MostDatagramsInTurn = 100;            // so that a flood leaves the loop to others
 constexpr std::size_t LongestDatagram = 64 * 1024;  // bytes
-
-struct Loopback {
-    explicit Loopback(std::uint16_t port) {
-        address.sin_family = AF_INET;
-        address.sin_port = htons(port);
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    }
-    sockaddr* Address() { return reinterpret_cast<sockaddr*>(&address); }
-    std::uint16_t Port() const { return ntohs(address.sin_port); }
-
-    sockaddr_in address{};
-    socklen_t Length = sizeof(address);
-};
 
 std::string ProblemOf(std::uint16_t port, int error) {
     const std::string why = error == EADDRINUSE ? "another program has it" : std::generic_category().message(error);
@@ -52,16 +39,14 @@ FlightGearLine::FlightGearLine(EventLoop& eventLoop, ProcessQuestions processQue
 std::string FlightGearLine::Problem() const { return problem; }
 
 void FlightGearLine::Listen() {
-    Loopback own(port);
-    FileDescriptor opened(::socket(AF_INET, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
-    if (!opened || bind(opened.Number(), own.Address(), own.Length) != 0) {
+    FileDescriptor opened = OpenUdp();
+    if (!opened || !BindUdp(opened, {INADDR_LOOPBACK, port})) {
         const std::string told = ProblemOf(port, errno);
         again = loop.After(AgainMilliseconds, [this] { Listen(); });
         if (std::exchange(problem, told) != told) Changed();
         return;
     }
-    getsockname(opened.Number(), own.Address(), &own.Length);
-    port = own.Port();
+    port = PlaceOf(opened).Port;
     socket = std::move(opened);
     readable = loop.WhenReadable(socket.Number(), [this] { Serve(); });
     if (!std::exchange(problem, "").empty()) Changed();
@@ -70,11 +55,10 @@ void FlightGearLine::Listen() {
 void FlightGearLine::Serve() {
     std::array<char, LongestDatagram> bytes;
     for (int count = 0; count < MostDatagramsInTurn; ++count) {
-        Loopback from(0);
-        const ssize_t length = recvfrom(socket.Number(), bytes.data(), bytes.size(), 0, from.Address(), &from.Length);
-        if (length < 0) return;
-        if (!Counts(from.Port())) continue;
-        std::string_view rest(bytes.data(), static_cast<std::size_t>(length));
+        const std::optional<UdpPacket> packet = ReceiveUdp(socket, bytes);
+        if (!packet) return;
+        if (!Counts(packet->Sender.Port)) continue;
+        std::string_view rest = packet->Bytes;
         while (!rest.empty()) {
             const std::size_t end = rest.find('\n');
             const std::size_t line = end == std::string_view::npos ? rest.size() : end + 1;
@@ -125,8 +109,7 @@ void FlightGearLine::Follow() {
         sender = 0;
         process = 0;
         // What its process has left would be taken for a simulator of an unknown process.
-        std::array<char, 1> byte{};
-        while (recv(socket.Number(), byte.data(), byte.size(), 0) >= 0) continue;
+        LeaveOutUdp(socket);
     }
     Changed();
 }

@@ -1,12 +1,11 @@
 #include "simulators/xplane/XPlaneRref.h"
 
-#include <arpa/inet.h>
 #include <netinet/in.h>
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
+#include "simulators/UdpSocket.h"
 #include "simulators/xplane/Ipv4Interfaces.h"
 #include "simulators/xplane/XPlaneBeacons.h"
 #include "simulators/xplane/XPlaneSubscriptions.h"
@@ -20,13 +19,6 @@ namespace {
 constexpr Long AwaitedMilliseconds = 5000;  // without any answer: it can't be asked
 constexpr Long LostMilliseconds = 10000;    // without a beacon, and without any answer: it isn't there
 constexpr Long SilentMilliseconds = 1000;   // without a value, but with a beacon: it has forgotten what was asked
-
-std::string Dotted(std::uint32_t address) {
-    const in_addr bytes{htonl(address)};
-    std::array<char, INET_ADDRSTRLEN> text{};
-    inet_ntop(AF_INET, &bytes, text.data(), text.size());
-    return text.data();
-}
 
 }  // namespace
 

@@ -166,12 +166,7 @@ TEST(FlightGearLineTest, APortThatIsTakenIsToldAndTriedAgain) {
 TEST(FlightGearLineTest, NothingIsHeardButOverLoopback) {
     FlightGearRig rig;
     // The same port of another address would be taken by a socket that is bound to all of them.
-    const FileDescriptor other(socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0));
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_port = htons(rig.Line.Port());
-    address.sin_addr.s_addr = htonl(0x7F000002);
-    EXPECT_EQ(bind(other.Number(), reinterpret_cast<sockaddr*>(&address), sizeof(address)), 0);
+    EXPECT_TRUE(BindUdp(OpenUdp(), {0x7F000002, rig.Line.Port()}));
 }
 
 TEST(FlightGearLineTest, AnAircraftsOwnPanelCounts) {

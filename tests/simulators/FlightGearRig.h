@@ -2,17 +2,15 @@
 // names, on a clock that the test drives.
 #pragma once
 
-#include <arpa/inet.h>
 #include <gtest/gtest.h>
 #include <netinet/in.h>
-#include <sys/socket.h>
 
 #include <map>
 #include <string>
 #include <utility>
 
-#include "adapters/shared/FileDescriptor.h"
 #include "platform/Observers.h"
+#include "simulators/UdpSocket.h"
 #include "simulators/flightgear/FlightGearLine.h"
 #include "tests/shared/HandLoop.h"
 
@@ -33,31 +31,14 @@ private:
 
 class LoopbackSocket {
 public:
-    LoopbackSocket() : socket(::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0)) {
-        EXPECT_TRUE(socket);
-        EXPECT_EQ(bind(socket.Number(), To(0), sizeof(address)), 0);
-        socklen_t length = sizeof(address);
-        EXPECT_EQ(getsockname(socket.Number(), reinterpret_cast<sockaddr*>(&address), &length), 0);
-        port = ntohs(address.sin_port);
-    }
-    std::uint16_t Port() const { return port; }
+    LoopbackSocket() { EXPECT_TRUE(BindUdp(socket, {INADDR_LOOPBACK, 0})); }
+    std::uint16_t Port() const { return PlaceOf(socket).Port; }
     void Send(std::uint16_t receiver, const std::string& text) {
-        EXPECT_EQ(sendto(socket.Number(), text.data(), text.size(), 0, To(receiver), sizeof(address)),
-                  static_cast<ssize_t>(text.size()));
+        EXPECT_EQ(SendUdp(socket, text, {INADDR_LOOPBACK, receiver}), static_cast<ssize_t>(text.size()));
     }
 
 private:
-    const sockaddr* To(std::uint16_t receiver) {
-        address = {};
-        address.sin_family = AF_INET;
-        address.sin_port = htons(receiver);
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        return reinterpret_cast<const sockaddr*>(&address);
-    }
-
-    FileDescriptor socket;
-    sockaddr_in address{};
-    std::uint16_t port = 0;
+    const FileDescriptor socket = OpenUdp();
 };
 
 struct FlightGearRig {
