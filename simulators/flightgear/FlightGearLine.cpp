@@ -96,14 +96,10 @@ void FlightGearLine::Take(std::string_view line) {
     std::optional<SimulatorState> next = overrides.Apply(*words);
     const bool differs = state != next;
     state = std::move(next);
-    // With the state already told, as another process is told with its own.
-    isTold = false;
-    life.Hear(process);
-    if (differs && !isTold) Changed();
+    if (life.Hear(process) == SimulatorLife::Told::Nothing && differs) Changed();
 }
 
 void FlightGearLine::Follow() {
-    isTold = true;
     if (life.Stands() == Presence::Absent) {
         state.reset();
         sender = 0;

@@ -57,7 +57,6 @@ private:
     unsigned long lines = 0;
     unsigned long refused = 0;
     std::string problem;
-    bool isTold = false;  // by the life, while a line is taken
     Ticket readable, again;
 };
 

@@ -48,8 +48,6 @@ struct XPlaneRref::Parts {
     std::optional<XPlaneTarget> Target;
     bool CanBeAsked = true;  // it answers, or hasn't been asked for long
     bool IsSilent = false;   // without a value for a second
-    bool IsTold = false;     // what came last, by the life's own change
-    pid_t Process = 0;       // 0 for unknown
     XPlaneValues Values;
     std::optional<SimulatorState> State;
     Ticket Awaited, Lost, Silent;
@@ -95,7 +93,6 @@ void XPlaneRref::Parts::Drop() {
     Subscriptions.End();
     Target.reset();
     CanBeAsked = true;
-    Process = 0;
     Values = {};
     State.reset();
 }
@@ -117,10 +114,10 @@ void XPlaneRref::Parts::Take(const std::vector<NumberedValue>& told) {
     XPlaneValues next = Values;
     if (next.Take(told) == 0) return;
     // One whose process isn't known; its next beacon brings it back.
-    if (Process == 0 && WasStartedAnew(next)) return Life.Forget();
+    if (Life.Process() == 0 && WasStartedAnew(next)) return Life.Forget();
 
-    if (Life.Stands() == Presence::Absent && Target->Owner == XPlaneOwner::ThisComputer)
-        Process = Questions.OwnerOfPort(Target->Port);
+    const bool isFirst = Life.Stands() == Presence::Absent && Target->Owner == XPlaneOwner::ThisComputer;
+    const pid_t process = isFirst ? Questions.OwnerOfPort(Target->Port) : Life.Process();
     Awaited.End();
     CanBeAsked = true;
     AwaitValue();
@@ -128,14 +125,10 @@ void XPlaneRref::Parts::Take(const std::vector<NumberedValue>& told) {
     std::optional<SimulatorState> state = Values.State();
     const bool differs = State != state;
     State = std::move(state);
-    // With the state already told, as another process is told with its own.
-    IsTold = false;
-    Life.Hear(Process);
-    if (differs && !IsTold) Source.Changed();
+    if (Life.Hear(process) == SimulatorLife::Told::Nothing && differs) Source.Changed();
 }
 
 void XPlaneRref::Parts::Follow() {
-    IsTold = true;
     if (Life.Stands() == Presence::Absent) {
         Drop();
         // What its process has left would be taken for an X-Plane that is there.
@@ -149,7 +142,7 @@ XPlaneAnswer XPlaneRref::Parts::Answer() const {
         case Presence::Absent:
             return CanBeAsked ? XPlaneAnswer::Awaited : XPlaneAnswer::None;
         case Presence::Busy:
-            return Process == 0 ? XPlaneAnswer::Paused : XPlaneAnswer::Given;
+            return Life.Process() == 0 ? XPlaneAnswer::Paused : XPlaneAnswer::Given;
         case Presence::Live:
             break;
     }

@@ -16,8 +16,7 @@ constexpr QSize UsualSize(1000, 640);  // of the simulator's window
 }  // namespace
 
 SimulatorPageRig::SimulatorPageRig()
-    : flightGear(loop, {[](std::uint16_t) { return 0; }, [](pid_t, const std::function<void()>&) { return Ticket(); }},
-                 simulators::AircraftOverrides(), 0),
+    : flightGear(loop, simulators::ProcessQuestions(), simulators::AircraftOverrides(), 0),
       window(std::make_unique<QTabWidget>()) {
     const SimulatorPageParts parts{
         .FlightGear = flightGear,

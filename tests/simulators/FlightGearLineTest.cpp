@@ -90,7 +90,7 @@ TEST(FlightGearLineTest, TheEndOfTheProcessIsTheEnd) {
     EXPECT_EQ(rig.Line.Stands(), Presence::Absent);
     EXPECT_FALSE(rig.Line.State());
 
-    rig.Loop.BringLines();
+    rig.BringLines();
     EXPECT_EQ(rig.Line.Stands(), Presence::Absent) << "what a process has left behind brings it back";
 }
 

@@ -9,25 +9,12 @@
 #include <string>
 #include <utility>
 
-#include "platform/Observers.h"
 #include "simulators/UdpSocket.h"
 #include "simulators/flightgear/FlightGearLine.h"
-#include "tests/shared/HandLoop.h"
+#include "tests/simulators/PlayedProcesses.h"
+#include "tests/simulators/SocketClock.h"
 
 namespace orvelle::simulators {
-
-// Knows the socket that waits.
-class SocketLoop : public HandLoop {
-public:
-    [[nodiscard]] Ticket WhenReadable(int descriptor, Task task) override {
-        waiting = descriptor;
-        return HandLoop::WhenReadable(descriptor, std::move(task));
-    }
-    void BringLines() { BringReadable(waiting); }
-
-private:
-    int waiting = -1;
-};
 
 class LoopbackSocket {
 public:
@@ -41,30 +28,21 @@ private:
     const FileDescriptor socket = OpenUdp();
 };
 
-struct FlightGearRig {
+struct FlightGearRig : PlayedProcesses {
     explicit FlightGearRig(AircraftOverrides aircraft = {}, std::uint16_t port = 0)
-        : Line(Loop, Questions(), std::move(aircraft), port) {
+        : Line(Loop, Questions([this](std::uint16_t of) { return Owners[of]; }), std::move(aircraft), port) {
         Line.Changed = [this] { ++Changes; };
     }
 
-    ProcessQuestions Questions() {
-        return {[this](std::uint16_t port) {
-                    ++Asked;
-                    return Owners[port];
-                },
-                [this](pid_t process, std::function<void()> task) { return Endings[process].Attach(std::move(task)); }};
-    }
     // The line comes, and is taken.
     void Say(LoopbackSocket& from, const std::string& line) {
         from.Send(Line.Port(), line);
-        Loop.BringLines();
+        BringLines();
     }
-    void End(pid_t process) { Endings[process].Tell(); }
+    void BringLines() { Loop.Serve(SocketClock::Way::IsEmpty); }
 
-    SocketLoop Loop;
+    SocketClock Loop;
     std::map<std::uint16_t, pid_t> Owners;  // of ports; 0 for unknown
-    std::map<pid_t, Observers<>> Endings;
-    int Asked = 0;
     FlightGearLine Line;
     int Changes = 0;
 };

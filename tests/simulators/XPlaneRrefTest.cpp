@@ -160,7 +160,7 @@ TEST(XPlaneRrefTest, AtItsEndNothingIsAskedForAnyMore) {
     XPlaneServer server;
     {
         SocketClock loop;
-        XPlaneRref source(loop, {[](std::uint16_t) { return 0; }, {}}, {server.BeaconPort(), {}});
+        XPlaneRref source(loop, ProcessQuestions(), {server.BeaconPort(), {}});
         for (int step = 0; step < 40; ++step) {
             server.Pass(25);
             loop.Serve();
