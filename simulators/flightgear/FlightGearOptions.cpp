@@ -123,7 +123,7 @@ bool FlightGearOptions::IsOurs(const std::string& line) const {
     constexpr std::string_view Data = "--data=";
     if (!line.starts_with(Data)) return false;
     const std::string folder = line.substr(Data.size());
-    return folder == installed || folder == own || folder.ends_with("/orvelle/flightgear") ||
+    return folder == installed || folder == own || folder.ends_with("/orvellecp/flightgear") ||
            folder.ends_with("/OrvelleCP/flightgear");
 }
 
