@@ -2,20 +2,16 @@
 
 #include <algorithm>
 #include <charconv>
-#include <fstream>
-#include <iterator>
 #include <optional>
 #include <string_view>
-#include <system_error>
 #include <utility>
 
+#include "simulators/PlainFile.h"
 #include "simulators/flightgear/AircraftFile.h"
 
 namespace orvelle::simulators {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 bool IsLike(std::string_view name, std::string_view pattern) {
     const std::size_t star = pattern.find('*');
@@ -51,17 +47,10 @@ bool IsTrue(const std::string& held) { return held == "true" || NumberOf(held).v
 
 }  // namespace
 
-std::string AircraftOverrides::Add(const fs::path& file) {
-    std::error_code error;
-    const fs::file_status status = fs::status(file, error);
-    if (status.type() == fs::file_type::not_found) return "";
-    if (status.type() != fs::file_type::regular) return file.string() + " can't be read: it is no plain file.";
-    if (fs::file_size(file, error) > LongestAircraftFile) return file.string() + " can't be read: it is too long.";
-    std::ifstream opened(file, std::ios::binary);
-    if (!opened) return file.string() + " can't be read: this user may not.";
-    const std::string text{std::istreambuf_iterator<char>(opened), {}};
-
-    const ReadAircraft read = ReadAircraftFile(text);
+std::string AircraftOverrides::Add(const std::filesystem::path& file) {
+    const PlainText plain = ReadPlainFile(file, LongestAircraftFile);
+    if (!plain.Text) return plain.Sentence;
+    const ReadAircraft read = ReadAircraftFile(*plain.Text);
     if (!read.Sentence.empty()) return file.string() + ", line " + std::to_string(read.Line) + ": " + read.Sentence;
     overrides.insert(overrides.end(), read.Overrides.begin(), read.Overrides.end());
     return "";
