@@ -29,7 +29,7 @@ public:
     Presence Stands() const override { return life.Stands(); }
     int Run() const override { return life.Run(); }
     const std::optional<SimulatorState>& State() const override { return state; }
-    bool IsProgram(const std::string& executable) const override { return executable == "fgfs"; }
+    std::vector<std::string> Programs() const override { return {"fgfs", "FlightGear"}; }
     std::string Problem() const override;
 
     std::uint16_t Port() const { return port; }

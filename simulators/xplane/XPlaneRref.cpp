@@ -2,7 +2,6 @@
 
 #include <netinet/in.h>
 
-#include <algorithm>
 #include <utility>
 
 #include "simulators/UdpSocket.h"
@@ -175,11 +174,6 @@ Presence XPlaneRref::Stands() const { return parts->Life.Stands(); }
 int XPlaneRref::Run() const { return parts->Life.Run(); }
 
 const std::optional<SimulatorState>& XPlaneRref::State() const { return parts->State; }
-
-bool XPlaneRref::IsProgram(const std::string& executable) const {
-    const std::vector<std::string>& programs = parts->Setting.Programs;
-    return std::find(programs.begin(), programs.end(), executable) != programs.end();
-}
 
 std::string XPlaneRref::Problem() const { return parts->Problem(); }
 

@@ -18,7 +18,6 @@ namespace orvelle::simulators {
 
 struct XPlaneSetting {
     std::uint16_t BeaconPort = 49707;
-    std::vector<std::string> Programs = {"X-Plane-x86_64", "X-Plane"};
 };
 
 class XPlaneRref : public SimulatorSource {
@@ -30,7 +29,7 @@ public:
     Presence Stands() const override;
     int Run() const override;
     const std::optional<SimulatorState>& State() const override;
-    bool IsProgram(const std::string& executable) const override;
+    std::vector<std::string> Programs() const override { return {"X-Plane-x86_64", "X-Plane"}; }
     std::string Problem() const override;
 
 private:

@@ -29,7 +29,7 @@ public:
     simulators::Presence Stands() const override { return Presence; }
     int Run() const override { return 1; }
     const std::optional<simulators::SimulatorState>& State() const override { return Told; }
-    bool IsProgram(const std::string&) const override { return false; }
+    std::vector<std::string> Programs() const override { return {}; }
     std::string Problem() const override { return ""; }
 
     simulators::Presence Presence = simulators::Presence::Live;

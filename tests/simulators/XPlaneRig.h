@@ -53,7 +53,7 @@ struct XPlaneRig : PlayedProcesses {
     pid_t Process = 0;  // that has the server's port; 0 for unknown
     XPlaneRref Source{Loop,
                       Questions([this](std::uint16_t port) { return port == Server.Port() ? Process : 0; }),
-                      {Server.BeaconPort(), {"X-Plane-x86_64", "X-Plane"}}};
+                      {Server.BeaconPort()}};
     int Changes = 0;
 };
 
