@@ -64,7 +64,7 @@ XPlaneRref::Parts::Parts(XPlaneRref& source, EventLoop& eventLoop, ProcessQuesti
 void XPlaneRref::Parts::Find(const Beacon& beacon, std::uint32_t sender) {
     const bool isOwn = Interfaces.IsOwn(sender);
     const XPlaneTarget found{isOwn ? XPlaneOwner::ThisComputer : XPlaneOwner::Another, isOwn ? INADDR_LOOPBACK : sender,
-                             beacon.Port, beacon.Version};
+                             beacon.Port, beacon.Version, beacon.Name};
     if (!Target || TakesOver(found, *Target, Answer())) return Choose(found);
     if (!IsSame(found, *Target)) return;
     AwaitBeacon();
@@ -167,7 +167,7 @@ XPlaneRref::XPlaneRref(EventLoop& eventLoop, ProcessQuestions questions, XPlaneS
 
 XPlaneRref::~XPlaneRref() = default;
 
-std::string XPlaneRref::Name() const { return parts->Target ? NameOf(*parts->Target) : "X-Plane"; }
+std::string XPlaneRref::Name() const { return parts->Target ? NameWithHost(*parts->Target) : "X-Plane"; }
 
 Presence XPlaneRref::Stands() const { return parts->Life.Stands(); }
 

@@ -25,7 +25,7 @@ public:
     XPlaneRref(EventLoop& eventLoop, ProcessQuestions questions, XPlaneSetting setting = {});
     ~XPlaneRref() override;
 
-    std::string Name() const override;  // "X-Plane 12", "X-Plane"
+    std::string Name() const override;  // "X-Plane 12", "X-Plane 12 on cockpit" of another computer
     Presence Stands() const override;
     int Run() const override;
     const std::optional<SimulatorState>& State() const override;

@@ -66,6 +66,14 @@ TEST_F(SimulatorPageTest, ASimulatorIsShownWithAircraftPlaceAndRadios) {
     EXPECT_EQ(TextOf("RecordCOM2"), "None");
 }
 
+TEST_F(SimulatorPageTest, TheTailNumberIsShownWhereTheSimulatorTellsOne) {
+    PlayFlight();
+    cessna.Told->Tail = "N172SP";
+    cessna.Told->Callsign.clear();
+    ShowAll();
+    EXPECT_EQ(TextOf("Aircraft"), "c172p, tail number N172SP, online");
+}
+
 TEST_F(SimulatorPageTest, ARadioWithoutPowerHasNoStation) {
     PlayFlight();
     cessna.Told->Radios[1].IsOperable = false;
