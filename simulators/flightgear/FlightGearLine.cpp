@@ -23,6 +23,11 @@ std::string ProblemOf(std::uint16_t port, int error) {
            "; it is tried again each second.";
 }
 
+std::string OfSecond(std::uint16_t port) {
+    return "Another FlightGear sends lines to port " + std::to_string(port) +
+           ", too; they are left out while the first one is heard.";
+}
+
 }  // namespace
 
 FlightGearLine::FlightGearLine(EventLoop& eventLoop, ProcessQuestions processQuestions, AircraftOverrides aircraft,
@@ -36,7 +41,7 @@ FlightGearLine::FlightGearLine(EventLoop& eventLoop, ProcessQuestions processQue
     Listen();
 }
 
-std::string FlightGearLine::Problem() const { return problem; }
+std::string FlightGearLine::Problem() const { return problem.empty() && isSecondThere ? OfSecond(port) : problem; }
 
 void FlightGearLine::Listen() {
     FileDescriptor opened = OpenUdp();
@@ -73,17 +78,30 @@ void FlightGearLine::Serve() {
 bool FlightGearLine::Counts(std::uint16_t from) {
     if (from == sender) return true;
     const bool isHeard = life.Stands() == Presence::Live;
-    if (isHeard && from == stranger) return false;
+    if (isHeard && from == stranger) {
+        if (isSecondThere) HearSecond();
+        return false;
+    }
 
     const pid_t owner = questions.OwnerOfPort(from);
     if (isHeard && (owner == 0 || owner != process)) {
         stranger = from;
+        // Two that aren't known may be one that was reset.
+        if (owner != process) HearSecond();
         return false;
     }
     sender = from;
     process = owner;
     stranger = 0;
     return true;
+}
+
+void FlightGearLine::HearSecond() {
+    second = loop.After(SimulatorLife::QuietMilliseconds, [this] {
+        isSecondThere = false;
+        Changed();
+    });
+    if (!std::exchange(isSecondThere, true)) Changed();
 }
 
 void FlightGearLine::Take(std::string_view line) {

@@ -127,11 +127,26 @@ TEST(FlightGearLineTest, OfTwoTheOneThatIsHeardCounts) {
     EXPECT_EQ(rig.Line.Run(), 1);
     EXPECT_EQ(rig.Line.State()->Radios[0].Kilohertz, 118305);
     EXPECT_EQ(rig.Asked, 2) << "who owns a port is asked too often";
+    EXPECT_EQ(rig.Changes, 2) << "of the first one's state, and that there is a second one";
+    EXPECT_EQ(rig.Line.Problem(), "Another FlightGear sends lines to port " + std::to_string(rig.Line.Port()) +
+                                      ", too; they are left out while the first one is heard.");
 
     rig.Loop.Run(2500);
+    EXPECT_EQ(rig.Line.Problem(), "");
     rig.Say(second, TunedAway);
     EXPECT_EQ(rig.Line.Run(), 2);
     EXPECT_EQ(rig.Line.State()->Radios[0].Kilohertz, 119100);
+}
+
+TEST(FlightGearLineTest, AResetOfAnUnknownProcessIsNoSecondOne) {
+    FlightGearRig rig;
+    LoopbackSocket before, after, other;
+    rig.Owners[other.Port()] = 41;
+    rig.Say(before, Tuned);
+    rig.Say(after, TunedAway);
+    EXPECT_EQ(rig.Line.Problem(), "");
+    rig.Say(other, TunedAway);
+    EXPECT_NE(rig.Line.Problem(), "") << "one that is known and one that isn't are two";
 }
 
 TEST(FlightGearLineTest, AnUnknownProcessIsGoneAfterTenSeconds) {
