@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "simulators/UdpSocket.h"
+#include "simulators/flightgear/FlightGearText.h"
 
 namespace orvelle::simulators {
 
@@ -111,7 +112,8 @@ void FlightGearLine::Take(std::string_view line) {
         ++refused;
         return;
     }
-    std::optional<SimulatorState> next = overrides.Apply(*words);
+    std::optional<SimulatorState> next = overrides.Apply(
+        AircraftOf::FlightGear, words->State, [&](const std::string& property) { return words->Other(property); });
     const bool differs = state != next;
     state = std::move(next);
     if (life.Hear(process) == SimulatorLife::Told::Nothing && differs) Changed();

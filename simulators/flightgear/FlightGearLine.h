@@ -11,9 +11,9 @@
 #include <string_view>
 
 #include "adapters/shared/FileDescriptor.h"
+#include "simulators/AircraftOverrides.h"
 #include "simulators/SimulatorLife.h"
 #include "simulators/SimulatorSource.h"
-#include "simulators/flightgear/AircraftOverrides.h"
 
 namespace orvelle::simulators {
 

@@ -56,7 +56,7 @@ std::array<std::string, 2> FlightGearOptions::Lines() const {
 fs::path FlightGearOptions::File() const { return home / ".fgfsrc"; }
 
 std::string FlightGearOptions::Prepare(const AircraftOverrides& aircraft) {
-    const std::string text = FlightGearProtocol(aircraft.Properties());
+    const std::string text = FlightGearProtocol(aircraft.Properties(AircraftOf::FlightGear));
     const fs::path made = ProtocolIn(own);
     if (ReadFile(ProtocolIn(installed)).Text == text) {
         const std::string reason = RemovePrivateFile(made);

@@ -32,7 +32,6 @@ struct XPlaneRref::Parts {
     void Take(const std::vector<NumberedValue>& told);
     void Follow();
     XPlaneAnswer Answer() const;
-    bool WasStartedAnew(const XPlaneValues& next) const;
     std::string Problem() const;
 
     XPlaneRref& Source;
@@ -41,13 +40,13 @@ struct XPlaneRref::Parts {
     const XPlaneSetting Setting;
     Ipv4Interfaces Interfaces{Loop};
     XPlaneBeacons Beacons{Loop, Interfaces, Setting.BeaconPort};
-    XPlaneSubscriptions Subscriptions{Loop, Interfaces, XPlaneDatarefs()};
+    XPlaneValues Values{Setting.Aircraft};
+    XPlaneSubscriptions Subscriptions{Loop, Interfaces, Values.Datarefs()};
     SimulatorLife Life{Loop, Questions};
 
     std::optional<XPlaneTarget> Target;
     bool CanBeAsked = true;  // it answers, or hasn't been asked for long
     bool IsSilent = false;   // without a value for a second
-    XPlaneValues Values;
     std::optional<SimulatorState> State;
     Ticket Awaited, Lost, Silent;
 };
@@ -92,7 +91,7 @@ void XPlaneRref::Parts::Drop() {
     Subscriptions.End();
     Target.reset();
     CanBeAsked = true;
-    Values = {};
+    Values.Forget();
     State.reset();
 }
 
@@ -110,17 +109,15 @@ void XPlaneRref::Parts::AwaitValue() {
 }
 
 void XPlaneRref::Parts::Take(const std::vector<NumberedValue>& told) {
-    XPlaneValues next = Values;
-    if (next.Take(told) == 0) return;
     // One whose process isn't known; its next beacon brings it back.
-    if (Life.Process() == 0 && WasStartedAnew(next)) return Life.Forget();
+    if (Life.Process() == 0 && Values.AreOfAnotherRun(told)) return Life.Forget();
+    if (Values.Take(told) == 0) return;
 
     const bool isFirst = Life.Stands() == Presence::Absent && Target->Owner == XPlaneOwner::ThisComputer;
     const pid_t process = isFirst ? Questions.OwnerOfPort(Target->Port) : Life.Process();
     Awaited.End();
     CanBeAsked = true;
     AwaitValue();
-    Values = next;
     std::optional<SimulatorState> state = Values.State();
     const bool differs = State != state;
     State = std::move(state);
@@ -146,12 +143,6 @@ XPlaneAnswer XPlaneRref::Parts::Answer() const {
             break;
     }
     return XPlaneAnswer::Given;
-}
-
-// By its own clock, which goes on while it is paused.
-bool XPlaneRref::Parts::WasStartedAnew(const XPlaneValues& next) const {
-    const std::optional<float> before = Values.RunningTime();
-    return before && *next.RunningTime() < *before;
 }
 
 std::string XPlaneRref::Parts::Problem() const {

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "simulators/AircraftOverrides.h"
 #include "simulators/SimulatorLife.h"
 #include "simulators/SimulatorSource.h"
 
@@ -18,6 +19,7 @@ namespace orvelle::simulators {
 
 struct XPlaneSetting {
     std::uint16_t BeaconPort = 49707;
+    AircraftOverrides Aircraft{};
 };
 
 class XPlaneRref : public SimulatorSource {

@@ -45,7 +45,7 @@ AircraftOverrides Packaged() {
 
 TEST(FlightGearOptionsTest, TheProtocolFileThatIsInstalledIsThatOfTheInstalledAircraft) {
     EXPECT_EQ(Read(fs::path(FLIGHTGEAR_PACKAGED) / "Protocol" / "orvelle.xml"),
-              FlightGearProtocol(Packaged().Properties()));
+              FlightGearProtocol(Packaged().Properties(AircraftOf::FlightGear)));
 }
 
 TEST(FlightGearOptionsTest, TheLinesNameTheInstalledFolderAndThePort) {

@@ -14,7 +14,9 @@
 namespace orvelle::simulators {
 
 struct XPlaneRig : PlayedProcesses {
-    XPlaneRig() {
+    explicit XPlaneRig(AircraftOverrides aircraft = {})
+        : Source(Loop, Questions([this](std::uint16_t port) { return port == Server.Port() ? Process : 0; }),
+                 {Server.BeaconPort(), std::move(aircraft)}) {
         Source.Changed = [this] {
             ++Changes;
             if (Source.State() && Source.Stands() == Presence::Absent) ADD_FAILURE() << "a state of none";
@@ -51,9 +53,7 @@ struct XPlaneRig : PlayedProcesses {
     XPlaneServer Server;
     Long Now = 0;
     pid_t Process = 0;  // that has the server's port; 0 for unknown
-    XPlaneRref Source{Loop,
-                      Questions([this](std::uint16_t port) { return port == Server.Port() ? Process : 0; }),
-                      {Server.BeaconPort()}};
+    XPlaneRref Source;
     int Changes = 0;
 };
 
