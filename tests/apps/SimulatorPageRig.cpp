@@ -46,13 +46,13 @@ SimulatorPageRig::SimulatorPageRig()
 SimulatorPageRig::~SimulatorPageRig() = default;
 
 void SimulatorPageRig::PlayFlight() {
-    cessna.Told = simulators::SimulatorState{.Radios = {{{118300, true, true}, {122800, true, false}}},
-                                             .Transmits = 1,
-                                             .Callsign = "D-EABC",
-                                             .IsOnline = true,
-                                             .IsPaused = true,
-                                             .Where = simulators::Place{63.985, -22.6056, 2171},
-                                             .Aircraft = "c172p"};
+    cessna.Tell({.Radios = {{{118300, true, true}, {122800, true, false}}},
+                 .Transmits = 1,
+                 .Callsign = "D-EABC",
+                 .IsOnline = true,
+                 .IsPaused = true,
+                 .Where = simulators::Place{63.985, -22.6056, 2171},
+                 .Aircraft = "c172p"});
     content.Chosen = &cessna;
     content.PassedOver = {&other};
     content.Trouble = "The network refuses to tell where X-Plane is.";
