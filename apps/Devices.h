@@ -19,7 +19,7 @@ namespace orvelle {
 
 struct DevicesSetting {
     // The files of the simulators' programs, and the names of their windows where a program can't be told.
-    std::vector<std::string> Simulators = {"fgfs", "FlightGear", "X-Plane-x86_64", "X-Plane"};
+    std::vector<std::string> Simulators{};
     std::string Display{};      // "" is the environment's
     std::string SessionType{};  // of the desktop's session, as the environment's XDG_SESSION_TYPE: "wayland"
     std::filesystem::path Inputs = "/dev/input";

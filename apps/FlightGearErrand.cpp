@@ -31,9 +31,7 @@ std::string Quoted(const simulators::SimulatorState& state) {
 // Whether lines come. Which process they are from is no matter here.
 std::string Hearing(const FlightGearSetting& setting, std::uint16_t port) {
     linux::PollEventLoop loop;
-    simulators::FlightGearLine line(
-        loop, {[](std::uint16_t) { return 0; }, [](pid_t, const std::function<void()>&) { return Ticket(); }},
-        setting.Aircraft, port);
+    simulators::FlightGearLine line(loop, simulators::ProcessQuestions(), setting.Aircraft, port);
     if (!line.Problem().empty()) return line.Problem();
     line.Changed = [&] { loop.Stop(); };
     const Ticket patience = loop.After(Patience, [&] { loop.Stop(); });

@@ -8,7 +8,7 @@ namespace orvelle {
 namespace {
 
 // Installed under the prefix, and made there in the build folder.
-std::filesystem::path Installed() { return linux::OwnPrefix() / "share" / "orvelle" / "flightgear"; }
+std::filesystem::path Installed() { return linux::OwnPrefix() / "share" / "orvellecp" / "flightgear"; }
 
 }  // namespace
 

@@ -1,5 +1,6 @@
 // What is FlightGear's on this computer: the aircraft whose panels work differently, the user's own before those that
-// are installed, and the options that make it send its lines. For whoever reads FlightGear or sets it up.
+// are installed, and the options that make it send its lines. For whoever reads FlightGear or sets it up. X-Plane's
+// aircraft stand in the same files.
 #pragma once
 
 #include <cstdint>
@@ -7,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "simulators/flightgear/AircraftOverrides.h"
+#include "simulators/AircraftOverrides.h"
 #include "simulators/flightgear/FlightGearOptions.h"
 
 namespace orvelle {

@@ -26,7 +26,7 @@ SimulatorParts::SimulatorParts(EventLoop& loop, const std::filesystem::path& dat
     : DirectoryFiles(data / "directory.d"),
       FlightGear(data, flightGearPort),
       FlightGearLine(loop, QuestionsOn(loop), FlightGear.Aircraft, flightGearPort),
-      XPlane(loop, QuestionsOn(loop)),
+      XPlane(loop, QuestionsOn(loop), {.Aircraft = FlightGear.Aircraft}),
       Logins(data / "directory-logins.json"),
       Folder(loop, DirectoryFiles),
       Addresses(loop, data),

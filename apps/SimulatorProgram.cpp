@@ -15,6 +15,13 @@ namespace {
 
 std::string DesktopName() { return Variable("XDG_SESSION_TYPE"); }
 
+std::vector<std::string> ProgramsOf(const simulators::SimulatorChoice& choice) {
+    std::vector<std::string> all;
+    for (const simulators::SimulatorSource* const source : choice.All())
+        for (std::string& program : source->Programs()) all.push_back(std::move(program));
+    return all;
+}
+
 }  // namespace
 
 linux::InstanceLock ServingLock(const SimulatorCommand& command) {
@@ -26,8 +33,9 @@ SimulatorProgram::SimulatorProgram(EventLoop& eventLoop, const SimulatorCommand&
       SetUp(asked.Data),
       AtBroker(eventLoop,
                [] { return mqtt::PresenceSetting{.Name = ComputerName(), .Address = "", .Desktop = DesktopName()}; }),
-      Devices(eventLoop, Simulator, {.SessionType = DesktopName(), .Sounds = OwnSounds()}),
       Parts(eventLoop, asked.Data, asked.FlightGearPort, Network),
+      Devices(eventLoop, Simulator,
+              {.Simulators = ProgramsOf(Parts.Choice), .SessionType = DesktopName(), .Sounds = OwnSounds()}),
       command(asked),
       lock(ServingLock(asked)) {
     Simulator.SetLink(LinkState::Up);

@@ -37,8 +37,8 @@ public:
     mqtt::SimulatorAtBroker AtBroker;  // devices ask its SoundAsked
     mqtt::BrokerSimulatorSide Simulator{AtBroker};
     mqtt::BrokerNetworkSide Network{AtBroker};
-    orvelle::Devices Devices;
     SimulatorParts Parts;  // whose session a simulator flies
+    orvelle::Devices Devices;
 
     // The set-up that this computer has made, while it is served; nothing where another one's was joined.
     std::optional<mqtt::OwnSetting> Made() const { return own ? own->Setting() : std::nullopt; }

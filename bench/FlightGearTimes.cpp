@@ -65,8 +65,7 @@ private:
 class Measurement {
 public:
     Measurement(std::uint16_t linesPort, simulators::AircraftOverrides aircraft)
-        : line(loop, {[](std::uint16_t) { return 0; }, [](pid_t, const std::function<void()>&) { return Ticket(); }},
-               std::move(aircraft), linesPort) {
+        : line(loop, simulators::ProcessQuestions(), std::move(aircraft), linesPort) {
         if (!line.Problem().empty()) throw std::runtime_error(line.Problem());
     }
 

@@ -12,7 +12,8 @@ SimulatorChoice::SimulatorChoice(std::vector<SimulatorSource*> allSources) : sou
 
 void SimulatorChoice::Activate(const std::string& program) {
     const auto found = std::ranges::find_if(sources, [&](const SimulatorSource* source) {
-        return source->IsProgram(program) || source->Name() == program;
+        const std::vector<std::string> programs = source->Programs();
+        return std::ranges::find(programs, program) != programs.end();
     });
     if (found == sources.end() || std::exchange(active, *found) == *found) return;
     Follow();

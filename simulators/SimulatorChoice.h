@@ -15,9 +15,9 @@ public:
     // The sources outlive this object, and their Changed is its.
     explicit SimulatorChoice(std::vector<SimulatorSource*> sources);
 
-    // The window of this program became the active one: the name of its file, or where that can't be told the
-    // window's. It may be a simulator's that is still to come, as one that loads has a window long before its first
-    // word; any other program's is none of its business.
+    // The window of this program became the active one, by a name of SimulatorSource::Programs or any other. It may be
+    // a simulator's that is still to come, as one that loads has a window long before its first word; any other
+    // program's is none of its business.
     void Activate(const std::string& program);
 
     // The one that counts; null while none is there. One that has told nothing yet counts only where it is alone.

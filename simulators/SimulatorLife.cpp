@@ -7,7 +7,7 @@ namespace orvelle::simulators {
 SimulatorLife::SimulatorLife(EventLoop& eventLoop, ProcessQuestions processQuestions)
     : loop(eventLoop), questions(std::move(processQuestions)) {}
 
-void SimulatorLife::Hear(pid_t heard) {
+SimulatorLife::Told SimulatorLife::Hear(pid_t heard) {
     const bool isAnother = presence == Presence::Absent || heard != process;
     if (isAnother) {
         ++run;
@@ -18,7 +18,9 @@ void SimulatorLife::Hear(pid_t heard) {
     forgotten.End();
     const bool wasLive = presence == Presence::Live;
     presence = Presence::Live;
-    if (isAnother || !wasLive) Changed();
+    if (!isAnother && wasLive) return Told::Nothing;
+    Changed();
+    return Told::Changed;
 }
 
 void SimulatorLife::Forget() {

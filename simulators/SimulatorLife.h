@@ -18,8 +18,10 @@ public:
 
     SimulatorLife(EventLoop& eventLoop, ProcessQuestions processQuestions);
 
-    // Something was heard; `process` 0 where that is unknown. Another process than before is another run.
-    void Hear(pid_t process);
+    enum class Told { Nothing, Changed };
+    // Something was heard; `process` 0 where that is unknown. Another process than before is another run. Whether that
+    // was told, and with it whatever the source had heard.
+    Told Hear(pid_t process);
     // It has said itself that it goes, or can't be asked any more.
     void Forget();
 

@@ -8,6 +8,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/Event.h"
 #include "simulators/SimulatorState.h"
@@ -24,15 +25,16 @@ class SimulatorSource {
 public:
     virtual ~SimulatorSource() = default;
 
-    virtual std::string Name() const = 0;  // "FlightGear", as it is shown
+    virtual std::string Name() const = 0;  // as it is shown: "FlightGear", "X-Plane 12 on cockpit"
     virtual Presence Stands() const = 0;
     // Counts the processes that were heard, from 1: another number is another process, whose session is another one.
     virtual int Run() const = 0;
     // As it was told last by that process; nothing before its first word, and nothing once it is absent.
     virtual const std::optional<SimulatorState>& State() const = 0;
-    // The files of its program, without folders, by which its windows are known.
-    virtual bool IsProgram(const std::string& executable) const = 0;
-    // Why nothing can be heard, one sentence for the user; "" where all is well.
+    // The files of its programs, without folders, by which its windows are known, and how a window is called where its
+    // program can't be told.
+    virtual std::vector<std::string> Programs() const = 0;
+    // Why nothing can be heard, or not all that is there, one sentence for the user; "" where all is well.
     virtual std::string Problem() const = 0;
 
     Event<> Changed;  // any of these

@@ -31,7 +31,8 @@ QString PlaceWords(const simulators::SimulatorState* state) {
 QString AircraftWords(const simulators::SimulatorState* state) {
     if (!state) return "-";
     const QString callsign = state->Callsign.empty() ? QString() : ", callsign " + ToQt(state->Callsign);
-    return (state->Aircraft.empty() ? QString("Unknown") : ToQt(state->Aircraft)) + callsign +
+    const QString tail = state->Tail.empty() ? QString() : ", tail number " + ToQt(state->Tail);
+    return (state->Aircraft.empty() ? QString("Unknown") : ToQt(state->Aircraft)) + tail + callsign +
            (state->IsOnline ? ", online" : "");
 }
 

@@ -2,7 +2,7 @@
 // each the whole state. The protocol file orvelle.xml tells it what to put into a line; FlightGear opens no port for
 // it. The socket takes what comes over loopback alone, from FlightGear or any other program of this computer; whoever
 // owns the port that a line comes from is the simulator's process. While one is heard, lines of another one don't
-// count.
+// count, and that it is there is told as a problem.
 #pragma once
 
 #include <cstdint>
@@ -11,9 +11,9 @@
 #include <string_view>
 
 #include "adapters/shared/FileDescriptor.h"
+#include "simulators/AircraftOverrides.h"
 #include "simulators/SimulatorLife.h"
 #include "simulators/SimulatorSource.h"
-#include "simulators/flightgear/AircraftOverrides.h"
 
 namespace orvelle::simulators {
 
@@ -29,7 +29,7 @@ public:
     Presence Stands() const override { return life.Stands(); }
     int Run() const override { return life.Run(); }
     const std::optional<SimulatorState>& State() const override { return state; }
-    bool IsProgram(const std::string& executable) const override { return executable == "fgfs"; }
+    std::vector<std::string> Programs() const override { return {"fgfs", "FlightGear"}; }
     std::string Problem() const override;
 
     std::uint16_t Port() const { return port; }
@@ -41,6 +41,7 @@ private:
     void Listen();
     void Serve();
     bool Counts(std::uint16_t from);
+    void HearSecond();
     void Take(std::string_view line);
     void Follow();
 
@@ -56,9 +57,9 @@ private:
     std::optional<SimulatorState> state;
     unsigned long lines = 0;
     unsigned long refused = 0;
-    std::string problem;
-    bool isTold = false;  // by the life, while a line is taken
-    Ticket readable, again;
+    std::string problem;         // of the port
+    bool isSecondThere = false;  // the stranger is another process, and was heard within two seconds
+    Ticket readable, again, second;
 };
 
 }  // namespace orvelle::simulators

@@ -1,15 +1,13 @@
 #include "simulators/flightgear/FlightGearOptions.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
-#include <optional>
 #include <string_view>
 #include <system_error>
 #include <utility>
 
 #include "adapters/shared/PrivateFile.h"
 #include "adapters/shared/WholeFile.h"
+#include "simulators/PlainFile.h"
 #include "simulators/flightgear/OptionLines.h"
 
 namespace orvelle::simulators {
@@ -23,26 +21,7 @@ constexpr int MostLinks = 40;
 
 fs::path ProtocolIn(const fs::path& folder) { return folder / "Protocol" / "orvelle.xml"; }
 
-std::string Sentence(const fs::path& file, const char* what, const std::string& reason) {
-    return file.string() + " can't be " + what + ": " + reason + ".";
-}
-
-struct ReadOptions {
-    std::optional<std::string> Text;  // none where there is no file
-    std::string Sentence;             // why it can't be read
-};
-
-ReadOptions ReadFile(const fs::path& file) {
-    std::error_code error;
-    const fs::file_status status = fs::status(file, error);
-    if (status.type() == fs::file_type::not_found) return {std::nullopt, ""};
-    if (error) return {std::nullopt, Sentence(file, "read", error.message())};
-    if (status.type() != fs::file_type::regular) return {std::nullopt, Sentence(file, "read", "it is no plain file")};
-    if (fs::file_size(file, error) > LongestFile) return {std::nullopt, Sentence(file, "read", "it is too long")};
-    std::ifstream opened(file, std::ios::binary);
-    if (!opened) return {std::nullopt, Sentence(file, "read", "this user may not")};
-    return {std::string(std::istreambuf_iterator<char>(opened), {}), ""};
-}
+PlainText ReadFile(const fs::path& file) { return ReadPlainFile(file, LongestFile); }
 
 // Where a file is kept that may be a link, also one to a file that isn't there yet.
 fs::path BehindLinks(fs::path file) {
@@ -57,7 +36,7 @@ std::string WriteKeepingRights(const fs::path& file, std::string_view text, cons
     std::error_code error;
     const fs::file_status before = fs::status(like, error);
     const bool isThere = before.type() == fs::file_type::regular;
-    if (const std::error_code failed = WriteWholeFile(file, text)) return Sentence(file, "written", failed.message());
+    if (const std::error_code failed = WriteWholeFile(file, text)) return WhyNot(file, "written", failed.message());
     if (isThere) fs::permissions(file, before.permissions(), error);
     return "";
 }
@@ -77,15 +56,15 @@ std::array<std::string, 2> FlightGearOptions::Lines() const {
 fs::path FlightGearOptions::File() const { return home / ".fgfsrc"; }
 
 std::string FlightGearOptions::Prepare(const AircraftOverrides& aircraft) {
-    const std::string text = FlightGearProtocol(aircraft.Properties());
+    const std::string text = FlightGearProtocol(aircraft.Properties(AircraftOf::FlightGear));
     const fs::path made = ProtocolIn(own);
     if (ReadFile(ProtocolIn(installed)).Text == text) {
         const std::string reason = RemovePrivateFile(made);
-        return reason.empty() ? "" : Sentence(made, "removed", reason);
+        return reason.empty() ? "" : WhyNot(made, "removed", reason);
     }
     if (ReadFile(made).Text == text) return "";
     const std::error_code error = WriteWholeFile(made, text);
-    return error ? Sentence(made, "written", error.message()) : "";
+    return error ? WhyNot(made, "written", error.message()) : "";
 }
 
 bool FlightGearOptions::AreAdded() const {
@@ -102,7 +81,7 @@ std::string FlightGearOptions::Add() const {
 std::string FlightGearOptions::TakeOut() const { return Change({}); }
 
 std::string FlightGearOptions::Change(const std::vector<std::string>& wanted) const {
-    const ReadOptions read = ReadFile(File());
+    const PlainText read = ReadFile(File());
     if (!read.Sentence.empty()) return read.Sentence;
     OptionLines lines(read.Text.value_or(""));
     const std::vector<std::string> before = lines.TakeOut([this](const std::string& line) { return IsOurs(line); });
@@ -123,7 +102,7 @@ bool FlightGearOptions::IsOurs(const std::string& line) const {
     constexpr std::string_view Data = "--data=";
     if (!line.starts_with(Data)) return false;
     const std::string folder = line.substr(Data.size());
-    return folder == installed || folder == own || folder.ends_with("/orvelle/flightgear") ||
+    return folder == installed || folder == own || folder.ends_with("/orvellecp/flightgear") ||
            folder.ends_with("/OrvelleCP/flightgear");
 }
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "simulators/flightgear/AircraftOverrides.h"
+#include "simulators/AircraftOverrides.h"
 
 namespace orvelle::simulators {
 

@@ -21,6 +21,12 @@ namespace orvelle::simulators {
 struct FlightGearWords {
     SimulatorState State;
     std::map<std::string, std::string> Others;  // members that are not ours, by their names
+
+    // "" for what the line doesn't hold, and for what FlightGear doesn't have, which it sends as an empty one.
+    std::string Other(const std::string& name) const {
+        const auto found = Others.find(name);
+        return found == Others.end() ? "" : found->second;
+    }
 };
 
 constexpr std::size_t LongestFlightGearLine = 1024;  // bytes, its end included

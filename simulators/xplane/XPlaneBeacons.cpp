@@ -10,6 +10,8 @@
 #include <system_error>
 #include <utility>
 
+#include "simulators/UdpSocket.h"
+
 namespace orvelle::simulators {
 
 namespace {
@@ -31,14 +33,10 @@ bool Set(const FileDescriptor& socket, int level, int option, int value) {
 
 // Bound to the group, so that nothing else that is sent to the port comes in.
 FileDescriptor Open(std::uint16_t port) {
-    FileDescriptor opened(::socket(AF_INET, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
-    sockaddr_in own{};
-    own.sin_family = AF_INET;
-    own.sin_port = htons(port);
-    own.sin_addr = GroupOn(0).imr_multiaddr;
+    FileDescriptor opened = OpenUdp();
     const bool isOpen = opened && Set(opened, SOL_SOCKET, SO_REUSEADDR, 1) &&
                         Set(opened, IPPROTO_IP, IP_MULTICAST_ALL, 0) &&
-                        bind(opened.Number(), reinterpret_cast<const sockaddr*>(&own), sizeof(own)) == 0;
+                        BindUdp(opened, {ntohl(GroupOn(0).imr_multiaddr.s_addr), port});
     return isOpen ? std::move(opened) : FileDescriptor();
 }
 
@@ -88,18 +86,14 @@ void XPlaneBeacons::Join() {
 
 void XPlaneBeacons::Serve() {
     std::array<char, LongestPacket> bytes;
-    sockaddr_in sender{};
-    socklen_t length = sizeof(sender);
-    const ssize_t size =
-        recvfrom(socket.Number(), bytes.data(), bytes.size(), 0, reinterpret_cast<sockaddr*>(&sender), &length);
-    if (size < 0) return;
-    const std::optional<Beacon> beacon = ReadBeacon({bytes.data(), static_cast<std::size_t>(size)});
-    if (beacon) Heard(*beacon, ntohl(sender.sin_addr.s_addr));
+    const std::optional<UdpPacket> packet = ReceiveUdp(socket, bytes);
+    if (!packet) return;
+    const std::optional<Beacon> beacon = ReadBeacon(packet->Bytes);
+    if (beacon) Heard(*beacon, packet->Sender.Address);
 }
 
 void XPlaneBeacons::LeaveOut() {
-    std::array<char, 1> byte;
-    while (socket && recv(socket.Number(), byte.data(), byte.size(), 0) >= 0) continue;
+    if (socket) LeaveOutUdp(socket);
 }
 
 void XPlaneBeacons::Tell(const std::string& what) {

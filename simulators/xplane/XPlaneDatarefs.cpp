@@ -19,7 +19,7 @@ struct Asked {
     std::int32_t TimesASecond;
 };
 
-constexpr std::array<Asked, AircraftValues> OfAircraft{{
+constexpr std::array<Asked, AircraftValues> OfEveryAircraft{{
     {"sim/cockpit2/radios/actuators/audio_com_selection", Often},
     {"sim/cockpit2/radios/actuators/audio_selection_com_auto", Often},
     {"sim/cockpit2/switches/avionics_power_on", Often},
@@ -68,11 +68,13 @@ std::vector<Dataref> XPlaneDatarefs() {
     std::vector<Dataref> all;
     AddRadio(all, "com1");
     AddRadio(all, "com2");
-    for (const Asked& asked : OfAircraft) all.push_back({asked.Name, asked.TimesASecond});
+    for (const Asked& asked : OfEveryAircraft) all.push_back({asked.Name, asked.TimesASecond});
     for (const AskedText& text : Texts)
         for (std::size_t byte = 0; byte < text.Length; ++byte)
             all.push_back({std::string(text.Name) + "[" + std::to_string(byte) + "]", Seldom});
     return all;
 }
+
+Dataref OfAircraft(const std::string& name) { return {name, Often}; }
 
 }  // namespace orvelle::simulators

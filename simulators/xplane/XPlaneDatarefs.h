@@ -35,5 +35,7 @@ std::size_t NumberOf(TextValue text);
 std::size_t LengthOf(TextValue text);  // bytes that are asked for
 
 std::vector<Dataref> XPlaneDatarefs();
+// One that an aircraft has of its own.
+Dataref OfAircraft(const std::string& name);
 
 }  // namespace orvelle::simulators

@@ -12,7 +12,6 @@
 namespace orvelle::simulators {
 
 constexpr const char* BeaconGroup = "239.255.1.1";
-constexpr std::uint16_t BeaconPort = 49707;
 constexpr std::size_t SubscriptionLength = 413;
 constexpr std::size_t LongestDataref = 399;  // bytes, and a zero
 constexpr std::size_t MostValuesInPacket = 183;

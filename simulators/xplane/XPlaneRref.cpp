@@ -1,12 +1,10 @@
 #include "simulators/xplane/XPlaneRref.h"
 
-#include <arpa/inet.h>
 #include <netinet/in.h>
 
-#include <algorithm>
-#include <array>
 #include <utility>
 
+#include "simulators/UdpSocket.h"
 #include "simulators/xplane/Ipv4Interfaces.h"
 #include "simulators/xplane/XPlaneBeacons.h"
 #include "simulators/xplane/XPlaneSubscriptions.h"
@@ -21,13 +19,6 @@ constexpr Long AwaitedMilliseconds = 5000;  // without any answer: it can't be a
 constexpr Long LostMilliseconds = 10000;    // without a beacon, and without any answer: it isn't there
 constexpr Long SilentMilliseconds = 1000;   // without a value, but with a beacon: it has forgotten what was asked
 
-std::string Dotted(std::uint32_t address) {
-    const in_addr bytes{htonl(address)};
-    std::array<char, INET_ADDRSTRLEN> text{};
-    inet_ntop(AF_INET, &bytes, text.data(), text.size());
-    return text.data();
-}
-
 }  // namespace
 
 struct XPlaneRref::Parts {
@@ -41,7 +32,6 @@ struct XPlaneRref::Parts {
     void Take(const std::vector<NumberedValue>& told);
     void Follow();
     XPlaneAnswer Answer() const;
-    bool WasStartedAnew(const XPlaneValues& next) const;
     std::string Problem() const;
 
     XPlaneRref& Source;
@@ -50,15 +40,13 @@ struct XPlaneRref::Parts {
     const XPlaneSetting Setting;
     Ipv4Interfaces Interfaces{Loop};
     XPlaneBeacons Beacons{Loop, Interfaces, Setting.BeaconPort};
-    XPlaneSubscriptions Subscriptions{Loop, Interfaces, XPlaneDatarefs()};
+    XPlaneValues Values{Setting.Aircraft};
+    XPlaneSubscriptions Subscriptions{Loop, Interfaces, Values.Datarefs()};
     SimulatorLife Life{Loop, Questions};
 
     std::optional<XPlaneTarget> Target;
     bool CanBeAsked = true;  // it answers, or hasn't been asked for long
     bool IsSilent = false;   // without a value for a second
-    bool IsTold = false;     // what came last, by the life's own change
-    pid_t Process = 0;       // 0 for unknown
-    XPlaneValues Values;
     std::optional<SimulatorState> State;
     Ticket Awaited, Lost, Silent;
 };
@@ -75,7 +63,7 @@ XPlaneRref::Parts::Parts(XPlaneRref& source, EventLoop& eventLoop, ProcessQuesti
 void XPlaneRref::Parts::Find(const Beacon& beacon, std::uint32_t sender) {
     const bool isOwn = Interfaces.IsOwn(sender);
     const XPlaneTarget found{isOwn ? XPlaneOwner::ThisComputer : XPlaneOwner::Another, isOwn ? INADDR_LOOPBACK : sender,
-                             beacon.Port, beacon.Version};
+                             beacon.Port, beacon.Version, beacon.Name};
     if (!Target || TakesOver(found, *Target, Answer())) return Choose(found);
     if (!IsSame(found, *Target)) return;
     AwaitBeacon();
@@ -103,8 +91,7 @@ void XPlaneRref::Parts::Drop() {
     Subscriptions.End();
     Target.reset();
     CanBeAsked = true;
-    Process = 0;
-    Values = {};
+    Values.Forget();
     State.reset();
 }
 
@@ -122,28 +109,22 @@ void XPlaneRref::Parts::AwaitValue() {
 }
 
 void XPlaneRref::Parts::Take(const std::vector<NumberedValue>& told) {
-    XPlaneValues next = Values;
-    if (next.Take(told) == 0) return;
     // One whose process isn't known; its next beacon brings it back.
-    if (Process == 0 && WasStartedAnew(next)) return Life.Forget();
+    if (Life.Process() == 0 && Values.AreOfAnotherRun(told)) return Life.Forget();
+    if (Values.Take(told) == 0) return;
 
-    if (Life.Stands() == Presence::Absent && Target->Owner == XPlaneOwner::ThisComputer)
-        Process = Questions.OwnerOfPort(Target->Port);
+    const bool isFirst = Life.Stands() == Presence::Absent && Target->Owner == XPlaneOwner::ThisComputer;
+    const pid_t process = isFirst ? Questions.OwnerOfPort(Target->Port) : Life.Process();
     Awaited.End();
     CanBeAsked = true;
     AwaitValue();
-    Values = next;
     std::optional<SimulatorState> state = Values.State();
     const bool differs = State != state;
     State = std::move(state);
-    // With the state already told, as another process is told with its own.
-    IsTold = false;
-    Life.Hear(Process);
-    if (differs && !IsTold) Source.Changed();
+    if (Life.Hear(process) == SimulatorLife::Told::Nothing && differs) Source.Changed();
 }
 
 void XPlaneRref::Parts::Follow() {
-    IsTold = true;
     if (Life.Stands() == Presence::Absent) {
         Drop();
         // What its process has left would be taken for an X-Plane that is there.
@@ -157,17 +138,11 @@ XPlaneAnswer XPlaneRref::Parts::Answer() const {
         case Presence::Absent:
             return CanBeAsked ? XPlaneAnswer::Awaited : XPlaneAnswer::None;
         case Presence::Busy:
-            return Process == 0 ? XPlaneAnswer::Paused : XPlaneAnswer::Given;
+            return Life.Process() == 0 ? XPlaneAnswer::Paused : XPlaneAnswer::Given;
         case Presence::Live:
             break;
     }
     return XPlaneAnswer::Given;
-}
-
-// By its own clock, which goes on while it is paused.
-bool XPlaneRref::Parts::WasStartedAnew(const XPlaneValues& next) const {
-    const std::optional<float> before = Values.RunningTime();
-    return before && *next.RunningTime() < *before;
 }
 
 std::string XPlaneRref::Parts::Problem() const {
@@ -183,18 +158,13 @@ XPlaneRref::XPlaneRref(EventLoop& eventLoop, ProcessQuestions questions, XPlaneS
 
 XPlaneRref::~XPlaneRref() = default;
 
-std::string XPlaneRref::Name() const { return parts->Target ? NameOf(*parts->Target) : "X-Plane"; }
+std::string XPlaneRref::Name() const { return parts->Target ? NameWithHost(*parts->Target) : "X-Plane"; }
 
 Presence XPlaneRref::Stands() const { return parts->Life.Stands(); }
 
 int XPlaneRref::Run() const { return parts->Life.Run(); }
 
 const std::optional<SimulatorState>& XPlaneRref::State() const { return parts->State; }
-
-bool XPlaneRref::IsProgram(const std::string& executable) const {
-    const std::vector<std::string>& programs = parts->Setting.Programs;
-    return std::find(programs.begin(), programs.end(), executable) != programs.end();
-}
 
 std::string XPlaneRref::Problem() const { return parts->Problem(); }
 

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "simulators/AircraftOverrides.h"
 #include "simulators/SimulatorLife.h"
 #include "simulators/SimulatorSource.h"
 
@@ -18,7 +19,7 @@ namespace orvelle::simulators {
 
 struct XPlaneSetting {
     std::uint16_t BeaconPort = 49707;
-    std::vector<std::string> Programs = {"X-Plane-x86_64", "X-Plane"};
+    AircraftOverrides Aircraft{};
 };
 
 class XPlaneRref : public SimulatorSource {
@@ -26,11 +27,11 @@ public:
     XPlaneRref(EventLoop& eventLoop, ProcessQuestions questions, XPlaneSetting setting = {});
     ~XPlaneRref() override;
 
-    std::string Name() const override;  // "X-Plane 12", "X-Plane"
+    std::string Name() const override;  // "X-Plane 12", "X-Plane 12 on cockpit" of another computer
     Presence Stands() const override;
     int Run() const override;
     const std::optional<SimulatorState>& State() const override;
-    bool IsProgram(const std::string& executable) const override;
+    std::vector<std::string> Programs() const override { return {"X-Plane-x86_64", "X-Plane"}; }
     std::string Problem() const override;
 
 private:

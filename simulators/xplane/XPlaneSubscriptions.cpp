@@ -1,12 +1,12 @@
 #include "simulators/xplane/XPlaneSubscriptions.h"
 
-#include <arpa/inet.h>
 #include <netinet/in.h>
-#include <sys/socket.h>
 
 #include <algorithm>
 #include <array>
 #include <utility>
+
+#include "simulators/UdpSocket.h"
 
 namespace orvelle::simulators {
 
@@ -14,14 +14,6 @@ namespace {
 
 constexpr Long NextMilliseconds = 100;
 constexpr std::size_t LongestPacket = 2048;
-
-sockaddr_in AddressOf(std::uint32_t address, std::uint16_t port) {
-    sockaddr_in made{};
-    made.sin_family = AF_INET;
-    made.sin_port = htons(port);
-    made.sin_addr.s_addr = htonl(address);
-    return made;
-}
 
 }  // namespace
 
@@ -35,9 +27,9 @@ XPlaneSubscriptions::~XPlaneSubscriptions() { End(); }
 void XPlaneSubscriptions::Begin(const XPlaneTarget& asked) {
     End();
     target = asked;
-    FileDescriptor opened(::socket(AF_INET, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
-    const sockaddr_in own = AddressOf(asked.Owner == XPlaneOwner::ThisComputer ? INADDR_LOOPBACK : INADDR_ANY, 0);
-    if (!opened || bind(opened.Number(), reinterpret_cast<const sockaddr*>(&own), sizeof(own)) != 0) return;
+    FileDescriptor opened = OpenUdp();
+    const std::uint32_t own = asked.Owner == XPlaneOwner::ThisComputer ? INADDR_LOOPBACK : INADDR_ANY;
+    if (!opened || !BindUdp(opened, {own, 0})) return;
     socket = std::move(opened);
     readable = loop.WhenReadable(socket.Number(), [this] { Serve(); });
     Ask();
@@ -69,24 +61,19 @@ void XPlaneSubscriptions::Send(std::size_t number, Request request) const {
     const Dataref& dataref = datarefs[number];
     const std::int32_t times = request == Request::Begin ? dataref.TimesASecond : 0;
     const std::string packet = WriteSubscription(times, static_cast<std::int32_t>(number), dataref.Name);
-    const sockaddr_in to = AddressOf(target.Address, target.Port);
-    sendto(socket.Number(), packet.data(), packet.size(), MSG_NOSIGNAL, reinterpret_cast<const sockaddr*>(&to),
-           sizeof(to));
+    SendUdp(socket, packet, {target.Address, target.Port});
 }
 
 // One packet in a turn, as whoever hears it may begin or end. Which port an answer comes from is not documented.
 void XPlaneSubscriptions::Serve() {
     std::array<char, LongestPacket> bytes;
-    sockaddr_in sender{};
-    socklen_t length = sizeof(sender);
-    const ssize_t size =
-        recvfrom(socket.Number(), bytes.data(), bytes.size(), 0, reinterpret_cast<sockaddr*>(&sender), &length);
-    if (size < 0) return;
-    const std::uint32_t address = ntohl(sender.sin_addr.s_addr);
+    const std::optional<UdpPacket> packet = ReceiveUdp(socket, bytes);
+    if (!packet) return;
+    const std::uint32_t address = packet->Sender.Address;
     const bool isItsOwn =
         target.Owner == XPlaneOwner::ThisComputer ? interfaces.IsOwn(address) : address == target.Address;
     if (!isItsOwn) return;
-    const std::optional<std::vector<NumberedValue>> values = ReadValues({bytes.data(), static_cast<std::size_t>(size)});
+    const std::optional<std::vector<NumberedValue>> values = ReadValues(packet->Bytes);
     if (values) Heard(*values);
 }
 

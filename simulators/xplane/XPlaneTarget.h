@@ -14,6 +14,7 @@ struct XPlaneTarget {
     std::uint32_t Address = 0;  // of the sender of its beacon; loopback where that is this computer
     std::uint16_t Port = 0;     // where it takes subscriptions
     std::int32_t Version = 0;   // of X-Plane, as 121400
+    std::string Host{};         // how its computer calls itself, "" for unknown
 };
 
 // A computer has several addresses, so of this one the port says whether it is the same.
@@ -31,5 +32,8 @@ enum class XPlaneAnswer {
 bool TakesOver(const XPlaneTarget& next, const XPlaneTarget& present, XPlaneAnswer answer);
 
 std::string NameOf(const XPlaneTarget& target);  // "X-Plane 12"
+// On another computer also on which: "X-Plane 12 on cockpit", or at its address where it has no name of letters,
+// digits and a few signs.
+std::string NameWithHost(const XPlaneTarget& target);
 
 }  // namespace orvelle::simulators

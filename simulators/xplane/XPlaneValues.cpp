@@ -1,6 +1,10 @@
 #include "simulators/xplane/XPlaneValues.h"
 
+#include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
+#include <utility>
 
 #include "adapters/shared/Utf8.h"
 
@@ -13,9 +17,17 @@ constexpr int FirstRadioSelected = 6;  // what audio_com_selection holds for COM
 constexpr double FeetInMetre = 1 / 0.3048;
 constexpr double HighestAltitude = 1e6;  // feet
 
+std::vector<Dataref> DatarefsWith(const AircraftOverrides& aircraft) {
+    std::vector<Dataref> all = XPlaneDatarefs();
+    for (const std::string& own : aircraft.Properties(AircraftOf::XPlane))
+        if (std::ranges::find(all, own, &Dataref::Name) == all.end()) all.push_back(OfAircraft(own));
+    return all;
+}
+
 }  // namespace
 
-XPlaneValues::XPlaneValues() : values(XPlaneDatarefs().size()) {}
+XPlaneValues::XPlaneValues(AircraftOverrides ofAircraft)
+    : aircraft(std::move(ofAircraft)), datarefs(DatarefsWith(aircraft)), values(datarefs.size()) {}
 
 std::size_t XPlaneValues::Take(const std::vector<NumberedValue>& told) {
     std::size_t taken = 0;
@@ -25,6 +37,15 @@ std::size_t XPlaneValues::Take(const std::vector<NumberedValue>& told) {
         ++taken;
     }
     return taken;
+}
+
+void XPlaneValues::Forget() { std::ranges::fill(values, std::nullopt); }
+
+bool XPlaneValues::AreOfAnotherRun(const std::vector<NumberedValue>& told) const {
+    const std::size_t clock = NumberOf(AircraftValue::RunningTime);
+    return At(clock) && std::ranges::any_of(told, [&](const NumberedValue& each) {
+               return each.first == static_cast<std::int32_t>(clock) && each.second < *At(clock);
+           });
 }
 
 std::optional<float> XPlaneValues::At(std::size_t number) const {
@@ -44,9 +65,11 @@ SimulatorState XPlaneValues::State() const {
     state.Where = Where();
     state.Tail = Text(TextValue::Tail);
     state.Aircraft = Text(TextValue::Kind);
-    return state;
+    return aircraft.Apply(AircraftOf::XPlane, std::move(state),
+                          [this](const std::string& dataref) { return Told(dataref); });
 }
 
+// Which radio is heard if it has power, of which an aircraft may have its own idea.
 Radio XPlaneValues::RadioAt(std::size_t radio, int transmits) const {
     Radio told;
     const float frequency = At(NumberOf(RadioValue::Frequency, radio)).value_or(0);
@@ -57,7 +80,7 @@ Radio XPlaneValues::RadioAt(std::size_t radio, int transmits) const {
                             (isTransmitting && IsOn(NumberOf(AircraftValue::HearsTransmitting)));
     // A volume that isn't told doesn't turn it off.
     const bool isTurnedUp = At(NumberOf(RadioValue::Volume, radio)).value_or(1) > 0;
-    told.IsHeard = told.IsOperable && isSelected && isTurnedUp;
+    told.IsHeard = isSelected && isTurnedUp;
     return told;
 }
 
@@ -70,6 +93,14 @@ std::optional<Place> XPlaneValues::Where() const {
     const bool isPlace = std::abs(place.Latitude) <= 90 && std::abs(place.Longitude) <= 180 &&
                          std::abs(place.Altitude) <= HighestAltitude;
     return isPlace ? std::optional(place) : std::nullopt;
+}
+
+std::string XPlaneValues::Told(const std::string& dataref) const {
+    const auto found = std::ranges::find(datarefs, dataref, &Dataref::Name);
+    const std::optional<float> value = At(static_cast<std::size_t>(found - datarefs.begin()));
+    if (!value) return "";
+    std::array<char, 32> text;
+    return {text.data(), std::to_chars(text.data(), text.data() + text.size(), *value).ptr};
 }
 
 // Nothing while a byte before its end is missing, or for what is no text.

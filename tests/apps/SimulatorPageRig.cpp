@@ -16,8 +16,7 @@ constexpr QSize UsualSize(1000, 640);  // of the simulator's window
 }  // namespace
 
 SimulatorPageRig::SimulatorPageRig()
-    : flightGear(loop, {[](std::uint16_t) { return 0; }, [](pid_t, const std::function<void()>&) { return Ticket(); }},
-                 simulators::AircraftOverrides(), 0),
+    : flightGear(loop, simulators::ProcessQuestions(), simulators::AircraftOverrides(), 0),
       window(std::make_unique<QTabWidget>()) {
     const SimulatorPageParts parts{
         .FlightGear = flightGear,
@@ -48,13 +47,13 @@ SimulatorPageRig::SimulatorPageRig()
 SimulatorPageRig::~SimulatorPageRig() = default;
 
 void SimulatorPageRig::PlayFlight() {
-    cessna.Told = simulators::SimulatorState{.Radios = {{{118300, true, true}, {122800, true, false}}},
-                                             .Transmits = 1,
-                                             .Callsign = "D-EABC",
-                                             .IsOnline = true,
-                                             .IsPaused = true,
-                                             .Where = simulators::Place{63.985, -22.6056, 2171},
-                                             .Aircraft = "c172p"};
+    cessna.Tell({.Radios = {{{118300, true, true}, {122800, true, false}}},
+                 .Transmits = 1,
+                 .Callsign = "D-EABC",
+                 .IsOnline = true,
+                 .IsPaused = true,
+                 .Where = simulators::Place{63.985, -22.6056, 2171},
+                 .Aircraft = "c172p"});
     chosen = &cessna;
     content.PassedOver = {&other};
     content.Trouble = "The network refuses to tell where X-Plane is.";

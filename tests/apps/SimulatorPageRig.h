@@ -11,33 +11,15 @@
 
 #include "adapters/qt/services/QtEventLoop.h"
 #include "apps/simulator/SimulatorPage.h"
-#include "simulators/SimulatorSource.h"
 #include "simulators/directory/OwnLogins.h"
 #include "simulators/flightgear/FlightGearLine.h"
 #include "simulators/flightgear/FlightGearOptions.h"
 #include "tests/qt/shell/WidgetInput.h"
+#include "tests/simulators/PlayedSource.h"
 
 class QTabWidget;
 
 namespace orvelle {
-
-class PlayedSimulator : public simulators::SimulatorSource {
-public:
-    explicit PlayedSimulator(std::string itsName) : name(std::move(itsName)) {}
-
-    std::string Name() const override { return name; }
-    simulators::Presence Stands() const override { return Presence; }
-    int Run() const override { return 1; }
-    const std::optional<simulators::SimulatorState>& State() const override { return Told; }
-    bool IsProgram(const std::string&) const override { return false; }
-    std::string Problem() const override { return ""; }
-
-    simulators::Presence Presence = simulators::Presence::Live;
-    std::optional<simulators::SimulatorState> Told;
-
-private:
-    const std::string name;
-};
 
 class SimulatorPageRig : public testing::Test {
 protected:
@@ -67,8 +49,7 @@ protected:
     simulators::FlightGearLine flightGear;
     simulators::FlightGearOptions options{home / "installed", home / "own", home, 5601};
     directory::OwnLogins logins{home / "directory-logins.json"};
-    PlayedSimulator cessna{"FlightGear"};
-    PlayedSimulator other{"X-Plane 12"};
+    simulators::PlayedSource cessna{"FlightGear", "fgfs"}, other{"X-Plane 12", "X-Plane"};
     const simulators::SimulatorSource* chosen = nullptr;
     SimulatorPageContent content;
     std::string refusal;  // what entering an address is answered

@@ -66,9 +66,21 @@ TEST_F(SimulatorPageTest, ASimulatorIsShownWithAircraftPlaceAndRadios) {
     EXPECT_EQ(TextOf("RecordCOM2"), "None");
 }
 
+TEST_F(SimulatorPageTest, TheTailNumberIsShownWhereTheSimulatorTellsOne) {
+    PlayFlight();
+    simulators::SimulatorState state = *cessna.State();
+    state.Tail = "N172SP";
+    state.Callsign.clear();
+    cessna.Tell(state);
+    ShowAll();
+    EXPECT_EQ(TextOf("Aircraft"), "c172p, tail number N172SP, online");
+}
+
 TEST_F(SimulatorPageTest, ARadioWithoutPowerHasNoStation) {
     PlayFlight();
-    cessna.Told->Radios[1].IsOperable = false;
+    simulators::SimulatorState state = *cessna.State();
+    state.Radios[1].IsOperable = false;
+    cessna.Tell(state);
     content.Radios[1] = {122800, true, {directory::Reason::NotTuned}};
     ShowAll();
     EXPECT_EQ(TextOf("SoundsCOM2"), "No power");
@@ -78,7 +90,7 @@ TEST_F(SimulatorPageTest, ARadioWithoutPowerHasNoStation) {
 TEST_F(SimulatorPageTest, ASilentSimulatorIsCountedAlsoWhileThePageIsHidden) {
     PlayFlight();
     window->setCurrentIndex(0);
-    cessna.Presence = simulators::Presence::Busy;
+    cessna.FallSilent();
     page->ShowState();
     ASSERT_TRUE(WaitFor([&] {
         ShowAll();
@@ -87,7 +99,7 @@ TEST_F(SimulatorPageTest, ASilentSimulatorIsCountedAlsoWhileThePageIsHidden) {
     EXPECT_EQ(SignAt("Found"), Sign::Waiting);
     const QString first = TextOf("FoundText");
     EXPECT_TRUE(WaitFor([&] { return TextOf("FoundText") != first; })) << "the seconds go on by themselves";
-    cessna.Presence = simulators::Presence::Live;
+    cessna.Tell(simulators::SimulatorState(*cessna.State()));
     page->ShowState();
     EXPECT_TRUE(WaitFor([&] { return TextOf("FoundText") == "FlightGear"; }));
 }

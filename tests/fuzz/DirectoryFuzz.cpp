@@ -5,9 +5,6 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <functional>
-#include <iostream>
 #include <memory>
 #include <set>
 #include <string>
@@ -19,6 +16,7 @@
 #include "simulators/directory/DirectoryReading.h"
 #include "simulators/directory/Placeholders.h"
 #include "simulators/directory/StationIndex.h"
+#include "tests/fuzz/Breach.h"
 
 namespace orvelle::directory {
 
@@ -26,20 +24,10 @@ namespace {
 
 constexpr std::size_t LongestText = 1000;
 
-[[noreturn]] void Fail(std::string_view what, std::string_view text) {
-    std::cerr << "breach: " << what << ": " << text << '\n';
-    std::abort();
-}
+using fuzz::Fail;
 
-// Told by the target's own destructor, since the fuzzer ends the program by exit.
-struct Counts {
-    ~Counts() { std::cerr << "directories: " << Mistaken << " with a mistake, " << Sound << " without\n"; }
-    unsigned long Mistaken = 0;
-    unsigned long Sound = 0;
-};
-
-Counts& Tried() {
-    static Counts counts;
+fuzz::Counts& Tried() {
+    static fuzz::Counts counts("directories");
     return counts;
 }
 
@@ -119,33 +107,10 @@ void Read(std::string_view text) {
     if (!read.Content && read.Faults.empty()) Fail("nothing is told", text);
     HoldFaults(read.Faults, lines);
     HoldFaults(FindOddities(read), lines);
-    ++(read.FaultCount == 0 ? Tried().Sound : Tried().Mistaken);
+    Tried().Count(read.FaultCount == 0);
     if (!read.Content) return;
     HoldContent(*read.Content);
     HoldLook(std::make_shared<const Directory>(std::move(*read.Content)));
-}
-
-// What is one step away from the text: cut somewhere, or with one byte less, more or another.
-void ReadNeighbours(std::string_view text) {
-    constexpr std::size_t Neighbours = 16;
-    constexpr std::string_view Bytes = "\"\\{}[],:0-.e9\n \xFF\xC3";
-    if (text.empty()) return;
-    std::size_t step = std::hash<std::string_view>()(text);
-    for (std::size_t count = 0; count < Neighbours; ++count) {
-        step = step * 6364136223846793005U + 1442695040888963407U;
-        const std::size_t place = (step >> 33) % text.size();
-        const char byte = Bytes[(step >> 20) % Bytes.size()];
-        std::string neighbour(text);
-        if (count % 8 == 0)
-            neighbour.resize(place);
-        else if (count % 4 == 1)
-            neighbour.erase(place, 1);
-        else if (count % 4 == 2)
-            neighbour.insert(place, 1, byte);
-        else
-            neighbour[place] = byte;
-        Read(neighbour);
-    }
 }
 
 }  // namespace
@@ -153,8 +118,8 @@ void ReadNeighbours(std::string_view text) {
 }  // namespace orvelle::directory
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t count) {
-    const std::string_view text(reinterpret_cast<const char*>(bytes), count);
+    const std::string_view text = orvelle::fuzz::TextOf(bytes, count);
     orvelle::directory::Read(text);
-    orvelle::directory::ReadNeighbours(text);
+    orvelle::fuzz::ReadNeighbours(text, 16, orvelle::directory::Read);
     return 0;
 }

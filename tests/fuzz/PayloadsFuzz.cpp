@@ -4,9 +4,6 @@
 // refused.
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <functional>
-#include <iostream>
 #include <optional>
 #include <sstream>
 #include <string>
@@ -16,6 +13,7 @@
 #include "adapters/mqtt/Payloads.h"
 #include "adapters/mqtt/SetUpFile.h"
 #include "adapters/mqtt/Topics.h"
+#include "tests/fuzz/Breach.h"
 
 namespace orvelle::mqtt {
 
@@ -23,20 +21,10 @@ namespace {
 
 constexpr std::size_t PayloadBound = 65536;
 
-[[noreturn]] void Fail(std::string_view what, std::string_view text) {
-    std::cerr << "breach: " << what << ": " << text << '\n';
-    std::abort();
-}
+using fuzz::Fail;
 
-// Told by the target's own destructor, since the fuzzer ends the program by exit.
-struct Counts {
-    ~Counts() { std::cerr << "payloads: " << Refused << " malformed, " << Taken << " taken\n"; }
-    unsigned long Refused = 0;
-    unsigned long Taken = 0;
-};
-
-Counts& Tried() {
-    static Counts counts;
+fuzz::Counts& Tried() {
+    static fuzz::Counts counts("payloads");
     return counts;
 }
 
@@ -44,7 +32,7 @@ Counts& Tried() {
 template <typename Read, typename Write>
 void Hold(std::string_view text, Read read, Write write) {
     const auto content = read(text);
-    ++(content ? Tried().Taken : Tried().Refused);
+    Tried().Count(content.has_value());
     if (!content) return;
     const std::string written = write(*content);
     if (written.size() > PayloadBound) Fail("too long", written);
@@ -120,39 +108,16 @@ void Read(unsigned char choice, std::string_view text) {
     }
 }
 
-// What is one step away from the text: cut somewhere, or with one byte less, more or another. Most of these are
-// malformed in one place, and they cost far less than an input that the fuzzer makes.
-void ReadNeighbours(unsigned char choice, std::string_view text) {
-    constexpr std::size_t Neighbours = 64;
-    constexpr std::string_view Bytes = "\"\\{}[],:0-.e9x \xFF\xC3";
-    if (text.empty()) return;
-    std::size_t step = std::hash<std::string_view>()(text);
-    for (std::size_t count = 0; count < Neighbours; ++count) {
-        step = step * 6364136223846793005U + 1442695040888963407U;
-        const std::size_t place = (step >> 33) % text.size();
-        const char byte = Bytes[(step >> 20) % Bytes.size()];
-        std::string neighbour(text);
-        if (count % 4 == 0)
-            neighbour.resize(place);
-        else if (count % 4 == 1)
-            neighbour.erase(place, 1);
-        else if (count % 4 == 2)
-            neighbour.insert(place, 1, byte);
-        else
-            neighbour[place] = byte;
-        Read(choice, neighbour);
-    }
-}
-
 }  // namespace
 
 }  // namespace orvelle::mqtt
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t count) {
     if (count == 0) return 0;
-    const std::string_view text(reinterpret_cast<const char*>(bytes) + 1, count - 1);
-    orvelle::mqtt::Read(bytes[0], text);
-    orvelle::mqtt::ReadNeighbours(bytes[0], text);
+    const std::string_view text = orvelle::fuzz::TextOf(bytes + 1, count - 1);
+    const auto read = [choice = bytes[0]](std::string_view each) { orvelle::mqtt::Read(choice, each); };
+    read(text);
+    orvelle::fuzz::ReadNeighbours(text, 64, read);
     if (bytes[0] % 16 == 0) orvelle::mqtt::Send(text);
     return 0;
 }

@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
-#include <iostream>
 #include <memory>
 #include <span>
 #include <string>
@@ -19,6 +18,7 @@
 #include "adapters/mumble/Varint.h"
 #include "adapters/mumble/VoicePacket.h"
 #include "adapters/mumble/VoiceServer.pb.h"
+#include "tests/fuzz/Breach.h"
 
 namespace orvelle::mumble {
 
@@ -31,22 +31,10 @@ constexpr std::size_t WayBound = 300;  // packets: so many may be lost, and some
 constexpr CryptBlock Key{1, 2, 3};
 constexpr CryptBlock Nonce{0xF0, 0xFF, 0xFF};  // soon carries
 
-void Hold(bool isSo, std::string_view what) {
-    if (isSo) return;
-    std::cerr << "breach: " << what << '\n';
-    std::abort();
-}
+using fuzz::Hold;
 
-// Told by the target's own destructor, since the fuzzer ends the program by exit.
-struct Counts {
-    ~Counts() { std::cerr << "voice: " << Refused << " refused, " << Taken << " taken\n"; }
-    void Count(bool isTaken) { ++(isTaken ? Taken : Refused); }
-    unsigned long Refused = 0;
-    unsigned long Taken = 0;
-};
-
-Counts& Tried() {
-    static Counts counts;
+fuzz::Counts& Tried() {
+    static fuzz::Counts counts("voice");
     return counts;
 }
 

@@ -5,15 +5,14 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <cstring>
-#include <iostream>
 #include <string>
 #include <string_view>
 
 #include "adapters/shared/Utf8.h"
 #include "simulators/xplane/XPlanePackets.h"
 #include "simulators/xplane/XPlaneValues.h"
+#include "tests/fuzz/Breach.h"
 
 namespace orvelle::simulators {
 
@@ -24,22 +23,10 @@ constexpr std::size_t PairLength = 8;
 constexpr std::size_t BeaconLength = 21;
 constexpr std::size_t LongestName = 500;
 
-void Hold(bool isSo, std::string_view what) {
-    if (isSo) return;
-    std::cerr << "breach: " << what << '\n';
-    std::abort();
-}
+using fuzz::Hold;
 
-// Told by the target's own destructor, since the fuzzer ends the program by exit.
-struct Counts {
-    ~Counts() { std::cerr << "packets: " << Refused << " refused, " << Taken << " taken\n"; }
-    void Count(bool isTaken) { ++(isTaken ? Taken : Refused); }
-    unsigned long Refused = 0;
-    unsigned long Taken = 0;
-};
-
-Counts& Tried() {
-    static Counts counts;
+fuzz::Counts& Tried() {
+    static fuzz::Counts counts("packets");
     return counts;
 }
 
@@ -112,7 +99,7 @@ void HoldSeveral(std::string_view bytes) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t count) {
     using namespace orvelle::simulators;
     if (count == 0) return 0;
-    const std::string_view rest(reinterpret_cast<const char*>(bytes) + 1, count - 1);
+    const std::string_view rest = orvelle::fuzz::TextOf(bytes + 1, count - 1);
     switch (bytes[0] % 3) {
         case 0:
             HoldBeacon(rest);

@@ -1,10 +1,11 @@
-#include "simulators/flightgear/AircraftOverrides.h"
+#include "simulators/AircraftOverrides.h"
 
 #include <gtest/gtest.h>
 
 #include <fstream>
 
-#include "simulators/flightgear/AircraftFile.h"
+#include "simulators/AircraftFile.h"
+#include "simulators/flightgear/FlightGearText.h"
 #include "tests/shared/OwnFolder.h"
 
 namespace orvelle::simulators {
@@ -20,7 +21,8 @@ std::string Of(const AircraftOverrides& overrides, const std::string& members) {
     const auto words = ReadFlightGearLine("COM1=118.305,COM2=121.500," + members + ",CS=\n");
     EXPECT_TRUE(words) << members;
     if (!words) return "";
-    const SimulatorState state = overrides.Apply(*words);
+    const SimulatorState state = overrides.Apply(AircraftOf::FlightGear, words->State,
+                                                 [&](const std::string& property) { return words->Other(property); });
     return std::string(state.Radios[0].IsHeard ? "1" : "-") + (state.Radios[1].IsHeard ? "2" : "-") + " talks " +
            std::to_string(state.Transmits);
 }
@@ -78,10 +80,10 @@ struct OwnFile : OwnFolder {
 TEST(AircraftOverridesTest, PropertiesTellWhatIsHeard) {
     OwnFile own;
     ASSERT_EQ(own.Add(R"({"format": "orvelle-aircraft/1", "aircraft": [
-        {"simulator": "xplane", "anything": 1},
+        {"simulator": "another", "anything": 1},
         {"simulator": "flightgear", "names": ["a?", "*jet*", "b*"], "heard": [{"property": "/a/b[1]/com-1"}, null]}]})"),
               "");
-    EXPECT_EQ(own.Overrides.Properties(), std::vector<std::string>{"/a/b[1]/com-1"});
+    EXPECT_EQ(own.Overrides.Properties(AircraftOf::FlightGear), std::vector<std::string>{"/a/b[1]/com-1"});
     for (const char* held : {"true", "1", "-1", "0.500000"})
         EXPECT_EQ(Of(own.Overrides, std::string("VOL1=0,/a/b[1]/com-1=") + held + ",AIRCRAFT=bigjet2"), "12 talks 1")
             << held;
@@ -100,7 +102,7 @@ TEST(AircraftOverridesTest, TheFirstFileCounts) {
               "");
     ASSERT_EQ(own.Overrides.Add(std::filesystem::path(FLIGHTGEAR_PACKAGED) / "aircraft.json"), "");
     EXPECT_EQ(Of(own.Overrides, Knob("0", ",/mine=both")), "-- talks 1");
-    EXPECT_EQ(own.Overrides.Properties(),
+    EXPECT_EQ(own.Overrides.Properties(AircraftOf::FlightGear),
               (std::vector<std::string>{"/mine", "/instrumentation/kma20/knob", "/instrumentation/kma20/auto"}));
 }
 
@@ -127,12 +129,17 @@ TEST(AircraftOverridesTest, AMistakeIsNamedByFileAndLine) {
              {head + "\"names\": [\"a\"],\n\"heard\": [{\"property\": \"/a\"},\n{\"property\": \"a,b\"}]}]}",
               ", line 6: \"property\" must name a property of FlightGear by its whole path, as "
               "\"/controls/radios/comm-ptt\"."},
+             {"{\"format\": \"orvelle-aircraft/1\",\n\"aircraft\": [\n{\"simulator\": \"xplane\", \"names\": "
+              "[\"A320\"],\n"
+              "\"power\": [{\"property\": \"/a\"}, null]}]}",
+              ", line 4: \"dataref\" must name a dataref of X-Plane by its whole path, as "
+              "\"sim/cockpit2/radios/actuators/com1_power\"."},
              {head + "\"names\": [\"a\"],\n\"heard\": []}]}",
               ", line 5: \"heard\" must be a list of two, for COM1 and COM2."},
          }) {
         OwnFile own;
         EXPECT_EQ(own.Add(text), own.Sentence(told));
-        EXPECT_TRUE(own.Overrides.Properties().empty()) << text;
+        EXPECT_TRUE(own.Overrides.Properties(AircraftOf::FlightGear).empty()) << text;
     }
 }
 

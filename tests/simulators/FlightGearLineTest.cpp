@@ -90,7 +90,7 @@ TEST(FlightGearLineTest, TheEndOfTheProcessIsTheEnd) {
     EXPECT_EQ(rig.Line.Stands(), Presence::Absent);
     EXPECT_FALSE(rig.Line.State());
 
-    rig.Loop.BringLines();
+    rig.BringLines();
     EXPECT_EQ(rig.Line.Stands(), Presence::Absent) << "what a process has left behind brings it back";
 }
 
@@ -127,11 +127,26 @@ TEST(FlightGearLineTest, OfTwoTheOneThatIsHeardCounts) {
     EXPECT_EQ(rig.Line.Run(), 1);
     EXPECT_EQ(rig.Line.State()->Radios[0].Kilohertz, 118305);
     EXPECT_EQ(rig.Asked, 2) << "who owns a port is asked too often";
+    EXPECT_EQ(rig.Changes, 2) << "of the first one's state, and that there is a second one";
+    EXPECT_EQ(rig.Line.Problem(), "Another FlightGear sends lines to port " + std::to_string(rig.Line.Port()) +
+                                      ", too; they are left out while the first one is heard.");
 
     rig.Loop.Run(2500);
+    EXPECT_EQ(rig.Line.Problem(), "");
     rig.Say(second, TunedAway);
     EXPECT_EQ(rig.Line.Run(), 2);
     EXPECT_EQ(rig.Line.State()->Radios[0].Kilohertz, 119100);
+}
+
+TEST(FlightGearLineTest, AResetOfAnUnknownProcessIsNoSecondOne) {
+    FlightGearRig rig;
+    LoopbackSocket before, after, other;
+    rig.Owners[other.Port()] = 41;
+    rig.Say(before, Tuned);
+    rig.Say(after, TunedAway);
+    EXPECT_EQ(rig.Line.Problem(), "");
+    rig.Say(other, TunedAway);
+    EXPECT_NE(rig.Line.Problem(), "") << "one that is known and one that isn't are two";
 }
 
 TEST(FlightGearLineTest, AnUnknownProcessIsGoneAfterTenSeconds) {
@@ -166,12 +181,7 @@ TEST(FlightGearLineTest, APortThatIsTakenIsToldAndTriedAgain) {
 TEST(FlightGearLineTest, NothingIsHeardButOverLoopback) {
     FlightGearRig rig;
     // The same port of another address would be taken by a socket that is bound to all of them.
-    const FileDescriptor other(socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0));
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_port = htons(rig.Line.Port());
-    address.sin_addr.s_addr = htonl(0x7F000002);
-    EXPECT_EQ(bind(other.Number(), reinterpret_cast<sockaddr*>(&address), sizeof(address)), 0);
+    EXPECT_TRUE(BindUdp(OpenUdp(), {0x7F000002, rig.Line.Port()}));
 }
 
 TEST(FlightGearLineTest, AnAircraftsOwnPanelCounts) {

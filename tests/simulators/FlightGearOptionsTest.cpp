@@ -45,7 +45,7 @@ AircraftOverrides Packaged() {
 
 TEST(FlightGearOptionsTest, TheProtocolFileThatIsInstalledIsThatOfTheInstalledAircraft) {
     EXPECT_EQ(Read(fs::path(FLIGHTGEAR_PACKAGED) / "Protocol" / "orvelle.xml"),
-              FlightGearProtocol(Packaged().Properties()));
+              FlightGearProtocol(Packaged().Properties(AircraftOf::FlightGear)));
 }
 
 TEST(FlightGearOptionsTest, TheLinesNameTheInstalledFolderAndThePort) {
@@ -133,14 +133,14 @@ TEST(FlightGearOptionsTest, AddingAgainChangesNothing) {
 TEST(FlightGearOptionsTest, LinesOfOursFromBeforeAreReplaced) {
     const Home home;
     Write(home.File,
-          "--data=/opt/old/share/orvelle/flightgear\n--a\n--generic=socket,out,10,127.0.0.1,5777,udp,orvelle\n"
-          "#--data=/opt/old/share/orvelle/flightgear\n");
+          "--data=/opt/old/share/orvellecp/flightgear\n--a\n--generic=socket,out,10,127.0.0.1,5777,udp,orvelle\n"
+          "#--data=/opt/old/share/orvellecp/flightgear\n");
     EXPECT_FALSE(home.Options().AreAdded());
     EXPECT_EQ(home.Options().Add(), "");
-    EXPECT_EQ(Read(home.File), "--a\n#--data=/opt/old/share/orvelle/flightgear\n" + home.Both());
+    EXPECT_EQ(Read(home.File), "--a\n#--data=/opt/old/share/orvellecp/flightgear\n" + home.Both());
     EXPECT_FALSE(fs::exists(home.Copy)) << "a file with lines of ours is not what it was before them";
     EXPECT_EQ(home.Options().TakeOut(), "");
-    EXPECT_EQ(Read(home.File), "--a\n#--data=/opt/old/share/orvelle/flightgear\n");
+    EXPECT_EQ(Read(home.File), "--a\n#--data=/opt/old/share/orvellecp/flightgear\n");
 }
 
 TEST(FlightGearOptionsTest, LinksAreFollowedAndRightsKept) {

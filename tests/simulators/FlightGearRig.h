@@ -2,88 +2,47 @@
 // names, on a clock that the test drives.
 #pragma once
 
-#include <arpa/inet.h>
 #include <gtest/gtest.h>
 #include <netinet/in.h>
-#include <sys/socket.h>
 
 #include <map>
 #include <string>
 #include <utility>
 
-#include "adapters/shared/FileDescriptor.h"
-#include "platform/Observers.h"
+#include "simulators/UdpSocket.h"
 #include "simulators/flightgear/FlightGearLine.h"
-#include "tests/shared/HandLoop.h"
+#include "tests/simulators/PlayedProcesses.h"
+#include "tests/simulators/SocketClock.h"
 
 namespace orvelle::simulators {
 
-// Knows the socket that waits.
-class SocketLoop : public HandLoop {
-public:
-    [[nodiscard]] Ticket WhenReadable(int descriptor, Task task) override {
-        waiting = descriptor;
-        return HandLoop::WhenReadable(descriptor, std::move(task));
-    }
-    void BringLines() { BringReadable(waiting); }
-
-private:
-    int waiting = -1;
-};
-
 class LoopbackSocket {
 public:
-    LoopbackSocket() : socket(::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0)) {
-        EXPECT_TRUE(socket);
-        EXPECT_EQ(bind(socket.Number(), To(0), sizeof(address)), 0);
-        socklen_t length = sizeof(address);
-        EXPECT_EQ(getsockname(socket.Number(), reinterpret_cast<sockaddr*>(&address), &length), 0);
-        port = ntohs(address.sin_port);
-    }
-    std::uint16_t Port() const { return port; }
+    LoopbackSocket() { EXPECT_TRUE(BindUdp(socket, {INADDR_LOOPBACK, 0})); }
+    std::uint16_t Port() const { return PlaceOf(socket).Port; }
     void Send(std::uint16_t receiver, const std::string& text) {
-        EXPECT_EQ(sendto(socket.Number(), text.data(), text.size(), 0, To(receiver), sizeof(address)),
-                  static_cast<ssize_t>(text.size()));
+        EXPECT_EQ(SendUdp(socket, text, {INADDR_LOOPBACK, receiver}), static_cast<ssize_t>(text.size()));
     }
 
 private:
-    const sockaddr* To(std::uint16_t receiver) {
-        address = {};
-        address.sin_family = AF_INET;
-        address.sin_port = htons(receiver);
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        return reinterpret_cast<const sockaddr*>(&address);
-    }
-
-    FileDescriptor socket;
-    sockaddr_in address{};
-    std::uint16_t port = 0;
+    const FileDescriptor socket = OpenUdp();
 };
 
-struct FlightGearRig {
+struct FlightGearRig : PlayedProcesses {
     explicit FlightGearRig(AircraftOverrides aircraft = {}, std::uint16_t port = 0)
-        : Line(Loop, Questions(), std::move(aircraft), port) {
+        : Line(Loop, Questions([this](std::uint16_t of) { return Owners[of]; }), std::move(aircraft), port) {
         Line.Changed = [this] { ++Changes; };
     }
 
-    ProcessQuestions Questions() {
-        return {[this](std::uint16_t port) {
-                    ++Asked;
-                    return Owners[port];
-                },
-                [this](pid_t process, std::function<void()> task) { return Endings[process].Attach(std::move(task)); }};
-    }
     // The line comes, and is taken.
     void Say(LoopbackSocket& from, const std::string& line) {
         from.Send(Line.Port(), line);
-        Loop.BringLines();
+        BringLines();
     }
-    void End(pid_t process) { Endings[process].Tell(); }
+    void BringLines() { Loop.Serve(SocketClock::Way::IsEmpty); }
 
-    SocketLoop Loop;
+    SocketClock Loop;
     std::map<std::uint16_t, pid_t> Owners;  // of ports; 0 for unknown
-    std::map<pid_t, Observers<>> Endings;
-    int Asked = 0;
     FlightGearLine Line;
     int Changes = 0;
 };

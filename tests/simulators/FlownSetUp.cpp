@@ -10,12 +10,11 @@
 #include "apps/FreePort.h"
 #include "tests/linux/ServeUntil.h"
 #include "tests/linux/WaitUntil.h"
-#include "tests/simulators/FlightGearRig.h"
 
 namespace orvelle::simulators {
 
 FlownSetUp::FlownSetUp(const std::string& program, const std::string& directory, const std::string& display)
-    : port(FreePort()), linesPort(LoopbackSocket().Port()) {
+    : port(FreePort()), linesPort(FreePort()) {
     const std::filesystem::path data = folder.Path / "data";
     std::filesystem::create_directories(data / "directory.d");
     std::ofstream(data / "directory.d" / "club.json") << directory;

@@ -17,7 +17,7 @@ public:
     Presence Stands() const override { return presence; }
     int Run() const override { return run; }
     const std::optional<SimulatorState>& State() const override { return state; }
-    bool IsProgram(const std::string& executable) const override { return executable == program; }
+    std::vector<std::string> Programs() const override { return {program, name}; }
     std::string Problem() const override { return ""; }
 
     // A process of it is there, and has told nothing yet.

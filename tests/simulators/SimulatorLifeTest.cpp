@@ -2,10 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-
-#include "platform/Observers.h"
 #include "tests/shared/HandLoop.h"
+#include "tests/simulators/PlayedProcesses.h"
 
 namespace orvelle::simulators {
 namespace {
@@ -22,11 +20,8 @@ protected:
     }
 
     HandLoop loop;
-    std::map<pid_t, Observers<>> endings;
-    SimulatorLife life{
-        loop,
-        {[](std::uint16_t) { return 0; },
-         [this](pid_t process, std::function<void()> task) { return endings[process].Attach(std::move(task)); }}};
+    PlayedProcesses processes;
+    SimulatorLife life{loop, processes.Questions({})};
     int changes = 0;
 };
 
@@ -54,7 +49,7 @@ TEST_F(SimulatorLifeTest, IsBusyAfterTwoSecondsAndForAsLongAsItsProcessIsThere) 
 
 TEST_F(SimulatorLifeTest, EndsWithItsProcessAtOnce) {
     life.Hear(41);
-    endings[41].Tell();
+    processes.End(41);
     Expect(Presence::Absent, 1, 2);
     EXPECT_EQ(life.Process(), 0);
     EXPECT_TRUE(loop.Idle());
@@ -63,18 +58,18 @@ TEST_F(SimulatorLifeTest, EndsWithItsProcessAtOnce) {
 TEST_F(SimulatorLifeTest, EndsWithItsProcessAlsoWhileItIsBusy) {
     life.Hear(41);
     loop.Run(5000);
-    endings[41].Tell();
+    processes.End(41);
     Expect(Presence::Absent, 1, 3);
 }
 
 TEST_F(SimulatorLifeTest, TheNextProcessIsAnotherRun) {
     life.Hear(41);
-    endings[41].Tell();
+    processes.End(41);
     life.Hear(42);
     Expect(Presence::Live, 2, 3);
     life.Hear(43);
     Expect(Presence::Live, 3, 4);
-    endings[42].Tell();
+    processes.End(42);
     Expect(Presence::Live, 3, 4);
 }
 

@@ -44,6 +44,7 @@ TEST_F(XPlaneNetworkTest, OneOfAnotherComputerIsFoundByAnInterfaceThatComesLater
     other.Join();
     EXPECT_TRUE(PassUntil([&] { return rig.Tells(119100); }));
     EXPECT_EQ(rig.Asked, 0) << "whose process it is";
+    EXPECT_EQ(rig.Source.Name(), "X-Plane 12 on cockpit");
 }
 
 TEST_F(XPlaneNetworkTest, OneOfThisComputerTakesOverAndGivesBack) {
@@ -54,6 +55,7 @@ TEST_F(XPlaneNetworkTest, OneOfThisComputerTakesOverAndGivesBack) {
     rig.Server.Start();
     EXPECT_TRUE(PassUntil([&] { return rig.Tells(118305); }));
     EXPECT_EQ(rig.Source.Run(), run + 1);
+    EXPECT_EQ(rig.Source.Name(), "X-Plane 12");
     EXPECT_TRUE(PassUntil([&] { return there->Subscriptions() == 0; })) << "nothing is asked there any more";
     rig.Kill();
     EXPECT_TRUE(PassUntil([&] { return rig.Tells(119100); }));

@@ -4,32 +4,25 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-#include <string>
 #include <utility>
 
-#include "platform/Observers.h"
 #include "simulators/xplane/XPlaneRref.h"
+#include "tests/simulators/PlayedProcesses.h"
 #include "tests/simulators/SocketClock.h"
 #include "tests/simulators/XPlaneServer.h"
 
 namespace orvelle::simulators {
 
-struct XPlaneRig {
-    XPlaneRig() {
+struct XPlaneRig : PlayedProcesses {
+    explicit XPlaneRig(AircraftOverrides aircraft = {})
+        : Source(Loop, Questions([this](std::uint16_t port) { return port == Server.Port() ? Process : 0; }),
+                 {Server.BeaconPort(), std::move(aircraft)}) {
         Source.Changed = [this] {
             ++Changes;
             if (Source.State() && Source.Stands() == Presence::Absent) ADD_FAILURE() << "a state of none";
         };
     }
 
-    ProcessQuestions Questions() {
-        return {[this](std::uint16_t port) {
-                    ++Asked;
-                    return port == Server.Port() ? Process : 0;
-                },
-                [this](pid_t process, std::function<void()> task) { return Endings[process].Attach(std::move(task)); }};
-    }
     // Both go on for so long.
     void Pass(Long milliseconds) {
         for (Long end = Now + milliseconds; Now < end; Now += Step) {
@@ -51,7 +44,7 @@ struct XPlaneRig {
     void Kill() {
         Server.Stop();
         const pid_t killed = std::exchange(Process, 0);
-        if (killed != 0) Endings[killed].Tell();
+        if (killed != 0) End(killed);
     }
 
     static constexpr Long Step = 50;
@@ -60,9 +53,7 @@ struct XPlaneRig {
     XPlaneServer Server;
     Long Now = 0;
     pid_t Process = 0;  // that has the server's port; 0 for unknown
-    std::map<pid_t, Observers<>> Endings;
-    int Asked = 0;
-    XPlaneRref Source{Loop, Questions(), {Server.BeaconPort(), {"X-Plane-x86_64", "X-Plane"}}};
+    XPlaneRref Source;
     int Changes = 0;
 };
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "tests/simulators/XPlaneRig.h"
 
 namespace orvelle::simulators {
@@ -160,7 +162,7 @@ TEST(XPlaneRrefTest, AtItsEndNothingIsAskedForAnyMore) {
     XPlaneServer server;
     {
         SocketClock loop;
-        XPlaneRref source(loop, {[](std::uint16_t) { return 0; }, {}}, {server.BeaconPort(), {}});
+        XPlaneRref source(loop, ProcessQuestions(), {server.BeaconPort()});
         for (int step = 0; step < 40; ++step) {
             server.Pass(25);
             loop.Serve();
@@ -174,10 +176,12 @@ TEST(XPlaneRrefTest, AtItsEndNothingIsAskedForAnyMore) {
 
 TEST(XPlaneRrefTest, ItsProgramIsKnownByTheNamesOfItsFiles) {
     XPlaneRig rig;
-    EXPECT_TRUE(rig.Source.IsProgram("X-Plane-x86_64"));
-    EXPECT_TRUE(rig.Source.IsProgram("X-Plane"));
-    EXPECT_FALSE(rig.Source.IsProgram("fgfs"));
-    EXPECT_FALSE(rig.Source.IsProgram(""));
+    const std::vector<std::string> programs = rig.Source.Programs();
+    const auto isProgram = [&](const char* name) { return std::ranges::find(programs, name) != programs.end(); };
+    EXPECT_TRUE(isProgram("X-Plane-x86_64"));
+    EXPECT_TRUE(isProgram("X-Plane"));
+    EXPECT_FALSE(isProgram("fgfs"));
+    EXPECT_FALSE(isProgram(""));
 }
 
 }  // namespace

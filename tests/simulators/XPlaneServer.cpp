@@ -10,6 +10,8 @@
 #include <cerrno>
 #include <cstring>
 
+#include "simulators/UdpSocket.h"
+
 namespace orvelle::simulators {
 
 namespace {
@@ -18,21 +20,10 @@ constexpr Long BeaconPeriod = 1000;
 constexpr std::size_t RequestLength = 413;
 constexpr const char* RunningTime = "sim/time/total_running_time_sec";
 
-sockaddr_in AddressOf(std::uint32_t address, std::uint16_t port) {
-    sockaddr_in made{};
-    made.sin_family = AF_INET;
-    made.sin_port = htons(port);
-    made.sin_addr.s_addr = htonl(address);
-    return made;
-}
-
 FileDescriptor Bound(std::uint16_t& port) {
-    FileDescriptor made(socket(AF_INET, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
-    sockaddr_in own = AddressOf(INADDR_ANY, port);
-    EXPECT_EQ(bind(made.Number(), reinterpret_cast<const sockaddr*>(&own), sizeof(own)), 0) << std::strerror(errno);
-    socklen_t length = sizeof(own);
-    EXPECT_EQ(getsockname(made.Number(), reinterpret_cast<sockaddr*>(&own), &length), 0);
-    port = ntohs(own.sin_port);
+    FileDescriptor made = OpenUdp();
+    EXPECT_TRUE(BindUdp(made, {INADDR_ANY, port})) << std::strerror(errno);
+    port = PlaceOf(made).Port;
     return made;
 }
 
@@ -78,7 +69,7 @@ XPlaneServer::XPlaneServer(std::uint16_t sharedBeaconPort) : beaconPort(sharedBe
 
 std::string XPlaneServer::SubscribersAddress() const {
     if (subscriptions.empty()) return "";
-    return inet_ntoa({htonl(std::get<0>(subscriptions.begin()->first))});
+    return Dotted(std::get<0>(subscriptions.begin()->first));
 }
 
 // The kernel asks who has a port already at the moment when another one wants it.
@@ -142,15 +133,9 @@ void XPlaneServer::SendAnswer(const std::string& packet) const {
 void XPlaneServer::TakeRequests() {
     std::array<char, 1024> bytes;
     int taken = 0;
-    for (;;) {
-        sockaddr_in sender{};
-        socklen_t length = sizeof(sender);
-        const ssize_t size =
-            recvfrom(socket.Number(), bytes.data(), bytes.size(), 0, reinterpret_cast<sockaddr*>(&sender), &length);
-        if (size < 0) break;
+    while (const std::optional<UdpPacket> packet = ReceiveUdp(socket, bytes)) {
         ++taken;
-        if (!IsLost())
-            Take({bytes.data(), static_cast<std::size_t>(size)}, ntohl(sender.sin_addr.s_addr), ntohs(sender.sin_port));
+        if (!IsLost()) Take(std::string(packet->Bytes), packet->Sender.Address, packet->Sender.Port);
     }
     requests += taken;
     mostAtOnce = std::max(mostAtOnce, taken);
@@ -186,11 +171,8 @@ void XPlaneServer::SendDue() {
 }
 
 void XPlaneServer::Send(const std::string& packet, std::uint32_t address, std::uint16_t to) const {
-    const sockaddr_in receiver = AddressOf(address, to);
     if (IsLost()) return;
-    const ssize_t length = sendto(socket.Number(), packet.data(), packet.size(), 0,
-                                  reinterpret_cast<const sockaddr*>(&receiver), sizeof(receiver));
-    EXPECT_EQ(length, static_cast<ssize_t>(packet.size())) << std::strerror(errno);
+    EXPECT_EQ(SendUdp(socket, packet, {address, to}), static_cast<ssize_t>(packet.size())) << std::strerror(errno);
 }
 
 bool XPlaneServer::IsLost() const { return LosesOneOf > 0 && ++sent % static_cast<unsigned>(LosesOneOf) == 0; }

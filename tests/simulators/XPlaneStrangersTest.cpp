@@ -79,7 +79,7 @@ TEST(XPlaneStrangersTest, WhatIsLostComesLater) {
 TEST(XPlaneStrangersTest, OthersMayReadTheSameXPlane) {
     XPlaneRig rig;
     int changes = 0;
-    XPlaneRref other(rig.Loop, {[](std::uint16_t) { return 0; }, {}}, {rig.Server.BeaconPort(), {}});
+    XPlaneRref other(rig.Loop, ProcessQuestions(), {rig.Server.BeaconPort()});
     other.Changed = [&changes] { ++changes; };
     rig.Pass(2000);
     EXPECT_TRUE(rig.Tells(118305));
@@ -92,7 +92,7 @@ TEST(XPlaneStrangersTest, APortThatSomebodyKeepsIsToldAndTriedAgain) {
     XPlaneServer server;
     SocketClock loop;
     server.KeepBeaconPort(PortUse::Alone);
-    XPlaneRref source(loop, {[](std::uint16_t) { return 0; }, {}}, {server.BeaconPort(), {}});
+    XPlaneRref source(loop, ProcessQuestions(), {server.BeaconPort()});
     int changes = 0;
     source.Changed = [&changes] { ++changes; };
     EXPECT_EQ(source.Problem(), "X-Plane can't be found, since port " + std::to_string(server.BeaconPort()) +

@@ -54,5 +54,20 @@ TEST(XPlaneTargetTest, ItIsNamedByItsVersion) {
     EXPECT_EQ(NameOf({XPlaneOwner::Another, 0, 1, -121400}), "X-Plane");
 }
 
+TEST(XPlaneTargetTest, OneOfAnotherComputerIsNamedWithThat) {
+    XPlaneTarget target = Foreign;
+    EXPECT_EQ(NameWithHost(target), "X-Plane 12 at 192.168.0.5");
+    target.Host = "Cockpit-2 left";
+    EXPECT_EQ(NameWithHost(target), "X-Plane 12 on Cockpit-2 left");
+    for (const std::string& host : {std::string("<b>cockpit"), std::string("cock\npit"), std::string(64, 'x'),
+                                    std::string("  "), std::string("K\xC3\xB6ln")}) {
+        target.Host = host;
+        EXPECT_EQ(NameWithHost(target), "X-Plane 12 at 192.168.0.5") << host;
+    }
+    target = Own;
+    target.Host = "cockpit";
+    EXPECT_EQ(NameWithHost(target), "X-Plane 12");
+}
+
 }  // namespace
 }  // namespace orvelle::simulators

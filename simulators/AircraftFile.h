@@ -6,14 +6,14 @@
 #include <string_view>
 #include <vector>
 
-#include "simulators/flightgear/AircraftOverrides.h"
+#include "simulators/AircraftOverrides.h"
 
 namespace orvelle::simulators {
 
 constexpr std::size_t LongestAircraftFile = 256 * 1024;  // bytes
 
 struct ReadAircraft {
-    std::vector<AircraftOverride> Overrides;  // of FlightGear; those of other simulators are passed over
+    std::vector<AircraftOverride> Overrides;  // those of simulators that aren't known are passed over
     std::size_t Line = 0;                     // of the first mistake, from 1
     std::string Sentence;                     // what is wrong there, "" for nothing
 };

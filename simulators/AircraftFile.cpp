@@ -1,10 +1,12 @@
-#include "simulators/flightgear/AircraftFile.h"
+#include "simulators/AircraftFile.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <utility>
 
+#include "simulators/PlainFile.h"
 #include "simulators/flightgear/JsonLines.h"
 
 namespace orvelle::simulators {
@@ -16,11 +18,26 @@ using Json = nlohmann::json;
 constexpr const char* Format = "orvelle-aircraft/1";
 constexpr std::size_t LongestProperty = 200;
 
-// Stands between commas, and in a form of FlightGear's; its names have no other characters.
-bool IsProperty(const std::string& text) {
+// How each simulator names what it tells.
+struct Simulator {
+    const char* Name;
+    AircraftOf Of;
+    const char* Word;
+    const char* Sentence;
+};
+constexpr std::array Simulators = {
+    Simulator{"flightgear", AircraftOf::FlightGear, "property",
+              "\"property\" must name a property of FlightGear by its whole path, as \"/controls/radios/comm-ptt\"."},
+    Simulator{"xplane", AircraftOf::XPlane, "dataref",
+              "\"dataref\" must name a dataref of X-Plane by its whole path, as "
+              "\"sim/cockpit2/radios/actuators/com1_power\"."},
+};
+
+// Stands between commas, and in a form of FlightGear's; the names of both simulators have no other characters.
+bool IsProperty(const std::string& text, AircraftOf simulator) {
     constexpr std::string_view Others = "/-_.[]";
-    return text.starts_with('/') && text.size() <= LongestProperty &&
-           std::all_of(text.begin(), text.end(), [&](char letter) {
+    return text.starts_with('/') == (simulator == AircraftOf::FlightGear) && !text.empty() &&
+           text.size() <= LongestProperty && std::all_of(text.begin(), text.end(), [&](char letter) {
                return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z') ||
                       (letter >= '0' && letter <= '9') || Others.find(letter) != std::string_view::npos;
            });
@@ -66,14 +83,19 @@ private:
 
     void One(const Json& object, const std::string& pointer) {
         if (!object.is_object()) return Refuse(pointer, "an aircraft must be an object.");
-        const Json* simulator = Find(object, "simulator");
-        if (!simulator || !simulator->is_string())
+        const Json* named = Find(object, "simulator");
+        if (!named || !named->is_string())
             return Refuse(pointer + "/simulator", "\"simulator\" must be a text, as \"flightgear\".");
-        if (*simulator != "flightgear") return;
+        simulator = std::ranges::find_if(Simulators, [&](const Simulator& each) { return *named == each.Name; });
+        if (simulator == Simulators.end()) return;
         AircraftOverride& made = read.Overrides.emplace_back();
+        made.Simulator = simulator->Of;
         Names(object, pointer, made);
         if (const Json* transmits = Find(object, "transmits")) Transmits(*transmits, pointer + "/transmits", made);
-        if (const Json* heard = Find(object, "heard")) Heard(*heard, pointer + "/heard", made);
+        if (const Json* heard = Find(object, "heard")) Both(*heard, pointer, "heard", made.Heard);
+        // FlightGear's radios tell themselves what works.
+        const Json* power = simulator->Of == AircraftOf::XPlane ? Find(object, "power") : nullptr;
+        if (power) Both(*power, pointer, "power", made.Power);
         if (const Json* automatic = Find(object, "auto")) made.Auto = Property(*automatic, pointer + "/auto");
     }
 
@@ -90,11 +112,10 @@ private:
     }
 
     std::string Property(const Json& object, const std::string& pointer) {
-        const Json* property = object.is_object() ? Find(object, "property") : nullptr;
-        if (property && property->is_string() && IsProperty(property->get_ref<const std::string&>()))
+        const Json* property = object.is_object() ? Find(object, simulator->Word) : nullptr;
+        if (property && property->is_string() && IsProperty(property->get_ref<const std::string&>(), simulator->Of))
             return property->get<std::string>();
-        Refuse(pointer + "/property",
-               "\"property\" must name a property of FlightGear by its whole path, as \"/controls/radios/comm-ptt\".");
+        Refuse(pointer + "/" + simulator->Word, simulator->Sentence);
         return "";
     }
 
@@ -111,20 +132,30 @@ private:
         }
     }
 
-    void Heard(const Json& list, const std::string& pointer, AircraftOverride& made) {
-        if (!list.is_array() || list.size() != made.Heard.size())
-            return Refuse(pointer, "\"heard\" must be a list of two, for COM1 and COM2.");
-        for (std::size_t radio = 0; radio < made.Heard.size(); ++radio)
+    void Both(const Json& list, const std::string& pointer, const std::string& name, std::array<std::string, 2>& made) {
+        if (!list.is_array() || list.size() != made.size())
+            return Refuse(pointer + "/" + name, "\"" + name + "\" must be a list of two, for COM1 and COM2.");
+        for (std::size_t radio = 0; radio < made.size(); ++radio)
             if (!list[radio].is_null())
-                made.Heard[radio] = Property(list[radio], pointer + "/" + std::to_string(radio));
+                made[radio] = Property(list[radio], pointer + "/" + name + "/" + std::to_string(radio));
     }
 
     const JsonLines json;
+    decltype(Simulators)::const_iterator simulator = Simulators.end();  // of the aircraft that is read
     ReadAircraft read;
 };
 
 }  // namespace
 
 ReadAircraft ReadAircraftFile(std::string_view text) { return AircraftReading(text).Read(); }
+
+std::string AircraftOverrides::Add(const std::filesystem::path& file) {
+    const PlainText plain = ReadPlainFile(file, LongestAircraftFile);
+    if (!plain.Text) return plain.Sentence;
+    const ReadAircraft read = ReadAircraftFile(*plain.Text);
+    if (!read.Sentence.empty()) return file.string() + ", line " + std::to_string(read.Line) + ": " + read.Sentence;
+    overrides.insert(overrides.end(), read.Overrides.begin(), read.Overrides.end());
+    return "";
+}
 
 }  // namespace orvelle::simulators
