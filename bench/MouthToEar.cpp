@@ -58,9 +58,7 @@ void Hear(pulse::SoundProbe& probe, Way& way) {
     probe.Stop(SoundOfComputers::Mouth(way.Speaker));
     probe.Take(microphone);
     probe.Take(ear);
-    way.Heard.Spoken += round.Spoken;
-    way.Heard.Lost += round.Lost;
-    way.Heard.Delays.insert(way.Heard.Delays.end(), round.Delays.begin(), round.Delays.end());
+    way.Heard.Add(round);
 }
 
 heard::StockUser StockUserOf(int computer, const mumble::VoiceServerRig& server) {

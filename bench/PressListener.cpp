@@ -4,11 +4,13 @@
 #include <utility>
 
 #include "apps/Waiting.h"
+#include "tests/heard/Bursts.h"
 
 namespace orvelle {
 
 namespace {
 
+using heard::MillisecondsBetween;
 using std::chrono::microseconds;
 using std::chrono::milliseconds;
 
@@ -16,10 +18,6 @@ constexpr Long SilenceMilliseconds = 200;
 constexpr milliseconds LoopStep{3};  // no less than what WaitUntil looks at
 
 }  // namespace
-
-double MillisecondsBetween(pulse::Moment from, pulse::Moment to) {
-    return std::chrono::duration<double, std::milli>(to - from).count();
-}
 
 PressListener::PressListener(pulse::SoundProbe& soundProbe, std::string source)
     : probe(soundProbe), ear(std::move(source)) {

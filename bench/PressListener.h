@@ -22,8 +22,6 @@ struct PressWay {
     int Broken = 0;  // presses with a hole in what was heard, as on a machine that has no time for sound
 };
 
-double MillisecondsBetween(pulse::Moment from, pulse::Moment to);
-
 class PressListener {
 public:
     // The probe outlives this object. `source` as it records.

@@ -31,6 +31,7 @@ namespace orvelle {
 
 namespace {
 
+using heard::MillisecondsBetween;
 using heard::PartOf;
 using heard::SoundOfComputers;
 using pulse::Moment;

@@ -4,7 +4,6 @@
 //
 //   orvelle-voice-cost [SECONDS] [ROUNDS] [OTHER-BUILD]     SECONDS (5) a measurement, ROUNDS (3), whose medians are
 //   told
-#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstdio>
@@ -17,9 +16,9 @@
 
 #include "bench/ProcessFigures.h"
 #include "tests/heard/Bursts.h"
+#include "tests/heard/Median.h"
 #include "tests/heard/SoundOfComputers.h"
 #include "tests/heard/Trial.h"
-#include "tests/linux/WaitUntil.h"
 #include "tests/mumble/VoiceServerRig.h"
 #include "tests/pulse/SoundProbe.h"
 
@@ -39,12 +38,6 @@ struct Figures {
 [[noreturn]] void FailBy(const std::string& reason) {
     std::cerr << "orvelle-voice-cost: " << reason << std::endl;
     std::exit(EXIT_FAILURE);
-}
-
-double Median(std::vector<double> values) {
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
 }
 
 class Measurement {
@@ -71,8 +64,8 @@ public:
         std::printf("%-20s %-10s %10s %10s %10s\n", "build", "phase", "least %", "median %", "wake-ups/s");
         for (const auto& [whose, figures] : found)
             std::printf("%-20s %-10s %10.2f %10.2f %10.0f\n", names.at(whose.first).c_str(), whose.second.c_str(),
-                        *std::min_element(figures.Percent.begin(), figures.Percent.end()), Median(figures.Percent),
-                        Median(figures.WakeUps));
+                        heard::PartOf(figures.Percent, 0), heard::MedianOf(figures.Percent),
+                        heard::MedianOf(figures.WakeUps));
     }
 
 private:

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 #include <utility>
 
 // The library leaves these types to the loop. Each runs its task for as long as it is wanted; an ended ticket is how
@@ -20,8 +21,7 @@ struct pa_io_event {
     void* User;
     pa_io_event_destroy_cb_t AtEnd = nullptr;
     pa_io_event_flags_t Wanted = PA_IO_EVENT_NULL;
-    bool IsReadableAwaited = false;
-    Ticket Readable = {};
+    std::optional<Ticket> Readable = {};  // while that is awaited
     Ticket Writable = {};
 };
 
@@ -63,14 +63,13 @@ void RunDescriptor(pa_io_event* event, pa_io_event_flags_t kind) {
 
 void Read(pa_io_event* event) {
     if (event->Wanted & PA_IO_EVENT_INPUT) return RunDescriptor(event, PA_IO_EVENT_INPUT);
-    event->Readable.End();
-    event->IsReadableAwaited = false;
+    event->Readable.reset();
 }
 
 // The library takes its wish to read back and renews it with each message: what stands is kept until it disturbs.
 void Enable(pa_io_event* event, pa_io_event_flags_t flags) {
     const int before = std::exchange(event->Wanted, flags);
-    if ((flags & PA_IO_EVENT_INPUT) && !std::exchange(event->IsReadableAwaited, true))
+    if ((flags & PA_IO_EVENT_INPUT) && !event->Readable)
         event->Readable = event->Loop.WhenReadable(event->Descriptor, [event] { Read(event); });
     if (((before ^ flags) & PA_IO_EVENT_OUTPUT) == 0) return;
     event->Writable.End();

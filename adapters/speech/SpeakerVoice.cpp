@@ -74,10 +74,7 @@ bool SpeakerVoice::Take(Block& block) {
 
     leastInHand = std::min(leastInHand, BlocksInHand());
     NextBlock(block);
-    if (blocksToSettle > 0 && --blocksToSettle == 0)
-        Settle(block);
-    else if (++blocksOfSecond >= Second)
-        LeaveOutSurplus(block);
+    LeaveOutSurplus(block);
     if (!playing) FadeOut(block);
     return true;
 }
@@ -164,29 +161,22 @@ void SpeakerVoice::Conceal() {
     ++counts.Concealed;
 }
 
-// Half of it once a second, as a network that is uneven may need it soon.
+// Half of it once a second, as a network that is uneven may need it soon; all of it once no more of a flood comes. The
+// block becomes a passage from itself to the last one that is left out, whose end the next one follows.
 void SpeakerVoice::LeaveOutSurplus(Block& block) {
+    const bool isFloodOver = blocksToSettle > 0 && --blocksToSettle == 0;
+    if (!isFloodOver && ++blocksOfSecond < Second) return;
     const Long surplus = leastInHand - BlocksNeeded();
+    const Long tooMany = isFloodOver ? surplus : (surplus + 1) / 2;
     leastInHand = MostBlocksInHand;
     blocksOfSecond = 0;
-    LeaveOut(block, (surplus + 1) / 2);
-}
 
-// All of it, once no more of the flood comes.
-void SpeakerVoice::Settle(Block& block) {
-    LeaveOut(block, leastInHand - BlocksNeeded());
-    leastInHand = MostBlocksInHand;
-    blocksOfSecond = 0;
-}
-
-// The block becomes a passage from itself to the last one that is left out, whose end the next one follows.
-void SpeakerVoice::LeaveOut(Block& block, Long blocks) {
     Block last = block;
-    for (Long left = blocks; left > 0 && playing && BlocksInHand() >= BlocksNeeded(); --left) {
+    for (Long left = tooMany; left > 0 && playing && BlocksInHand() >= BlocksNeeded(); --left) {
         NextBlock(last);
         ++counts.LeftOut;
     }
-    if (blocks > 0) FadeInto(block, last);
+    if (tooMany > 0) FadeInto(block, last);
 }
 
 Long SpeakerVoice::BlocksInHand() const {

@@ -44,8 +44,6 @@ private:
     void Conceal();
     void SkipConcealed(std::int64_t gap);
     void LeaveOutSurplus(Block& block);
-    void Settle(Block& block);
-    void LeaveOut(Block& block, Long blocks);
     Long BlocksInHand() const;
     Long BlocksNeeded() const;
 

@@ -7,7 +7,6 @@
 #include <fstream>
 
 #include "tests/linux/ServeUntil.h"
-#include "tests/linux/WaitUntil.h"
 
 namespace orvelle::avahi {
 
@@ -62,8 +61,8 @@ AvahiRig::~AvahiRig() {
 void AvahiRig::StartBus() {
     std::filesystem::remove(folder / "bus");
     bus = std::make_unique<linux::ChildProcess>(std::vector<std::string>{
-        "dbus-daemon", "--nofork", "--nopidfile", "--config-file=" + (folder / "bus.conf").string()});
-    ASSERT_TRUE(linux::WaitUntil([this] { return std::filesystem::exists(folder / "bus"); }));
+        "dbus-daemon", "--nofork", "--nopidfile", "--print-address", "--config-file=" + (folder / "bus.conf").string()});
+    ASSERT_NE(bus->ReadLine(), "") << bus->Errors();  // its address, once it listens
 }
 
 void AvahiRig::StartDaemon() {
@@ -72,15 +71,11 @@ void AvahiRig::StartDaemon() {
     if (geteuid() != 0) command.insert(command.end(), {"--user", "--map-current-user", "--keep-caps"});
     command.insert(command.end(), {"sh", "-c", RunDaemon, (folder / "avahi.conf").string()});
     daemon = std::make_unique<linux::ChildProcess>(command);
-    const bool isThere = linux::WaitUntil([] {
+    linux::Await({daemon.get()}, [] {
         linux::ChildProcess version({"dbus-send", "--system", "--print-reply", "--dest=org.freedesktop.Avahi", "/",
                                      "org.freedesktop.Avahi.Server.GetVersionString"});
         return version.Wait() == 0;
     });
-    if (isThere) return;
-    daemon->Kill(9);
-    daemon->Wait();
-    ADD_FAILURE() << "no Avahi daemon could be started in a network of its own: " << daemon->Errors();
 }
 
 std::unique_ptr<linux::ChildProcess> AvahiRig::Announce(const std::string& name, int port,

@@ -12,8 +12,6 @@ namespace orvelle::heard {
 
 namespace {
 
-using Milliseconds = std::chrono::duration<double, std::milli>;
-
 using Sounds = std::vector<std::pair<pulse::Moment, pulse::Moment>>;
 
 constexpr Long QuietBetween = pulse::QuietBetweenSounds;
@@ -28,14 +26,12 @@ const Sounds::value_type* BeganAfter(const Sounds& sounds, pulse::Moment moment)
     return next != sounds.end() && next->first < moment + std::chrono::milliseconds(BurstPeriod) ? &*next : nullptr;
 }
 
-double Between(pulse::Moment from, pulse::Moment to) { return Milliseconds(to - from).count(); }
-
 // How long the machine itself took for a burst; nothing where that tells nothing.
 std::optional<double> TakenBy(const Sounds& reference, pulse::Moment began) {
     const auto* const came = BeganAfter(reference, began);
-    if (!came || Between(began, came->first) > MostOfReference || Between(came->first, came->second) < LeastOfBurst)
+    if (!came || MillisecondsBetween(began, came->first) > MostOfReference || MillisecondsBetween(came->first, came->second) < LeastOfBurst)
         return {};
-    return Between(began, came->first);
+    return MillisecondsBetween(began, came->first);
 }
 
 // `reference` is null where there is none.
@@ -63,7 +59,7 @@ HeardBursts CompareAll(const pulse::SoundRecording& mouth, const pulse::SoundRec
             ++heard.Lost;
             continue;
         }
-        heard.Delays.push_back(Between(began, came->first));
+        heard.Delays.push_back(MillisecondsBetween(began, came->first));
         if (reference) heard.Ours.push_back(heard.Delays.back() - *taken);
     }
     // What was late beside one of them, or has grown by that, is excused as well.
@@ -72,6 +68,10 @@ HeardBursts CompareAll(const pulse::SoundRecording& mouth, const pulse::SoundRec
 }
 
 }  // namespace
+
+double MillisecondsBetween(pulse::Moment from, pulse::Moment to) {
+    return std::chrono::duration<double, std::milli>(to - from).count();
+}
 
 double HeardBursts::Part(double part) const { return PartOf(Delays, part); }
 double HeardBursts::OursInTheMedian() const { return MedianOf(Ours); }

@@ -15,6 +15,8 @@ constexpr Long BurstPeriod = 500;
 constexpr double BurstHertz = 1000;
 constexpr Long Hole = 5;  // milliseconds of silence
 
+double MillisecondsBetween(pulse::Moment from, pulse::Moment to);
+
 struct HeardBursts {
     std::vector<double> Delays{};  // in milliseconds, of those that were heard; in their order
     std::vector<double> Ours{};    // likewise what of each is more than the reference had, where there was one

@@ -5,6 +5,7 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <stdexcept>
 
 #include "tests/heard/SoundOfComputers.h"
 #include "tests/linux/WaitUntil.h"
@@ -34,7 +35,7 @@ Trial::Trial(int ofComputer, const TrialFiles& files)
       process({files.Program.string(), files.Module.string(), folder.string(), SoundOfComputers::Microphone(computer),
                SoundOfComputers::Output(computer, 0), SoundOfComputers::Output(computer, 1)}) {
     for (const char* const each : {"signal 0 0", "signal 1 0", "squelch 0 0", "start"}) Say(each);
-    Await("started");
+    if (!Await("started")) throw std::runtime_error("no voice engine: " + Told() + process.HowItEnded());
 }
 
 Trial::~Trial() {
@@ -52,7 +53,7 @@ std::string Trial::Line(const std::string& beginning) {
         Read();
         for (; next < lines.size() && found.empty(); ++next)
             if (lines[next].starts_with(beginning)) found = lines[next];
-        return !found.empty();
+        return !found.empty() || !process.HowItEnded().empty();
     });
     return found;
 }

@@ -28,7 +28,8 @@ public:
     ~Trial();
 
     void Say(const std::string& command) { process.WriteLine(command); }
-    // Waits for a line that begins so, after those that were waited for before. False where it does not come.
+    // Waits for a line that begins so, after those that were waited for before. False where it does not come, at once
+    // where the process has ended.
     bool Await(const std::string& beginning);
     // The same, but gives the line; "" where it does not come.
     std::string Line(const std::string& beginning);

@@ -8,6 +8,9 @@
 
 #include <array>
 #include <csignal>
+#include <stdexcept>
+
+#include "tests/linux/WaitUntil.h"
 
 namespace orvelle::linux {
 
@@ -24,9 +27,16 @@ struct Pipe {
     FileDescriptor Writing;
 };
 
+std::string Joined(const std::vector<std::string>& words) {
+    std::string joined;
+    for (const std::string& word : words) joined += (joined.empty() ? "" : " ") + word;
+    return joined;
+}
+
 }  // namespace
 
-ChildProcess::ChildProcess(std::vector<std::string> commandLine) : errors(memfd_create("errors", MFD_CLOEXEC)) {
+ChildProcess::ChildProcess(std::vector<std::string> commandLine)
+    : command(Joined(commandLine)), errors(memfd_create("errors", MFD_CLOEXEC)) {
     Pipe toProgram;
     Pipe fromProgram;
     std::vector<char*> arguments;
@@ -86,6 +96,27 @@ std::string ChildProcess::Errors() {
     const ssize_t got = pread(errors.Number(), text.data(), text.size(), 0);
     text.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
     return text;
+}
+
+std::string ChildProcess::HowItEnded() {
+    siginfo_t end{};
+    waitid(P_PID, static_cast<id_t>(process), &end, WEXITED | WNOHANG | WNOWAIT);
+    if (end.si_pid == 0) return "";
+    const char* const by = end.si_code == CLD_EXITED ? "' ended with status " : "' ended by signal ";
+    return "'" + command + by + std::to_string(end.si_status) + ": " + Errors();
+}
+
+void Await(const std::vector<ChildProcess*>& processes, const std::function<bool()>& isSo) {
+    const bool isOver = WaitUntil([&] {
+        if (isSo()) return true;
+        for (ChildProcess* const process : processes)
+            if (const std::string how = process->HowItEnded(); !how.empty()) throw std::runtime_error(how);
+        return false;
+    });
+    if (isOver) return;
+    std::string why = "it takes very long: ";
+    for (ChildProcess* const process : processes) why += process->Errors();
+    throw std::runtime_error(why);
 }
 
 }  // namespace orvelle::linux

@@ -4,6 +4,7 @@
 
 #include <sys/types.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -30,15 +31,22 @@ public:
     void Kill(int signal);
     // Waits for the end; the status as waitpid gives it.
     int Wait();
-    // Everything written to standard error; to be asked after the end.
+    // Everything written to standard error; all of it after the end.
     std::string Errors();
+    // "" while it runs, else by what status or signal it ended, and what it wrote to standard error. Before Wait.
+    std::string HowItEnded();
 
 private:
+    const std::string command;
     pid_t process = -1;
     int status = 0;
     FileDescriptor input;
     FileDescriptor output;
     FileDescriptor errors;
 };
+
+// Waits until it is so, which these bring about. std::runtime_error, which ends a test at once, with what they wrote to
+// standard error, where one of them ends before, or it takes very long.
+void Await(const std::vector<ChildProcess*>& processes, const std::function<bool()>& isSo);
 
 }  // namespace orvelle::linux

@@ -1,6 +1,7 @@
 #include "tests/linux/XServer.h"
 
 #include <csignal>
+#include <stdexcept>
 
 namespace orvelle::linux {
 
@@ -17,7 +18,9 @@ std::vector<std::string> CommandLine(const std::vector<std::string>& furtherArgu
 }  // namespace
 
 XServer::XServer(const std::vector<std::string>& furtherArguments)
-    : process(CommandLine(furtherArguments)), display(":" + process.ReadLine()) {}
+    : process(CommandLine(furtherArguments)), display(":" + process.ReadLine()) {
+    if (display == ":") throw std::runtime_error("no X server: " + process.Errors());
+}
 
 void XServer::End() {
     process.Kill(SIGKILL);

@@ -7,7 +7,6 @@
 #include <fstream>
 #include <utility>
 
-#include "tests/linux/WaitUntil.h"
 
 namespace orvelle::mumble {
 
@@ -40,7 +39,7 @@ EncryptedServer::EncryptedServer(const std::string& bytes) {
         "sh", "-c",
         "cat " + words + " - | exec timeout 120 openssl s_server -quiet -naccept 1 -accept 127.0.0.1:" +
             std::to_string(port) + " -cert " + certificate + " -key " + key});
-    EXPECT_TRUE(linux::WaitUntil([this] { return IsListenedTo(port); }));
+    linux::Await({process.get()}, [this] { return IsListenedTo(port); });
 }
 
 EncryptedServer::~EncryptedServer() {

@@ -67,7 +67,7 @@ void VoiceServerRig::TakePassword(const std::string& password) {
 void VoiceServerRig::Start() {
     EXPECT_EQ(files.GiveToServer(), "");
     process = std::make_unique<linux::ChildProcess>(files.ServerCommand());
-    EXPECT_TRUE(linux::WaitUntil([this] { return IsListenedTo(port); })) << Log();
+    linux::Await({process.get()}, [this] { return IsListenedTo(port); });
 }
 
 void VoiceServerRig::Kill() {

@@ -1,6 +1,5 @@
 #include "tests/pulse/SoundServers.h"
 
-#include <gtest/gtest.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -11,7 +10,6 @@
 #include <fstream>
 
 #include "adapters/shared/FileDescriptor.h"
-#include "tests/linux/WaitUntil.h"
 
 namespace orvelle::pulse {
 
@@ -26,6 +24,9 @@ bool Listens(const std::filesystem::path& file) {
 }
 
 std::filesystem::path RuntimeFolder() { return std::getenv("XDG_RUNTIME_DIR"); }
+
+// As a session has it before any server starts: of a server and a client that make it at once, the server would end.
+void MakeSocketFolder() { std::filesystem::create_directories(RuntimeFolder() / "pulse"); }
 
 // Each sink takes some descriptors, and a user has few by himself.
 std::vector<std::string> WithDescriptors(const char* program) { return {"prlimit", "--nofile=4096:", program}; }
@@ -44,12 +45,14 @@ void SoundServerProcesses::Run(std::vector<std::string> commandLine) {
     processes.push_back(std::make_unique<linux::ChildProcess>(std::move(commandLine)));
 }
 
-void SoundServerProcesses::Await() {
-    EXPECT_TRUE(linux::WaitUntil([] { return !Pactl({"info"}).empty(); }));
+void SoundServerProcesses::Await(const std::function<bool()>& isSo) {
+    std::vector<linux::ChildProcess*> all;
+    for (const auto& process : processes) all.push_back(process.get());
+    linux::Await(all, isSo);
 }
 
 void PulseAudioServer::Start() {
-    std::filesystem::create_directories(RuntimeFolder() / "pulse");
+    MakeSocketFolder();
     // By itself it has few descriptors, and each sink takes some.
     const std::string settings = RuntimeFolder() / "daemon.conf";
     std::ofstream(settings) << "rlimit-nofile = 4096\n";
@@ -57,21 +60,21 @@ void PulseAudioServer::Start() {
     Run({"pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no", "--disable-shm=yes",
          "--high-priority=no", "--realtime=no", "-L",
          "module-native-protocol-unix auth-anonymous=1 socket=" + (RuntimeFolder() / "pulse" / "native").string()});
-    Await();
+    Await([] { return !Pactl({"info"}).empty(); });
 }
 
 void PipeWireServer::Start() {
     const std::string bus = "unix:path=" + (RuntimeFolder() / "bus").string();
     setenv("DBUS_SESSION_BUS_ADDRESS", bus.c_str(), 1);
+    MakeSocketFolder();
     Run({"dbus-daemon", "--session", "--nofork", "--nosyslog", "--nopidfile", "--address=" + bus});
-    EXPECT_TRUE(linux::WaitUntil([] { return Listens(RuntimeFolder() / "bus"); }));
+    Await([] { return Listens(RuntimeFolder() / "bus"); });
     Run(WithDescriptors("pipewire"));
-    EXPECT_TRUE(linux::WaitUntil([] { return Listens(RuntimeFolder() / "pipewire-0"); }));
+    Await([] { return Listens(RuntimeFolder() / "pipewire-0"); });
     Run(WithDescriptors("wireplumber"));
     Run(WithDescriptors("pipewire-pulse"));
-    Await();
     // It gives a server without sinks one of its own.
-    EXPECT_TRUE(linux::WaitUntil([] { return Pactl({"info"}).find("Default Sink: auto_null") != std::string::npos; }));
+    Await([] { return Pactl({"info"}).find("Default Sink: auto_null") != std::string::npos; });
 }
 
 void NameSoundFolder(const std::filesystem::path& folder) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -25,8 +26,8 @@ public:
 
 protected:
     void Run(std::vector<std::string> commandLine);
-    // Until the server answers and all of it runs.
-    void Await();
+    // Until it is so by all of them.
+    void Await(const std::function<bool()>& isSo);
 
 private:
     std::vector<std::unique_ptr<linux::ChildProcess>> processes;

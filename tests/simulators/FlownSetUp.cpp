@@ -9,7 +9,6 @@
 #include "adapters/mqtt/Topics.h"
 #include "apps/FreePort.h"
 #include "tests/linux/ServeUntil.h"
-#include "tests/linux/WaitUntil.h"
 
 namespace orvelle::simulators {
 
@@ -22,7 +21,7 @@ FlownSetUp::FlownSetUp(const std::string& program, const std::string& directory,
         "/usr/bin/env", "-u", "WAYLAND_DISPLAY", "DISPLAY=" + display, "HOME=" + folder.Path.string(),
         "XDG_SESSION_TYPE=x11", program, "--no-window", "--data", data.string(), "--port", std::to_string(port),
         "--flightgear-port", std::to_string(linesPort)});
-    EXPECT_TRUE(linux::WaitUntil([this] { return IsListenedTo(port); }));
+    linux::Await({simulator.get()}, [this] { return IsListenedTo(port); });
     Join(program);
     EXPECT_TRUE(Until([this] { return second.IsUp(); }));
 }

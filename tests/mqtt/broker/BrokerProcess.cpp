@@ -1,13 +1,10 @@
 #include "tests/mqtt/broker/BrokerProcess.h"
 
-#include <gtest/gtest.h>
-
 #include <csignal>
 #include <fstream>
 
 #include "adapters/mqtt/Topics.h"
 #include "apps/FreePort.h"
-#include "tests/linux/WaitUntil.h"
 
 namespace orvelle::mqtt {
 
@@ -46,7 +43,7 @@ BrokerProcess::~BrokerProcess() {
 void BrokerProcess::Start() {
     process = std::make_unique<linux::ChildProcess>(
         std::vector<std::string>{"/usr/sbin/mosquitto", "-c", (folder / "configuration").string()});
-    EXPECT_TRUE(linux::WaitUntil([this] { return IsListenedTo(port); }));
+    linux::Await({process.get()}, [this] { return IsListenedTo(port); });
 }
 
 void BrokerProcess::Kill(int signal) {

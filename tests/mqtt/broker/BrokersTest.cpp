@@ -5,6 +5,7 @@
 #include <fstream>
 
 #include "apps/FreePort.h"
+#include "tests/linux/WaitUntil.h"
 #include "tests/mqtt/broker/LoopbackPorts.h"
 #include "tests/mqtt/broker/SetUpRig.h"
 #include "tests/shared/OwnFolder.h"
@@ -120,6 +121,7 @@ TEST_F(BrokersTest, NobodyWhoAnnouncesOurNameKeepsUsFromTheHostOfTheFile) {
     const linux::ChildProcess refusing({"openssl", "s_server", "-quiet", "-nocert", "-psk_identity", "c02", "-psk",
                                         std::string(26, 'a'), "-tls1_2", "-accept",
                                         "127.0.0.1:" + std::to_string(refusingPort)});
+    EXPECT_TRUE(linux::WaitUntil([&] { return IsListenedTo(plainPort) && IsListenedTo(refusingPort); }));
     for (const int port : {plainPort, silent.Port(), refusingPort}) {
         Play(broker.SetUpOf(2), "", "");
         panel->Places.Found.Add({"Test", {"localhost", port}});
