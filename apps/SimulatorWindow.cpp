@@ -92,14 +92,25 @@ void SimulatorWindow::AskToEnd() {
 
 void SimulatorWindow::ShowState() {
     setUp->ShowState();
+    ShowRuler();
     const Sign sign = program.AtBroker.IsThere() ? Sign::Good : program.Trouble().empty() ? Sign::Waiting : Sign::Bad;
     tray.Show(sign, Tip());
 }
 
 void SimulatorWindow::ShowSimulator() {
-    const simulators::SimulatorSource* const chosen = program.Parts.Choice.Chosen();
-    radios->ShowRuler(program.Parts.Session.Rules() && chosen ? ToQt(chosen->Name()) : QString());
+    ShowRuler();
     simulator->ShowState();
+}
+
+void SimulatorWindow::ShowRuler() {
+    const simulators::SimulatorSource* const chosen = program.Parts.Choice.Chosen();
+    if (!program.Parts.Session.Rules() || !chosen) return radios->ShowRuler("");
+    const QString sentence = ToQt(chosen->Name()) + " sets session and radios";
+    const int server = program.Network.ServedBy();
+    const bool isElsewhere = server != 0 && server != program.AtBroker.Identity();
+    radios->ShowRuler(isElsewhere ? sentence + "; those of " + NameOf(program, server) +
+                                        " count, for which this computer stands by."
+                                  : sentence + ".");
 }
 
 QString SimulatorWindow::Tip() const {

@@ -43,6 +43,7 @@ private:
     void AskToEnd();
     void ShowState();
     void ShowSimulator();
+    void ShowRuler();
     QString Tip() const;
 
     SimulatorProgram& program;

@@ -72,6 +72,12 @@ void SimulatorSession::GiveBack() {
     told = {};
     tuned = {};
     justSaid.clear();
+    // A panel goes on showing the last radios of a session that was closed, so they are switched off before.
+    SessionSetting silent = network.Session();
+    silent.Frequency = {};
+    silent.Voice = {};
+    silent.Receive = silent.Transmit = SelectsNone;
+    network.SetAll(silent);
     network.EndSession();
     network.SetAll(byHand);
 }

@@ -17,7 +17,7 @@ QString Mistakes(std::size_t count) {
 }
 
 QString Since(long long seconds) {
-    if (seconds < 0) return "never";
+    if (seconds < 0) return "-";
     if (seconds < Minute) return "now";
     if (seconds < Hour) return QString("%1 min").arg(seconds / Minute);
     if (seconds < 2 * Day) return QString("%1 h").arg(seconds / Hour);
@@ -36,6 +36,7 @@ Sign SignOf(const directory::DirectoryTold& told) {
 
 QString TroubleWords(const directory::DirectoryTold& told) {
     if (!told.Trouble.empty()) return ToQt(told.Trouble);
+    if (told.Age < 0) return "Not there yet";
     return told.FaultCount == 0 ? QString("None") : Mistakes(told.FaultCount);
 }
 
@@ -43,8 +44,8 @@ QString FaultWords(const directory::DirectoryTold& told) {
     QStringList lines;
     if (!told.Trouble.empty()) lines << ToQt(told.Trouble);
     for (const directory::Fault& fault : told.Faults)
-        lines << QString("Line %1, ").arg(static_cast<qulonglong>(fault.Line)) + ToQt(fault.Field) + ": " +
-                     ToQt(fault.Sentence);
+        lines << QString("Line %1").arg(static_cast<qulonglong>(fault.Line)) +
+                     (fault.Field.empty() ? QString() : ", " + ToQt(fault.Field)) + ": " + ToQt(fault.Sentence);
     if (told.FaultCount > told.Faults.size())
         lines << "And " + Mistakes(told.FaultCount - told.Faults.size()) + " more.";
     return lines.join("\n");

@@ -8,7 +8,7 @@
 
 namespace orvelle {
 
-// "now", "3 min", "2 h, a copy"; "never" for -1 seconds.
+// "now", "3 min", "2 h, a copy"; "-" for -1 seconds.
 QString AgeWords(const directory::DirectoryTold& told);
 // Off: not had yet; waiting: it counts, but not all of it is as it should be.
 Sign SignOf(const directory::DirectoryTold& told);

@@ -50,8 +50,10 @@ LoginsBox::LoginsBox(directory::OwnLogins& ownLogins)
                              [this] { Set({}, "The login is taken out."); })),
       answer(new deck::Readout("LoginAnswer")) {
     password->setEchoMode(QLineEdit::Password);
-    for (const QLineEdit* edit : {server, login, password})
+    for (const QLineEdit* edit : {server, login, password}) {
         connect(edit, &QLineEdit::textChanged, this, [this] { ShowButtons(); });
+        connect(edit, &QLineEdit::returnPressed, keep, &QPushButton::click);
+    }
     connect(table, &QTableWidget::itemSelectionChanged, this, [this] { ShowSelected(); });
     AddAtLeast(*this, table, LeastRows + 1, 1);
     AddRow("&Server", {server, nullptr, keep, forget});

@@ -12,7 +12,7 @@
 namespace orvelle::deck {
 
 struct FoundChannel {
-    std::optional<RadioVoiceSetting> Voice;  // none where the radio's record stays as it is
+    std::optional<RadioVoiceSetting> Voice;  // none where no directory has one
     QString Words;                           // why, a part of a sentence; "" where there is no directory
 };
 

@@ -28,14 +28,14 @@ NetworkPage::NetworkPage(const FarSides& sides, ChannelLookUp lookUp)
     column->addWidget(new RecordsBox(*sides.Network), 1);
 }
 
-void NetworkPage::ShowRuler(const QString& simulator) {
-    ruler->Show(simulator.isEmpty() ? QString() : simulator + " sets session and radios.");
+void NetworkPage::ShowRuler(const QString& sentence) {
+    ruler->Show(sentence);
     for (QWidget* box : {session, radios}) {
         // What was half typed would be applied as its field loses the keys.
-        if (!simulator.isEmpty())
+        if (!sentence.isEmpty())
             for (QLineEdit* edit : box->findChildren<QLineEdit*>())
                 if (auto* field = dynamic_cast<TextField*>(edit)) field->TakeBack();
-        box->setEnabled(simulator.isEmpty());
+        box->setEnabled(sentence.isEmpty());
     }
 }
 

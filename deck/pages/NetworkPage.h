@@ -18,8 +18,8 @@ public:
     // The network is there.
     explicit NetworkPage(const FarSides& sides, ChannelLookUp lookUp = {});
 
-    // Session and radios are set by a simulator of this name, and by nobody else meanwhile; "" for none.
-    void ShowRuler(const QString& simulator);
+    // Session and radios are set by a simulator, and by nobody else meanwhile: a sentence on it, "" for none.
+    void ShowRuler(const QString& sentence);
 
 private:
     Remark* ruler;

@@ -98,7 +98,7 @@ RadioBox::Radio RadioBox::NewRadio(int radio) {
             {NewVoiceEdit(radio, "Server", "The voice server", &RadioVoiceSetting::Server),
              NewVoiceEdit(radio, "Channel", "The channel on that server", &RadioVoiceSetting::Channel),
              NewVoiceEdit(radio, "Login", "The login name for the server", &RadioVoiceSetting::Login),
-             NewVoiceEdit(radio, "Password", "The password for the server", &RadioVoiceSetting::Password)}};
+             NewPasswordEdit(radio)}};
 }
 
 // A frequency that is none leaves the radio as it is, and so does the field.
@@ -108,22 +108,26 @@ void RadioBox::Tune(int radio, const std::string& typed) {
     refused = frequency ? QString() : RefusedFrequency(radio, typed, held);
     refusing = radio;
     radios.at(static_cast<std::size_t>(radio)).Frequency->Show(frequency.value_or(held));
-    if (frequency) network.SetFrequency(radio, *frequency);
-    LookUp(radio, frequency.value_or(""));
+    lookedUp->hide();
+    if (frequency) {
+        network.SetFrequency(radio, *frequency);
+        LookUp(radio, *frequency);
+    }
     ShowRemark();
 }
 
 // "" is nothing to look up.
 void RadioBox::LookUp(int radio, const std::string& frequency) {
     const FoundChannel found = lookUp && !frequency.empty() ? lookUp(frequency) : FoundChannel();
-    if (found.Voice) network.SetVoice(radio, *found.Voice);
     lookedUpRadio = static_cast<std::size_t>(radio);
     lookedUpFrequency = frequency;
-    lookedUp->setVisible(!found.Words.isEmpty());
-    lookedUp->Show(found.Voice ? Sign::Good : Sign::Off,
-                   found.Words.isEmpty() ? QString()
-                                         : LookedUpFrequency(radio, frequency, found.Words,
-                                                             found.Voice ? RecordFrom::Directory : RecordFrom::Before));
+    const auto before = std::exchange(brought[lookedUpRadio], found.Voice);
+    const bool goes = before && *before == network.Session().Voice[lookedUpRadio];
+    if (found.Voice || goes) network.SetVoice(radio, found.Voice.value_or(RadioVoiceSetting()));
+    if (found.Words.isEmpty()) return;
+    const RecordFrom from = found.Voice ? RecordFrom::Directory : goes ? RecordFrom::Nowhere : RecordFrom::Before;
+    lookedUp->Show(found.Voice ? Sign::Good : Sign::Off, LookedUpFrequency(radio, frequency, found.Words, from));
+    lookedUp->show();
 }
 
 // Who goes on to something else has read what was refused.
@@ -140,6 +144,13 @@ TextField* RadioBox::NewVoiceEdit(int radio, const QString& name, const QString&
                        voice.*text = value;
                        SetVoice(radio, voice);
                    });
+}
+
+// It may be the user's own, which a directory's record holds for the panels.
+TextField* RadioBox::NewPasswordEdit(int radio) {
+    TextField* edit = NewVoiceEdit(radio, "Password", "The password for the server", &RadioVoiceSetting::Password);
+    edit->setEchoMode(QLineEdit::PasswordEchoOnEdit);
+    return edit;
 }
 
 QComboBox* RadioBox::NewSelection(const QString& name, const QString& toolTip,

@@ -42,8 +42,10 @@ QString RefusedFrequency(int radio, const std::string& typed, const std::string&
 }
 
 QString LookedUpFrequency(int radio, const std::string& frequency, const QString& words, RecordFrom from) {
-    return RadioName(radio) + " on " + ToQt(frequency) + ": " + words +
-           (from == RecordFrom::Directory ? "." : "; its voice record stays as it is.");
+    const char* end = from == RecordFrom::Directory ? "."
+                      : from == RecordFrom::Nowhere ? "; it has no voice record."
+                                                    : "; its voice record stays as it is.";
+    return RadioName(radio) + " on " + ToQt(frequency) + ": " + words + end;
 }
 
 QString MissingOnRadios(const SessionSetting& session) {

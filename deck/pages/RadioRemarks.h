@@ -20,7 +20,7 @@ QString SoftwareName(Long software);
 // `typed` was refused, and the radio stays on `held`.
 QString RefusedFrequency(int radio, const std::string& typed, const std::string& held);
 // A directory said `words` of it, and the radio's voice record came from there or stays as it was.
-enum class RecordFrom { Directory, Before };
+enum class RecordFrom { Directory, Nowhere, Before };
 QString LookedUpFrequency(int radio, const std::string& frequency, const QString& words, RecordFrom from);
 // A sentence for each radio that lacks its server or channel, "" for none.
 QString MissingOnRadios(const SessionSetting& session);

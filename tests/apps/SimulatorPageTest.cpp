@@ -166,7 +166,7 @@ TEST_F(SimulatorPageTest, AddressesAreEnteredMovedAndRemoved) {
     Click("AddDirectory");
     EXPECT_EQ(content.Addresses, (std::vector<std::string>{"one.example.org", "two.example.org"}));
     EXPECT_EQ(At<QLineEdit>("DirectoryAddress").text(), "");
-    EXPECT_EQ(Row("Directories", 1), "-|two.example.org|0|never|None");
+    EXPECT_EQ(Row("Directories", 1), "-|two.example.org|0|-|Not there yet");
     SelectRow("Directories", 1);
     EXPECT_FALSE(IsEnabled("DirectoryDown"));
     Click("DirectoryUp");

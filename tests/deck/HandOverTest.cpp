@@ -43,7 +43,7 @@ protected:
 TEST_F(DeckHandOver, ASimulatorThatRulesTakesSessionAndRadios) {
     setUp.NetworkLink.SetFrequency(0, "122.800");
     EXPECT_FALSE(On<QLabel>("Ruler").isVisible());
-    page.ShowRuler("FlightGear");
+    page.ShowRuler("FlightGear sets session and radios.");
     EXPECT_EQ(On<QLabel>("Ruler").text(), "FlightGear sets session and radios.");
     EXPECT_TRUE(On<QLabel>("Ruler").isVisible());
     for (const char* field : {"SessionOpen", "Callsign", "FrequencyCOM1", "SoftwareCOM2", "Receive"})
@@ -65,7 +65,7 @@ TEST_F(DeckHandOver, WhatIsHalfTypedAsASimulatorComesIsNotApplied) {
     TypeOn("Callsign", "NEWER", Qt::Key_unknown);
     TakeEvents();
     const SessionSetting before = Session();
-    page.ShowRuler("FlightGear");
+    page.ShowRuler("FlightGear sets session and radios.");
     Settle();
     EXPECT_EQ(Session(), before);
     EXPECT_EQ(On<QLineEdit>("Callsign").text().toStdString(), before.Callsign);
@@ -102,6 +102,31 @@ TEST_F(DeckHandOver, AFrequencyThatNoDirectoryListsLeavesTheRecord) {
     EXPECT_EQ(LookedUp(), "COM2 on 125.000: not listed; its voice record stays as it is.");
     TypeOn("FrequencyCOM2", "abc");
     EXPECT_FALSE(On<QLabel>("RadioLookedUpText").isVisible()) << "what was refused is told alone";
+}
+
+TEST_F(DeckHandOver, ARecordThatADirectoryBroughtGoesWithItsFrequency) {
+    directory["118.300"] = {RadioVoiceSetting{2, "voice.example.org", "Keflavik Tower", "pilot", "secret"},
+                            "BIKF_TWR, the only station"};
+    directory["125.000"] = {std::nullopt, "not listed"};
+    for (const QString next : {"125", ""}) {
+        TypeOn("FrequencyCOM1", "118.3");
+        TypeOn("FrequencyCOM1", "abc");
+        EXPECT_EQ(Session().Voice[0], *directory["118.300"].Voice) << "what was refused changes nothing";
+        TypeOn("FrequencyCOM1", next);
+        EXPECT_EQ(Session().Voice[0], RadioVoiceSetting());
+    }
+    TypeOn("FrequencyCOM1", "118.3");
+    TypeOn("FrequencyCOM1", "125");
+    EXPECT_EQ(LookedUp(), "COM1 on 125.000: not listed; it has no voice record.");
+    TypeOn("FrequencyCOM1", "118.3");
+    TypeOn("ChannelCOM1", "Another one");
+    TypeOn("FrequencyCOM1", "125");
+    EXPECT_EQ(Session().Voice[0].Channel, "Another one") << "it was the user's";
+}
+
+TEST_F(DeckHandOver, APasswordIsHiddenUnlessItIsTyped) {
+    for (const char* field : {"PasswordCOM1", "PasswordCOM2"})
+        EXPECT_EQ(On<QLineEdit>(field).echoMode(), QLineEdit::PasswordEchoOnEdit);
 }
 
 TEST_F(DeckHandOver, WithoutADirectoryNothingIsSaid) {
