@@ -6,7 +6,6 @@
 #include <netinet/tcp.h>
 #include <sys/socket.h>
 
-#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstdio>
@@ -18,6 +17,7 @@
 
 #include "adapters/linux/PollEventLoop.h"
 #include "simulators/flightgear/FlightGearLine.h"
+#include "tests/heard/Median.h"
 
 namespace orvelle {
 
@@ -122,10 +122,9 @@ private:
             Pause(static_cast<Long>(20 + random() % 100));
         }
         if (times.empty()) throw std::runtime_error("no change has come");
-        std::sort(times.begin(), times.end());
-        const auto share = [&](double part) { return times[static_cast<std::size_t>(part * (times.size() - 1))]; };
-        std::printf("change to reader, ms: least %.1f, median %.1f, p95 %.1f, greatest %.1f; lost %d of %d\n",
-                    times.front(), share(0.5), share(0.95), times.back(), lost, count);
+        const auto share = [&](double part) { return heard::PartOf(times, part); };
+        std::printf("change to reader, ms: least %.1f, median %.1f, p95 %.1f, greatest %.1f; lost %d of %d\n", share(0),
+                    share(0.5), share(0.95), share(1), lost, count);
     }
 
     void ShowPanel(Telnet& telnet) {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "simulators/directory/Channels.h"
+#include "tests/heard/Median.h"
 #include "tests/simulators/FlightGearRig.h"
 #include "tests/simulators/FlownSetUp.h"
 
@@ -51,12 +52,9 @@ public:
     }
     // Whether none was lost.
     bool Print(const char* what) {
-        std::ranges::sort(times);
-        const auto at = [this](std::size_t percent) {
-            return times.empty() ? 0 : times[std::min(times.size() - 1, times.size() * percent / 100)];
-        };
+        const auto at = [this](double part) { return heard::PartOf(times, part); };
         std::printf("%-10s %6zu changes: least %.2f, median %.2f, p95 %.2f, p99 %.2f, greatest %.2f ms, lost %d\n",
-                    what, times.size(), at(0), at(50), at(95), at(99), times.empty() ? 0 : times.back(), lost);
+                    what, times.size(), at(0), at(0.5), at(0.95), at(0.99), at(1), lost);
         std::fflush(stdout);
         const bool isWell = lost == 0 && !times.empty();
         times.clear();

@@ -92,10 +92,10 @@ private:
         made.Simulator = simulator->Of;
         Names(object, pointer, made);
         if (const Json* transmits = Find(object, "transmits")) Transmits(*transmits, pointer + "/transmits", made);
-        if (const Json* heard = Find(object, "heard")) Both(*heard, pointer, "heard", made.Heard);
+        if (const Json* heard = Find(object, "heard")) Both(*heard, pointer + "/heard", "heard", made.Heard);
         // FlightGear's radios tell themselves what works.
         const Json* power = simulator->Of == AircraftOf::XPlane ? Find(object, "power") : nullptr;
-        if (power) Both(*power, pointer, "power", made.Power);
+        if (power) Both(*power, pointer + "/power", "power", made.Power);
         if (const Json* automatic = Find(object, "auto")) made.Auto = Property(*automatic, pointer + "/auto");
     }
 
@@ -134,10 +134,9 @@ private:
 
     void Both(const Json& list, const std::string& pointer, const std::string& name, std::array<std::string, 2>& made) {
         if (!list.is_array() || list.size() != made.size())
-            return Refuse(pointer + "/" + name, "\"" + name + "\" must be a list of two, for COM1 and COM2.");
+            return Refuse(pointer, "\"" + name + "\" must be a list of two, for COM1 and COM2.");
         for (std::size_t radio = 0; radio < made.size(); ++radio)
-            if (!list[radio].is_null())
-                made[radio] = Property(list[radio], pointer + "/" + name + "/" + std::to_string(radio));
+            if (!list[radio].is_null()) made[radio] = Property(list[radio], pointer + "/" + std::to_string(radio));
     }
 
     const JsonLines json;

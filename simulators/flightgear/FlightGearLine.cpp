@@ -92,15 +92,15 @@ bool FlightGearLine::Counts(std::uint16_t from) {
         return false;
     }
     sender = from;
-    process = owner;
+    if (std::exchange(process, owner) != owner) isSecondThere = false;
     stranger = 0;
     return true;
 }
 
+// One that loads is silent for seconds.
 void FlightGearLine::HearSecond() {
-    second = loop.After(SimulatorLife::QuietMilliseconds, [this] {
-        isSecondThere = false;
-        Changed();
+    second = loop.After(SimulatorLife::ForgottenMilliseconds, [this] {
+        if (std::exchange(isSecondThere, false)) Changed();
     });
     if (!std::exchange(isSecondThere, true)) Changed();
 }
@@ -124,6 +124,7 @@ void FlightGearLine::Follow() {
         state.reset();
         sender = 0;
         process = 0;
+        isSecondThere = false;
         // What its process has left would be taken for a simulator of an unknown process.
         LeaveOutUdp(socket);
     }

@@ -58,7 +58,7 @@ private:
     unsigned long lines = 0;
     unsigned long refused = 0;
     std::string problem;         // of the port
-    bool isSecondThere = false;  // the stranger is another process, and was heard within two seconds
+    bool isSecondThere = false;  // the stranger is another process, and was heard within ten seconds
     Ticket readable, again, second;
 };
 

@@ -132,10 +132,29 @@ TEST(FlightGearLineTest, OfTwoTheOneThatIsHeardCounts) {
                                       ", too; they are left out while the first one is heard.");
 
     rig.Loop.Run(2500);
-    EXPECT_EQ(rig.Line.Problem(), "");
     rig.Say(second, TunedAway);
+    EXPECT_EQ(rig.Line.Problem(), "") << "the first one is heard no more";
     EXPECT_EQ(rig.Line.Run(), 2);
     EXPECT_EQ(rig.Line.State()->Radios[0].Kilohertz, 119100);
+}
+
+TEST(FlightGearLineTest, ASecondOneIsToldOnceUntilItIsGone) {
+    FlightGearRig rig;
+    LoopbackSocket first, second;
+    rig.Owners = {{first.Port(), 41}, {second.Port(), 42}};
+    for (int count = 0; count < 10; ++count) {
+        rig.Say(first, Tuned);
+        if (count % 5 == 0) rig.Say(second, TunedAway);
+        rig.Loop.Run(1000);
+    }
+    EXPECT_NE(rig.Line.Problem(), "");
+    EXPECT_EQ(rig.Changes, 2) << "told again after a silence";
+    for (int count = 0; count < 10; ++count) {
+        rig.Say(first, Tuned);
+        rig.Loop.Run(1000);
+    }
+    EXPECT_EQ(rig.Line.Problem(), "");
+    EXPECT_EQ(rig.Changes, 3);
 }
 
 TEST(FlightGearLineTest, AResetOfAnUnknownProcessIsNoSecondOne) {
