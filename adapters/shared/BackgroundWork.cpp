@@ -32,6 +32,9 @@ bool BackgroundWork::Begin(std::function<void()> work) const {
 
 void BackgroundWork::Take() {
     ready.End();
+    // What the thread has written before the event is there for whoever has read it.
+    eventfd_t count = 0;
+    eventfd_read(event->Number(), &count);
     const std::function<void()> call = std::move(done);
     call();
 }

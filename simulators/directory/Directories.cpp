@@ -43,7 +43,7 @@ void Directories::Gather() {
     if (std::ranges::equal(all, gathered, IsSame)) return;
     const auto before = contents();
     gathered = std::move(all);
-    if (auto now = contents(); now != before) index = StationIndex(std::move(now));
+    if (auto now = contents(); now != before) index = StationIndex(std::move(now), index);
     Changed();
 }
 

@@ -1,5 +1,6 @@
 #include "simulators/directory/StationIndex.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string_view>
 #include <tuple>
@@ -64,10 +65,10 @@ bool TellsMore(const Choice& one, const Choice& other) {
 
 struct StationIndex::Parts {
     std::vector<std::shared_ptr<const Directory>> Directories;
-    std::vector<Entries> Index;
+    std::vector<std::shared_ptr<const Entries>> Index;
 
     Choice Ask(std::size_t which, int channel, const std::optional<Spot>& spot, const std::string& held) const {
-        const Entries& entries = Index[which];
+        const Entries& entries = *Index[which];
         Choice none{.Why = Reason::NotListed};
         if (const auto found = entries.Channels.find(channel); found != entries.Channels.end()) {
             const auto station = entries.Stations.find(held);
@@ -92,11 +93,17 @@ bool Choice::operator==(const Choice& other) const {
     return parts(*this) == parts(other);
 }
 
-StationIndex::StationIndex() : StationIndex(std::vector<std::shared_ptr<const Directory>>()) {}
+StationIndex::StationIndex() : parts(std::make_unique<Parts>()) {}
 
-StationIndex::StationIndex(std::vector<std::shared_ptr<const Directory>> directories)
-    : parts(std::make_unique<Parts>()) {
-    for (const auto& directory : directories) parts->Index.push_back(EntriesOf(*directory));
+StationIndex::StationIndex(std::vector<std::shared_ptr<const Directory>> directories, const StationIndex& former)
+    : StationIndex() {
+    const auto& known = former.parts->Directories;
+    for (const auto& directory : directories) {
+        const auto found = std::ranges::find(known, directory);
+        parts->Index.push_back(found == known.end()
+                                   ? std::make_shared<const Entries>(EntriesOf(*directory))
+                                   : former.parts->Index[static_cast<std::size_t>(found - known.begin())]);
+    }
     parts->Directories = std::move(directories);
 }
 

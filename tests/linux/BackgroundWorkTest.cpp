@@ -2,13 +2,13 @@
 #include "adapters/shared/BackgroundWork.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <future>
 #include <optional>
 #include <thread>
 
 #include "tests/linux/ServeUntil.h"
+#include "tests/linux/WithoutThreads.h"
 
 namespace orvelle::linux {
 namespace {
@@ -59,13 +59,9 @@ TEST_F(BackgroundWorkTest, MayOutliveItsAsker) {
 }
 
 TEST_F(BackgroundWorkTest, ItsEndIsToldAlsoWhereItCannotBegin) {
-    rlimit files{};
-    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &files), 0);
-    const rlimit none{0, files.rlim_max};
-    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
+    const WithoutThreads without;
     bool isDone = false;
     Begin([&isDone] { isDone = true; });
-    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &files), 0);
     EXPECT_EQ(done, 0);
     EXPECT_TRUE(ServeUntil(loop, [this] { return done == 1; }));
     EXPECT_FALSE(isDone);

@@ -62,6 +62,21 @@ TEST_F(LargeDirectoryTest, HardlyHoldsTheLoopUp) {
     }
 }
 
+TEST_F(LargeDirectoryTest, IsIndexedOnceWhateverComesBesideIt) {
+    Write(LargeDirectory("A_TWR"));
+    Directories all({&folder});
+    ASSERT_TRUE(Until([&all] { return all.Index().Find(0) != nullptr; }));
+    double begin = Spent();
+    { const StationIndex index({folder.Directories()[0].Content}); }
+    const double indexing = Spent() - begin;
+    std::ofstream(own.Path / "small.json") << DirectoryWith(ClubServer);
+    begin = Spent();
+    ASSERT_TRUE(Until([&all] { return all.Index().Find(1) != nullptr; }));
+    EXPECT_LT(Spent() - begin, indexing / 2);
+    RecordProperty("indexing", std::to_string(indexing));
+    RecordProperty("small", std::to_string(Spent() - begin));
+}
+
 TEST_F(LargeDirectoryTest, IsGoneWhenItGoesWhileItIsRead) {
     Write(LargeDirectory("A_TWR"));
     ASSERT_TRUE(Until([this] { return folder.Directories().size() == 1; }));

@@ -2,8 +2,8 @@
 #include "simulators/directory/LastGood.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
+#include "tests/linux/WithoutThreads.h"
 #include "tests/simulators/PlacedDirectories.h"
 
 namespace orvelle::directory {
@@ -55,12 +55,8 @@ TEST_F(LastGoodTest, WhatIsBeingReadCountsNoMoreOnceItIsMissed) {
 }
 
 TEST_F(LastGoodTest, IsReadAlsoWhereNothingCanBeDoneInTheBackground) {
-    rlimit files{};
-    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &files), 0);
-    const rlimit none{0, files.rlim_max};
-    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
+    const linux::WithoutThreads without;
     EXPECT_FALSE(kept.Take(DirectoryNamed("A")));
-    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &files), 0);
     ASSERT_TRUE(Until([this] { return taken == "directory "; }));
     EXPECT_EQ(Name(), "A");
 }
