@@ -60,8 +60,9 @@ AvahiRig::~AvahiRig() {
 
 void AvahiRig::StartBus() {
     std::filesystem::remove(folder / "bus");
-    bus = std::make_unique<linux::ChildProcess>(std::vector<std::string>{
-        "dbus-daemon", "--nofork", "--nopidfile", "--print-address", "--config-file=" + (folder / "bus.conf").string()});
+    bus = std::make_unique<linux::ChildProcess>(
+        std::vector<std::string>{"dbus-daemon", "--nofork", "--nopidfile", "--print-address",
+                                 "--config-file=" + (folder / "bus.conf").string()});
     ASSERT_NE(bus->ReadLine(), "") << bus->Errors();  // its address, once it listens
 }
 

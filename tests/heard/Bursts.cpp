@@ -29,7 +29,8 @@ const Sounds::value_type* BeganAfter(const Sounds& sounds, pulse::Moment moment)
 // How long the machine itself took for a burst; nothing where that tells nothing.
 std::optional<double> TakenBy(const Sounds& reference, pulse::Moment began) {
     const auto* const came = BeganAfter(reference, began);
-    if (!came || MillisecondsBetween(began, came->first) > MostOfReference || MillisecondsBetween(came->first, came->second) < LeastOfBurst)
+    if (!came || MillisecondsBetween(began, came->first) > MostOfReference ||
+        MillisecondsBetween(came->first, came->second) < LeastOfBurst)
         return {};
     return MillisecondsBetween(began, came->first);
 }

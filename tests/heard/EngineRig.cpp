@@ -17,8 +17,7 @@ HeardBursts EngineRig::Hear(int speaker, int listener, int count) {
     const std::string ear = Ear(listener);
     const std::vector<std::string> sources{mouth, ear, Reference::Ear};
     for (const std::string& source : sources) probe.Record(source);
-    probe.Play(Mouth(speaker), pulse::Burst(BurstHertz, BurstMilliseconds, BurstPeriod),
-               pulse::Playing::AgainAndAgain);
+    probe.Play(Mouth(speaker), pulse::Burst(BurstHertz, BurstMilliseconds, BurstPeriod), pulse::Playing::AgainAndAgain);
     EXPECT_TRUE(linux::WaitUntil([&] { return probe.Last(ear, 4 * BurstPeriod).Sounds().size() >= 3; }));
     Pass(ear, 4 * BurstPeriod);
     HeardBursts heard;

@@ -7,7 +7,6 @@
 #include <fstream>
 #include <utility>
 
-
 namespace orvelle::mumble {
 
 SilentServer::SilentServer() : listener(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
