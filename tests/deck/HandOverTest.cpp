@@ -28,6 +28,7 @@ protected:
         auto& edit = On<QLineEdit>(name);
         ClickMouse(&edit, Qt::LeftButton);
         edit.selectAll();
+        ClickKey(&edit, Qt::Key_Delete);
         TypeText(&edit, text);
         if (end != Qt::Key_unknown) ClickKey(&edit, end);
         Settle();
