@@ -1,3 +1,4 @@
+#include "platform/RadioSelection.h"
 #include "platform/Tessaly.h"
 #include "tests/simulators/SessionRig.h"
 
@@ -44,6 +45,21 @@ TEST_F(SessionChangesHandsTest, WhatWasSetByHandStandsAgainWithoutASession) {
     network.Said.clear();
     loop.Run(1000);
     EXPECT_TRUE(network.Said.empty());
+}
+
+// Panels show the last radios of a session that has closed.
+TEST_F(SessionChangesHandsTest, ItsRadiosAreSwitchedOffBeforeItEnds) {
+    TellAndSettle();
+    const SessionSetting flown = Now();
+    network.Said.clear();
+    flightGear.Go();
+    ASSERT_GE(network.Said.size(), 2U);
+    SessionSetting expected = flown;
+    expected.Frequency = {};
+    expected.Voice = {};
+    expected.Receive = expected.Transmit = SelectsNone;
+    EXPECT_EQ(network.Said[0], expected);
+    EXPECT_EQ(network.Said[1].Handle, 0);
 }
 
 TEST_F(SessionChangesHandsTest, EachProcessOfASimulatorIsASessionOfItsOwn) {
