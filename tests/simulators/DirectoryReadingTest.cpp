@@ -193,6 +193,29 @@ TEST(DirectoryReading, TellsWhatStandsTwice) {
     EXPECT_EQ(read.Content->Everywhere.size(), 1U);
 }
 
+TEST(DirectoryReading, WhatIsLeftOutLeavesItsNameToTheNextOne) {
+    const std::string club = ClubServer;
+    const std::string noServer = "{'frequency': 122800000, 'voice': {'server': 'clb'}}";
+    const std::string unicom = "{'frequency': 122800000, 'voice': {'server': 'club'}}";
+    const std::string abroad = "'latDeg': 91, 'lonDeg': 8";
+    const ReadText read = ReadDirectory(DirectoryWith(
+        "'club': {'software': 'engine'},\n" + club,
+        StationText("EDDF_TWR", 118300, "", abroad) + ",\n" +
+            StationOf(Transceivers("'frequency': 118300000, " + std::string(Place)) + ", 'voice': {'server': 'clb'}") +
+            ",\n" + StationText("EDDF_TWR", 118700) + ",\n" + StationText("EDDF_TWR", 119100),
+        noServer + ",\n" + unicom));
+    EXPECT_EQ(Told(read),
+              "2: servers.club.server: It is missing.\n"
+              "4: stations[0].transceivers[0].latDeg: 91 is no latitude: -90 to 90 degrees.\n"
+              "5: stations[1].voice.server: No server is called \"clb\".\n"
+              "7: stations[3].callsign: \"EDDF_TWR\" stands on line 6 already.\n"
+              "8: everywhere[0].voice.server: No server is called \"clb\".\n");
+    ASSERT_EQ(read.Content->Stations.size(), 1U);
+    EXPECT_EQ(read.Content->Stations[0].Transceivers.at(0).Kilohertz, 118700);
+    EXPECT_EQ(read.Content->Everywhere.size(), 1U);
+    EXPECT_EQ(read.Content->Servers.at("club").Software, TeamSpeakHost);
+}
+
 TEST(DirectoryReading, AWrongSectionIsToldOnce) {
     const ReadText read =
         ReadDirectory(Json("{'format': 'orvelle-directory/1',\n'servers': {" + std::string(ClubServer) +
