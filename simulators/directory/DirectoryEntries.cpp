@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "adapters/shared/HostAndPort.h"
 #include "adapters/shared/Utf8.h"
 #include "adapters/shared/VoiceTexts.h"
 #include "platform/VoiceSoftware.h"
@@ -38,10 +39,38 @@ int ReadChannel(Fields& fields) {
     return hertz ? ChannelOfHertz(std::llround(*hertz)).value_or(0) : 0;
 }
 
-// Why the panel would take no such record, "" where it would.
+// What is not filled in yet may be anything.
+bool IsFilled(std::string_view text) { return text.find('{') == std::string_view::npos; }
+
+// The panel's engine takes what stands behind a slash as the beginning of the channel.
+std::string EngineFault(const std::string& server) {
+    constexpr int AnyPort = 1;
+    const std::string place = server.substr(0, server.find('/'));
+    if (!IsFilled(place) || ReadHostAndPort(place, AnyPort)) return "";
+    return Quoted(server) + " is neither a host nor a host and a port from 1 to 65535.";
+}
+
+// A panel plays files of its computer as well; FindOddities tells of those.
+std::string RecordingFault(const std::string& server) {
+    const std::size_t colon = server.find("://");
+    const std::string scheme = HostInLowerCase(server.substr(0, colon));
+    if (colon == std::string::npos || !IsFilled(scheme) || scheme == "file") return "";
+    if (scheme != "https" && scheme != "http")
+        return Quoted(server) + " is no address that is played: those of the web begin with https:// or http://.";
+    const std::size_t host = colon + 3;
+    return server.find_first_of("/?#", host) == host || host == server.size() ? Quoted(server) + " names no host." : "";
+}
+
+std::string ServerFault(Long software, const std::string& server) {
+    if (software == VatsimVoice) return EngineFault(server);
+    return software == VoiceAtis ? RecordingFault(server) : "";
+}
+
+// Why the panel would take no such record, or could do nothing with it; "" where it would.
 std::string RecordFault(const RadioVoiceSetting& record) {
     if (const Refusal refusal = RefusalOf(record); !refusal.Part.empty())
         return "The " + refusal.Part + " " + refusal.Rule + ".";
+    if (std::string fault = ServerFault(record.Software, record.Server); !fault.empty()) return fault;
     for (const std::string& text : {record.Server, record.Channel, record.Login})
         if (CharactersOf(text) > LongestText)
             return "A text comes to more than " + std::to_string(LongestText) + " characters.";
@@ -70,6 +99,8 @@ void DirectoryEntries::TakeServer(const JsonMember& member, const std::string& p
                        .Password = fields.Text("password", Need::Optional),
                        .Channel = fields.OptionalText("channel").value_or(EachByItself)};
     if (!fields.IsSound()) return;
+    if (const std::string fault = ServerFault(server.Software, server.Server); !fault.empty())
+        return fields.Tell("server", fault);
     const RadioVoiceSetting record{server.Software, server.Server, server.Channel, server.Login, server.Password};
     if (const std::string fault = RecordFault(record); !fault.empty()) return findings.Tell(value.Line, path, fault);
     leftOut.erase(name);

@@ -91,6 +91,16 @@ TEST(DirectoryReading, TellsEachMistakeOfAServer) {
              {"'software': 'teamspeak-url', 'server': 'voice.example'",
               ": The server has to be an address that begins with \"teamspeak://\", as teamspeak://voice.example "
               "does."},
+             {"'software': 'engine', 'server': 'x.example.org:99999'",
+              ".server: \"x.example.org:99999\" is neither a host nor a host and a port from 1 to 65535."},
+             {"'software': 'engine', 'server': 'x.example.org:0/tower'",
+              ".server: \"x.example.org:0/tower\" is neither a host nor a host and a port from 1 to 65535."},
+             {"'software': 'engine', 'server': 'the server'",
+              ".server: \"the server\" is neither a host nor a host and a port from 1 to 65535."},
+             {"'software': 'atis', 'server': 'ftp://example.org/a.ogg'",
+              ".server: \"ftp://example.org/a.ogg\" is no address that is played: those of the web begin with "
+              "https:// or http://."},
+             {"'software': 'atis', 'server': 'https:///a.ogg'", ".server: \"https:///a.ogg\" names no host."},
              {"'software': 'rogerwilco', 'server': '/exec'",
               ": The server may neither begin nor end with a blank, nor hold a quotation mark or a word that begins "
               "with \"/\" or \"-\"."},
@@ -103,6 +113,26 @@ TEST(DirectoryReading, TellsEachMistakeOfAServer) {
         EXPECT_TRUE(read.Content->Servers.empty());
         EXPECT_TRUE(read.Content->Stations.empty());
     }
+}
+
+TEST(DirectoryReading, WhatAServerIsWhenItIsFilledInIsHeldAgainstTheRulesThen) {
+    const ReadText read = ReadDirectory(
+        DirectoryWith("'club': {'software': 'engine', 'server': 'x.example.org:{khz}'}, 'v': {'software': 'engine', "
+                      "'server': '[2001:db8::7]:{callsign}'}, 'a': {'software': 'atis', 'server': '{airport}://a'}",
+                      StationText("A", 118300), "{'frequency': 122800000, 'voice': {'server': 'v'}}"));
+    EXPECT_EQ(Told(read),
+              "3: stations[0].voice: \"x.example.org:118300\" is neither a host nor a host and a port from 1 to "
+              "65535.\n");
+    EXPECT_EQ(read.Content->Servers.size(), 3U);
+    EXPECT_EQ(read.Content->Everywhere.size(), 1U);
+}
+
+TEST(DirectoryReading, WhatAPanelTakesAsAServerIsNoMistake) {
+    for (const char* server :
+         {"'engine', 'server': 'x.example.org:65535/Club'", "'engine', 'server': '[2001:db8::7]:64738'",
+          "'engine', 'server': '2001:db8::7'", "'atis', 'server': 'HTTP://example.org/a.ogg?b=c://d'",
+          "'atis', 'server': 'file:///srv/a.ogg'", "'atis', 'server': 'a.ogg'"})
+        EXPECT_EQ(Told(ReadDirectory(DirectoryWith("'club': {'software': " + std::string(server) + "}"))), "");
 }
 
 TEST(DirectoryReading, TellsEachMistakeOfAStation) {
