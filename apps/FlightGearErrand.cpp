@@ -32,8 +32,10 @@ std::string Quoted(const simulators::SimulatorState& state) {
 std::string Hearing(const FlightGearSetting& setting, std::uint16_t port) {
     linux::PollEventLoop loop;
     simulators::FlightGearLine line(loop, simulators::ProcessQuestions(), setting.Aircraft, port);
-    if (!line.Problem().empty()) return line.Problem();
-    line.Changed = [&] { loop.Stop(); };
+    if (!line.PortProblem().empty()) return line.PortProblem();
+    line.Changed = [&] {
+        if (line.State()) loop.Stop();
+    };
     const Ticket patience = loop.After(Patience, [&] { loop.Stop(); });
     loop.Run();
     if (line.State()) return Quoted(*line.State());

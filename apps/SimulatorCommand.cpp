@@ -1,7 +1,10 @@
 #include "apps/SimulatorCommand.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <string_view>
+#include <utility>
 
 #include "adapters/linux/BaseFolders.h"
 #include "adapters/mqtt/OwnSetUp.h"
@@ -13,6 +16,8 @@ namespace orvelle {
 namespace {
 
 using Task = SimulatorCommand::Task;
+
+constexpr std::string_view FlightGear = "flightgear";
 
 // The same that Qt calls GenericDataLocation, without Qt.
 std::filesystem::path UsualData() { return linux::BaseFolders::OfThisUser().Data.front() / "OrvelleCP"; }
@@ -30,12 +35,26 @@ std::optional<Task> TaskOf(std::string_view word) {
     if (word == "--remove") return Task::Remove;
     if (word == "--check") return Task::Check;
     if (word == "--no-window") return Task::ServeWithoutWindow;
-    if (word == "--help") return Task::Help;
     if (word == "--version") return Task::Version;
     return std::nullopt;
 }
 
-// Behind "flightgear".
+// It may stand anywhere, but values of options and files that are checked may be called so, too.
+bool IsFlightGearSaid(int count, const char* const* words) {
+    constexpr std::array<std::string_view, 5> WithValue{"--data", "--name", "--port", "--flightgear-port", "--host"};
+    bool isFile = false;
+    for (int index = 1; index < count; ++index) {
+        const std::string_view word = words[index];
+        if (word.starts_with("--")) isFile = word == "--check";
+        if (std::ranges::find(WithValue, word) != WithValue.end())
+            ++index;
+        else if (word == FlightGear && !isFile)
+            return true;
+    }
+    return false;
+}
+
+// Beside that word.
 std::optional<Task> FlightGearTaskOf(std::string_view word) {
     if (word == "--add") return Task::AddFlightGear;
     if (word == "--remove") return Task::RemoveFlightGear;
@@ -81,14 +100,17 @@ Exit status: 0, or 1 with one line on standard error; of --check 1 where there i
 ReadCommand ReadSimulatorCommand(int count, const char* const* words) {
     SimulatorCommand command;
     command.Data = UsualData();
-    bool hasTask = false;
+    const bool isOfFlightGear = IsFlightGearSaid(count, words);
+    if (isOfFlightGear) command.What = Task::FlightGear;
+    bool hasTask = isOfFlightGear;
+    bool isSaid = false;
     for (int index = 1; index < count; ++index) {
         const std::string_view word = words[index];
-        if (index == 1 && word == "flightgear") {
-            hasTask = true;
-            command.What = Task::FlightGear;
-            continue;
+        if (word == "--help") {
+            command.What = Task::Help;
+            return {command, ""};
         }
+        if (isOfFlightGear && word == FlightGear && !std::exchange(isSaid, true)) continue;
         if (const std::optional<Task> task = FlightGearTaskOf(word); task && command.What == Task::FlightGear) {
             command.What = *task;
             continue;

@@ -41,12 +41,20 @@ SimulatorParts::SimulatorParts(EventLoop& loop, const std::filesystem::path& dat
         TellProblems();
         Changed();
     };
-    Addresses.Told = [this](const std::string& sentence) { Told(sentence); };
+    Addresses.Told = [this](const std::string& sentence) { Tell(sentence); };
 }
 
 void SimulatorParts::TellTroubles() {
-    for (const std::string& trouble : troubles) Told(trouble);
+    isHeard = true;
+    for (const std::string& trouble : std::exchange(troubles, {})) Told(trouble);
     TellProblems();
+}
+
+void SimulatorParts::Tell(const std::string& sentence) {
+    if (isHeard)
+        Told(sentence);
+    else
+        troubles.push_back(sentence);
 }
 
 void SimulatorParts::SetOwnCallsign(const std::string& callsign) {
@@ -59,7 +67,7 @@ void SimulatorParts::TellProblems() {
     std::vector<std::string> problems = {FlightGearLine.Problem(), XPlane.Problem()};
     std::erase(problems, "");
     for (const std::string& problem : problems)
-        if (std::ranges::find(toldProblems, problem) == toldProblems.end()) Told(problem);
+        if (std::ranges::find(toldProblems, problem) == toldProblems.end()) Tell(problem);
     toldProblems = std::move(problems);
 }
 

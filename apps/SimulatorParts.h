@@ -26,7 +26,8 @@ public:
     SimulatorParts(EventLoop& loop, const std::filesystem::path& data, std::uint16_t flightGearPort,
                    NetworkSide& network);
 
-    // Of files that were read at the start, and of simulators that can't be heard now; what comes later is told then.
+    // Of files that were read at the start, of simulators that can't be heard now, and of all that the loop brought
+    // before this call; what comes later is told then.
     void TellTroubles();
     // Kept in the data folder.
     void SetOwnCallsign(const std::string& callsign);
@@ -47,10 +48,12 @@ public:
     Event<const std::string&> Told;  // a sentence for the user, once until it is over
 
 private:
+    void Tell(const std::string& sentence);
     void TellProblems();
 
     const std::filesystem::path callsignFile;
-    std::vector<std::string> troubles;  // of files, at the start
+    std::vector<std::string> troubles;  // until TellTroubles, as nobody listens before
+    bool isHeard = false;
     std::vector<std::string> toldProblems;
 };
 

@@ -19,6 +19,12 @@ namespace fs = std::filesystem;
 
 std::string SystemReason() { return std::generic_category().message(errno); }
 
+std::string SizeOf(std::size_t bytes) {
+    constexpr std::size_t Mebibyte = std::size_t{1024} * 1024;
+    return bytes > 0 && bytes % Mebibyte == 0 ? std::to_string(bytes / Mebibyte) + " MiB"
+                                              : std::to_string(bytes) + " bytes";
+}
+
 // The bytes of the file, up to one more than `most`.
 std::optional<std::string> ReadUpTo(const FileDescriptor& file, std::size_t most) {
     std::string text;
@@ -50,7 +56,7 @@ PrivateText ReadPrivateFile(const fs::path& file, std::size_t most) {
 
     std::optional<std::string> text = ReadUpTo(opened, most);
     if (!text) return {std::nullopt, SystemReason()};
-    if (text->size() > most) return {std::nullopt, "it is longer than " + std::to_string(most) + " bytes"};
+    if (text->size() > most) return {std::nullopt, "it is longer than " + SizeOf(most)};
     return {std::move(text), ""};
 }
 

@@ -93,7 +93,7 @@ void FlightGearBox::ShowState() {
     if (line.Stands() == Presence::Live) return comes->Show(Sign::Good, "They come");
     if (line.Stands() == Presence::Busy)
         return comes->Show(Sign::Waiting, "None come now; FlightGear is there, and loads or stands still");
-    if (line.Lines() > 0 && line.Refused() == line.Lines())
+    if (line.IsOtherKind())
         return comes->Show(Sign::Bad, "What comes are no lines of the kind that the two below make");
     comes->Show(Sign::Off, areAdded ? "None come; they will when FlightGear is started"
                                     : "None come; FlightGear needs the two lines below, once");

@@ -1,6 +1,7 @@
 #include "simulators/directory/DirectoryAddresses.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include "simulators/directory/AddressText.h"
@@ -44,8 +45,17 @@ struct DirectoryAddresses::Parts {
     }
 
     void FetchAll() {
-        Next = Places.empty() ? Ticket() : Loop.After(PeriodMilliseconds, [this] { FetchAll(); });
+        IsPeriodic = !Places.empty();
+        Next = IsPeriodic ? Loop.After(PeriodMilliseconds, [this] { FetchAll(); }) : Ticket();
         for (const Place& place : Places) place->Fetch();
+        New.clear();
+    }
+
+    void FetchNew() {
+        if (!IsPeriodic || Places.empty()) return FetchAll();
+        for (const Place& place : Places)
+            if (New.contains(place->Address())) place->Fetch();
+        New.clear();
     }
 
     DirectoryAddresses& Whole;
@@ -53,7 +63,9 @@ struct DirectoryAddresses::Parts {
     const fs::path Copies;
     KeptFile File;
     std::vector<Place> Places;
+    std::set<std::string> New;  // entered, and not fetched yet
     std::vector<DirectorySource::Found> Found;
+    bool IsPeriodic = false;  // the next fetch of all is awaited
     Ticket Begun, Entered, Next;
 };
 
@@ -97,14 +109,13 @@ std::string DirectoryAddresses::Enter(const std::vector<std::string>& addresses)
     std::string sentence = parts->File.Write(Section, "[" + content + "]");
     if (!sentence.empty()) return sentence;
 
-    bool isNew = false;
     auto before = std::exchange(parts->Places, {});
     for (const std::string& address : entered) {
         const auto known = std::ranges::find_if(
             before, [&address](const auto& place) { return place && place->Address() == address; });
         if (known == before.end()) {
             parts->Add(address);
-            isNew = true;
+            parts->New.insert(address);
         } else {
             parts->Places.push_back(std::move(*known));
         }
@@ -112,8 +123,8 @@ std::string DirectoryAddresses::Enter(const std::vector<std::string>& addresses)
     for (const auto& place : before)
         if (place) place->Remove();
     parts->Gather();
-    parts->Entered = parts->Loop.After(0, [this, isNew] {
-        if (isNew || parts->Places.empty()) parts->FetchAll();
+    parts->Entered = parts->Loop.After(0, [this] {
+        parts->FetchNew();
         Changed();
     });
     return "";

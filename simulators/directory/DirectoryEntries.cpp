@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "adapters/shared/HostAndPort.h"
 #include "adapters/shared/Utf8.h"
 #include "adapters/shared/VoiceTexts.h"
 #include "platform/VoiceSoftware.h"
@@ -38,10 +39,38 @@ int ReadChannel(Fields& fields) {
     return hertz ? ChannelOfHertz(std::llround(*hertz)).value_or(0) : 0;
 }
 
-// Why the panel would take no such record, "" where it would.
+// What is not filled in yet may be anything.
+bool IsFilled(std::string_view text) { return text.find('{') == std::string_view::npos; }
+
+// The panel's engine takes what stands behind a slash as the beginning of the channel.
+std::string EngineFault(const std::string& server) {
+    constexpr int AnyPort = 1;
+    const std::string place = server.substr(0, server.find('/'));
+    if (!IsFilled(place) || ReadHostAndPort(place, AnyPort)) return "";
+    return Quoted(server) + " is neither a host nor a host and a port from 1 to 65535.";
+}
+
+// A panel plays files of its computer as well; FindOddities tells of those.
+std::string RecordingFault(const std::string& server) {
+    const std::size_t colon = server.find("://");
+    const std::string scheme = HostInLowerCase(server.substr(0, colon));
+    if (colon == std::string::npos || !IsFilled(scheme) || scheme == "file") return "";
+    if (scheme != "https" && scheme != "http")
+        return Quoted(server) + " is no address that is played: those of the web begin with https:// or http://.";
+    const std::size_t host = colon + 3;
+    return server.find_first_of("/?#", host) == host || host == server.size() ? Quoted(server) + " names no host." : "";
+}
+
+std::string ServerFault(Long software, const std::string& server) {
+    if (software == VatsimVoice) return EngineFault(server);
+    return software == VoiceAtis ? RecordingFault(server) : "";
+}
+
+// Why the panel would take no such record, or could do nothing with it; "" where it would.
 std::string RecordFault(const RadioVoiceSetting& record) {
     if (const Refusal refusal = RefusalOf(record); !refusal.Part.empty())
         return "The " + refusal.Part + " " + refusal.Rule + ".";
+    if (std::string fault = ServerFault(record.Software, record.Server); !fault.empty()) return fault;
     for (const std::string& text : {record.Server, record.Channel, record.Login})
         if (CharactersOf(text) > LongestText)
             return "A text comes to more than " + std::to_string(LongestText) + " characters.";
@@ -52,7 +81,7 @@ std::string RecordFault(const RadioVoiceSetting& record) {
 
 void DirectoryEntries::TakeServer(const JsonMember& member, const std::string& path) {
     const auto& [name, value] = member;
-    if (places.contains(name)) return findings.Tell(value.Line, path, "It stands here a second time.");
+    if (servers.contains(name)) return findings.Tell(value.Line, path, "It stands here a second time.");
     places[name] = {value.Line, path};
     leftOut.insert(name);
     if (name.empty() || !TextFault(name).empty())
@@ -70,6 +99,8 @@ void DirectoryEntries::TakeServer(const JsonMember& member, const std::string& p
                        .Password = fields.Text("password", Need::Optional),
                        .Channel = fields.OptionalText("channel").value_or(EachByItself)};
     if (!fields.IsSound()) return;
+    if (const std::string fault = ServerFault(server.Software, server.Server); !fault.empty())
+        return fields.Tell("server", fault);
     const RadioVoiceSetting record{server.Software, server.Server, server.Channel, server.Login, server.Password};
     if (const std::string fault = RecordFault(record); !fault.empty()) return findings.Tell(value.Line, path, fault);
     leftOut.erase(name);
@@ -94,7 +125,11 @@ std::optional<Transceiver> DirectoryEntries::ReadTransceiver(const JsonValue& va
 
 void DirectoryEntries::TakeStation(const JsonValue& value, const std::string& path) {
     Fields fields(value, path, findings, {"callsign", "transceivers", "rangeNm", "voice"});
-    Placed<Station> placed{{}, {value.Line, path}, {fields.LineOf("voice"), fields.PathOf("voice")}, true};
+    Placed<Station> placed{{},
+                           {value.Line, path},
+                           {fields.LineOf("voice"), fields.PathOf("voice")},
+                           {fields.LineOf("callsign"), fields.PathOf("callsign")},
+                           true};
     Station& station = placed.Content;
     station.Callsign = fields.Text("callsign", Need::Required);
     station.Range = fields.Number("rangeNm", Need::Optional, RangeBounds);
@@ -109,37 +144,29 @@ void DirectoryEntries::TakeStation(const JsonValue& value, const std::string& pa
     const std::optional<VoiceEntry> voice = object ? ReadVoice(*object, placed.Voice.Field) : std::nullopt;
     if (!voice) return;
     station.Voice = *voice;
-    if (fields.IsSound()) {
-        const auto [first, isNew] = callsigns.emplace(station.Callsign, value.Line);
-        if (!isNew)
-            fields.Tell("callsign",
-                        Quoted(station.Callsign) + " stands on line " + std::to_string(first->second) + " already.");
-    }
     placed.IsSound = fields.IsSound() && !station.Transceivers.empty();
     stations.push_back(std::move(placed));
 }
 
 void DirectoryEntries::TakeEverywhere(const JsonValue& value, const std::string& path) {
     Fields fields(value, path, findings, {"frequency", "voice"});
-    Placed<EverywhereChannel> placed{{}, {value.Line, path}, {fields.LineOf("voice"), fields.PathOf("voice")}, true};
+    Placed<EverywhereChannel> placed{{},
+                                     {value.Line, path},
+                                     {fields.LineOf("voice"), fields.PathOf("voice")},
+                                     {fields.LineOf("frequency"), fields.PathOf("frequency")},
+                                     true};
     placed.Content.Kilohertz = ReadChannel(fields);
     const JsonValue* const object = fields.Object("voice");
     const std::optional<VoiceEntry> voice = object ? ReadVoice(*object, placed.Voice.Field) : std::nullopt;
     if (!voice) return;
     placed.Content.Voice = *voice;
-    if (fields.IsSound()) {
-        const auto [first, isNew] = channels.emplace(placed.Content.Kilohertz, value.Line);
-        if (!isNew)
-            fields.Tell("frequency",
-                        Megahertz(first->first) + " stands on line " + std::to_string(first->second) + " already.");
-    }
     placed.IsSound = fields.IsSound();
     everywhere.push_back(std::move(placed));
 }
 
 void DirectoryEntries::TakeOtherwise(const JsonValue& value) {
     if (const std::optional<VoiceEntry> voice = ReadVoice(value, "otherwise"))
-        otherwise = Placed<VoiceEntry>{*voice, {value.Line, "otherwise"}, {value.Line, "otherwise"}, true};
+        otherwise = Placed<VoiceEntry>{*voice, {value.Line, "otherwise"}, {value.Line, "otherwise"}, {}, true};
 }
 
 // With what is known of the placeholders; the pilot's callsign is held against the rules by whoever takes the record.
@@ -155,17 +182,32 @@ bool DirectoryEntries::IsSound(const VoiceEntry& voice, const EntryPlace& place,
     return fault.empty();
 }
 
+// One that is left out has no name to lose.
+template <typename Name>
+bool DirectoryEntries::IsFirst(std::map<Name, std::size_t>& names, const Name& name, std::size_t line,
+                               const EntryPlace& place, const std::string& shown) {
+    const auto [first, isNew] = names.emplace(name, line);
+    if (!isNew)
+        findings.Tell(place.Line, place.Field,
+                      shown + " stands on line " + std::to_string(first->second) + " already.");
+    return isNew;
+}
+
 void DirectoryEntries::Join(ReadText& read) {
     constexpr const char* AnyCallsign = "{callsign}";
     Directory directory;
-    for (auto& [station, place, voice, isSound] : stations) {
+    std::map<std::string, std::size_t> callsigns;
+    std::map<int, std::size_t> channels;
+    for (auto& [station, place, voice, name, isSound] : stations) {
         const int channel = station.Transceivers.empty() ? FirstChannel : station.Transceivers.front().Kilohertz;
         if (!IsSound(station.Voice, voice, {channel, station.Callsign, AnyCallsign}) || !isSound) continue;
+        if (!IsFirst(callsigns, station.Callsign, place.Line, name, Quoted(station.Callsign))) continue;
         directory.Stations.push_back(std::move(station));
         read.Stations.push_back(std::move(place));
     }
-    for (auto& [channel, place, voice, isSound] : everywhere) {
+    for (auto& [channel, place, voice, name, isSound] : everywhere) {
         if (!IsSound(channel.Voice, voice, {channel.Kilohertz, "", AnyCallsign}) || !isSound) continue;
+        if (!IsFirst(channels, channel.Kilohertz, place.Line, name, Megahertz(channel.Kilohertz))) continue;
         directory.Everywhere.push_back(std::move(channel));
         read.Everywhere.push_back(std::move(place));
     }

@@ -34,12 +34,16 @@ private:
         Entry Content;
         EntryPlace Place;
         EntryPlace Voice;
-        bool IsSound;  // but for its voice, which is looked at last
+        EntryPlace Name;  // that stands once
+        bool IsSound;     // but for its voice, which is looked at last
     };
     // Nothing where it is not sound.
     std::optional<VoiceEntry> ReadVoice(const JsonValue& value, const std::string& path);
     std::optional<Transceiver> ReadTransceiver(const JsonValue& value, const std::string& path);
     bool IsSound(const VoiceEntry& voice, const EntryPlace& place, const Placeholders& values);
+    template <typename Name>
+    bool IsFirst(std::map<Name, std::size_t>& names, const Name& name, std::size_t line, const EntryPlace& place,
+                 const std::string& shown);
 
     Findings& findings;
     std::map<std::string, VoiceServer> servers;
@@ -48,8 +52,6 @@ private:
     std::vector<Placed<Station>> stations;
     std::vector<Placed<EverywhereChannel>> everywhere;
     std::optional<Placed<VoiceEntry>> otherwise;
-    std::map<std::string, std::size_t> callsigns;  // lines of stations
-    std::map<int, std::size_t> channels;           // lines of channels everywhere
 };
 
 }  // namespace orvelle::directory

@@ -4,6 +4,8 @@
 #include <string_view>
 #include <utility>
 
+#include "adapters/shared/HostAndPort.h"
+#include "platform/VoiceSoftware.h"
 #include "simulators/directory/Channels.h"
 #include "simulators/directory/DirectoryReading.h"
 #include "simulators/directory/Overlaps.h"
@@ -15,6 +17,12 @@ namespace {
 
 // Channels of 8.33 kHz and of 25 kHz begin at each 25 kHz, and are called by it and the next three fives.
 bool IsChannelName(int kilohertz) { return kilohertz % 25 <= 15 && kilohertz % 5 == 0; }
+
+// Of a recording: what names no scheme is the path of a file.
+bool IsOfComputer(const std::string& server) {
+    const std::size_t colon = server.find("://");
+    return colon == std::string::npos || HostInLowerCase(server.substr(0, colon)) == "file";
+}
 
 class OddityFinder {
 public:
@@ -57,6 +65,8 @@ private:
 
     void LookAtServer(const VoiceServer& server, const EntryPlace& place) {
         for (const std::string& text : {server.Server, server.Login, server.Channel}) LookAtBraces(text, place);
+        if (server.Software == VoiceAtis && IsOfComputer(server.Server))
+            Tell(place, "A recording that is no address of the web is a file of each pilot's own computer.");
         if (!NamesInBraces(server.Password).empty()) Tell(place, "Nothing is filled in in a password.");
     }
 

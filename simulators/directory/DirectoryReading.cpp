@@ -42,10 +42,7 @@ std::size_t LengthOfUtf8(std::string_view text) {
 
 // What keeps a text from being read at all.
 std::optional<Fault> Unreadable(std::string_view text) {
-    if (text.size() > LongestDirectory)
-        return Fault{
-            1, "",
-            "It has " + std::to_string(text.size()) + " bytes, more than " + std::to_string(LongestDirectory) + "."};
+    if (text.size() > LongestDirectory) return Fault{1, "", "It is longer than 16 MiB."};
     if (const std::size_t length = LengthOfUtf8(text); length < text.size())
         return Fault{LineAt(text, length), "", "This line is not in UTF-8."};
     if (const std::size_t zero = text.find('\0'); zero != std::string_view::npos)

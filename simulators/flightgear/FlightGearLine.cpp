@@ -20,8 +20,7 @@ constexpr std::size_t LongestDatagram = 64 * 1024;  // bytes
 
 std::string ProblemOf(std::uint16_t port, int error) {
     const std::string why = error == EADDRINUSE ? "another program has it" : std::generic_category().message(error);
-    return "FlightGear's lines can't be heard on port " + std::to_string(port) + ", since " + why +
-           "; it is tried again each second.";
+    return "FlightGear's lines can't be heard on port " + std::to_string(port) + ", since " + why + ".";
 }
 
 std::string OfSecond(std::uint16_t port) {
@@ -42,7 +41,10 @@ FlightGearLine::FlightGearLine(EventLoop& eventLoop, ProcessQuestions processQue
     Listen();
 }
 
-std::string FlightGearLine::Problem() const { return problem.empty() && isSecondThere ? OfSecond(port) : problem; }
+std::string FlightGearLine::Problem() const {
+    if (problem.empty()) return isSecondThere ? OfSecond(port) : "";
+    return problem.substr(0, problem.size() - 1) + "; it is tried again each second.";
+}
 
 void FlightGearLine::Listen() {
     FileDescriptor opened = OpenUdp();
@@ -105,13 +107,25 @@ void FlightGearLine::HearSecond() {
     if (!std::exchange(isSecondThere, true)) Changed();
 }
 
+// Among lines that can be read it is no news.
+void FlightGearLine::HearOtherKind() {
+    if (life.Stands() == Presence::Live) return;
+    otherKind = loop.After(SimulatorLife::QuietMilliseconds, [this] {
+        isOtherKind = false;
+        Changed();
+    });
+    if (!std::exchange(isOtherKind, true)) Changed();
+}
+
 void FlightGearLine::Take(std::string_view line) {
     ++lines;
     const std::optional<FlightGearWords> words = ReadFlightGearLine(line);
     if (!words) {
         ++refused;
-        return;
+        return HearOtherKind();
     }
+    isOtherKind = false;
+    otherKind.End();
     std::optional<SimulatorState> next = overrides.Apply(
         AircraftOf::FlightGear, words->State, [&](const std::string& property) { return words->Other(property); });
     const bool differs = state != next;

@@ -31,6 +31,10 @@ public:
     const std::optional<SimulatorState>& State() const override { return state; }
     std::vector<std::string> Programs() const override { return {"fgfs", "FlightGear"}; }
     std::string Problem() const override;
+    // The port's part of it, for whoever doesn't wait until it can be had.
+    const std::string& PortProblem() const { return problem; }
+    // Lines come, but none that can be read.
+    bool IsOtherKind() const { return isOtherKind; }
 
     std::uint16_t Port() const { return port; }
     // Lines so far, and those among them that were none and were left out.
@@ -42,6 +46,7 @@ private:
     void Serve();
     bool Counts(std::uint16_t from);
     void HearSecond();
+    void HearOtherKind();
     void Take(std::string_view line);
     void Follow();
 
@@ -59,7 +64,8 @@ private:
     unsigned long refused = 0;
     std::string problem;         // of the port
     bool isSecondThere = false;  // the stranger is another process, and was heard within ten seconds
-    Ticket readable, again, second;
+    bool isOtherKind = false;    // heard within two seconds, and nothing that can be read since
+    Ticket readable, again, second, otherKind;
 };
 
 }  // namespace orvelle::simulators

@@ -92,6 +92,12 @@ std::string FlightGearOptions::Change(const std::vector<std::string>& wanted) co
     if (read.Text && before.empty())
         if (std::string sentence = WriteKeepingRights(copy, *read.Text, File()); !sentence.empty()) return sentence;
     for (const std::string& line : wanted) lines.Append(line);
+    std::error_code error;
+    const bool wasMade = !fs::exists(copy, error) && !fs::is_symlink(File(), error);
+    if (wasMade && lines.Text().empty()) {
+        const std::string reason = RemovePrivateFile(File());
+        return reason.empty() ? "" : WhyNot(File(), "removed", reason);
+    }
     const fs::path file = BehindLinks(File());
     return WriteKeepingRights(file, lines.Text(), file);
 }

@@ -31,7 +31,8 @@ public:
     // Adds both to the file's end, keeping a copy of what it was (.fgfsrc.before-orvelle) when there was one; lines of
     // ours from before are replaced. Links are followed. "" for success, else a sentence.
     std::string Add() const;
-    // Takes out exactly those lines. "" for success, also where there were none.
+    // Takes out exactly those lines, and the file where it was made for them and holds nothing else. "" for success,
+    // also where there were none.
     std::string TakeOut() const;
 
 private:

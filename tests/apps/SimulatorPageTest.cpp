@@ -124,6 +124,7 @@ TEST_F(SimulatorPageTest, FlightGearsLinesAreCopiedAddedAndTakenOut) {
     EXPECT_EQ(TextOf("FlightGearComesText"), "None come; they will when FlightGear is started");
     Click("TakeOutFlightGear");
     EXPECT_EQ(OptionsFile(), "");
+    EXPECT_FALSE(std::filesystem::exists(options.File()));
     EXPECT_TRUE(IsEnabled("AddFlightGear"));
 }
 
@@ -137,10 +138,11 @@ TEST_F(SimulatorPageTest, WhetherFlightGearsLinesComeIsSeen) {
 
 TEST_F(SimulatorPageTest, WhatIsNoLineOfFlightGearsIsTold) {
     simulators::LoopbackSocket sender;
+    flightGear.Changed = [&] { page->ShowState(); };
     sender.Send(flightGear.Port(), "nothing of the kind\n");
-    ASSERT_TRUE(WaitFor([&] { return flightGear.Refused() == 1; }));
-    ShowAll();
-    EXPECT_EQ(SignAt("FlightGearComes"), Sign::Bad);
+    EXPECT_TRUE(WaitFor([&] { return SignAt("FlightGearComes") == Sign::Bad; }));
+    EXPECT_EQ(TextOf("FlightGearComesText"), "What comes are no lines of the kind that the two below make");
+    EXPECT_TRUE(WaitFor([&] { return SignAt("FlightGearComes") == Sign::Off; })) << "they come no more";
 }
 
 TEST_F(SimulatorPageTest, DirectoriesAreListedWithWhatIsWrong) {

@@ -79,6 +79,12 @@ protected:
     std::unique_ptr<DirectoryAddresses> addresses;
 };
 
+std::string Children() {
+    std::ostringstream all;
+    all << std::ifstream("/proc/thread-self/children").rdbuf();
+    return all.str();
+}
+
 TEST_F(DirectoryAddressesTest, OneThatIsEnteredIsFetchedAtOnceAndKeptForTheNextRun) {
     BeginWith("  127.0.0.1:" + std::to_string(port) + "/directory.json ");
     EXPECT_EQ(addresses->Addresses(), std::vector{At("/directory.json")});
@@ -117,6 +123,18 @@ TEST_F(DirectoryAddressesTest, WhatHasNotChangedIsNotSentAgain) {
     Publish("Another club");
     addresses->FetchNow();
     ASSERT_TRUE(Until([this] { return Name() == "Another club"; }));
+}
+
+TEST_F(DirectoryAddressesTest, OneThatIsAddedIsFetchedAlone) {
+    const std::string before = Children();
+    BeginWith(At("/directory.json"));
+    ASSERT_TRUE(Until([this] { return Name() == "Club"; }));
+    ASSERT_EQ(addresses->Enter({At("/directory.json"), At("/404")}), "");
+    ASSERT_EQ(addresses->Enter({At("/404"), At("/directory.json")}), "");
+    ASSERT_TRUE(Until([&] { return !told.empty() && Children() == before; }));
+    EXPECT_EQ(Sent(), "1 0");
+    addresses->FetchNow();
+    ASSERT_TRUE(Until([this] { return Sent() == "1 1"; })) << "asked for, all are fetched";
 }
 
 TEST_F(DirectoryAddressesTest, ACopyThatWasDamagedIsFetchedAgain) {
@@ -195,16 +213,11 @@ TEST_F(DirectoryAddressesTest, OnesThatAreTooLong) {
 }
 
 TEST_F(DirectoryAddressesTest, TheProgramDoesNotWaitForOneThatHangs) {
-    const auto children = [] {
-        std::ostringstream all;
-        all << std::ifstream("/proc/thread-self/children").rdbuf();
-        return all.str();
-    };
-    const std::string before = children();
+    const std::string before = Children();
     BeginWith(At("/hangs"));
-    ASSERT_TRUE(Until([&] { return children() != before; }));
+    ASSERT_TRUE(Until([&] { return Children() != before; }));
     addresses.reset();
-    EXPECT_EQ(children(), before) << "it is ended with the program";
+    EXPECT_EQ(Children(), before) << "it is ended with the program";
 }
 
 TEST_F(DirectoryAddressesTest, WhatIsNoAddressIsNotEntered) {

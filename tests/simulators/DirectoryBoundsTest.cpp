@@ -77,7 +77,7 @@ TEST(DirectoryBounds, ATextOfAHundredMegabytesIsRefusedUnread) {
     const ReadText read = ReadDirectory(std::string(100'000'000, ' '));
     EXPECT_FALSE(read.Content);
     ASSERT_EQ(read.Faults.size(), 1U);
-    EXPECT_EQ(read.Faults[0].Sentence, "It has 100000000 bytes, more than 16777216.");
+    EXPECT_EQ(read.Faults[0].Sentence, "It is longer than 16 MiB.");
 }
 
 TEST(DirectoryBounds, ManyMistakesAreCountedAndTheFirstNamed) {

@@ -126,7 +126,7 @@ TEST_F(DirectoryFolderTest, WhatIsNoFileIsTold) {
     ASSERT_TRUE(Until([&] { return !found[6].Told.Trouble.empty(); }));
     EXPECT_EQ(found[0].Told.Trouble, "It can't be read: it is no plain file.");
     EXPECT_EQ(found[1].Told.Trouble, "It can't be read: it is no plain file.");
-    EXPECT_EQ(found[2].Told.Trouble, "It can't be read: it is longer than 16777216 bytes.");
+    EXPECT_EQ(found[2].Told.Trouble, "It can't be read: it is longer than 16 MiB.");
     EXPECT_EQ(found[3].Told.Trouble, "It is a link that leads nowhere: No such file or directory.");
     EXPECT_EQ(found[4].Told.Trouble, "It is a link that leads nowhere: Too many levels of symbolic links.");
     EXPECT_TRUE(found[6].Told.Trouble.starts_with("It is no directory: line 1")) << found[6].Told.Trouble;

@@ -60,6 +60,15 @@ TEST(DirectoryOddities, AServerThatNobodyNamesIsTold) {
               "3: servers[\"my old one\"]: No entry names this server.\n");
 }
 
+TEST(DirectoryOddities, ARecordingThatIsAFileIsTold) {
+    for (const char* server : {"x", "file:///etc/passwd", "/srv/atis.ogg"})
+        EXPECT_EQ(
+            Oddities(DirectoryWith("'club': {'software': 'atis', 'server': '" + std::string(server) + "'}", "", "",
+                                   Otherwise)),
+            "2: servers.club: A recording that is no address of the web is a file of each pilot's own computer.\n");
+    EXPECT_EQ(Oddities(DirectoryWith("'club': {'software': 'atis', 'server': 'http://h/a'}", "", "", Otherwise)), "");
+}
+
 TEST(DirectoryOddities, PlaceholdersThatAreEmptyOrNoneAreTold) {
     EXPECT_EQ(Oddities(DirectoryWith(ClubServer, "",
                                      "{'frequency': 122800000, 'voice': {'server': 'club', 'channel': "

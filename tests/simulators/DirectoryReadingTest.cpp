@@ -91,6 +91,16 @@ TEST(DirectoryReading, TellsEachMistakeOfAServer) {
              {"'software': 'teamspeak-url', 'server': 'voice.example'",
               ": The server has to be an address that begins with \"teamspeak://\", as teamspeak://voice.example "
               "does."},
+             {"'software': 'engine', 'server': 'x.example.org:99999'",
+              ".server: \"x.example.org:99999\" is neither a host nor a host and a port from 1 to 65535."},
+             {"'software': 'engine', 'server': 'x.example.org:0/tower'",
+              ".server: \"x.example.org:0/tower\" is neither a host nor a host and a port from 1 to 65535."},
+             {"'software': 'engine', 'server': 'the server'",
+              ".server: \"the server\" is neither a host nor a host and a port from 1 to 65535."},
+             {"'software': 'atis', 'server': 'ftp://example.org/a.ogg'",
+              ".server: \"ftp://example.org/a.ogg\" is no address that is played: those of the web begin with "
+              "https:// or http://."},
+             {"'software': 'atis', 'server': 'https:///a.ogg'", ".server: \"https:///a.ogg\" names no host."},
              {"'software': 'rogerwilco', 'server': '/exec'",
               ": The server may neither begin nor end with a blank, nor hold a quotation mark or a word that begins "
               "with \"/\" or \"-\"."},
@@ -103,6 +113,26 @@ TEST(DirectoryReading, TellsEachMistakeOfAServer) {
         EXPECT_TRUE(read.Content->Servers.empty());
         EXPECT_TRUE(read.Content->Stations.empty());
     }
+}
+
+TEST(DirectoryReading, WhatAServerIsWhenItIsFilledInIsHeldAgainstTheRulesThen) {
+    const ReadText read = ReadDirectory(
+        DirectoryWith("'club': {'software': 'engine', 'server': 'x.example.org:{khz}'}, 'v': {'software': 'engine', "
+                      "'server': '[2001:db8::7]:{callsign}'}, 'a': {'software': 'atis', 'server': '{airport}://a'}",
+                      StationText("A", 118300), "{'frequency': 122800000, 'voice': {'server': 'v'}}"));
+    EXPECT_EQ(Told(read),
+              "3: stations[0].voice: \"x.example.org:118300\" is neither a host nor a host and a port from 1 to "
+              "65535.\n");
+    EXPECT_EQ(read.Content->Servers.size(), 3U);
+    EXPECT_EQ(read.Content->Everywhere.size(), 1U);
+}
+
+TEST(DirectoryReading, WhatAPanelTakesAsAServerIsNoMistake) {
+    for (const char* server :
+         {"'engine', 'server': 'x.example.org:65535/Club'", "'engine', 'server': '[2001:db8::7]:64738'",
+          "'engine', 'server': '2001:db8::7'", "'atis', 'server': 'HTTP://example.org/a.ogg?b=c://d'",
+          "'atis', 'server': 'file:///srv/a.ogg'", "'atis', 'server': 'a.ogg'"})
+        EXPECT_EQ(Told(ReadDirectory(DirectoryWith("'club': {'software': " + std::string(server) + "}"))), "");
 }
 
 TEST(DirectoryReading, TellsEachMistakeOfAStation) {
@@ -191,6 +221,29 @@ TEST(DirectoryReading, TellsWhatStandsTwice) {
               "9: otherwise: It stands here a second time.\n");
     EXPECT_EQ(read.Content->Stations.size(), 1U);
     EXPECT_EQ(read.Content->Everywhere.size(), 1U);
+}
+
+TEST(DirectoryReading, WhatIsLeftOutLeavesItsNameToTheNextOne) {
+    const std::string club = ClubServer;
+    const std::string noServer = "{'frequency': 122800000, 'voice': {'server': 'clb'}}";
+    const std::string unicom = "{'frequency': 122800000, 'voice': {'server': 'club'}}";
+    const std::string abroad = "'latDeg': 91, 'lonDeg': 8";
+    const ReadText read = ReadDirectory(DirectoryWith(
+        "'club': {'software': 'engine'},\n" + club,
+        StationText("EDDF_TWR", 118300, "", abroad) + ",\n" +
+            StationOf(Transceivers("'frequency': 118300000, " + std::string(Place)) + ", 'voice': {'server': 'clb'}") +
+            ",\n" + StationText("EDDF_TWR", 118700) + ",\n" + StationText("EDDF_TWR", 119100),
+        noServer + ",\n" + unicom));
+    EXPECT_EQ(Told(read),
+              "2: servers.club.server: It is missing.\n"
+              "4: stations[0].transceivers[0].latDeg: 91 is no latitude: -90 to 90 degrees.\n"
+              "5: stations[1].voice.server: No server is called \"clb\".\n"
+              "7: stations[3].callsign: \"EDDF_TWR\" stands on line 6 already.\n"
+              "8: everywhere[0].voice.server: No server is called \"clb\".\n");
+    ASSERT_EQ(read.Content->Stations.size(), 1U);
+    EXPECT_EQ(read.Content->Stations[0].Transceivers.at(0).Kilohertz, 118700);
+    EXPECT_EQ(read.Content->Everywhere.size(), 1U);
+    EXPECT_EQ(read.Content->Servers.at("club").Software, TeamSpeakHost);
 }
 
 TEST(DirectoryReading, AWrongSectionIsToldOnce) {

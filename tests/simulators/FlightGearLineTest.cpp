@@ -54,7 +54,29 @@ TEST(FlightGearLineTest, WhatIsNoLineBringsNothing) {
         rig.Say(stranger, text);
     EXPECT_EQ(rig.Line.Stands(), Presence::Absent);
     EXPECT_EQ(rig.Line.Refused(), 3U);
-    EXPECT_EQ(rig.Changes, 0);
+    EXPECT_FALSE(rig.Line.State());
+}
+
+TEST(FlightGearLineTest, ThatLinesOfAnotherKindComeIsToldAsItBeginsAndEnds) {
+    FlightGearRig rig;
+    LoopbackSocket sender;
+    for (int count = 0; count < 20; ++count) {
+        rig.Say(sender, "118.305\n");
+        rig.Loop.Run(100);
+    }
+    EXPECT_TRUE(rig.Line.IsOtherKind());
+    EXPECT_EQ(rig.Changes, 1);
+    rig.Loop.Run(2000);
+    EXPECT_FALSE(rig.Line.IsOtherKind());
+    EXPECT_EQ(rig.Changes, 2);
+
+    rig.Say(sender, "118.305\n");
+    rig.Say(sender, Tuned);
+    EXPECT_FALSE(rig.Line.IsOtherKind());
+    EXPECT_EQ(rig.Changes, 4);
+    for (int count = 0; count < 20; ++count) rig.Say(sender, "118.305\nCOM1=118.305,COM2=121.500,CS=D-EABC\n");
+    rig.Loop.Run(1000);
+    EXPECT_EQ(rig.Changes, 4) << "a line among good ones is no news";
 }
 
 TEST(FlightGearLineTest, ALineThatIsTooLongIsCut) {
@@ -184,6 +206,8 @@ TEST(FlightGearLineTest, APortThatIsTakenIsToldAndTriedAgain) {
     FlightGearRig rig({}, holder->Port());
     EXPECT_EQ(rig.Line.Problem(), "FlightGear's lines can't be heard on port " + std::to_string(holder->Port()) +
                                       ", since another program has it; it is tried again each second.");
+    EXPECT_EQ(rig.Line.PortProblem(), "FlightGear's lines can't be heard on port " + std::to_string(holder->Port()) +
+                                          ", since another program has it.");
     rig.Loop.Run(5000);
     EXPECT_NE(rig.Line.Problem(), "");
     EXPECT_EQ(rig.Changes, 0);

@@ -86,6 +86,12 @@ TEST(FlightGearOptionsTest, ThereMayBeNoFile) {
     EXPECT_TRUE(home.Options().AreAdded());
     EXPECT_EQ(Read(home.File), home.Both());
     EXPECT_FALSE(fs::exists(home.Copy));
+    EXPECT_EQ(home.Options().TakeOut(), "");
+    EXPECT_FALSE(fs::exists(home.File)) << "what was made for the lines goes with them";
+
+    Write(home.File, home.Both() + "\n");
+    EXPECT_EQ(home.Options().TakeOut(), "");
+    EXPECT_EQ(Read(home.File), "\n") << "the user's own line";
 }
 
 TEST(FlightGearOptionsTest, OtherLinesStayByteForByteAndACopyIsKept) {
@@ -114,6 +120,7 @@ TEST(FlightGearOptionsTest, OtherLinesStayByteForByteAndACopyIsKept) {
         EXPECT_TRUE(Read(home.Copy) == before) << before.substr(0, 80);
         EXPECT_TRUE(home.Options().AreAdded());
         EXPECT_EQ(home.Options().TakeOut(), "");
+        EXPECT_TRUE(fs::exists(home.File)) << before.substr(0, 80);
         EXPECT_TRUE(Read(home.File) == takenOut) << before.substr(0, 80);
         EXPECT_FALSE(home.Options().AreAdded());
     }
@@ -165,6 +172,8 @@ TEST(FlightGearOptionsTest, ALinkMayLeadToAFileThatComesOnlyNow) {
     EXPECT_EQ(home.Options().Add(), "");
     EXPECT_TRUE(fs::is_symlink(home.File));
     EXPECT_EQ(Read(home.Path / "later"), home.Both());
+    EXPECT_EQ(home.Options().TakeOut(), "");
+    EXPECT_TRUE(fs::is_symlink(home.File)) << "the link is the user's";
 }
 
 TEST(FlightGearOptionsTest, WhatCantBeReadOrWrittenIsOneSentence) {
