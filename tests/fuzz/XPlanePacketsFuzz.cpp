@@ -13,6 +13,7 @@
 #include "simulators/xplane/XPlanePackets.h"
 #include "simulators/xplane/XPlaneValues.h"
 #include "tests/fuzz/Breach.h"
+#include "tests/fuzz/SimulatorStates.h"
 
 namespace orvelle::simulators {
 
@@ -22,17 +23,13 @@ constexpr std::size_t HeadLength = 5;
 constexpr std::size_t PairLength = 8;
 constexpr std::size_t BeaconLength = 21;
 constexpr std::size_t LongestName = 500;
+constexpr double HighestAltitude = 1e6;  // feet
 
 using fuzz::Hold;
 
 fuzz::Counts& Tried() {
     static fuzz::Counts counts("packets");
     return counts;
-}
-
-bool IsPlain(const std::string& text) {
-    const auto isControl = [](char each) { return static_cast<unsigned char>(each) < ' ' || each == 0x7F; };
-    return IsUtf8(text) && std::none_of(text.begin(), text.end(), isControl);
 }
 
 void HoldBeacon(std::string_view packet) {
@@ -63,18 +60,6 @@ std::optional<std::vector<NumberedValue>> HoldValues(std::string_view packet) {
     return values;
 }
 
-void HoldState(const SimulatorState& state) {
-    for (const Radio& radio : state.Radios) {
-        Hold(radio.Kilohertz >= 0 && radio.Kilohertz <= 999999, "a frequency can't be");
-        Hold(radio.IsOperable || !radio.IsHeard, "a radio without power is heard");
-    }
-    Hold(state.Transmits >= 0 && state.Transmits <= 2, "a radio that isn't there transmits");
-    Hold(IsPlain(state.Tail) && IsPlain(state.Aircraft), "a text is none");
-    if (!state.Where) return;
-    Hold(std::abs(state.Where->Latitude) <= 90 && std::abs(state.Where->Longitude) <= 180, "a place can't be");
-    Hold(std::abs(state.Where->Altitude) <= 1e6, "a height can't be");
-}
-
 // Each packet begins with its count of pairs; their numbers are small ones, so that they are mostly asked for.
 void HoldSeveral(std::string_view bytes) {
     XPlaneValues values;
@@ -88,7 +73,7 @@ void HoldSeveral(std::string_view bytes) {
         bytes.remove_prefix(1 + length);
         const std::optional<std::vector<NumberedValue>> told = HoldValues(packet);
         if (told) Hold(values.Take(*told) <= told->size(), "more values are taken than told");
-        HoldState(values.State());
+        HoldState(values.State(), HighestAltitude);
     }
 }
 
@@ -107,7 +92,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
         case 1: {
             XPlaneValues values;
             if (const auto told = HoldValues(rest)) values.Take(*told);
-            HoldState(values.State());
+            HoldState(values.State(), HighestAltitude);
             break;
         }
         default:
