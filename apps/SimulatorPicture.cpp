@@ -22,7 +22,7 @@ namespace {
 
 constexpr int SimulatorTab = 2;
 
-// Ten times a second, as FlightGear does; the port follows.
+// Without an end, ten times a second; the port follows.
 constexpr const char* Flight =
     "while :; do echo 'COM1=118.300,COM2=122.800,OP1=1,OP2=1,VOL1=1,VOL2=1,TX=1,ONLINE=1,AIRCRAFT=c172p,"
     "LAT=63.891,LON=-22.431,ALT=2171,CS=D-EABC'; sleep 0.1; done >/dev/udp/127.0.0.1/";

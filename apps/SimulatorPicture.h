@@ -1,5 +1,5 @@
 // Takes the picture of the simulator's program that README.md shows: a played FlightGear flies near a station of a
-// directory, and a second computer has its code. With the program's own broker, in a folder that goes afterwards.
+// directory. With the program's own broker, in a folder that goes afterwards.
 #pragma once
 
 #include <QDir>

@@ -29,6 +29,8 @@ NetworkPage::NetworkPage(const FarSides& sides, ChannelLookUp lookUp)
 }
 
 void NetworkPage::ShowRuler(const QString& sentence) {
+    // Told again at each change of a flight.
+    if (std::exchange(ruled, sentence) == sentence) return;
     ruler->Show(sentence);
     for (QWidget* box : {session, radios}) {
         // What was half typed would be applied as its field loses the keys.

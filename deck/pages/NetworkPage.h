@@ -23,6 +23,7 @@ public:
 
 private:
     Remark* ruler;
+    QString ruled;  // the sentence
     QWidget* session;
     QWidget* radios;
 };

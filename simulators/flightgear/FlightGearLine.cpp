@@ -20,7 +20,7 @@ constexpr std::size_t LongestDatagram = 64 * 1024;  // bytes
 
 std::string ProblemOf(std::uint16_t port, int error) {
     const std::string why = error == EADDRINUSE ? "another program has it" : std::generic_category().message(error);
-    return "FlightGear's lines can't be heard on port " + std::to_string(port) + ", since " + why + ".";
+    return "FlightGear's lines can't be heard on port " + std::to_string(port) + ", since " + why;
 }
 
 std::string OfSecond(std::uint16_t port) {
@@ -43,7 +43,7 @@ FlightGearLine::FlightGearLine(EventLoop& eventLoop, ProcessQuestions processQue
 
 std::string FlightGearLine::Problem() const {
     if (problem.empty()) return isSecondThere ? OfSecond(port) : "";
-    return problem.substr(0, problem.size() - 1) + "; it is tried again each second.";
+    return problem + "; it is tried again each second.";
 }
 
 void FlightGearLine::Listen() {

@@ -32,7 +32,7 @@ public:
     std::vector<std::string> Programs() const override { return {"fgfs", "FlightGear"}; }
     std::string Problem() const override;
     // The port's part of it, for whoever doesn't wait until it can be had.
-    const std::string& PortProblem() const { return problem; }
+    std::string PortProblem() const { return problem.empty() ? "" : problem + "."; }
     // Lines come, but none that can be read.
     bool IsOtherKind() const { return isOtherKind; }
 
@@ -62,7 +62,7 @@ private:
     std::optional<SimulatorState> state;
     unsigned long lines = 0;
     unsigned long refused = 0;
-    std::string problem;         // of the port
+    std::string problem;         // of the port, without an end; "" for none
     bool isSecondThere = false;  // the stranger is another process, and was heard within ten seconds
     bool isOtherKind = false;    // heard within two seconds, and nothing that can be read since
     Ticket readable, again, second, otherKind;
